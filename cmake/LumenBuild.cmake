@@ -1,0 +1,49 @@
+# SPDX-License-Identifier: Apache-2.0
+# Flags, output folders and sanitizers that every target shares.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_AUTOMOC ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
+set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
+set(LUMEN_PACKAGE_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib/lumen-desk/packages)
+set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
+set(CMAKE_INSTALL_RPATH "$ORIGIN/../lib")
+
+option(LUMEN_WERROR "Treat warnings as errors" ON)
+option(LUMEN_FUZZ "Build the fuzzers (clang)" OFF)
+set(LUMEN_SANITIZE "" CACHE STRING "address (with undefined) or thread; empty for none")
+
+find_program(LUMEN_CCACHE ccache)
+if(LUMEN_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env
+      CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime ${LUMEN_CCACHE})
+endif()
+
+find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Network Qml Quick QuickControls2 Multimedia Test)
+find_package(Threads REQUIRED)
+
+add_library(lumen_flags INTERFACE)
+target_compile_options(lumen_flags INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual)
+if(LUMEN_WERROR)
+  target_compile_options(lumen_flags INTERFACE -Werror)
+endif()
+target_compile_definitions(lumen_flags INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_FOREACH
+                                                 QT_NO_KEYWORDS_CONFLICT QT_MESSAGELOGCONTEXT)
+target_include_directories(lumen_flags INTERFACE ${PROJECT_SOURCE_DIR}/packages/shared)
+if(LUMEN_SANITIZE STREQUAL "address")
+  target_compile_options(lumen_flags INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=undefined
+                                               -fno-omit-frame-pointer)
+  target_link_options(lumen_flags INTERFACE -fsanitize=address,undefined)
+elseif(LUMEN_SANITIZE STREQUAL "thread")
+  target_compile_options(lumen_flags INTERFACE -fsanitize=thread -fno-omit-frame-pointer)
+  target_link_options(lumen_flags INTERFACE -fsanitize=thread)
+elseif(LUMEN_SANITIZE)
+  message(FATAL_ERROR "LUMEN_SANITIZE is address, thread or empty, not ${LUMEN_SANITIZE}")
+endif()

@@ -1,0 +1,27 @@
+# SPDX-License-Identifier: Apache-2.0
+enable_testing()
+
+# lumen_test(NAME tst_x SOURCES <file>... LINKS <target>... [LABELS <label>...] [TIMEOUT s] [ENVIRONMENT A=B...]
+#            [RUN_SERIAL])
+# A Qt Test program. It runs off-screen, with a home of its own, and any QML warning or critical message is its own
+# business to fail on.
+function(lumen_test)
+  cmake_parse_arguments(T "RUN_SERIAL" "NAME;TIMEOUT" "SOURCES;LINKS;LABELS;ENVIRONMENT;ARGS" ${ARGN})
+  add_executable(${T_NAME} ${T_SOURCES})
+  target_link_libraries(${T_NAME} PRIVATE ${T_LINKS} Qt6::Test lumen_flags)
+  target_include_directories(${T_NAME} PRIVATE ${PROJECT_SOURCE_DIR}/tests/support ${PROJECT_SOURCE_DIR}/host)
+  if(NOT T_TIMEOUT)
+    set(T_TIMEOUT 60)
+  endif()
+  if(LUMEN_SANITIZE)
+    math(EXPR T_TIMEOUT "${T_TIMEOUT} * 5")
+  endif()
+  add_test(NAME ${T_NAME} COMMAND ${T_NAME} ${T_ARGS})
+  set(home ${CMAKE_BINARY_DIR}/home/${T_NAME})
+  file(MAKE_DIRECTORY ${home})
+  set_tests_properties(${T_NAME} PROPERTIES TIMEOUT ${T_TIMEOUT} LABELS "${T_LABELS}"
+    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;HOME=${home};XDG_CONFIG_HOME=${home}/config;XDG_DATA_HOME=${home}/data;XDG_CACHE_HOME=${home}/cache;QT_LOGGING_RULES=qt.qpa.*=false;LC_ALL=C.UTF-8;TSAN_OPTIONS=ignore_noninstrumented_modules=1 history_size=7 exitcode=66 suppressions=${PROJECT_SOURCE_DIR}/tests/support/tsan.supp;ASAN_OPTIONS=detect_stack_use_after_return=1 suppressions=${PROJECT_SOURCE_DIR}/tests/support/asan.supp;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/lsan.supp print_suppressions=0;UBSAN_OPTIONS=print_stacktrace=1;QSG_RENDER_LOOP=basic;${T_ENVIRONMENT}")
+  if(T_RUN_SERIAL)
+    set_tests_properties(${T_NAME} PROPERTIES RUN_SERIAL ON)
+  endif()
+endfunction()
