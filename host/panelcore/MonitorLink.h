@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <PanelCore/MonitorInfo.h>
+#include <PanelCore/PanelCoreGlobal.h>
+
+#include <QByteArray>
+#include <QHash>
+#include <QJsonObject>
+#include <QSharedPointer>
+#include <QString>
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+namespace ddc {
+class Bus;
+}
+
+/// Who a monitor is, as the host found it.
+struct MonitorDescription
+{
+    QString id;
+    QString modelName;
+    QString serialNumber;
+    QString screenName;
+    QString nativeHandle;
+    bool builtIn = false;
+    bool simulated = false;
+};
+
+/// The host's side of a MonitorInfo: the way to the monitor's bus. Any thread; functions that transfer block.
+class PANELCORE_EXPORT MonitorLink
+{
+public:
+    enum class Waits
+    {
+        Real, ///< The waits of DDC/CI.
+        None, ///< No waits at all, for a simulated bus.
+    };
+
+    /// Makes the handle of a monitor. @p bus may be null: every transfer then fails.
+    static QSharedPointer<MonitorInfo> create(const MonitorDescription& description, std::unique_ptr<ddc::Bus> bus,
+                                              Waits waits);
+    static MonitorLink& of(const MonitorInfo& info);
+
+    /// Transfers; false if the monitor gave no usable answer. @p code 0 to 255.
+    bool getVCP(int code, int& value, int* maximum = nullptr);
+    bool setVCP(int code, int value);
+    /// A write on a caller's thread that gives up if the bus is not free within @p limitMs.
+    bool setVCPWithin(int code, int value, int limitMs);
+
+    /// Waits after writes of listed codes, in ms.
+    void setWriteDelays(const QHash<int, int>& delays);
+
+    /// Everything in progress ends soon and every later transfer fails: the monitor is gone.
+    void cancel();
+
+    /// True while transfers fail because the monitor gives no answer at all.
+    bool isSilent() const;
+
+    QJsonObject statistics() const;
+
+    /// The value of 0xDC that was read before the model is constructed; unset if nobody has asked, -1 if the monitor
+    /// gave no answer.
+    std::optional<int> probedColorMode() const;
+    /// Reads 0xDC and remembers the answer. Blocks.
+    void probeColorMode();
+
+    ~MonitorLink();
+
+private:
+    friend class MonitorInfoPrivate;
+    MonitorLink(std::unique_ptr<ddc::Bus> bus, Waits waits);
+    struct Private;
+    std::unique_ptr<Private> d;
+};
