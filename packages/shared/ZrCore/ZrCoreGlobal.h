@@ -1,0 +1,10 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QtCore/qglobal.h>
+
+#if defined(ZRCORE_LIBRARY)
+#define ZRCORE_EXPORT Q_DECL_EXPORT
+#else
+#define ZRCORE_EXPORT Q_DECL_IMPORT
+#endif
