@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <LuShared/LuSharedGlobal.h>
+
+#include <QObject>
+
+/// Where the person is, for sunrise and sunset. GUI thread only.
+class LUSHARED_EXPORT LuServerLocation : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(double latitude READ latitude NOTIFY locationStatusChanged)
+    Q_PROPERTY(double longitude READ longitude NOTIFY locationStatusChanged)
+    Q_PROPERTY(int status READ status NOTIFY locationStatusChanged)
+
+public:
+    /// Values of status(). Any other number is a failure of the location service.
+    enum Status {
+        Unknown = 0, ///< Not found out yet.
+        Known = 1,   ///< latitude() and longitude() hold.
+        Failed = 2   ///< No position can be had.
+    };
+    Q_ENUM(Status)
+
+    static LuServerLocation* instance();
+
+    /// Degrees, north and east positive; 0 unless the status is Known.
+    double latitude() const;
+    double longitude() const;
+
+    /// A number of Status. Unknown where the session has no location service.
+    int status() const;
+
+Q_SIGNALS:
+    void locationStatusChanged();
+
+private:
+    LuServerLocation() = default;
+};
