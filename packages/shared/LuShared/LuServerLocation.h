@@ -24,7 +24,7 @@ public:
 
     static LuServerLocation* instance();
 
-    /// Degrees, north and east positive; 0 unless the status is Known.
+    /// Degrees, north and east positive; they hold while the status is Known.
     double latitude() const;
     double longitude() const;
 

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <LuShared/LuServerLocation.h>
+
+#include "services/ServiceRegistry.h"
+#include "services/Singleton.h"
+#include "services/api/LocationService.h"
+
+namespace {
+
+services::LocationService::Location where()
+{
+    const auto service = services::Registry::current().location;
+    return service ? service->location() : services::LocationService::Location();
+}
+
+} // namespace
+
+LuServerLocation* LuServerLocation::instance()
+{
+    static LuServerLocation* const self = services::onGuiThread(new LuServerLocation);
+    return self;
+}
+
+double LuServerLocation::latitude() const
+{
+    return where().latitude;
+}
+
+double LuServerLocation::longitude() const
+{
+    return where().longitude;
+}
+
+int LuServerLocation::status() const
+{
+    return where().status;
+}

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <Qt>
+
+#include <functional>
+
+namespace services {
+
+/// Source of what happens on the desktop outside the program's own windows: keys, the application in the
+/// foreground, windows that are dragged. It raises activeKeyEvent(), activeAppChanged(), activeAppDragged()
+/// and activeAppReleased() of LuPlatformNotifications. GUI thread only.
+class DesktopEvents
+{
+public:
+    /// Answers whether one of the program's own actions took a key.
+    using KeyHandler = std::function<bool(Qt::KeyboardModifiers modifiers, Qt::Key key, bool repeated)>;
+
+    virtual ~DesktopEvents() = default;
+
+    /// Called once by the application, before start(). Every key goes to the handler and then out as
+    /// activeKeyEvent(), whatever the handler answers.
+    virtual void setKeyHandler(KeyHandler handler) = 0;
+
+    /// Called once when the first model exists, and once as the program ends. Nothing is raised outside of
+    /// the two by itself.
+    virtual void start() = 0;
+    virtual void stop() = 0;
+};
+
+} // namespace services

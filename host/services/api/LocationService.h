@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+namespace services {
+
+/// Where the person is. Called by LuServerLocation on the GUI thread; a change raises
+/// LuServerLocation::locationStatusChanged().
+class LocationService
+{
+public:
+    struct Location
+    {
+        double latitude = 0;  ///< Degrees, north positive.
+        double longitude = 0; ///< Degrees, east positive.
+        int status = 0;       ///< A LuServerLocation::Status.
+    };
+
+    virtual ~LocationService() = default;
+    virtual Location location() const = 0;
+};
+
+} // namespace services

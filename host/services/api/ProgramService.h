@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QRectF>
+#include <QString>
+#include <QUrl>
+
+namespace services {
+
+/// The applications of the desktop.
+///
+/// Called by LuPlatformProgram, from the GUI thread and from monitors' queues. When the list of applications
+/// is complete the service sets LuPlatformProgram::appListReady and raises appListInitialized(), on the GUI
+/// thread.
+class ProgramService
+{
+public:
+    virtual ~ProgramService() = default;
+
+    /// Whether the list of applications is complete; asked once, as LuPlatformProgram comes into being.
+    virtual bool isListReady() const = 0;
+
+    /// Identity of a running or an installed application; empty if there is none.
+    virtual QString appId(unsigned long pid) const = 0;
+    virtual QString appId(const QUrl& url) const = 0;
+
+    virtual QString displayName(const QString& appId) const = 0;
+    virtual QUrl url(const QString& appId) const = 0;
+
+    /// Starts a program by its path without waiting for it; false if it did not start.
+    virtual bool open(const QString& path) = 0;
+
+    /// Moves and sizes a process's main window, in desktop coordinates. The rectangle is valid.
+    virtual void setGeometry(unsigned long pid, const QRectF& geometry) = 0;
+};
+
+} // namespace services
