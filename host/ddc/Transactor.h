@@ -153,7 +153,7 @@ private:
         std::uint8_t code;
         std::uint32_t total;
         std::uint32_t today;
-        std::int32_t day;
+        std::int64_t day;
     };
     struct WriteDelay
     {
@@ -163,26 +163,31 @@ private:
     using Parser = std::function<ParseResult(std::span<const std::uint8_t>)>;
 
     Error setCode(Call& call, std::uint8_t code, std::uint16_t value);
-    Result<std::vector<std::uint8_t>> edidBlock(Call& call, std::uint8_t offset);
+    Error send(Call& call, std::span<const std::uint8_t> frame, Ms holdAfter, bool usualHold);
     Error exchange(Call& call, std::span<const std::uint8_t> request, std::span<std::uint8_t> buffer,
                    const Parser& parse);
     Error ask(Call& call, std::span<const std::uint8_t> request, std::span<std::uint8_t> buffer, Ms wait,
               const Parser& parse);
-    Error send(Call& call, std::span<const std::uint8_t> frame, Ms holdAfter);
+    Error edidBlock(Call& call, std::uint8_t offset, std::span<std::uint8_t> block);
 
     Error awaitHold(Call& call);
-    Error failed(Call& call, BusStatus status);
-    bool retry(Call& call, Error error);
     void holdFor(Ms time);
-    BusStatus write(Call& call, std::uint8_t address, std::span<const std::uint8_t> bytes);
-    BusStatus read(Call& call, std::uint8_t address, std::span<std::uint8_t> bytes);
+    Error failed(Call& call, BusStatus status);
+    bool retry(Call& call, Error error, bool wanted);
+
     template <typename Transfer>
     BusStatus transfer(Call& call, bool isWrite, std::uint8_t address, std::span<const std::uint8_t> bytes,
                        Transfer&& once);
-    Ms delayAfter(std::uint8_t code, bool& fromTable) const;
+    BusStatus write(Call& call, std::uint8_t address, std::span<const std::uint8_t> bytes);
+    BusStatus read(Call& call, std::uint8_t address, std::span<std::uint8_t> bytes);
+
+    std::int64_t today() const;
     void countParse(ParseResult result);
     void countWrite(std::uint8_t code);
-    Error finish(Error error);
+    Error finish(Error error, std::uint64_t Statistics::*kind = nullptr);
+    Ms delayAfter(std::uint8_t code, bool& usual) const;
+    LearntWaits waitsInForce() const;
+    void keepWaits(Ms replyDelay, bool longerAfterSet);
 
     const std::unique_ptr<Bus> m_bus;
     const Timing m_timing;
