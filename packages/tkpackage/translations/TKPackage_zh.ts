@@ -1,0 +1,38 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!-- SPDX-License-Identifier: Apache-2.0 -->
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="en">
+<context>
+    <name>LuAiContrastWidget</name>
+    <message>
+        <source>Local Contrast</source>
+        <translation>局部对比度</translation>
+    </message>
+    <message>
+        <source>AI Contrast</source>
+        <translation>AI 对比度</translation>
+    </message>
+</context>
+<context>
+    <name>LuAutoPivotWidget</name>
+    <message>
+        <source>Auto Pivot</source>
+        <translation>自动旋转</translation>
+    </message>
+    <message>
+        <source>Screen pivot</source>
+        <translation>屏幕旋转</translation>
+    </message>
+</context>
+<context>
+    <name>LuPivotWidget</name>
+    <message>
+        <source>Pivot</source>
+        <translation>旋转</translation>
+    </message>
+    <message>
+        <source>Screen pivot</source>
+        <translation>屏幕旋转</translation>
+    </message>
+</context>
+</TS>
