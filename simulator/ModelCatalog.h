@@ -23,8 +23,8 @@ public:
     QStringList names() const;
     bool contains(const QString& name) const;
 
-    /// The description of a model; for a name that is not known a monitor of that name with the basic VCP codes.
-    /// Never null.
+    /// The description of a model; for a name that is not known a monitor of that name with the basic VCP
+    /// codes. Never null.
     std::shared_ptr<const ModelDescription> lookup(const QString& name) const;
 
     /// What was wrong with the files, one sentence each with the file's name in front; empty if all is well.

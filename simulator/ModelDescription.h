@@ -29,12 +29,12 @@ struct PackedField
 /// How one VCP code of a model answers.
 struct CodeDescription
 {
-    enum class Type
-    {
+    enum class Type {
         Continuous, ///< 0 to maximum; a write above clamps.
         List,       ///< Listed values; a write of another is ignored.
         Packed,     ///< Several fields; a write with a field out of its values is ignored.
         ReadOnly,   ///< A write is ignored.
+        Command,    ///< A write other than 0 does something and stores nothing; reads as 0.
     };
 
     QString name;
@@ -46,7 +46,7 @@ struct CodeDescription
     QList<ValueRange> values;    ///< List: the values of the capabilities string.
     QList<ValueRange> alsoTaken; ///< List: taken by the firmware as well, not advertised.
     QList<PackedField> fields;
-    QList<int> instances;        ///< Multiplexed code: the windows or bands that have a value each.
+    QList<int> instances; ///< Multiplexed code: the windows or bands that have a value each.
 };
 
 /// One colour mode: its value on the mode code and what it starts with.
@@ -86,9 +86,11 @@ struct ModelDescription
     int modeCode = 0; ///< VCP code of the colour mode; 0 without colour modes.
     QList<ColorMode> modes;
     QMap<int, CodeDescription> codes;
-    QMap<int, int> busy; ///< Milliseconds that a write of a code keeps the monitor from answering, above the usual.
+    QMap<int, int>
+        busy; ///< Milliseconds that a write of a code keeps the monitor from answering, above the usual.
     QList<BehaviourDescription> behaviours;
 
+    /// The colour mode of this value on the mode code, null if there is none.
     const ColorMode* mode(int code) const;
 
     /// Reads a merged description. Returns nothing and says in @p error what is wrong and where.

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "Types.h"
+#include "MonitorTypes.h"
 
 #include <QJsonObject>
 #include <QList>
 
 #include <memory>
+#include <mutex>
 
 namespace sim {
 
@@ -21,8 +22,8 @@ struct Identity
     /// "MODEL@SERIAL", or "MODEL" without a serial number.
     QString id() const;
 
-    /// Reads "MODEL" or "MODEL@SERIAL". Without "@" the serial is defaultSerial(); "MODEL@" asks for none. Returns
-    /// nothing and says why in @p error if a part does not fit into an EDID.
+    /// Reads "MODEL" or "MODEL@SERIAL". Without "@" the serial is defaultSerial(); "MODEL@" asks for none.
+    /// Returns nothing and says why in @p error if a part does not fit into an EDID.
     static std::optional<Identity> parse(const QString& text, QString* error = nullptr);
 
     /// The serial number that a model gets by itself: the same at every run, other for another model or
@@ -30,14 +31,16 @@ struct Identity
     static QString defaultSerial(const QString& model, int instance = 1);
 };
 
-/// A monitor as a device on an I2C bus: EDID at 0x50, DDC/CI at 0x37, VCP values that behave as the model's do.
+/// A monitor as a device on an I2C bus: EDID at 0x50, DDC/CI at 0x37, VCP values that behave as the model's
+/// do.
 ///
-/// All functions may be called from any thread. A bus made here may outlive the monitor; it then answers Gone.
+/// All functions may be called from any thread. A bus made here may outlive the monitor; it then answers
+/// Gone.
 class Monitor
 {
 public:
-    /// A monitor of the model @p identity.model as ModelCatalog describes it, with factory values: a model of the
-    /// series, "builtin", or for any other name a monitor that has only the basic VCP codes.
+    /// A monitor of the model @p identity.model as ModelCatalog describes it, with factory values: a model of
+    /// the series, "builtin", or for any other name a monitor that has only the basic VCP codes.
     explicit Monitor(const Identity& identity, const Options& options = {});
     ~Monitor();
     Monitor(const Monitor&) = delete;
@@ -58,16 +61,18 @@ public:
 
     // What a person does at the monitor
 
-    /// Changes a value at the monitor's own menu: any 16-bit value is taken. @p window addresses one window of 0x7E
-    /// (512, 1024, 2048) or one band of 0x99; without it the selected one. Returns false and says why in @p error if
-    /// the model lacks the code or the window, or if the value does not fit 16 bits.
+    /// Changes a value at the monitor's own menu: any 16-bit value is taken. @p window addresses one window
+    /// of 0x7E (512, 1024, 2048) or one band of 0x99; without it the selected one is meant, or the first if
+    /// none is. Returns false and says why in @p error if the model lacks the code or the window, or if the
+    /// value does not fit 16 bits.
     bool setByMenu(int code, int value, std::optional<int> window = std::nullopt, QString* error = nullptr);
 
-    /// Changes several values, {"0x12": 40, ...}: the colour mode first, as the other values belong to it. All or
-    /// nothing: returns false and changes nothing if any key or value is wrong.
+    /// Changes several values, {"0x12": 40, ...}: the colour mode first, as the other values belong to it.
+    /// All or nothing: returns false and changes nothing if any key or value is wrong.
     bool setByMenu(const QJsonObject& values, QString* error = nullptr);
 
-    /// The value that the monitor holds now, as a get would answer; nothing if the model lacks the code.
+    /// The value that the monitor holds now; nothing if the model lacks the code or the window, which is
+    /// meant as in setByMenu().
     std::optional<std::uint16_t> value(int code, std::optional<int> window = std::nullopt) const;
 
     /// Factory values in all colour modes, factory colour mode.
@@ -79,7 +84,8 @@ public:
     /// Whether somebody sits in front of the presence sensor (factory true).
     void setPresence(bool present);
 
-    /// Light that the panel gives now, 0 to 100: the brightness, dimmed while the presence sensor misses the user.
+    /// Light that the panel gives now, 0 to 100: the brightness, dimmed while the presence sensor misses the
+    /// user.
     int lightOutput() const;
 
     // Connection
@@ -91,9 +97,9 @@ public:
 
     // Faults
 
-    /// Arms a fault beside those that are armed; the one armed first wins. A transaction for #Fault::count is a row
-    /// of tries of the same direction, code and value, each less than 2 s after the one before, with no other frame
-    /// between, up to its first success or endTransaction().
+    /// Arms a fault beside those that are armed; the one armed first wins. A transaction for #Fault::count is
+    /// a row of tries of the same direction, code and value, each less than 2 s after the one before, with no
+    /// other frame between, up to its first success or endTransaction().
     void armFault(const Fault& fault);
     void clearFaults();
 
@@ -113,12 +119,13 @@ public:
 
     // Values across runs
 
-    /// Writes all values as JSON, atomically. Returns false and says why in @p error on failure; an older file then
-    /// stays as it was.
+    /// Writes all values as JSON, atomically. Returns false and says why in @p error on failure; an older
+    /// file then stays as it was.
     bool save(const QString& path, QString* error = nullptr) const;
 
-    /// Takes the values of a file of save(). A missing file is no error and changes nothing. A damaged file, or one
-    /// of another model, gives factory values, is set aside as "PATH.damaged", and is told in @p error with false.
+    /// Takes the values of a file of save(). A missing file is no error and changes nothing. A damaged file,
+    /// or one of another model, gives factory values, is set aside as "PATH.damaged", and is told in @p error
+    /// with false.
     bool load(const QString& path, QString* error = nullptr);
 
     /// Names the file for persist() and loads it as load() does.
@@ -131,8 +138,13 @@ public:
     bool persist(QString* error = nullptr);
 
 private:
+    std::optional<quint64> saveRevision(const QString& path, QString* error) const;
+
     std::shared_ptr<Device> m_device;
+    mutable std::mutex
+        m_storeMutex; ///< Guards the store's name and revision; taken before the device's lock.
     QString m_store;
+    quint64 m_storedRevision = 0;
 };
 
 } // namespace sim

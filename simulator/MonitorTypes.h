@@ -16,15 +16,13 @@ namespace sim {
 using Clock = std::chrono::steady_clock;
 
 /// The two kinds of VCP transaction.
-enum class Op
-{
+enum class Op {
     Get,
     Set,
 };
 
 /// What a simulated transaction can suffer.
-enum class FaultKind
-{
+enum class FaultKind {
     Nack,     ///< The frame is not acknowledged and lost.
     Null,     ///< The reply is a null message.
     Checksum, ///< The reply's last byte is wrong.
@@ -32,27 +30,29 @@ enum class FaultKind
     Timeout,  ///< The bus hangs, then reports a timeout.
 };
 
-/// A disturbance to arm on a monitor. Null, Checksum and Garbage spoil a reply; as a set has none, they meet sets
-/// only where #op asks for them, and then the frame is acknowledged but never understood.
+/// A disturbance to arm on a monitor. Null, Checksum and Garbage spoil a reply; as a set has none, they meet
+/// sets only where #op asks for them, and then the frame is acknowledged but never understood.
 struct Fault
 {
     FaultKind kind = FaultKind::Nack;
-    std::optional<std::uint8_t> code;  ///< Only this VCP code; absent: all.
-    std::optional<Op> op;              ///< Only this direction; absent: both.
-    std::optional<int> count;          ///< So many transactions, each with all its tries; absent: until cleared.
-    std::optional<double> probability; ///< 0 to 1, drawn for each try anew; absent: every try.
+    std::optional<std::uint8_t> code; ///< Only this VCP code; absent: all.
+    std::optional<Op> op;             ///< Only this direction; absent: both.
+    std::optional<int> count; ///< So many transactions, each with all its tries; absent: until cleared.
+    std::optional<double> probability;      ///< 0 to 1, drawn for each try anew; absent: every try.
     std::chrono::milliseconds blocks{1000}; ///< How long a Timeout holds the bus.
 };
 
 /// One try of a VCP transaction as it went over the wire.
 struct TrafficEntry
 {
-    quint64 seq = 0;           ///< From Options::sequence, taken when the try was over; rises in the list.
-    double ms = 0;             ///< Time of the first byte since Options::epoch.
+    quint64 seq = 0; ///< From Options::sequence, taken when the try was over; rises in the list.
+    double ms = 0;   ///< Time of the first byte since Options::epoch.
     Op op = Op::Get;
     std::uint8_t code = 0;
-    std::uint16_t value = 0;   ///< A set's value, or the value that the reply of a get carried (0 if it carried none).
-    bool ok = false;           ///< A get: the reply carried the value. A set: the frame was acknowledged and understood.
+    std::uint16_t value =
+        0; ///< A set's value, or the value that the reply of a get carried (0 if it carried none).
+    bool ok =
+        false; ///< A get: the reply carried the value. A set: the frame was acknowledged and understood.
     std::optional<int> window; ///< Of a multiplexed code: the window or band that was selected.
 };
 
@@ -79,11 +79,11 @@ struct Violations
 /// What a monitor is made with. Functions are called with the monitor's lock held and must not call it back.
 struct Options
 {
-    bool strictTiming = false;             ///< Enforce the waits of DDC/CI; otherwise replies are ready at once.
+    bool strictTiming = false; ///< Enforce the waits of DDC/CI; otherwise replies are ready at once.
     std::function<Clock::time_point()> clock; ///< Empty: Clock::now.
-    Clock::time_point epoch{};             ///< Zero of the logs' milliseconds.
-    std::function<quint64()> sequence;     ///< Numbers of the wire log, rising; empty: 1, 2, 3 ...
-    quint32 seed = 1;                      ///< Of the generator for probabilities and garbage.
+    Clock::time_point epoch{};                ///< Zero of the logs' milliseconds.
+    std::function<quint64()> sequence;        ///< Numbers of the wire log, rising; empty: 1, 2, 3 ...
+    quint32 seed = 1;                         ///< Of the generator for probabilities and garbage.
 };
 
 /// "nack", "null", "checksum", "garbage", "timeout"; nothing for any other text.
