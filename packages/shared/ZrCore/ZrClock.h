@@ -7,6 +7,11 @@
 
 #include <memory>
 
+namespace zr {
+struct ClockReading;
+ClockReading readClock();
+} // namespace zr
+
 /// The program's clock: the system's until it is set, from then on one that stands still and is moved by
 /// hand.
 ///
@@ -51,6 +56,8 @@ private:
     ZrClock();
     ~ZrClock();
     Q_DISABLE_COPY_MOVE(ZrClock)
+    friend zr::ClockReading zr::readClock();
+    zr::ClockReading reading() const;
     class Private;
     std::unique_ptr<Private> d;
 };

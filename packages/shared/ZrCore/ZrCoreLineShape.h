@@ -35,6 +35,7 @@ public:
     void setEndPoint(const QPointF& point);
     /// Both points as they lie now.
     QLineF line() const;
+    void setLine(const QPointF& start, const QPointF& end);
 
     /// Opaque black at first.
     QColor strokeColor() const;

@@ -86,7 +86,7 @@ public:
     /// The caller is a job of this queue, or runs on its thread.
     bool isCurrentThread() const;
     /// Drops what waits, ends a pause of the running job, waits until that job has ended (unless called from
-    /// it), and accepts nothing more: jobs posted later are dropped.
+    /// it), and accepts nothing more: jobs posted later are dropped. The main queue refuses it.
     void close();
     /// The jobs that wait, in the order in which they will run as things stand, timed ones last.
     QList<Waiting> waiting() const;
