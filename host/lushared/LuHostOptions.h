@@ -14,6 +14,7 @@ struct LUSHARED_EXPORT LuHostOptions
     bool loadSettings = true;           ///< Modules load their settings at construction.
     std::optional<bool> restore;        ///< Apply stored values at launch; unset: the user's setting.
     int syncPeriodMs = 2000;            ///< Pause between two rounds of the read-back, in ms.
+    bool launching = true;              ///< Models made now belong to the program's launch: values may be restored.
     QString schemaDirectory;            ///< Schema files here stand for the built-in ones of the same name.
 
     static LuHostOptions& instance();

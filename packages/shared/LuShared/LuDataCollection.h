@@ -47,6 +47,7 @@ public:
         ACT_QUICK_INPUT_SCAN = 49,
         ACT_ALWAYS_ON_CHARGING = 50,
         ACT_ICC_PROFILE = 51,
+        ACT_HDR = 52,
     };
     Q_ENUM(Action)
 

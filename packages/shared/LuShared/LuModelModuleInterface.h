@@ -166,6 +166,8 @@ protected:
 
 private:
     friend class LuMonitorModel;
+    friend class LuModelHost;
+    void markSkipped(bool skip);
     struct Private;
     std::unique_ptr<Private> d;
 };

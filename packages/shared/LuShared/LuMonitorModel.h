@@ -18,6 +18,7 @@
 #include <functional>
 #include <memory>
 
+class LuModelHost;
 class LuMonitorModelPrivate;
 class ZrDispatch;
 
@@ -134,7 +135,7 @@ public:
     Q_INVOKABLE bool openResolutionSettings();
     /// Opens the desktop's focus or do-not-disturb settings; false where the system has none.
     Q_INVOKABLE bool openFocusAssist();
-    /// Puts the current colour mode back to its factory values.
+    /// Puts the current colour mode back to its factory values (VCP 0x08, MCCS 2.2), then reads everything back.
     Q_INVOKABLE void resetCurrentColorMode();
     Q_INVOKABLE void fireHdrChangedEvent(bool state, LuDataCollection::TriggerSource source);
 
@@ -184,6 +185,7 @@ protected:
     virtual bool attributeConditionCheck(const QXmlStreamAttributes& attributes);
 
 private:
+    friend class LuModelHost;
     friend class LuModelModuleInterface;
     friend class LuMonitorModelPrivate;
     std::unique_ptr<LuMonitorModelPrivate> d;

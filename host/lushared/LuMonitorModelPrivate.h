@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <LuShared/LuMonitorModel.h>
+#include <ZrCore/ZrDispatch.h>
+#include <ZrCore/ZrShared.h>
+
+#include "LuForceSync.h"
+#include "LuSyncEngine.h"
+
+#include <QHash>
+#include <QStringList>
+
+class MonitorLink;
+
+/// What a model holds for the host.
+class LuMonitorModelPrivate
+{
+public:
+    LuMonitorModelPrivate(LuMonitorModel* model, LuMonitorModel::NodeFactory factory);
+
+    static LuMonitorModelPrivate& of(LuMonitorModel* model) { return *model->d; }
+    static const LuMonitorModelPrivate& of(const LuMonitorModel* model) { return *model->d; }
+
+    MonitorLink& link() const;
+    /// Path of one of the model's schema files; empty for a name that no file can have.
+    QString schemaPath(const QString& suffix) const;
+    void readColorModes();
+    void learnColorMode();
+    /// Reads 0xDC and makes its node current; the first step of a round. Queue.
+    void syncColorMode();
+    void makeCurrent(LuVCPNode* node);
+    LuVCPNode* nodeOfCode(int code) const;
+    QList<LuShortcutAction*> actionsWithKey(QKeyCombination keys) const;
+    void refreshDuplicates();
+    /// The stored values are to be applied before anything is read.
+    bool isRestoring() const;
+    void runInitialSync();
+    QString sectionKey(const QString& key) const { return section + QLatin1Char('/') + key; }
+    QStringList skippedModules() const;
+    void setSkipped(const QString& className, bool skip);
+
+    LuMonitorModel* q;
+    LuMonitorModel::NodeFactory nodeFactory;
+    QSharedPointer<ZrDispatch> dispatch;
+    QString section;
+    QList<LuVCPNode*> nodes;
+    ZrShared<LuVCPNode*> currentNode{nullptr};
+    QList<LuModelModuleInterface*> modules;
+    QList<LuShortcutAction*> shortcutActions;
+    QList<LuFlowAction*> flowActions;
+    LuForceSync forceSync;
+    LuSyncEngine engine;
+    QString nickName;
+    QString packageVersion;
+    bool supported = false;
+    bool current = false;
+    bool firstTime = false;
+    bool metBefore = false;
+    ZrShared<bool> syncCurrentColorMode{false};
+    ZrShared<bool> ecoLockingPaused{false};
+    ZrShared<bool> attached{false}; ///< The steps of construction are over.
+
+    /// Names of widget files by package name, filled by the registry before the first model.
+    static QHash<QString, QStringList>& packageWidgets();
+};

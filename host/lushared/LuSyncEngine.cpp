@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "LuSyncEngine.h"
+
+#include "LuHostOptions.h"
+#include "LuMonitorModelPrivate.h"
+
+#include <panelcore/MonitorLink.h>
+
+#include <algorithm>
+#include <memory>
+
+namespace {
+
+constexpr qint64 FirstBackOffMs = 2000;
+constexpr qint64 LastBackOffMs = 60000;
+const QString RoundKey = QStringLiteral("syncRound");
+
+} // namespace
+
+void LuSyncEngine::post(Count count, std::function<void()> job)
+{
+    if (count == Count::Foreground)
+        m_model.dispatch->post(m_model.q, std::move(job));
+    else
+        m_model.dispatch->postBackground(m_model.q, QStringLiteral("syncStep"), std::move(job));
+}
+
+void LuSyncEngine::postSteps(LuModelModuleInterface* module, Count count)
+{
+    const std::unique_ptr<LuSyncTasks> tasks(module->syncPeriodically());
+    if (!tasks)
+        return;
+    for (std::function<void()>& step : tasks->takeTasks())
+        post(count, [this, count, step = std::move(step)] { runStep(step, count); });
+}
+
+void LuSyncEngine::runStep(const std::function<void()>& step, Count count)
+{
+    // A round that finds the monitor silent is over; what somebody asked for is tried all the same.
+    if (count == Count::Background && m_model.link().isSilent())
+        return;
+    step();
+}
+
+void LuSyncEngine::start()
+{
+    m_started = true;
+    for (LuModelModuleInterface* module : std::as_const(m_model.modules))
+        postSteps(module, Count::Foreground);
+    post(Count::Foreground, [this] { endRound(); });
+}
+
+void LuSyncEngine::runRound()
+{
+    m_roundWaits = false;
+    QList<LuModelModuleInterface*> visible;
+    for (LuModelModuleInterface* module : std::as_const(m_model.modules)) {
+        if (module->syncEnable())
+            visible.append(module);
+    }
+    const bool withColorMode = m_model.syncCurrentColorMode;
+    if (visible.isEmpty() && !withColorMode)
+        return; // nobody looks; wake() begins anew
+    if (withColorMode)
+        m_model.syncColorMode();
+    if (!m_model.link().isSilent() || !withColorMode) {
+        for (LuModelModuleInterface* module : std::as_const(visible))
+            postSteps(module, Count::Background);
+    }
+    post(Count::Background, [this] { endRound(); });
+}
+
+void LuSyncEngine::endRound()
+{
+    if (m_model.link().isSilent())
+        m_backOffMs = std::clamp(m_backOffMs.get() * 2, FirstBackOffMs, LastBackOffMs);
+    else
+        m_backOffMs = 0;
+    scheduleRound(m_backOffMs.get() > 0 ? m_backOffMs.get() : LuHostOptions::instance().syncPeriodMs);
+}
+
+void LuSyncEngine::scheduleRound(qint64 ms)
+{
+    m_roundWaits = true;
+    m_model.dispatch->postUniqueBackgroundLater(m_model.q, RoundKey, ms, [this] { runRound(); });
+}
+
+void LuSyncEngine::wake()
+{
+    if (m_started && (!m_roundWaits || m_backOffMs.get() == 0))
+        scheduleRound(0);
+}
+
+void LuSyncEngine::noteUserAction()
+{
+    if (m_started && m_backOffMs.exchange(0) > 0)
+        scheduleRound(0);
+}
+
+void LuSyncEngine::force(LuModelModuleInterface* module)
+{
+    m_model.dispatch->postUnique(module, QStringLiteral("forceSync"),
+                                 [this, module] { postSteps(module, Count::Foreground); });
+}
+
+void LuSyncEngine::readBack(LuModelModuleInterface* module, std::function<void()> done)
+{
+    m_model.dispatch->post(m_model.q, [this, module, done = std::move(done)]() mutable {
+        if (module) {
+            postSteps(module, Count::Foreground);
+        } else {
+            m_model.syncColorMode();
+            for (LuModelModuleInterface* each : std::as_const(m_model.modules))
+                postSteps(each, Count::Foreground);
+        }
+        post(Count::Foreground, std::move(done));
+    });
+}
