@@ -1,0 +1,328 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "LuContext.h"
+
+#include <QEvent>
+#include <QFile>
+#include <QFontInfo>
+#include <QGuiApplication>
+#include <QLoggingCategory>
+#include <QPalette>
+#include <QScreen>
+
+#include <algorithm>
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+Q_LOGGING_CATEGORY(lcContext, "lumen.qml")
+
+constexpr double LayoutFontPixels = 13;
+// Fonts of about the usual size keep the pixel grid of the layout; only a deliberate choice scales it.
+constexpr double UsualScaleLow = 0.85;
+constexpr double UsualScaleHigh = 1.2;
+
+double desktopFontScale()
+{
+    const QString platform = QGuiApplication::platformName();
+    if (platform == "offscreen"_L1 || platform == "minimal"_L1)
+        return 1;
+    const double scale = QFontInfo(QGuiApplication::font()).pixelSize() / LayoutFontPixels;
+    return scale > UsualScaleLow && scale < UsualScaleHigh ? 1 : scale;
+}
+
+QString localPath(const QUrl& url)
+{
+    if (url.scheme() == "qrc"_L1)
+        return u':' + url.path();
+    return url.isLocalFile() ? url.toLocalFile() : QString();
+}
+
+double luminance(const QColor& color)
+{
+    const auto channel = [](double value) {
+        return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * channel(color.redF()) + 0.7152 * channel(color.greenF()) + 0.0722 * channel(color.blueF());
+}
+}
+
+LuContext* LuContext::instance()
+{
+    static QPointer<LuContext> context;
+    if (!context)
+        context = new LuContext(qGuiApp);
+    return context;
+}
+
+LuContext::LuContext(QObject* parent)
+    : QObject(parent)
+    , m_theme(u"system"_s)
+{
+    setFontScale(desktopFontScale());
+    updateColorScheme();
+    qGuiApp->installEventFilter(this);
+}
+
+LuContext::~LuContext() = default;
+
+void LuContext::setCurrentMonitor(QObject* monitor)
+{
+    if (monitor == m_currentMonitor)
+        return;
+    if (monitor && !m_monitors.contains(monitor))
+    {
+        qCWarning(lcContext) << "not a connected monitor:" << monitor;
+        return;
+    }
+    m_currentMonitor = monitor;
+    // The widgets of the old monitor go before the new one is announced, so that none of them sees it.
+    if (!m_widgetUrls.isEmpty())
+    {
+        m_widgetUrls.clear();
+        Q_EMIT widgetUrlsChanged();
+    }
+    Q_EMIT currentMonitorChanged();
+    updateWidgetUrls();
+}
+
+void LuContext::setMonitors(const QList<QObject*>& monitors)
+{
+    if (monitors == m_monitors)
+        return;
+    for (QObject* monitor : std::as_const(m_monitors))
+        monitor->disconnect(this);
+    m_monitors = monitors;
+    for (QObject* monitor : std::as_const(m_monitors))
+    {
+        connect(monitor, &QObject::destroyed, this, [this, monitor] {
+            QList<QObject*> rest = m_monitors;
+            rest.removeAll(monitor);
+            m_monitors.removeAll(monitor);
+            Q_EMIT monitorsChanged();
+            if (!m_currentMonitor)
+            {
+                m_widgetUrls.clear();
+                Q_EMIT widgetUrlsChanged();
+                Q_EMIT currentMonitorChanged();
+                setCurrentMonitor(rest.value(0));
+            }
+        });
+    }
+    if (!m_currentMonitor || !m_monitors.contains(m_currentMonitor))
+        setCurrentMonitor(m_monitors.value(0));
+    Q_EMIT monitorsChanged();
+}
+
+void LuContext::setWidgetUrlSource(std::function<QList<QUrl>(QObject*)> source)
+{
+    m_widgetUrlSource = std::move(source);
+    updateWidgetUrls();
+}
+
+void LuContext::updateWidgetUrls()
+{
+    QList<QUrl> urls;
+    if (m_currentMonitor && m_widgetUrlSource)
+        urls = m_widgetUrlSource(m_currentMonitor);
+    if (urls == m_widgetUrls)
+        return;
+    m_widgetUrls = urls;
+    Q_EMIT widgetUrlsChanged();
+}
+
+QQuickWindow* LuContext::mainWindow() const
+{
+    return m_mainWindow;
+}
+
+void LuContext::setMainWindow(QQuickWindow* window)
+{
+    if (window == m_mainWindow)
+        return;
+    m_mainWindow = window;
+    Q_EMIT mainWindowChanged();
+}
+
+void LuContext::setMultiMonitorSyncControl(QObject* control)
+{
+    if (control == m_multiMonitorSyncControl)
+        return;
+    m_multiMonitorSyncControl = control;
+    Q_EMIT multiMonitorSyncControlChanged();
+}
+
+bool LuContext::isWindows() const
+{
+#ifdef Q_OS_WIN
+    return true;
+#else
+    return false;
+#endif
+}
+
+bool LuContext::isMacOS() const
+{
+#ifdef Q_OS_MACOS
+    return true;
+#else
+    return false;
+#endif
+}
+
+bool LuContext::isLinux() const
+{
+    return !isWindows() && !isMacOS();
+}
+
+bool LuContext::canPlaceWindows() const
+{
+    return !QGuiApplication::platformName().startsWith("wayland"_L1);
+}
+
+void LuContext::setTheme(const QString& theme)
+{
+    if (theme == m_theme)
+        return;
+    if (theme != "system"_L1 && theme != "light"_L1 && theme != "dark"_L1)
+    {
+        qCWarning(lcContext) << "unknown theme:" << theme;
+        return;
+    }
+    m_theme = theme;
+    Q_EMIT themeChanged();
+    updateColorScheme();
+}
+
+void LuContext::updateColorScheme()
+{
+    QString scheme = m_theme;
+    if (scheme == "system"_L1)
+    {
+        const QPalette palette = QGuiApplication::palette();
+        const bool dark = palette.color(QPalette::WindowText).lightness() > palette.color(QPalette::Window).lightness();
+        scheme = dark ? u"dark"_s : u"light"_s;
+    }
+    if (scheme == m_colorScheme)
+        return;
+    m_colorScheme = scheme;
+    Q_EMIT colorSchemeChanged();
+}
+
+bool LuContext::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == qGuiApp && event->type() == QEvent::ApplicationPaletteChange)
+        updateColorScheme();
+    else if (watched == qGuiApp && event->type() == QEvent::ApplicationFontChange)
+        setFontScale(desktopFontScale());
+    return QObject::eventFilter(watched, event);
+}
+
+void LuContext::setHighContrast(bool on)
+{
+    if (on == m_highContrast)
+        return;
+    m_highContrast = on;
+    Q_EMIT highContrastChanged();
+}
+
+void LuContext::setReducedMotion(bool on)
+{
+    if (on == m_reducedMotion)
+        return;
+    m_reducedMotion = on;
+    Q_EMIT reducedMotionChanged();
+}
+
+void LuContext::setFontScale(double scale)
+{
+    const double bounded = std::clamp(std::isfinite(scale) ? scale : 1, 0.75, 3.0);
+    if (qFuzzyCompare(bounded, m_fontScale))
+        return;
+    m_fontScale = bounded;
+    Q_EMIT fontScaleChanged();
+}
+
+void LuContext::setEnvironment(Lookup values, Lookup choices)
+{
+    m_values = std::move(values);
+    m_choices = std::move(choices);
+}
+
+void LuContext::setScreenSource(std::function<QScreen*(QObject*)> source)
+{
+    m_screenSource = std::move(source);
+}
+
+QUrl LuContext::resolvedResourceUrl(const QUrl& url, QObject*, const QString& colorScheme) const
+{
+    static const QString shared = u"/images/packages/"_s;
+    if (url.isEmpty())
+        return {};
+    if (url.scheme() != "qrc"_L1 || !url.path().startsWith(shared))
+        return url;
+    const QString name = url.path().mid(shared.size());
+    const QString folder = u"/TKPackage/images/packages/"_s;
+    const auto found = [](const QString& path) { return QFile::exists(u':' + path); };
+    const auto address = [](const QString& path) { return QUrl(u"qrc:"_s + path); };
+    if (colorScheme == "dark"_L1 && found(folder + "+dark/"_L1 + name))
+        return address(folder + "+dark/"_L1 + name);
+    if (found(folder + name))
+        return address(folder + name);
+    if (!m_missing.contains(name))
+    {
+        m_missing.insert(name);
+        qCWarning(lcContext).noquote() << "image missing:" << name;
+    }
+    return {};
+}
+
+QVariant LuContext::env(const QString& key, const QVariant& fallback) const
+{
+    const QVariant value = m_values ? m_values(key) : QVariant();
+    return value.isValid() ? value : fallback;
+}
+
+QVariant LuContext::envDeviceChoice(const QString& key, const QVariant& fallback) const
+{
+    const QVariant value = m_choices ? m_choices(key) : QVariant();
+    return value.isValid() ? value : fallback;
+}
+
+bool LuContext::exists(const QUrl& url) const
+{
+    const QString path = localPath(url);
+    return !path.isEmpty() && QFile::exists(path);
+}
+
+QRect LuContext::availableGeometry(QWindow* window) const
+{
+    const QScreen* screen = window && window->screen() ? window->screen() : QGuiApplication::primaryScreen();
+    return screen ? screen->availableGeometry() : QRect();
+}
+
+QString LuContext::monitorFacts(QObject* monitor) const
+{
+    QStringList facts;
+    if (!monitor)
+        return {};
+    if (const QScreen* screen = m_screenSource ? m_screenSource(monitor) : nullptr)
+    {
+        const QSize size = screen->size() * screen->devicePixelRatio();
+        facts << u"%1 × %2"_s.arg(size.width()).arg(size.height());
+        if (screen->refreshRate() > 0)
+            facts << u"%1 Hz"_s.arg(qRound(screen->refreshRate()));
+    }
+    if (monitor->property("isModelBuiltIn").toBool())
+        facts << tr("Built-in");
+    else if (const QString serial = monitor->property("serialNumber").toString(); !serial.isEmpty())
+        facts << tr("S/N %1").arg(serial);
+    return facts.join(u" · "_s);
+}
+
+double LuContext::contrastRatio(const QColor& a, const QColor& b) const
+{
+    const double first = luminance(a);
+    const double second = luminance(b);
+    return (std::max(first, second) + 0.05) / (std::min(first, second) + 0.05);
+}

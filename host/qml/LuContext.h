@@ -1,0 +1,149 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QColor>
+#include <QHash>
+#include <QList>
+#include <QObject>
+#include <QPointer>
+#include <QQuickWindow>
+#include <QRect>
+#include <QSet>
+#include <QString>
+#include <QUrl>
+#include <QVariant>
+
+#include <functional>
+
+class QScreen;
+
+/// What panels and the shell may ask of the program: the monitors, the windows, the look, resources and environment.
+///
+/// The singleton `LuContext` of the QML module LumenDesk. It lives on the GUI thread as long as the application
+/// object; the composition root fills it before the first window is loaded.
+class LuContext : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(QObject* currentMonitor READ currentMonitor WRITE setCurrentMonitor NOTIFY currentMonitorChanged)
+    Q_PROPERTY(QList<QObject*> monitors READ monitors NOTIFY monitorsChanged)
+    Q_PROPERTY(QList<QUrl> widgetUrls READ widgetUrls NOTIFY widgetUrlsChanged)
+    Q_PROPERTY(QQuickWindow* mainWindow READ mainWindow WRITE setMainWindow NOTIFY mainWindowChanged)
+    Q_PROPERTY(QObject* multiMonitorSyncControl READ multiMonitorSyncControl WRITE setMultiMonitorSyncControl NOTIFY
+                   multiMonitorSyncControlChanged)
+    Q_PROPERTY(bool isWindows READ isWindows CONSTANT)
+    Q_PROPERTY(bool isMacOS READ isMacOS CONSTANT)
+    Q_PROPERTY(bool isLinux READ isLinux CONSTANT)
+    Q_PROPERTY(bool windowsLayout READ windowsLayout CONSTANT)
+    Q_PROPERTY(bool canPlaceWindows READ canPlaceWindows CONSTANT)
+    Q_PROPERTY(QString theme READ theme WRITE setTheme NOTIFY themeChanged)
+    Q_PROPERTY(QString colorScheme READ colorScheme NOTIFY colorSchemeChanged)
+    Q_PROPERTY(bool highContrast READ highContrast WRITE setHighContrast NOTIFY highContrastChanged)
+    Q_PROPERTY(bool reducedMotion READ reducedMotion WRITE setReducedMotion NOTIFY reducedMotionChanged)
+    Q_PROPERTY(double fontScale READ fontScale WRITE setFontScale NOTIFY fontScaleChanged)
+
+public:
+    using Lookup = std::function<QVariant(const QString& key)>;
+
+    /// The one object; made on the first call, which needs a QGuiApplication.
+    static LuContext* instance();
+    ~LuContext() override;
+
+    /// The monitor that the window shows, or null.
+    QObject* currentMonitor() const { return m_currentMonitor; }
+    /// Null or one of monitors(); another object is refused with a warning.
+    void setCurrentMonitor(QObject* monitor);
+    QList<QObject*> monitors() const { return m_monitors; }
+    /// Replaces the list. A current monitor that is not in it gives way to the first one.
+    /// Call it before a model is deleted; a model that is deleted all the same leaves the list by itself.
+    void setMonitors(const QList<QObject*>& monitors);
+
+    /// The widgets of the current monitor's package, in its order.
+    QList<QUrl> widgetUrls() const { return m_widgetUrls; }
+    /// How the widgets of a monitor are found. Asked whenever the current monitor changes.
+    void setWidgetUrlSource(std::function<QList<QUrl>(QObject* monitor)> source);
+
+    QQuickWindow* mainWindow() const;
+    void setMainWindow(QQuickWindow* window);
+    QObject* multiMonitorSyncControl() const { return m_multiMonitorSyncControl; }
+    void setMultiMonitorSyncControl(QObject* control);
+
+    bool isWindows() const;
+    bool isMacOS() const;
+    bool isLinux() const;
+    /// Panels differ between macOS and the rest: every other platform shows them as on Windows.
+    bool windowsLayout() const { return !isMacOS(); }
+    /// False where a client may not position its own windows (Wayland).
+    bool canPlaceWindows() const;
+
+    /// "system", "light" or "dark".
+    QString theme() const { return m_theme; }
+    void setTheme(const QString& theme);
+    /// "light" or "dark": the theme, or what the desktop shows.
+    QString colorScheme() const { return m_colorScheme; }
+    bool highContrast() const { return m_highContrast; }
+    void setHighContrast(bool on);
+    bool reducedMotion() const { return m_reducedMotion; }
+    void setReducedMotion(bool on);
+    /// Size of the desktop's font relative to the size that the layout is drawn for, 0.75 to 3.
+    double fontScale() const { return m_fontScale; }
+    void setFontScale(double scale);
+
+    /// @param values looks a key up for env(), @p choices for envDeviceChoice(); an invalid result means "not there".
+    void setEnvironment(Lookup values, Lookup choices);
+    /// The screen that shows a monitor; without it the facts leave the resolution out.
+    void setScreenSource(std::function<QScreen*(QObject* monitor)> source);
+
+    /// The file that stands behind "qrc:/images/packages/x.svg" of a package, in the variant of @p colorScheme.
+    /// @param item an item of the package that asks. A file that is missing gives an empty URL and one warning.
+    Q_INVOKABLE QUrl resolvedResourceUrl(const QUrl& url, QObject* item, const QString& colorScheme) const;
+    Q_INVOKABLE QVariant env(const QString& key, const QVariant& fallback = {}) const;
+    Q_INVOKABLE QVariant envDeviceChoice(const QString& key, const QVariant& fallback = {}) const;
+    /// Whether the file of a "qrc:" or "file:" URL is there.
+    Q_INVOKABLE bool exists(const QUrl& url) const;
+    /// The part of the screen that windows may cover, for the screen that @p window is on.
+    Q_INVOKABLE QRect availableGeometry(QWindow* window) const;
+    /// A short line under the monitor's name: size and rate of its screen, serial number.
+    Q_INVOKABLE QString monitorFacts(QObject* monitor) const;
+    /// WCAG contrast ratio of two opaque colours, 1 to 21.
+    Q_INVOKABLE double contrastRatio(const QColor& a, const QColor& b) const;
+
+Q_SIGNALS:
+    void currentMonitorChanged();
+    void monitorsChanged();
+    void widgetUrlsChanged();
+    void mainWindowChanged();
+    void multiMonitorSyncControlChanged();
+    void themeChanged();
+    void colorSchemeChanged();
+    void highContrastChanged();
+    void reducedMotionChanged();
+    void fontScaleChanged();
+    /// The user asks for the settings window.
+    void settingsRequested();
+    /// The user asks for help on monitors that are not found.
+    void helpRequested();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    explicit LuContext(QObject* parent);
+    void updateColorScheme();
+    void updateWidgetUrls();
+
+    QList<QObject*> m_monitors;
+    QPointer<QObject> m_currentMonitor;
+    QList<QUrl> m_widgetUrls;
+    std::function<QList<QUrl>(QObject*)> m_widgetUrlSource;
+    std::function<QScreen*(QObject*)> m_screenSource;
+    QPointer<QQuickWindow> m_mainWindow;
+    QPointer<QObject> m_multiMonitorSyncControl;
+    QString m_theme;
+    QString m_colorScheme;
+    bool m_highContrast = false;
+    bool m_reducedMotion = false;
+    double m_fontScale = 1;
+    Lookup m_values;
+    Lookup m_choices;
+    mutable QSet<QString> m_missing;
+};

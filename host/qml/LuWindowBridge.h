@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QJsonValue>
+#include <QObject>
+#include <QPointF>
+#include <QString>
+#include <QStringList>
+#include <QVariant>
+
+#include <optional>
+
+class QQmlEngine;
+class QQuickItem;
+class QQuickWindow;
+class QWindow;
+
+/// The windows as scripts see and use them: widgets, pages, the accessible tree, input and pictures.
+///
+/// All operations run on the GUI thread and return once they are done. Their error codes are those of the control
+/// protocol: 2 nothing of that name, 3 disabled, 4 a value that does not fit, 6 no window.
+class LuWindowBridge : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum Error
+    {
+        NoError = 0,
+        NoSuchThing = 2,
+        NotWritable = 3,
+        WrongValue = 4,
+        NoWindow = 6,
+    };
+
+    struct Result
+    {
+        int code = NoError;
+        QString message;
+        QJsonValue value = QJsonObject();
+
+        bool ok() const { return code == NoError; }
+    };
+
+    /// Collects the warnings of @p engine from now on.
+    explicit LuWindowBridge(QQmlEngine* engine, QObject* parent = nullptr);
+    ~LuWindowBridge() override;
+
+    Result show();
+    Result hide();
+
+    /// List of {"widget","text","supported","active","enabled","shown","image","popup"} in the package's order.
+    Result widgetInfos() const;
+
+    /// As a click on the tile: the page, or the warning that stands in its place. Error 2 if it has neither.
+    Result openPage(const QString& widget);
+    /// Opens an advanced section; error 2 if there is none of that name.
+    Result openSection(const QString& section);
+    /// Opens the popup of a widget, such as the warning of its colour mode.
+    Result openPopup(const QString& widget);
+    /// Closes the page of @p name, or whatever page is open for an empty name, or a popup of that type. Its end, with the
+    /// event that belongs to it, has run on return.
+    Result close(const QString& name = {});
+
+    /// The tree of all visible windows, or of one widget's tile and its open page.
+    Result tree(const QString& widget = {}) const;
+
+    Result press(const QString& name, const QString& role = {}, const QString& within = {});
+    Result setValue(const QString& name, const QVariant& value, const QString& role = {}, const QString& within = {});
+    /// @param key as QKeySequence spells it, such as "Space" or "Ctrl+Right". An empty @p name means the control that
+    /// has the focus.
+    Result key(const QString& name, const QString& key, const QString& role = {}, const QString& within = {});
+
+    Result windows() const;
+    /// @param kind "press", "move", "release" or "click" of the left button.
+    Result mouse(const QString& window, const QString& kind, const QPointF& position);
+
+    /// Writes a PNG of the main window, or of a widget's page, which is opened for it if need be.
+    Result screenshot(const QString& file, const QString& widget = {}, const QString& theme = {});
+
+    /// The QML warnings since the start.
+    QStringList warnings() const { return m_warnings; }
+
+private:
+    struct Found;
+
+    QQuickWindow* window() const;
+    QQuickItem* widgetItem(const QString& name) const;
+    QQuickItem* openPagePanel() const;
+    QList<QObject*> scopes(const QString& within) const;
+    Found find(const QString& name, const QString& role, const QString& within) const;
+    QQuickItem* popupItem(const QString& type) const;
+
+    QStringList m_warnings;
+    Qt::MouseButtons m_buttons;
+};

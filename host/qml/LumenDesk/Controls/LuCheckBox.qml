@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import QtQuick.Templates as T
+import LumenDesk.Style
+
+// One option that is on or off, with its text.
+T.CheckBox {
+    id: control
+
+    // What the monitor holds, where that is known: a press shows at once and falls back if the monitor does not follow.
+    property var confirmed
+
+    implicitWidth: contentItem.implicitWidth + leftPadding + rightPadding
+    implicitHeight: Math.max(24, contentItem.implicitHeight)
+    padding: 0
+    spacing: LuStyle.space
+    focusPolicy: Qt.StrongFocus
+    checked: confirmed ?? false
+    hoverEnabled: true
+    opacity: enabled ? 1 : LuStyle.disabledOpacity
+
+    Accessible.role: Accessible.CheckBox
+    Accessible.name: text
+    Accessible.checkable: true
+    Accessible.checked: checked
+    Accessible.onPressAction: control.assistivePress()
+    Accessible.onToggleAction: control.assistivePress()
+
+    // What a click does, for the return key, assistive software and scripts.
+    function assistivePress(): void {
+        toggle()
+        toggled()
+        clicked()
+    }
+
+    indicator: Rectangle {
+        x: control.mirrored ? control.width - width : 0
+        y: (control.height - height) / 2
+        implicitWidth: 18
+        implicitHeight: 18
+        radius: 5
+        color: control.checked ? LuStyle.accent : control.hovered ? LuStyle.fieldHover : LuStyle.card
+        border.width: control.checked ? 0 : 1
+        border.color: LuStyle.outline
+        Behavior on color {
+            ColorAnimation { duration: LuStyle.motion }
+        }
+        LuIcon {
+            anchors.centerIn: parent
+            name: "check"
+            size: 14
+            color: LuStyle.onAccent
+            visible: control.checked
+        }
+        LuFocusRing {
+            control: control
+            innerRadius: 5
+        }
+    }
+    contentItem: LuLabel {
+        leftPadding: control.mirrored ? 0 : 18 + control.spacing
+        rightPadding: control.mirrored ? 18 + control.spacing : 0
+        repeatsName: true
+        text: control.text
+        verticalAlignment: Text.AlignVCenter
+    }
+    LuConfirmedState {
+        control: control
+    }
+}

@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import LumenDesk.Style
+
+// The ring around a control that the keyboard is on; it stands outside the control's edge.
+Rectangle {
+    id: ring
+
+    required property Item control
+    property real innerRadius: LuStyle.radiusSmall
+    property int gap: 2
+    property bool shown: control.visualFocus ?? control.activeFocus
+
+    anchors.fill: parent
+    anchors.margins: -gap - border.width
+    radius: innerRadius + gap + border.width
+    color: "transparent"
+    border.width: LuStyle.focusWidth
+    border.color: LuStyle.focus
+    visible: shown
+}

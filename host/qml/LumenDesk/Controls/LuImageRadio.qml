@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import QtQuick.Templates as T
+import QtQuick.Window
+import LumenDesk.Style
+
+// One choice of several, shown as a picture. `text` says what it chooses.
+T.RadioButton {
+    id: control
+
+    // What the monitor holds, where that is known: a press shows at once and falls back if the monitor does not follow.
+    property var confirmed
+    property url normalImage
+    property url checkedImage
+    property int imageSize: 28
+    property bool showText: true
+    readonly property url image: checked && String(checkedImage) ? checkedImage : normalImage
+
+    implicitWidth: Math.max(48, label.implicitWidth)
+    implicitHeight: 48 + (showText ? label.implicitHeight + LuStyle.spaceHalf : 0)
+    padding: 0
+    focusPolicy: Qt.StrongFocus
+    checked: confirmed ?? false
+    hoverEnabled: true
+    opacity: enabled ? 1 : LuStyle.disabledOpacity
+
+    Accessible.role: Accessible.RadioButton
+    Accessible.name: text
+    Accessible.checkable: true
+    Accessible.checked: checked
+    Accessible.onPressAction: control.assistivePress()
+    Accessible.onToggleAction: control.assistivePress()
+
+    // What a click does, for the return key, assistive software and scripts.
+    function assistivePress(): void {
+        if (!checked) {
+            toggle()
+            toggled()
+        }
+        clicked()
+    }
+
+    indicator: Rectangle {
+        x: (control.width - width) / 2
+        implicitWidth: 48
+        implicitHeight: 48
+        radius: LuStyle.radius
+        color: control.checked ? LuStyle.accent : control.hovered ? LuStyle.glyphFillHover : LuStyle.glyphFill
+        border.width: LuStyle.highContrast ? 1 : 0
+        border.color: LuStyle.outline
+        scale: control.down ? 0.96 : 1
+        Behavior on color {
+            ColorAnimation { duration: LuStyle.motion }
+        }
+        Behavior on scale {
+            NumberAnimation { duration: LuStyle.motion }
+        }
+        Image {
+            anchors.centerIn: parent
+            width: control.imageSize
+            height: control.imageSize
+            sourceSize: Qt.size(control.imageSize * Screen.devicePixelRatio, control.imageSize * Screen.devicePixelRatio)
+            source: control.image
+        }
+        LuFocusRing {
+            control: control
+            innerRadius: LuStyle.radius
+        }
+    }
+    contentItem: Item {
+        LuLabel {
+            id: label
+            anchors.horizontalCenter: parent.horizontalCenter
+            anchors.bottom: parent.bottom
+            visible: control.showText
+            repeatsName: true
+            kind: LuLabel.Caption
+            color: control.checked ? LuStyle.text : LuStyle.textDim
+            text: control.text
+        }
+    }
+    LuConfirmedState {
+        control: control
+    }
+}

@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import QtQuick.Templates as T
+import LumenDesk.Style
+
+// One choice of several with its text.
+T.RadioButton {
+    id: control
+
+    // What the monitor holds, where that is known: a press shows at once and falls back if the monitor does not follow.
+    property var confirmed
+
+    implicitWidth: contentItem.implicitWidth + leftPadding + rightPadding
+    implicitHeight: Math.max(24, contentItem.implicitHeight)
+    padding: 0
+    spacing: LuStyle.space
+    focusPolicy: Qt.StrongFocus
+    checked: confirmed ?? false
+    hoverEnabled: true
+    opacity: enabled ? 1 : LuStyle.disabledOpacity
+
+    Accessible.role: Accessible.RadioButton
+    Accessible.name: text
+    Accessible.checkable: true
+    Accessible.checked: checked
+    Accessible.onPressAction: control.assistivePress()
+    Accessible.onToggleAction: control.assistivePress()
+
+    // What a click does, for the return key, assistive software and scripts.
+    function assistivePress(): void {
+        if (!checked) {
+            toggle()
+            toggled()
+        }
+        clicked()
+    }
+
+    indicator: Rectangle {
+        x: control.mirrored ? control.width - width : 0
+        y: (control.height - height) / 2
+        implicitWidth: 18
+        implicitHeight: 18
+        radius: 9
+        color: control.checked ? LuStyle.accent : control.hovered ? LuStyle.fieldHover : LuStyle.card
+        border.width: control.checked ? 0 : 1
+        border.color: LuStyle.outline
+        Behavior on color {
+            ColorAnimation { duration: LuStyle.motion }
+        }
+        Rectangle {
+            anchors.centerIn: parent
+            width: 7
+            height: 7
+            radius: 3.5
+            color: LuStyle.onAccent
+            scale: control.checked ? 1 : 0
+            Behavior on scale {
+                NumberAnimation { duration: LuStyle.motion }
+            }
+        }
+        LuFocusRing {
+            control: control
+            innerRadius: 9
+        }
+    }
+    contentItem: LuLabel {
+        leftPadding: control.mirrored ? 0 : 18 + control.spacing
+        rightPadding: control.mirrored ? 18 + control.spacing : 0
+        repeatsName: true
+        text: control.text
+        verticalAlignment: Text.AlignVCenter
+    }
+    LuConfirmedState {
+        control: control
+    }
+}

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import QtQuick.Templates as T
+import LumenDesk.Style
+
+// A line of text. `name` is what assistive software calls it; without one it is the placeholder.
+T.TextField {
+    id: control
+
+    property string name: placeholderText
+
+    implicitWidth: 180
+    implicitHeight: LuStyle.controlHeight
+    horizontalPadding: LuStyle.space
+    verticalPadding: LuStyle.spaceHalf
+    verticalAlignment: TextInput.AlignVCenter
+    hoverEnabled: true
+    selectByMouse: true
+    color: LuStyle.text
+    selectionColor: LuStyle.accentFill
+    selectedTextColor: LuStyle.onAccent
+    placeholderTextColor: LuStyle.textDim
+    font.family: LuStyle.fontFamily
+    font.pixelSize: LuStyle.fontBody
+    opacity: enabled ? 1 : LuStyle.disabledOpacity
+
+    Accessible.role: Accessible.EditableText
+    Accessible.name: name
+    Accessible.editable: !readOnly
+
+    // What a person types in place of the present text.
+    function assistiveSet(wanted: var): bool {
+        if (readOnly)
+            return false
+        selectAll()
+        remove(0, length)
+        insert(0, String(wanted))
+        textEdited()
+        return true
+    }
+
+    background: Rectangle {
+        radius: LuStyle.radiusSmall
+        color: control.hovered ? LuStyle.fieldHover : LuStyle.field
+        border.width: control.activeFocus ? LuStyle.focusWidth : 1
+        border.color: control.activeFocus ? LuStyle.accent : LuStyle.outline
+    }
+    LuLabel {
+        x: control.leftPadding
+        width: control.width - control.leftPadding - control.rightPadding
+        height: control.height
+        verticalAlignment: Text.AlignVCenter
+        repeatsName: true
+        visible: control.length === 0 && control.preeditText.length === 0
+        text: control.placeholderText
+        color: control.placeholderTextColor
+    }
+}

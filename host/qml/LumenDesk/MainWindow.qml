@@ -1,0 +1,175 @@
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import QtQuick.Templates as T
+import QtQuick.Window
+import LumenDesk
+import LumenDesk.Controls
+import LumenDesk.Settings
+import LumenDesk.Style
+
+// The control centre: header, the widgets of the current monitor, and the detail page beside it or over it.
+Window {
+    id: window
+
+    readonly property rect free: LuContext.availableGeometry(window)
+    // The widget whose page is open, or null. A page of the shell's own has no widget.
+    property Item openWidget: null
+    property Component openPageComponent: null
+    readonly property bool pageOpen: openPageComponent !== null
+    readonly property Item pagePanel: beside.item?.panelItem ?? over.item
+    readonly property Window pageWindow: beside.item
+    readonly property bool empty: area.empty
+    property bool movedByUser: false
+
+    objectName: "mainWindow"
+    title: qsTr("Lumen Desk")
+    width: LuStyle.windowWidth
+    height: Math.max(240, Math.min(free.height - 2 * LuStyle.spaceWide, header.implicitHeight + body.contentHeight))
+    flags: Qt.Window | Qt.FramelessWindowHint
+    color: "transparent"
+    visible: false
+
+    function place(): void {
+        if (!LuContext.canPlaceWindows || movedByUser)
+            return
+        x = free.x + free.width - width - LuStyle.spaceWide
+        y = free.y + free.height - height - LuStyle.spaceWide
+    }
+
+    onVisibleChanged: {
+        if (visible)
+            place()
+        else
+            closePage()
+    }
+    onHeightChanged: place()
+    onWidthChanged: place()
+    onFreeChanged: place()
+    onClosing: closePage()
+
+    // Opens the page of a widget, in place of one that is open. False if it has none.
+    function openPage(widgetName: string): bool {
+        const widget = area.byName(widgetName)
+        if (!widget || !widget.page)
+            return false
+        showPage(widget, widget.page)
+        return true
+    }
+
+    function closePage(): void {
+        if (openWidget && visible)
+            openWidget.forceActiveFocus(Qt.OtherFocusReason)
+        openPageComponent = null
+        openWidget = null
+    }
+
+    function openSettings(): void {
+        showPage(null, settingsPage)
+        LuContext.settingsRequested()
+    }
+
+    function showPage(widget: Item, page: Component): void {
+        closePage()
+        const room = x - free.x >= LuStyle.pageWidth + 2 * LuStyle.space
+        beside.active = Qt.binding(() => window.pageOpen && LuContext.canPlaceWindows && room)
+        over.active = Qt.binding(() => window.pageOpen && !(LuContext.canPlaceWindows && room))
+        openWidget = widget
+        openPageComponent = page
+    }
+
+    // The widgets in the package's order.
+    function widgetItems(): var {
+        return area.widgets
+    }
+
+    function widgetItem(name: string): Item {
+        return area.byName(name)
+    }
+
+    Component {
+        id: settingsPage
+        AppearancePage { }
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        radius: LuStyle.radiusWindow
+        color: LuStyle.background
+        border.width: 1
+        border.color: LuStyle.line
+    }
+
+    HeaderBar {
+        id: header
+        width: parent.width
+        height: implicitHeight
+        window: window
+        onSettingsClicked: window.openSettings()
+        onCloseClicked: window.close()
+    }
+
+    Flickable {
+        id: body
+        objectName: "body"
+        anchors.top: header.bottom
+        anchors.bottom: parent.bottom
+        anchors.left: parent.left
+        anchors.right: parent.right
+        contentHeight: (window.empty ? emptyState.implicitHeight : area.implicitHeight) + LuStyle.spaceLarge
+        boundsBehavior: Flickable.StopAtBounds
+        interactive: contentHeight > height
+        clip: interactive
+        T.ScrollBar.vertical: LuScrollBar { }
+
+        WidgetArea {
+            id: area
+            x: LuStyle.spaceLarge
+            width: body.width - 2 * LuStyle.spaceLarge
+            window: window
+            onPageRequested: widget => {
+                if (window.openWidget === widget)
+                    window.closePage()
+                else
+                    window.showPage(widget, widget.page)
+            }
+            onWidgetsGoing: window.closePage()
+        }
+        EmptyState {
+            id: emptyState
+            x: LuStyle.spaceLarge
+            width: body.width - 2 * LuStyle.spaceLarge
+            visible: window.empty
+        }
+    }
+
+    Loader {
+        id: beside
+        active: false
+        sourceComponent: PageWindow {
+            mainWindow: window
+            page: window.openPageComponent
+            onCloseRequested: window.closePage()
+        }
+    }
+    Loader {
+        id: over
+        active: false
+        anchors.fill: parent
+        sourceComponent: Component {
+            PagePanel {
+                page: window.openPageComponent
+                onCloseRequested: window.closePage()
+                Component.onCompleted: focusFirst()
+            }
+        }
+    }
+
+    Shortcut {
+        sequences: [StandardKey.Cancel]
+        onActivated: {
+            if (window.pageOpen)
+                window.closePage()
+        }
+    }
+    Component.onCompleted: LuContext.mainWindow = window
+}

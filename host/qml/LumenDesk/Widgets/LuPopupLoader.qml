@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import LumenDesk
+
+// Makes a popup over the main window when it is opened, and removes it when it has closed.
+QtObject {
+    id: loader
+
+    default property Component sourceComponent
+    property QtObject item: null
+    readonly property bool opened: item !== null
+
+    function open(): void {
+        if (item)
+            return
+        const window = LuContext.mainWindow
+        if (!window || !sourceComponent)
+            return
+        const popup = sourceComponent.createObject(window.contentItem)
+        if (!popup) {
+            console.warn("popup cannot be made:", sourceComponent.errorString())
+            return
+        }
+        popup.closed.connect(close)
+        item = popup
+        popup.open()
+    }
+
+    function close(): void {
+        const popup = item
+        item = null
+        if (popup)
+            popup.destroy()
+    }
+
+    Component.onDestruction: close()
+}

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+
+// A tile that starts something and has no state.
+LuTile {
+    id: shortcut
+
+    readonly property LuWidgetImage imageSource: LuWidgetImage { }
+    signal clicked()
+
+    widgetImage.normal: imageSource.normal
+    widgetImage.checked: imageSource.hovered
+
+    function trigger(): void {
+        if (popupWindow)
+            popupWindow.open()
+        else
+            clicked()
+    }
+}

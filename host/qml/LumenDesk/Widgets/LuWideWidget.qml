@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import QtQuick.Templates as T
+import QtQuick.Window
+import LumenDesk.Controls
+import LumenDesk.Style
+
+// A tile of the window's width: picture, name, a line of state, and a switch.
+LuWidgetBase {
+    id: wide
+
+    readonly property LuWidgetImage widgetImage: LuWidgetImage { }
+    property string description
+    property bool switchVisible: true
+
+    placement: "wide"
+    currentImage: active && String(widgetImage.checked) ? widgetImage.checked : widgetImage.normal
+    implicitHeight: LuStyle.tile + 2 * LuStyle.space
+    opacity: enabled ? 1 : LuStyle.disabledOpacity
+
+    T.AbstractButton {
+        id: button
+
+        objectName: wide.widgetName + ".button"
+        readonly property url image: wide.currentImage
+        anchors.fill: parent
+        focusPolicy: Qt.StrongFocus
+        hoverEnabled: true
+        text: wide.text
+        onClicked: wide.trigger()
+
+        // What a click does, for the return key, assistive software and scripts.
+        function assistivePress(): void {
+            clicked()
+        }
+
+        Keys.onReturnPressed: button.assistivePress()
+        Accessible.role: Accessible.Button
+        Accessible.name: wide.text
+        Accessible.onPressAction: button.assistivePress()
+
+        background: Rectangle {
+            radius: LuStyle.radius
+            color: LuStyle.card
+            border.width: 1
+            border.color: LuStyle.line
+            Rectangle {
+                anchors.fill: parent
+                radius: LuStyle.radius
+                color: button.down ? LuStyle.press : button.hovered ? LuStyle.hover : "transparent"
+            }
+            LuFocusRing {
+                control: button
+                innerRadius: LuStyle.radius
+                gap: 0
+            }
+        }
+        contentItem: Item {
+            Rectangle {
+                id: disc
+                x: LuStyle.spaceWide
+                anchors.verticalCenter: parent.verticalCenter
+                width: LuStyle.tile
+                height: LuStyle.tile
+                radius: LuStyle.tile / 2
+                color: wide.active ? LuStyle.accent : LuStyle.glyphFill
+                Image {
+                    readonly property int pixels: Math.round(LuStyle.glyphSize * Screen.devicePixelRatio)
+                    anchors.centerIn: parent
+                    width: LuStyle.glyphSize
+                    height: LuStyle.glyphSize
+                    sourceSize: Qt.size(pixels, pixels)
+                    source: wide.currentImage
+                }
+            }
+            Column {
+                anchors.left: disc.right
+                anchors.right: parent.right
+                anchors.leftMargin: LuStyle.spaceWide
+                anchors.rightMargin: LuStyle.spaceWide + (toggle.visible ? toggle.width + LuStyle.spaceWide : 0)
+                anchors.verticalCenter: parent.verticalCenter
+                spacing: 1
+                LuLabel {
+                    width: parent.width
+                    kind: LuLabel.Strong
+                    repeatsName: true
+                    text: wide.text
+                }
+                LuLabel {
+                    width: parent.width
+                    kind: LuLabel.Caption
+                    visible: text.length > 0
+                    text: wide.description
+                }
+            }
+        }
+    }
+    LuSwitch {
+        id: toggle
+        anchors.right: parent.right
+        anchors.rightMargin: LuStyle.spaceWide
+        anchors.verticalCenter: parent.verticalCenter
+        visible: wide.switchVisible
+        text: wide.text
+        confirmed: wide.active
+        onToggled: wide.setActive(checked)
+    }
+}

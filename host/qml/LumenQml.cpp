@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "LumenQml.h"
+
+#include "LuContext.h"
+#include "LuIconProvider.h"
+
+#ifdef LUMEN_QML_SHARED_TYPES
+#include <LuShared/LuDataCollection.h>
+#include <LuShared/LuModelModuleInterface.h>
+#include <LuShared/LuMonitorModel.h>
+#include <LuShared/LuVCPNode.h>
+#endif
+
+#include <QDir>
+#include <QQmlEngine>
+#include <QtQml>
+
+using namespace Qt::StringLiterals;
+
+// Q_INIT_RESOURCE declares a function and must stand outside any namespace.
+static void initResources()
+{
+    Q_INIT_RESOURCE(lumenqml);
+}
+
+namespace {
+void registerTypes()
+{
+    static bool done = false;
+    if (done)
+        return;
+    done = true;
+    qmlRegisterSingletonType<LuContext>("LumenDesk", 1, 0, "LuContext", [](QQmlEngine*, QJSEngine*) -> QObject* {
+        LuContext* context = LuContext::instance();
+        QJSEngine::setObjectOwnership(context, QJSEngine::CppOwnership);
+        return context;
+    });
+#ifdef LUMEN_QML_SHARED_TYPES
+    const QString reason = u"Owned by the monitor"_s;
+    qmlRegisterUncreatableType<LuMonitorModel>("LumenDesk", 1, 0, "LuMonitorModel", reason);
+    qmlRegisterUncreatableType<LuModelModuleInterface>("LumenDesk", 1, 0, "LuModelModuleInterface", reason);
+    qmlRegisterUncreatableType<LuVCPNode>("LumenDesk", 1, 0, "LuVCPNode", reason);
+    qmlRegisterUncreatableType<LuDataCollection>("LumenDesk", 1, 0, "LuDataCollection", u"Only enumerations"_s);
+#endif
+}
+}
+
+void lumenQmlInit(QQmlEngine* engine)
+{
+    initResources();
+    registerTypes();
+    // Own modules first; stand-ins for modules that an older Qt lacks last, so that the real ones win.
+    // addImportPath() would prepend each.
+    QStringList paths = engine->importPathList();
+    // In this spelling: a package's files import their module by the relative path "..", and only a path that begins
+    // like the file's own gives that import the module's name, with its C++ types.
+    paths.prepend(u":/TKPackage/qml"_s);
+    paths.prepend(u"qrc:/TKPackage/qml"_s);
+    paths.prepend(u"qrc:/lumendesk/qml"_s);
+    paths.append(u"qrc:/lumendesk/fallback"_s);
+    engine->setImportPathList(paths);
+    engine->addImageProvider(u"lumen"_s, new LuIconProvider);
+}
+
+QUrl lumenMainWindowUrl()
+{
+    return QUrl(u"qrc:/lumendesk/qml/LumenDesk/MainWindow.qml"_s);
+}

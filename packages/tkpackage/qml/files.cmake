@@ -1,0 +1,14 @@
+# SPDX-License-Identifier: Apache-2.0
+# The QML files of the package, relative to this folder; resource prefix /TKPackage/qml/TKPackage.
+set(TKPACKAGE_QML_DIR ${CMAKE_CURRENT_LIST_DIR})
+set(TKPACKAGE_QML_FILES
+  qmldir
+  Helpers/qmldir
+  Helpers/PackageStrings.qml
+  Helpers/Walkthrough.qml
+  Popups/qmldir
+  Settings/Advanced/qmldir
+  Widgets/qmldir
+  Widgets/LuAiContrastWidget.qml
+  Widgets/LuAutoPivotWidget.qml
+  Widgets/LuPivotWidget.qml)

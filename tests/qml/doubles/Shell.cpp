@@ -1,0 +1,128 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Shell.h"
+
+#include "LumenQml.h"
+
+#include <QGuiApplication>
+#include <QMutex>
+#include <QQuickItem>
+#include <QtQml>
+#include <QtQml/qqmlmoduleregistration.h>
+
+using namespace Qt::StringLiterals;
+
+static void initResources()
+{
+    Q_INIT_RESOURCE(package_qml);
+    Q_INIT_RESOURCE(package_images);
+}
+
+// As the package's library registers its types.
+static void registerPackageTypes()
+{
+    qmlRegisterUncreatableType<FakeAiContrast>("TKPackage", 1, 0, "LuAiContrast", u"double"_s);
+    qmlRegisterModule("TKPackage", 1, 0);
+}
+static const QQmlModuleRegistration packageRegistration("TKPackage", registerPackageTypes);
+
+namespace {
+QStringList logged;
+QtMessageHandler previous = nullptr;
+
+void keepWarnings(QtMsgType type, const QMessageLogContext& context, const QString& text)
+{
+    if (type != QtDebugMsg && type != QtInfoMsg)
+        logged << text;
+    if (previous)
+        previous(type, context, text);
+}
+
+QQuickItem* itemBelow(QQuickItem* item, const QString& name)
+{
+    if (!item->isVisible())
+        return nullptr;
+    if (item->objectName() == name)
+        return item;
+    const QList<QQuickItem*> children = item->childItems();
+    for (QQuickItem* child : children)
+    {
+        if (QQuickItem* found = itemBelow(child, name))
+            return found;
+    }
+    return nullptr;
+}
+}
+
+Shell::Shell(const QList<FakeMonitor*>& monitors)
+    : context(*LuContext::instance())
+{
+    initResources();
+    if (!previous)
+        previous = qInstallMessageHandler(keepWarnings);
+    lumenQmlInit(&engine);
+    static const bool registered = [] {
+        if (qmlTypeId("LumenDesk", 1, 0, "LuVCPNode") < 0)
+            qmlRegisterUncreatableType<FakeMode>("LumenDesk", 1, 0, "LuVCPNode", u"double"_s);
+        return true;
+    }();
+    Q_UNUSED(registered)
+    bridge = std::make_unique<LuWindowBridge>(&engine);
+    context.setReducedMotion(true);
+    context.setTheme(u"light"_s);
+    context.setWidgetUrlSource([](QObject*) { return widgetUrls(); });
+    QObject::connect(&context, &LuContext::currentMonitorChanged, &engine, [this] {
+        const QList<QObject*> all = context.monitors();
+        for (QObject* monitor : all)
+            monitor->setProperty("isCurrentModel", monitor == context.currentMonitor());
+    });
+    QList<QObject*> list;
+    for (FakeMonitor* monitor : monitors)
+        list << monitor;
+    context.setMonitors(list);
+    engine.load(lumenMainWindowUrl());
+}
+
+Shell::~Shell()
+{
+    if (window())
+        window()->hide();
+    context.setMonitors({});
+}
+
+QQuickWindow* Shell::window() const
+{
+    return context.mainWindow();
+}
+
+QQuickItem* Shell::widget(const char* name) const
+{
+    return item(QString::fromLatin1(name));
+}
+
+QQuickItem* Shell::item(const QString& objectName) const
+{
+    const QList<QWindow*> windows = QGuiApplication::topLevelWindows();
+    for (QWindow* one : windows)
+    {
+        auto* quick = qobject_cast<QQuickWindow*>(one);
+        if (!quick || !quick->isVisible())
+            continue;
+        if (QQuickItem* found = itemBelow(quick->contentItem(), objectName))
+            return found;
+    }
+    return nullptr;
+}
+
+QStringList Shell::takeWarnings()
+{
+    return std::exchange(logged, {});
+}
+
+QList<QUrl> Shell::widgetUrls()
+{
+    const QStringList names{u"LuVolumeWidget"_s, u"LuAutoPivotWidget"_s, u"LuPivotWidget"_s, u"LuAiContrastWidget"_s};
+    QList<QUrl> urls;
+    for (const QString& name : names)
+        urls << QUrl(u"qrc:///TKPackage/qml/TKPackage/Widgets/%1.qml"_s.arg(name));
+    return urls;
+}

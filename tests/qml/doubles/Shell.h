@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "LuContext.h"
+#include "LuWindowBridge.h"
+#include "Monitor.h"
+
+#include <QQmlApplicationEngine>
+#include <QQuickWindow>
+
+#include <memory>
+
+/// A running shell on doubles: engine, main window, bridge. Made anew by each test.
+class Shell
+{
+public:
+    /// @param monitors become the connected monitors; the first is current.
+    explicit Shell(const QList<FakeMonitor*>& monitors);
+    ~Shell();
+
+    QQuickWindow* window() const;
+    /// A widget's item, or null.
+    QQuickItem* widget(const char* name) const;
+    /// A visible item of that object name in any window, or null.
+    QQuickItem* item(const QString& objectName) const;
+    /// All warnings so far, of the engine and of the message log, and forgets them.
+    static QStringList takeWarnings();
+    /// Takes part of the widgets that the package lists.
+    static QList<QUrl> widgetUrls();
+
+    LuContext& context;
+    QQmlApplicationEngine engine;
+    std::unique_ptr<LuWindowBridge> bridge;
+};
