@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "resolution_table.h"
 #include "schema_reader.h"
 #include "shortcut_tables.h"
 
@@ -55,8 +56,8 @@ private slots:
     void anUnclosedEntryEndsInAnErrorAfterTheLastOne_data();
     void anUnclosedEntryEndsInAnErrorAfterTheLastOne();
     void resolutionTableHas54DifferentRows();
-    void aComputerGetsItsSizes_data();
-    void aComputerGetsItsSizes();
+    void aComputerGetsTheSizesOfItsDisplay_data();
+    void aComputerGetsTheSizesOfItsDisplay();
     void onlyTheOddRowsAreOdd();
 };
 
@@ -224,31 +225,33 @@ void tst_SchemaTables::resolutionTableHas54DifferentRows()
         identifiers << row["Identifier"_L1];
     QCOMPARE(identifiers.size(), 54);
     QCOMPARE(identifiers.removeDuplicates(), 0);
+    QStringList wanted;
+    for (const Display& display : displays) {
+        if (!display.sizes.isEmpty())
+            wanted << QString(display.computers).split(u'|');
+    }
+    identifiers.sort();
+    wanted.sort();
+    QCOMPARE(identifiers, wanted);
 }
 
-void tst_SchemaTables::aComputerGetsItsSizes_data()
+void tst_SchemaTables::aComputerGetsTheSizesOfItsDisplay_data()
 {
-    QTest::addColumn<QList<QSize>>("sizes");
-    const QList<QSize> laptop16{{1168, 755}, {1312, 848}, {1496, 967}, {1728, 1117}, {2056, 1329}};
-    QTest::newRow("MacBookAir7,2") << QList<QSize>{{1024, 640}, {1152, 720}, {1280, 800}, {1440, 900}};
-    QTest::newRow("MacBookPro16,1") << QList<QSize>{
-        {1152, 720}, {1344, 840}, {1536, 960}, {1792, 1120}, {2048, 1280}};
-    QTest::newRow("MacBookPro18,2") << laptop16;
-    QTest::newRow("MacBookPro18,1") << QList<QSize>();
-    QTest::newRow("MacBookPro18,1 ") << laptop16;
-    QTest::newRow("Mac15,11") << QList<QSize>();
-    QTest::newRow("Mac15,11 ") << laptop16;
-    QTest::newRow("Mac15,12") << QList<QSize>{{1024, 666}, {1280, 832}, {1470, 956}, {1710, 1112}};
-    QTest::newRow("Mac15,13") << QList<QSize>{{1440, 932}};
-    QTest::newRow("Mac14,15") << QList<QSize>{{1280, 828}, {1440, 932}, {1710, 1107}, {1920, 1243}};
-    QTest::newRow("iMac19,1") << QList<QSize>{
-        {1600, 900}, {2048, 1152}, {2560, 1440}, {2880, 1620}, {3200, 1800}};
-    QTest::newRow("Mac99,9") << QList<QSize>();
+    QTest::addColumn<QString>("computers");
+    QTest::addColumn<QString>("sizes");
+    for (const Display& display : displays)
+        QTest::newRow(display.name) << QString(display.computers) << QString(display.sizes);
 }
 
-void tst_SchemaTables::aComputerGetsItsSizes()
+void tst_SchemaTables::aComputerGetsTheSizesOfItsDisplay()
 {
-    QTEST(resolutionsOf(QString::fromLatin1(QTest::currentDataTag())), "sizes");
+    QFETCH(QString, computers);
+    for (const QString& computer : computers.split(u'|')) {
+        QStringList sizes;
+        for (const QSize& size : resolutionsOf(computer))
+            sizes << u"%1x%2"_s.arg(size.width()).arg(size.height());
+        QTEST(sizes.join(u' '), "sizes");
+    }
 }
 
 void tst_SchemaTables::onlyTheOddRowsAreOdd()
