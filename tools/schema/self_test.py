@@ -151,7 +151,7 @@ DAMAGES = [
      "osd-hint", "AMA"),
     ("a language too few", MENU, swap(ENGLISH, ""), "osd-languages", "20"),
 
-    ("a row too few", SIZES, swap('    <Model Identifier="MacBook8,1" Resolutions="1024x640, 1280x800, 1440x900"/>\n', ""),
+    ("a row too few", SIZES, swap('  <Model Identifier="MacBook8,1" Resolutions="1024x640, 1280x800, 1440x900"/>\n', ""),
      "xsd", "Model"),
     ("an identifier twice", SIZES, swap('"MacBook9,1"', '"MacBook8,1"'), "xsd", "Duplicate"),
     ("an identifier of no such computer", SIZES, swap('"MacBook9,1"', '"MacBook9"'), "xsd", "MacBook9"),
@@ -165,8 +165,8 @@ DAMAGES = [
     ("sizes out of order", SIZES, swap("1024x640, 1280x800", "1280x800, 1024x640"), "resolution-order", "MacBook8,1"),
     ("a size in portrait", SIZES, swap("1024x640", "640x1024"), "resolution-order", "MacBook8,1"),
 
-    ("closed entries", KEYS, swap('">\n    <Entry', '"/>\n    <Entry'), "shortcuts-unclosed", "unclosed"),
-    ("a shortcut file put right", KEYS, raw(lambda b: b.replace(b'">\n    <Entry', b'"/>\n    <Entry')
+    ("closed entries", KEYS, swap('">\n  <Entry', '"/>\n  <Entry'), "shortcuts-unclosed", "unclosed"),
+    ("a shortcut file put right", KEYS, raw(lambda b: b.replace(b'">\n  <Entry', b'"/>\n  <Entry')
      .replace(b'">\n</Osd', b'"/>\n</Osd')), "shortcuts-unclosed", "unclosed"),
     ("an error half way", KEYS, swap("<Entry Name=\"Kvm", "<<Entry Name=\"Kvm"), "shortcuts-end", "as far as"),
     ("text after the root", KEYS, swap("</OsdSetting>", "</OsdSetting><!-- end -->"), "shortcuts-end", "as far as"),
