@@ -44,24 +44,25 @@ void JobQueue::insert(std::unique_ptr<QueuedJob> job)
 {
     QueuedJob* plain = job.get();
     plain->number = ++m_number;
-    m_index.emplace(Identity{plain->context, plain->key}, plain);
+    m_index.emplace(Identity(plain->context, plain->key, plain->number), plain);
     jobs(plain->lane).emplace(Slot(plain->due, plain->number), std::move(job));
 }
 
 std::unique_ptr<QueuedJob> JobQueue::take(const QueuedJob* job)
 {
-    const auto [begin, end] = m_index.equal_range(Identity{job->context, job->key});
-    const auto entry = std::find_if(begin, end, [job](const auto& pair) { return pair.second == job; });
-    m_index.erase(entry);
+    m_index.erase(Identity(job->context, job->key, job->number));
     auto node = jobs(job->lane).extract(Slot(job->due, job->number));
     return std::move(node.mapped());
 }
 
-JobQueue::Dropped JobQueue::takeAll(const Identity& identity)
+JobQueue::Dropped JobQueue::takeAll(const QObject* context, const QString& key)
 {
-    std::vector<QueuedJob*> found;
-    const auto [begin, end] = m_index.equal_range(identity);
-    std::transform(begin, end, std::back_inserter(found), [](const auto& pair) { return pair.second; });
+    std::vector<const QueuedJob*> found;
+    for (auto it = m_index.lower_bound(Identity(context, key, 0)); it != m_index.end(); ++it) {
+        if (it->second->context != context || it->second->key != key)
+            break;
+        found.push_back(it->second);
+    }
     Dropped dropped;
     for (const QueuedJob* job : found)
         dropped.push_back(take(job));
@@ -103,7 +104,7 @@ void JobQueue::post(QueuedJob job, bool unique)
         if (m_closed)
             return;
         if (unique)
-            dropped = takeAll(Identity{context, owned->key});
+            dropped = takeAll(context, owned->key);
         insert(std::move(owned));
         if (!background)
             ++m_activity;
@@ -118,7 +119,8 @@ void JobQueue::post(QueuedJob job, bool unique)
 bool JobQueue::has(QObject* context, const QString& key) const
 {
     const std::lock_guard lock(m_mutex);
-    return m_index.contains(Identity{context, key});
+    const auto it = m_index.lower_bound(Identity(context, key, 0));
+    return it != m_index.end() && it->second->context == context && it->second->key == key;
 }
 
 void JobQueue::remove(QObject* context, const QString& key, bool waitForRunning)
@@ -126,7 +128,7 @@ void JobQueue::remove(QObject* context, const QString& key, bool waitForRunning)
     Dropped dropped;
     {
         std::unique_lock lock(m_mutex);
-        dropped = takeAll(Identity{context, key});
+        dropped = takeAll(context, key);
         const QueuedJob* running = m_running.job;
         if (waitForRunning && running && running->context == context && running->key == key)
             waitForJob(lock, running);

@@ -16,7 +16,7 @@
 #include <mutex>
 #include <optional>
 #include <thread>
-#include <unordered_map>
+#include <tuple>
 #include <unordered_set>
 #include <vector>
 
@@ -93,19 +93,9 @@ private:
     using Slot = std::pair<qint64, quint64>;
     using Jobs = std::map<Slot, std::unique_ptr<QueuedJob>>;
     using Dropped = std::vector<std::unique_ptr<QueuedJob>>;
-    struct Identity
-    {
-        const QObject* context;
-        QString key;
-        bool operator==(const Identity&) const = default;
-    };
-    struct IdentityHash
-    {
-        std::size_t operator()(const Identity& identity) const
-        {
-            return qHash(identity.key, std::hash<const void*>()(identity.context));
-        }
-    };
+    /// Context, key and number: the jobs of one context and key lie beside each other.
+    using Identity = std::tuple<const QObject*, QString, quint64>;
+    using Index = std::map<Identity, QueuedJob*>;
     struct Running
     {
         const QueuedJob* job = nullptr;
@@ -118,7 +108,7 @@ private:
     const Jobs& jobs(Lane lane) const { return m_jobs[static_cast<std::size_t>(lane)]; }
     void insert(std::unique_ptr<QueuedJob> job);
     std::unique_ptr<QueuedJob> take(const QueuedJob* job);
-    Dropped takeAll(const Identity& identity);
+    Dropped takeAll(const QObject* context, const QString& key);
     Dropped takeEverything();
     void moveDue(const ClockReading& now);
     bool runNext(std::unique_lock<std::mutex>& lock);
@@ -133,7 +123,7 @@ private:
     mutable std::mutex m_mutex;
     std::condition_variable m_condition;
     std::array<Jobs, LaneCount> m_jobs;
-    std::unordered_multimap<Identity, QueuedJob*, IdentityHash> m_index;
+    Index m_index;
     std::unordered_set<QObject*> m_contexts;
     Running m_running;
     quint64 m_number = 0;

@@ -18,7 +18,7 @@ namespace zr {
 
 namespace {
 
-// Below every priority that events have in practice: such an event comes when no other is left.
+// Below every priority that events have in practice.
 constexpr int ProbePriority = -1000;
 
 struct Main
@@ -37,16 +37,18 @@ Main& mainState()
 class ProbeEvent : public QEvent
 {
 public:
-    explicit ProbeEvent(quint64 number) : QEvent(eventType()), m_number(number) {}
+    ProbeEvent(quint64 number, bool second) : QEvent(eventType()), m_number(number), m_second(second) {}
     static Type eventType()
     {
         static const int type = registerEventType();
         return static_cast<Type>(type);
     }
     quint64 number() const { return m_number; }
+    bool isSecond() const { return m_second; }
 
 private:
     quint64 m_number;
+    bool m_second;
 };
 
 void detach()
@@ -140,14 +142,20 @@ void MainDriver::requestWake()
 
 void MainDriver::probe(quint64 number)
 {
-    QCoreApplication::postEvent(this, new ProbeEvent(number), ProbePriority);
+    QCoreApplication::postEvent(this, new ProbeEvent(number, false), ProbePriority);
 }
 
 bool MainDriver::event(QEvent* event)
 {
     if (event->type() != ProbeEvent::eventType())
         return QObject::event(event);
-    IdleHub::instance().probed(static_cast<ProbeEvent*>(event)->number());
+    // What is posted while Qt delivers a batch of events goes behind that batch, whatever its priority: only
+    // a probe that is posted inside the batch itself comes behind the events that follow from it.
+    const auto* const arrived = static_cast<ProbeEvent*>(event);
+    if (arrived->isSecond())
+        IdleHub::instance().probed(arrived->number());
+    else
+        QCoreApplication::postEvent(this, new ProbeEvent(arrived->number(), true), ProbePriority);
     return true;
 }
 
