@@ -34,7 +34,7 @@ bool MonitorInfo::isSimulated() const
 
 QString MonitorInfo::screenName() const
 {
-    return d->description().screenName;
+    return d->link().screenName();
 }
 
 QString MonitorInfo::nativeHandle() const

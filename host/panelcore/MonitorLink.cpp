@@ -3,6 +3,7 @@
 
 #include "MonitorInfoPrivate.h"
 
+#include <ZrCore/ZrShared.h>
 #include <ddc/Transactor.h>
 
 #include <QDate>
@@ -56,6 +57,8 @@ struct MonitorLink::Private
     std::unique_ptr<ddc::Transactor> transactor; ///< Null where there is no bus.
     std::atomic<int> silentCalls{0};
     std::atomic<int> probedMode{NotProbed};
+    ZrShared<QString> screenName;
+    std::function<void()> screenObserver;
 
     bool note(ddc::Error error)
     {
@@ -82,6 +85,7 @@ QSharedPointer<MonitorInfo> MonitorLink::create(const MonitorDescription& descri
                                                 Waits waits)
 {
     std::unique_ptr<MonitorLink> link(new MonitorLink(std::move(bus), waits));
+    link->d->screenName = description.screenName;
     return QSharedPointer<MonitorInfo>::create(
         std::make_unique<MonitorInfoPrivate>(description, std::move(link)));
 }
@@ -129,6 +133,22 @@ void MonitorLink::setWriteDelays(const QHash<int, int>& delays)
             table.emplace(std::uint8_t(it.key()), ddc::Transactor::Ms(it.value()));
     }
     d->transactor->setWriteDelays(table);
+}
+
+void MonitorLink::setScreenName(const QString& name)
+{
+    if (d->screenName.set(name) && d->screenObserver)
+        d->screenObserver();
+}
+
+QString MonitorLink::screenName() const
+{
+    return d->screenName;
+}
+
+void MonitorLink::setScreenObserver(std::function<void()> observer)
+{
+    d->screenObserver = std::move(observer);
 }
 
 void MonitorLink::cancel()

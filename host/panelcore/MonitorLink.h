@@ -54,6 +54,12 @@ public:
     /// Waits after writes of listed codes, in ms.
     void setWriteDelays(const QHash<int, int>& delays);
 
+    /// The screen that shows on the monitor, by QScreen::name(); empty while none does. GUI thread.
+    void setScreenName(const QString& name);
+    QString screenName() const;
+    /// Called on the GUI thread after setScreenName() brought another name.
+    void setScreenObserver(std::function<void()> observer);
+
     /// Everything in progress ends soon and every later transfer fails: the monitor is gone.
     void cancel();
 

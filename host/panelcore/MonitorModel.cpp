@@ -57,10 +57,14 @@ MonitorModel::MonitorModel(QObject* parent, QSharedPointer<MonitorInfo> info)
         return;
     connect(qGuiApp, &QGuiApplication::screenAdded, this, [this] { d->findScreen(); });
     connect(qGuiApp, &QGuiApplication::screenRemoved, this, [this] { d->findScreen(); });
+    MonitorLink::of(*d->info).setScreenObserver([this] { d->findScreen(); });
     d->findScreen();
 }
 
-MonitorModel::~MonitorModel() = default;
+MonitorModel::~MonitorModel()
+{
+    MonitorLink::of(*d->info).setScreenObserver({});
+}
 
 QString MonitorModel::modelName() const
 {

@@ -1,0 +1,54 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: Apache-2.0
+# Installs what is missing, builds Lumen Desk and starts it. Arguments go to the program.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")"
+source tools/setup/packages.sh
+
+ensure_packages "${run_packages[@]}"
+
+echo "Building (build/release) ..."
+[ -f build/release/build.ninja ] || cmake --preset release -DLUMEN_WERROR=OFF -DLUMEN_PROGRAM_ONLY=ON >/dev/null
+cmake --build --preset release
+
+program=build/release/bin/lumen-desk
+if [ $# -gt 0 ]; then
+  exec "$program" "$@"
+fi
+
+# Real monitors come with their own transport; until a supported one is found the session is simulated.
+session=(--simulate TK30Z)
+if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
+  echo "Starting on a simulated TK30Z. Change the monitor from another terminal, for instance:"
+  echo "  build/release/bin/lumen-deskctl sim set 0xF3 1"
+  exec "$program" "${session[@]}"
+fi
+
+picture=$PWD/build/lumen-desk.png
+echo "There is no display server: the session runs off-screen on a simulated TK30Z."
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+socket=$work/run/control.sock
+"$program" "${session[@]}" --control "$socket" --config-dir "$work/config" --data-dir "$work/data" 2>"$work/log" &
+pid=$!
+ctl() { build/release/bin/lumen-deskctl --control "$socket" "$@"; }
+for _ in $(seq 100); do
+  ctl monitors >/dev/null 2>&1 && break
+  kill -0 "$pid" 2>/dev/null || { cat "$work/log" >&2; exit 1; }
+  sleep 0.1
+done
+echo "The monitor:"
+ctl monitors
+echo "A click on the tile \"Local Contrast\" ..."
+ctl ui press "Local Contrast"
+ctl raw idle '{}' >/dev/null
+echo "... went over the wire as:"
+ctl sim traffic | tail -n 3
+echo "The monitor's own menu switches it off again; the tile follows:"
+ctl sim set 0xF3 0
+ctl sync
+ctl get aiContrast.state
+ctl ui screenshot "$picture"
+kill -TERM "$pid"
+wait "$pid"
+echo "A picture of the window: $picture"

@@ -1,0 +1,51 @@
+# SPDX-License-Identifier: Apache-2.0
+# shellcheck shell=bash
+# Debian packages that the scripts need; sourced by run.sh and test.sh.
+
+# To build and run the program.
+run_packages=(
+  build-essential cmake ninja-build ccache pkg-config
+  qt6-base-dev qt6-base-dev-tools qt6-declarative-dev qt6-declarative-dev-tools qt6-multimedia-dev
+  qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-5compat-dev libqt6svg6-dev libqt6svg6
+  libgl-dev libvulkan-dev libxkbcommon-dev libegl-dev
+  qml6-module-qtquick qml6-module-qtquick-controls qml6-module-qtquick-templates qml6-module-qtquick-layouts
+  qml6-module-qtquick-window qml6-module-qtquick-shapes qml6-module-qtqml qml6-module-qtqml-models
+  qml6-module-qtqml-workerscript qml6-module-qt-labs-platform qml6-module-qt-labs-qmlmodels
+  qml6-module-qt-labs-folderlistmodel qml6-module-qt5compat-graphicaleffects
+  fonts-inter fonts-noto-core
+)
+
+# To run every test.
+test_packages=(
+  python3 libxml2-utils libbenchmark-dev xvfb xauth
+)
+
+# Installs what is missing of the packages that it is given. Needs root or sudo only if something is missing.
+ensure_packages() {
+  local missing=() package
+  for package in "$@"; do
+    dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'install ok installed' || missing+=("$package")
+  done
+  [ ${#missing[@]} -eq 0 ] && return 0
+  local root=()
+  if [ "$(id -u)" -ne 0 ]; then
+    command -v sudo >/dev/null || {
+      echo "These packages are missing and there is no sudo to install them: ${missing[*]}" >&2
+      return 1
+    }
+    root=(sudo)
+  fi
+  echo "Installing: ${missing[*]}"
+  "${root[@]}" apt-get update -qq || echo "The package lists could not be refreshed; trying with the old ones." >&2
+  # A package that this release does not have under this name is left out: another one of the list brings its files.
+  local known=()
+  for package in "${missing[@]}"; do
+    if apt-cache show "$package" >/dev/null 2>&1; then
+      known+=("$package")
+    else
+      echo "This release has no package $package; going on without it."
+    fi
+  done
+  [ ${#known[@]} -eq 0 ] ||
+    DEBIAN_FRONTEND=noninteractive "${root[@]}" apt-get install -y -qq --no-install-recommends "${known[@]}" >/dev/null
+}
