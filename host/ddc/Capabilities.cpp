@@ -2,7 +2,6 @@
 #include "Capabilities.h"
 
 #include <algorithm>
-#include <optional>
 
 namespace ddc {
 
@@ -143,7 +142,7 @@ Capabilities::Code& codeEntry(std::vector<Capabilities::Code>& vcp, std::uint8_t
 
 void parseVcp(std::string_view content, std::vector<Capabilities::Code>& vcp)
 {
-    std::optional<std::uint8_t> last;
+    int last = -1; // The code that a group of values belongs to; none after garbage.
     Scanner scan(content);
     for (scan.skipBlanks(); !scan.atEnd(); scan.skipBlanks()) {
         if (scan.peek() == ')') {
@@ -152,10 +151,10 @@ void parseVcp(std::string_view content, std::vector<Capabilities::Code>& vcp)
             std::string_view values;
             scan.skip();
             scan.group(values);
-            if (last)
-                addOnce(codeEntry(vcp, *last).values, byteList(values));
+            if (last >= 0)
+                addOnce(codeEntry(vcp, std::uint8_t(last)).values, byteList(values));
         } else {
-            last.reset();
+            last = -1;
             for (const std::uint8_t code : hexBytes(scan.word()))
                 last = codeEntry(vcp, code).code;
         }
