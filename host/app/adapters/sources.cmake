@@ -1,0 +1,7 @@
+# SPDX-License-Identifier: Apache-2.0
+# Methods of the control socket that reach the simulator, the session and the windows.
+set(LUMEN_ADAPTER_SOURCES
+  adapters/ClockMethods.cpp
+  adapters/ServiceMethods.cpp
+  adapters/SimulatorMethods.cpp
+  adapters/WindowMethods.cpp)
