@@ -132,8 +132,8 @@ public:
     /// cut.
     void setLearnt(const LearntWaits& waits);
 
-    /// The source of the ledger's days, such as days since 1970 in local time; null, the default, counts in UTC. It
-    /// is called on threads that write and by statistics().
+    /// The source of the ledger's days, such as days since 1970 in local time; null, the default, counts in
+    /// UTC. It is called on threads that write and by statistics().
     void setDayOf(std::function<std::int64_t()> dayOf);
 
     /// Null for none. A transfer in progress may still report to the observer of before.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "FakeWire.h"
 
+#include <QDeadlineTimer>
 #include <QTest>
 
 #include <atomic>
@@ -292,24 +293,36 @@ void TestDdcThreads::settingsAndCountersMayBeTouchedMeanwhile()
     Bench bench;
     bench.wire->answer = [](const Bytes&) { return fifty(); };
     std::atomic<bool> stop{false};
+    std::atomic<int> answered{0};
     std::thread worker([&] {
         while (!stop) {
-            bench.monitor.getVcp(0x10);
+            answered += bench.monitor.getVcp(0x10).error == Error::None;
             bench.monitor.setVcp(0x10, 1);
         }
     });
-    for (int i = 0; i < 300; ++i) {
+    std::thread reader([&] {
+        while (!stop)
+            bench.monitor.statistics();
+    });
+    // Both sides go on until ThreadSanitizer has had the chance to see them side by side.
+    const QDeadlineTimer patience(std::chrono::seconds(30));
+    for (int i = 0; (i < 300 || answered < 1500) && !patience.hasExpired(); ++i) {
         bench.monitor.setWriteDelays({{0x10, Ms(i)}});
         bench.monitor.setLearnt({Ms(41), Ms(51)});
         bench.monitor.setObserver(nullptr);
         bench.monitor.setDayOf([i] { return std::int64_t(i); });
-        QCOMPARE(bench.monitor.learnt().afterSet, Ms(51));
-        QCOMPARE(bench.monitor.statistics().day, i);
-        bench.monitor.cancel();
-        bench.monitor.revive();
+        if (bench.monitor.learnt().afterSet != Ms(51) || bench.monitor.statistics().day != i)
+            break;
+        if (i % 20 == 0) {
+            bench.monitor.cancel();
+            bench.monitor.revive();
+        }
     }
     stop = true;
     worker.join();
+    reader.join();
+    QVERIFY(answered >= 1500);
+    QCOMPARE(bench.monitor.learnt().afterSet, Ms(51));
     QVERIFY(bench.monitor.getVcp(0x10));
 }
 
