@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "services/simulated/AudioDevices.h"
+
+#include <QByteArray>
+#include <QLoggingCategory>
+
+#include <cstring>
+#include <map>
+#include <new>
+#include <tuple>
+
+namespace services {
+
+// Qt makes audio devices in its sound back ends only; the class that holds a device's data is private, in a
+// header that distributions do not install, and its members changed their order between versions. What all
+// versions share is the beginning: virtual table, reference count, id, mode. The places of the name and of
+// the default mark are found out once, by writing to a zeroed block and asking the public functions of
+// QAudioDevice. A block is zero wherever it was not written, and a zeroed QString is a null string, so that
+// asking is safe whatever the layout. Blocks are kept for good and their reference count never falls to zero,
+// so the virtual table is never used.
+namespace {
+
+constexpr std::size_t blockSize = 1024;
+constexpr std::size_t searchEnd = 512;
+constexpr std::size_t referenceOffset = sizeof(void*);
+constexpr std::size_t idOffset = 2 * sizeof(void*);
+constexpr std::size_t modeOffset = idOffset + sizeof(QByteArray);
+constexpr std::size_t searchStart = modeOffset + sizeof(int);
+constexpr int everReferenced = 1 << 24;
+
+struct alignas(16) Block
+{
+    unsigned char bytes[blockSize] = {};
+};
+
+struct Layout
+{
+    std::size_t name = 0;
+    std::size_t isDefault = 0;
+
+    bool isKnown() const { return name != 0 && isDefault != 0; }
+};
+
+Block* newBlock(const QByteArray& id)
+{
+    static_assert(sizeof(QAudioDevice) == sizeof(void*));
+    auto* block = new Block;
+    const int mode = QAudioDevice::Output;
+    std::memcpy(block->bytes + referenceOffset, &everReferenced, sizeof everReferenced);
+    new (block->bytes + idOffset) QByteArray(id);
+    std::memcpy(block->bytes + modeOffset, &mode, sizeof mode);
+    return block;
+}
+
+QAudioDevice deviceOf(Block* block)
+{
+    QAudioDevice device;
+    std::memcpy(static_cast<void*>(&device), &block, sizeof block);
+    return device;
+}
+
+Layout findLayout()
+{
+    const QByteArray id = QByteArrayLiteral("probe");
+    const QString name = QStringLiteral("Probe");
+    static Block* const block = newBlock(id);
+    const QAudioDevice device = deviceOf(block);
+    Layout layout;
+    if (device.id() != id || device.mode() != QAudioDevice::Output)
+        return layout;
+
+    constexpr std::size_t step = alignof(QString);
+    for (std::size_t at = (searchStart + step - 1) / step * step; at < searchEnd && layout.name == 0;
+         at += step) {
+        auto* const text = new (block->bytes + at) QString(name);
+        if (device.description() == name)
+            layout.name = at;
+        text->~QString();
+        std::memset(block->bytes + at, 0, sizeof(QString));
+    }
+    for (std::size_t at = searchStart; at < searchEnd && layout.isDefault == 0; ++at) {
+        if (at >= layout.name && at < layout.name + sizeof(QString))
+            continue;
+        block->bytes[at] = 1;
+        if (device.isDefault())
+            layout.isDefault = at;
+        block->bytes[at] = 0;
+    }
+    return layout;
+}
+
+} // namespace
+
+QAudioDevice simulatedAudioDevice(const QString& id, const QString& name, bool isDefault)
+{
+    static const Layout layout = findLayout();
+    if (!layout.isKnown()) {
+        qWarning("Simulated audio outputs do not work with this version of Qt");
+        return {};
+    }
+    // Equal devices share a block, so that the number of blocks is that of the devices ever named.
+    static auto* const blocks = new std::map<std::tuple<QString, QString, bool>, Block*>;
+    Block*& block = (*blocks)[{id, name, isDefault}];
+    if (!block) {
+        block = newBlock(id.toUtf8());
+        new (block->bytes + layout.name) QString(name);
+        block->bytes[layout.isDefault] = isDefault;
+    }
+    return deviceOf(block);
+}
+
+} // namespace services
