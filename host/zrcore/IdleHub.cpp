@@ -98,7 +98,7 @@ void IdleHub::look()
     }
 }
 
-void IdleHub::probed(quint64 number)
+bool IdleHub::probed(quint64 number, bool second)
 {
     std::shared_ptr<Watcher> watcher;
     {
@@ -106,21 +106,26 @@ void IdleHub::probed(quint64 number)
         const auto found = std::find_if(m_watchers.begin(), m_watchers.end(),
                                         [number](const auto& other) { return other->probe == number; });
         if (found == m_watchers.end())
-            return;
+            return false;
         watcher = *found;
     }
     quint64 activity = 0;
     const bool rest = isAtRest(*watcher, &activity) && activity == watcher->activity;
-    if (!rest) {
+    if (rest && !second) {
+        watcher->delivered = m_delivered;
+        return true;
+    }
+    if (!rest || watcher->delivered != m_delivered) {
         {
             const std::lock_guard lock(m_mutex);
             watcher->probe = 0;
         }
         look();
-        return;
+        return false;
     }
     forget(watcher);
     watcher->done();
+    return false;
 }
 
 bool IdleHub::wait(const Queues& queues, qint64 timeoutMs)

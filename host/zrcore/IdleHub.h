@@ -20,9 +20,11 @@ using Queues = std::vector<std::shared_ptr<JobQueue>>;
 
 /// Those who wait until queues are at rest (ZrIdle), and the looks that decide it.
 ///
-/// A first look that finds rest notes the queues' activity and sends a probe behind all posted events of the
-/// main thread; a second look when it arrives decides. Without an application there are no posted events, and
-/// the two looks follow each other.
+/// A first look that finds rest notes the queues' activity and sends a probe behind the posted events of the
+/// main thread. Qt delivers events in batches, and what an event posts belongs to the next batch: so the
+/// probe is sent a second time when it arrives, and a second look after that decides. It finds rest when no
+/// posted event was delivered between the two, for then none can follow. Without an application the two looks
+/// follow each other.
 class IdleHub final : public ContextListener
 {
 public:
@@ -38,8 +40,11 @@ public:
 
     /// Looks for those who wait; main thread.
     void look();
-    /// The probe @p number has come back; main thread.
-    void probed(quint64 number);
+    /// The probe @p number has come for the first or the second time; main thread. Returns whether to send it
+    /// again.
+    bool probed(quint64 number, bool second);
+    /// A posted event was delivered; main thread.
+    void delivered() { ++m_delivered; }
 
     void contextGone(QObject* context) override;
 
@@ -51,7 +56,8 @@ private:
         QObject* context = nullptr;
         std::function<void()> done; ///< Called on the main thread without locks.
         quint64 activity = 0;
-        quint64 probe = 0; ///< On its way; 0 for none.
+        quint64 probe = 0;     ///< On its way; 0 for none.
+        quint64 delivered = 0; ///< Events at the first coming of the probe.
     };
     using Watchers = std::list<std::shared_ptr<Watcher>>;
 
@@ -68,6 +74,7 @@ private:
     std::condition_variable m_condition;
     Watchers m_watchers;
     quint64 m_probe = 0;
+    quint64 m_delivered = 0; ///< Main thread only.
     quint64 m_changes = 0;
 };
 

@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <mutex>
 #include <thread>
+#include <utility>
 
 namespace zr {
 
@@ -142,6 +143,9 @@ void MainDriver::requestWake()
 
 void MainDriver::probe(quint64 number)
 {
+    // From the first wait on the delivered events are counted.
+    if (!std::exchange(m_counting, true))
+        QCoreApplication::instance()->installEventFilter(this);
     QCoreApplication::postEvent(this, new ProbeEvent(number, false), ProbePriority);
 }
 
@@ -149,14 +153,21 @@ bool MainDriver::event(QEvent* event)
 {
     if (event->type() != ProbeEvent::eventType())
         return QObject::event(event);
-    // What is posted while Qt delivers a batch of events goes behind that batch, whatever its priority: only
-    // a probe that is posted inside the batch itself comes behind the events that follow from it.
     const auto* const arrived = static_cast<ProbeEvent*>(event);
-    if (arrived->isSecond())
-        IdleHub::instance().probed(arrived->number());
-    else
-        QCoreApplication::postEvent(this, new ProbeEvent(arrived->number(), true), ProbePriority);
+    const quint64 number = arrived->number();
+    if (IdleHub::instance().probed(number, arrived->isSecond()))
+        QCoreApplication::postEvent(this, new ProbeEvent(number, true), ProbePriority);
     return true;
+}
+
+bool MainDriver::eventFilter(QObject* receiver, QEvent* event)
+{
+    if (receiver == this)
+        return false;
+    const QEvent::Type type = event->type();
+    if (type == QEvent::MetaCall || type == QEvent::DeferredDelete || type >= QEvent::User)
+        IdleHub::instance().delivered();
+    return false;
 }
 
 void MainDriver::timerEvent(QTimerEvent* event)

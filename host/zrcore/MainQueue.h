@@ -42,6 +42,7 @@ public:
 
 protected:
     bool event(QEvent* event) override;
+    bool eventFilter(QObject* receiver, QEvent* event) override;
     void timerEvent(QTimerEvent* event) override;
 
 private:
@@ -49,6 +50,7 @@ private:
     void rearm();
 
     std::atomic<bool> m_wakePosted = false;
+    bool m_counting = false;
     QBasicTimer m_timer;
 };
 

@@ -8,11 +8,16 @@
 // reported.
 int main()
 {
-    static int counter = 0;
+    static volatile int counter = 0;
+    std::atomic<int> begun = 0;
     std::atomic<int> ended = 0;
     ZrDispatch first(QStringLiteral("first"));
     ZrDispatch second(QStringLiteral("second"));
-    const auto count = [&ended] {
+    const auto count = [&begun, &ended] {
+        // Side by side: one after the other the queues' own locks would order them.
+        ++begun;
+        while (begun != 2)
+            std::this_thread::yield();
         for (int i = 0; i < 10'000; ++i)
             counter = counter + 1;
         ++ended;
