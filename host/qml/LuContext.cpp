@@ -180,6 +180,14 @@ bool LuContext::canPlaceWindows() const
     return !QGuiApplication::platformName().startsWith("wayland"_L1);
 }
 
+void LuContext::setTranslucentWindows(bool on)
+{
+    if (on == m_translucentWindows)
+        return;
+    m_translucentWindows = on;
+    Q_EMIT translucentWindowsChanged();
+}
+
 void LuContext::setTheme(const QString& theme)
 {
     if (theme == m_theme)
@@ -243,6 +251,16 @@ void LuContext::setFontScale(double scale)
     Q_EMIT fontScaleChanged();
 }
 
+QString LuContext::fontFamily() const
+{
+    // Asks for one match; a list of all families would cost the start of the program.
+    static const QString family = [] {
+        const QString wanted = u"Inter"_s;
+        return QFontInfo(QFont(wanted)).family() == wanted ? wanted : QGuiApplication::font().family();
+    }();
+    return family;
+}
+
 void LuContext::setEnvironment(Lookup values, Lookup choices)
 {
     m_values = std::move(values);
@@ -295,10 +313,10 @@ bool LuContext::exists(const QUrl& url) const
     return !path.isEmpty() && QFile::exists(path);
 }
 
-QRect LuContext::availableGeometry(QWindow* window) const
+QRectF LuContext::availableGeometry(QWindow* window) const
 {
     const QScreen* screen = window && window->screen() ? window->screen() : QGuiApplication::primaryScreen();
-    return screen ? screen->availableGeometry() : QRect();
+    return screen ? QRectF(screen->availableGeometry()) : QRectF();
 }
 
 QString LuContext::monitorFacts(QObject* monitor) const

@@ -7,7 +7,7 @@
 #include <QObject>
 #include <QPointer>
 #include <QQuickWindow>
-#include <QRect>
+#include <QRectF>
 #include <QSet>
 #include <QString>
 #include <QUrl>
@@ -35,11 +35,14 @@ class LuContext : public QObject
     Q_PROPERTY(bool isLinux READ isLinux CONSTANT)
     Q_PROPERTY(bool windowsLayout READ windowsLayout CONSTANT)
     Q_PROPERTY(bool canPlaceWindows READ canPlaceWindows CONSTANT)
+    Q_PROPERTY(bool translucentWindows READ translucentWindows WRITE setTranslucentWindows NOTIFY
+                   translucentWindowsChanged)
     Q_PROPERTY(QString theme READ theme WRITE setTheme NOTIFY themeChanged)
     Q_PROPERTY(QString colorScheme READ colorScheme NOTIFY colorSchemeChanged)
     Q_PROPERTY(bool highContrast READ highContrast WRITE setHighContrast NOTIFY highContrastChanged)
     Q_PROPERTY(bool reducedMotion READ reducedMotion WRITE setReducedMotion NOTIFY reducedMotionChanged)
     Q_PROPERTY(double fontScale READ fontScale WRITE setFontScale NOTIFY fontScaleChanged)
+    Q_PROPERTY(QString fontFamily READ fontFamily CONSTANT)
 
 public:
     using Lookup = std::function<QVariant(const QString& key)>;
@@ -74,6 +77,9 @@ public:
     bool windowsLayout() const { return !isMacOS(); }
     /// False where a client may not position its own windows (Wayland).
     bool canPlaceWindows() const;
+    /// Whether a window may have see-through corners: not where nothing composes the desktop.
+    bool translucentWindows() const { return m_translucentWindows; }
+    void setTranslucentWindows(bool on);
 
     /// "system", "light" or "dark".
     QString theme() const { return m_theme; }
@@ -88,6 +94,9 @@ public:
     double fontScale() const { return m_fontScale; }
     void setFontScale(double scale);
 
+    /// The family that the window is drawn in: Inter where it is installed, else the desktop's.
+    QString fontFamily() const;
+
     /// @param values looks a key up for env(), @p choices for envDeviceChoice(); an invalid result means "not there".
     void setEnvironment(Lookup values, Lookup choices);
     /// The screen that shows a monitor; without it the facts leave the resolution out.
@@ -101,7 +110,7 @@ public:
     /// Whether the file of a "qrc:" or "file:" URL is there.
     Q_INVOKABLE bool exists(const QUrl& url) const;
     /// The part of the screen that windows may cover, for the screen that @p window is on.
-    Q_INVOKABLE QRect availableGeometry(QWindow* window) const;
+    Q_INVOKABLE QRectF availableGeometry(QWindow* window) const;
     /// A short line under the monitor's name: size and rate of its screen, serial number.
     Q_INVOKABLE QString monitorFacts(QObject* monitor) const;
     /// WCAG contrast ratio of two opaque colours, 1 to 21.
@@ -113,6 +122,7 @@ Q_SIGNALS:
     void widgetUrlsChanged();
     void mainWindowChanged();
     void multiMonitorSyncControlChanged();
+    void translucentWindowsChanged();
     void themeChanged();
     void colorSchemeChanged();
     void highContrastChanged();
@@ -140,6 +150,7 @@ private:
     QPointer<QObject> m_multiMonitorSyncControl;
     QString m_theme;
     QString m_colorScheme;
+    bool m_translucentWindows = true;
     bool m_highContrast = false;
     bool m_reducedMotion = false;
     double m_fontScale = 1;

@@ -10,6 +10,9 @@
 #include <QKeyEvent>
 #include <QKeySequence>
 #include <QMouseEvent>
+#include <QPainter>
+#include <QPainterPath>
+#include <QPointer>
 #include <QQmlEngine>
 #include <QQmlError>
 #include <QQuickItem>
@@ -20,6 +23,9 @@
 using namespace Qt::StringLiterals;
 
 namespace {
+
+// As LuStyle.radiusWindow.
+constexpr double CornerRadius = 14;
 
 LuWindowBridge::Result failure(int code, const QString& message)
 {
@@ -45,6 +51,43 @@ bool isTypeOf(const QObject* object, const QString& type)
 {
     const QString name = QString::fromLatin1(object->metaObject()->className());
     return object->objectName() == type || name == type || name.startsWith(type + "_QML"_L1);
+}
+
+// A picture of the window as it is once its layout has settled: a first drawing lays out, which may change the window's
+// size, and a window that has just been made learns its size from an event that is still on its way.
+QImage settledImage(QQuickWindow* window)
+{
+    constexpr int Rounds = 4;
+    QImage image;
+    for (int round = 0; round < Rounds; ++round)
+    {
+        const QSize before = window->size();
+        window->contentItem()->setSize(before);
+        image = window->grabWindow();
+        if (round > 0 && window->size() == before)
+            break;
+    }
+    image.setDevicePixelRatio(window->width() > 0 ? double(image.width()) / window->width() : 1);
+    return image;
+}
+
+// The corners that a window shows are see-through; a drawing without alpha has them black.
+QImage withRoundCorners(const QImage& image, double radius)
+{
+    if (image.hasAlphaChannel() || radius <= 0)
+        return image;
+    QImage result(image.size(), QImage::Format_ARGB32_Premultiplied);
+    result.fill(Qt::transparent);
+    QPainter painter(&result);
+    painter.setRenderHint(QPainter::Antialiasing);
+    QPainterPath outline;
+    outline.addRoundedRect(result.rect(), radius * image.devicePixelRatio(), radius * image.devicePixelRatio());
+    QImage opaque = image;
+    opaque.setDevicePixelRatio(1);
+    painter.fillPath(outline, QBrush(opaque));
+    painter.end();
+    result.setDevicePixelRatio(image.devicePixelRatio());
+    return result;
 }
 
 // As the window does it for the item that has the focus, so that it also works while the desktop has the focus
@@ -103,7 +146,9 @@ LuWindowBridge::Result LuWindowBridge::show()
     if (!window())
         return noWindow();
     window()->show();
-    window()->raise();
+    // The off-screen platform has no order of windows and says so each time.
+    if (QGuiApplication::platformName() != "offscreen"_L1)
+        window()->raise();
     window()->requestActivate();
     return {};
 }
@@ -320,8 +365,9 @@ LuWindowBridge::Result LuWindowBridge::press(const QString& name, const QString&
     const Found found = find(name, role, within);
     if (!found.item)
         return found.error;
-    if (!QMetaObject::invokeMethod(found.item, "assistivePress"))
+    if (found.item->metaObject()->indexOfMethod("assistivePress()") < 0)
         return failure(NotWritable, u"the control cannot be pressed: %1"_s.arg(name));
+    QMetaObject::invokeMethod(found.item, "assistivePress");
     return {};
 }
 
@@ -337,9 +383,10 @@ LuWindowBridge::Result LuWindowBridge::setValue(const QString& name, const QVari
             QMetaObject::invokeMethod(found.item, "assistivePress");
         return {};
     }
-    bool taken = false;
-    if (!QMetaObject::invokeMethod(found.item, "assistiveSet", Q_RETURN_ARG(bool, taken), Q_ARG(QVariant, value)))
+    if (found.item->metaObject()->indexOfMethod("assistiveSet(QVariant)") < 0)
         return failure(NotWritable, u"the control has no value: %1"_s.arg(name));
+    bool taken = false;
+    QMetaObject::invokeMethod(found.item, "assistiveSet", Q_RETURN_ARG(bool, taken), Q_ARG(QVariant, value));
     return taken ? Result() : failure(WrongValue, u"\"%1\" takes no such value: %2"_s.arg(name, value.toString()));
 }
 
@@ -462,11 +509,17 @@ LuWindowBridge::Result LuWindowBridge::screenshot(const QString& file, const QSt
             part = panel->mapRectToScene(QRectF(0, 0, panel->width(), panel->height()));
         }
     }
-    QImage image = target->grabWindow();
+    QImage image = settledImage(target);
     if (image.isNull())
         return failure(NoWindow, u"the window cannot be drawn"_s);
     if (part.isValid() && target == window())
-        image = image.copy(QRectF(part.topLeft() * image.devicePixelRatio(), part.size() * image.devicePixelRatio()).toRect());
+    {
+        const double ratio = image.devicePixelRatio();
+        image = image.copy(QRectF(part.topLeft() * ratio, part.size() * ratio).toRect());
+        image.setDevicePixelRatio(ratio);
+    }
+    if (target->color().alpha() < 255)
+        image = withRoundCorners(image, CornerRadius);
     QSaveFile out(file);
     if (!out.open(QIODevice::WriteOnly) || !image.save(&out, "PNG") || !out.commit())
         return failure(WrongValue, u"cannot write %1: %2"_s.arg(file, out.errorString()));

@@ -11,8 +11,8 @@
 #include <LuShared/LuVCPNode.h>
 #endif
 
-#include <QDir>
 #include <QQmlEngine>
+#include <QUrl>
 #include <QtQml>
 
 using namespace Qt::StringLiterals;
@@ -52,9 +52,10 @@ void lumenQmlInit(QQmlEngine* engine)
     // Own modules first; stand-ins for modules that an older Qt lacks last, so that the real ones win.
     // addImportPath() would prepend each.
     QStringList paths = engine->importPathList();
-    // In this spelling: a package's files import their module by the relative path "..", and only a path that begins
-    // like the file's own gives that import the module's name, with its C++ types.
-    paths.prepend(u":/TKPackage/qml"_s);
+    // A package's files import their module by the relative path "..". That import gets the module's name, and with it
+    // the C++ types, only from an import path that begins as the file's own path does. The engine turns ":/" into
+    // "qrc:/" unless it comes as a file's address.
+    paths.prepend(QUrl::fromLocalFile(u":/TKPackage/qml"_s).toString());
     paths.prepend(u"qrc:/TKPackage/qml"_s);
     paths.prepend(u"qrc:/lumendesk/qml"_s);
     paths.append(u"qrc:/lumendesk/fallback"_s);

@@ -41,7 +41,7 @@ Column {
         wrapMode: Text.WordWrap
         color: LuStyle.textDim
         lineHeight: 1.2
-        text: qsTr("A monitor that is plugged in later appears here by itself.")
+        text: qsTr("Plug one in and it appears here by itself.")
     }
     Item {
         width: 1

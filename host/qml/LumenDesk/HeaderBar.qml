@@ -29,6 +29,15 @@ Item {
         anchors.rightMargin: LuStyle.space
         anchors.verticalCenter: parent.verticalCenter
     }
+    LuLabel {
+        anchors.left: parent.left
+        anchors.leftMargin: LuStyle.spaceLarge
+        anchors.right: buttons.left
+        anchors.verticalCenter: parent.verticalCenter
+        visible: !switcher.visible
+        kind: LuLabel.Title
+        text: bar.window.title
+    }
     Row {
         id: buttons
         anchors.right: parent.right

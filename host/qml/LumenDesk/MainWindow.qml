@@ -16,17 +16,17 @@ Window {
     property Item openWidget: null
     property Component openPageComponent: null
     readonly property bool pageOpen: openPageComponent !== null
-    readonly property Item pagePanel: beside.item?.panelItem ?? over.item
-    readonly property Window pageWindow: beside.item
+    readonly property Item pagePanel: (beside.item as PageWindow)?.panelItem ?? over.item as Item
+    readonly property Window pageWindow: beside.item as Window
     readonly property bool empty: area.empty
     property bool movedByUser: false
 
     objectName: "mainWindow"
     title: qsTr("Lumen Desk")
     width: LuStyle.windowWidth
-    height: Math.max(240, Math.min(free.height - 2 * LuStyle.spaceWide, header.implicitHeight + body.contentHeight))
+    height: Math.max(200, Math.min(free.height - 2 * LuStyle.spaceWide, header.implicitHeight + body.contentHeight))
     flags: Qt.Window | Qt.FramelessWindowHint
-    color: "transparent"
+    color: LuContext.translucentWindows ? "transparent" : LuStyle.background
     visible: false
 
     function place(): void {
@@ -93,7 +93,7 @@ Window {
 
     Rectangle {
         anchors.fill: parent
-        radius: LuStyle.radiusWindow
+        radius: LuContext.translucentWindows ? LuStyle.radiusWindow : 0
         color: LuStyle.background
         border.width: 1
         border.color: LuStyle.line
@@ -166,10 +166,8 @@ Window {
 
     Shortcut {
         sequences: [StandardKey.Cancel]
-        onActivated: {
-            if (window.pageOpen)
-                window.closePage()
-        }
+        enabled: window.pageOpen
+        onActivated: window.closePage()
     }
     Component.onCompleted: LuContext.mainWindow = window
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
 import QtQuick.Templates as T
+import LumenDesk
 import LumenDesk.Controls
 import LumenDesk.Style
 
@@ -10,7 +11,8 @@ FocusScope {
 
     property Component page: null
     property real maximumHeight: 600
-    readonly property Item content: loader.item
+    // A page says its title and may say its width.
+    readonly property var content: loader.item
     readonly property string title: content?.title ?? ""
     // Children with anchors have no width before the panel has one, so the page asks for it.
     readonly property real wantedWidth: content?.pageWidth ?? LuStyle.pageWidth
@@ -18,7 +20,7 @@ FocusScope {
 
     objectName: "pagePanel"
     implicitWidth: wantedWidth
-    implicitHeight: Math.min(maximumHeight, head.height + (loader.item ? loader.item.implicitHeight : 0) + LuStyle.spaceLarge)
+    implicitHeight: Math.min(maximumHeight, head.height + loader.implicitHeight + LuStyle.spaceLarge)
     focus: true
 
     Accessible.role: Accessible.Pane
@@ -36,7 +38,7 @@ FocusScope {
 
     Rectangle {
         anchors.fill: parent
-        radius: LuStyle.radiusWindow
+        radius: LuContext.translucentWindows ? LuStyle.radiusWindow : 0
         color: LuStyle.background
         border.width: 1
         border.color: LuStyle.line
@@ -76,7 +78,7 @@ FocusScope {
         anchors.bottom: parent.bottom
         anchors.left: parent.left
         anchors.right: parent.right
-        contentHeight: (loader.item ? loader.item.implicitHeight : 0) + LuStyle.spaceLarge
+        contentHeight: loader.implicitHeight + LuStyle.spaceLarge
         boundsBehavior: Flickable.StopAtBounds
         interactive: contentHeight > height
         clip: interactive

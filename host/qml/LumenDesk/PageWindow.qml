@@ -18,7 +18,7 @@ Window {
     title: panel.title
     transientParent: mainWindow
     flags: Qt.Tool | Qt.FramelessWindowHint
-    color: "transparent"
+    color: LuContext.translucentWindows ? "transparent" : LuStyle.background
     width: panel.implicitWidth
     height: panel.implicitHeight
     x: mainWindow.x - width - LuStyle.space

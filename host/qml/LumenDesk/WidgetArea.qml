@@ -3,6 +3,7 @@ import QtQuick
 import QtQuick.Window
 import LumenDesk
 import LumenDesk.Style
+import LumenDesk.Widgets
 
 // The widgets of the current monitor: rows, then the card of tiles, wide tiles, and what stands last.
 //
@@ -15,7 +16,7 @@ Column {
     readonly property bool empty: visibleCount(widgets, changes) === 0
     // Counts changes of visibility, so that `empty` is asked again.
     property int changes: 0
-    signal pageRequested(Item widget)
+    signal pageRequested(LuWidgetBase widget)
     signal widgetsGoing()
 
     spacing: LuStyle.space
@@ -24,7 +25,7 @@ Column {
         return list.filter(widget => widget?.functionSupported).length
     }
 
-    function byName(name: string): Item {
+    function byName(name: string): LuWidgetBase {
         return widgets.find(widget => widget.widgetName === name) ?? null
     }
 

@@ -15,6 +15,7 @@ static void initResources()
 {
     Q_INIT_RESOURCE(package_qml);
     Q_INIT_RESOURCE(package_images);
+    Q_INIT_RESOURCE(test_data);
 }
 
 // As the package's library registers its types.

@@ -4,17 +4,10 @@
 #include <QCommandLineParser>
 #include <QDir>
 #include <QGuiApplication>
+#include <QJsonDocument>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-// A page that shows every control in its states.
-QUrl controlsPage()
-{
-    return QUrl(u"qrc:/gallery/Controls.qml"_s);
-}
-}
 
 /// Draws the shell on doubles into PNG files, light and dark; QT_SCALE_FACTOR gives the scale.
 int main(int argc, char** argv)
@@ -26,7 +19,6 @@ int main(int argc, char** argv)
     parser.process(app);
     const QDir folder(parser.positionalArguments().value(0, u"."_s));
     const QString suffix = app.devicePixelRatio() > 1 ? u"-%1x"_s.arg(app.devicePixelRatio()) : QString();
-    Q_UNUSED(controlsPage())
 
     FakeMonitor first(u"TK30Z"_s);
     FakeMonitor second(u"TK20"_s);
@@ -43,6 +35,8 @@ int main(int argc, char** argv)
                 qCritical().noquote() << result.message;
         }
     };
+    if (qEnvironmentVariableIsSet("DUMP"))
+        qInfo().noquote() << QJsonDocument(shell.bridge->tree().value.toObject()).toJson();
     shoot(u"main"_s);
     shoot(u"page-pivot"_s, u"LuAutoPivotWidget"_s);
     first.pivot.setState(true);
@@ -56,5 +50,16 @@ int main(int argc, char** argv)
     shoot(u"second-page"_s, u"LuPivotWidget"_s);
     shell.context.setMonitors({});
     shoot(u"empty"_s);
+
+    shell.engine.load(QUrl(u"qrc:/tests/Controls.qml"_s));
+    auto* controls = qobject_cast<QQuickWindow*>(shell.engine.rootObjects().constLast());
+    controls->setProperty("confirmed", 55);
+    for (const QString& theme : {u"light"_s, u"dark"_s})
+    {
+        shell.context.setTheme(theme);
+        if (!QTest::qWaitForWindowExposed(controls)
+            || !controls->grabWindow().save(folder.filePath(u"controls-"_s + theme + suffix + u".png"_s)))
+            qCritical("cannot draw the controls");
+    }
     return Shell::takeWarnings().isEmpty() ? 0 : 1;
 }

@@ -61,7 +61,7 @@ T.Button {
         verticalAlignment: Text.AlignVCenter
         font.weight: control.filled ? LuStyle.weightStrong : Font.Medium
         font.underline: control.kind === LuButton.Link && control.hovered
-        color: control.kind === LuButton.Link ? LuStyle.accentText : control.filled ? LuStyle.onAccent : LuStyle.text
+        color: control.kind === LuButton.Link ? LuStyle.accentText : control.filled ? LuStyle.accentInk : LuStyle.text
     }
     Keys.onReturnPressed: control.assistivePress()
     Keys.onEnterPressed: control.assistivePress()

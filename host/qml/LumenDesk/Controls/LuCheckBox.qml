@@ -49,7 +49,7 @@ T.CheckBox {
             anchors.centerIn: parent
             name: "check"
             size: 14
-            color: LuStyle.onAccent
+            color: LuStyle.accentInk
             visible: control.checked
         }
         LuFocusRing {

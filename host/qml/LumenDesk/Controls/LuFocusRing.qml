@@ -6,7 +6,8 @@ import LumenDesk.Style
 Rectangle {
     id: ring
 
-    required property Item control
+    // Any control or text field.
+    required property var control
     property real innerRadius: LuStyle.radiusSmall
     property int gap: 2
     property bool shown: control.visualFocus ?? control.activeFocus

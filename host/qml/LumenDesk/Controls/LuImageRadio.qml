@@ -59,7 +59,8 @@ T.RadioButton {
             anchors.centerIn: parent
             width: control.imageSize
             height: control.imageSize
-            sourceSize: Qt.size(control.imageSize * Screen.devicePixelRatio, control.imageSize * Screen.devicePixelRatio)
+            sourceSize.width: Math.round(control.imageSize * Screen.devicePixelRatio)
+            sourceSize.height: Math.round(control.imageSize * Screen.devicePixelRatio)
             source: control.image
         }
         LuFocusRing {

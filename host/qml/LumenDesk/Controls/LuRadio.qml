@@ -52,7 +52,7 @@ T.RadioButton {
             width: 7
             height: 7
             radius: 3.5
-            color: LuStyle.onAccent
+            color: LuStyle.accentInk
             scale: control.checked ? 1 : 0
             Behavior on scale {
                 NumberAnimation { duration: LuStyle.motion }

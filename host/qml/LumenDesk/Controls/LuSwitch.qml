@@ -50,7 +50,7 @@ T.Switch {
             width: 16
             height: 16
             radius: 8
-            color: LuStyle.highContrast && control.checked ? LuStyle.onAccent : LuStyle.thumb
+            color: LuStyle.highContrast && control.checked ? LuStyle.accentInk : LuStyle.thumb
             border.width: 1
             border.color: control.checked ? "#14000000" : LuStyle.outline
             scale: control.pressed ? 0.9 : 1

@@ -11,14 +11,16 @@ T.TextField {
 
     implicitWidth: 180
     implicitHeight: LuStyle.controlHeight
-    horizontalPadding: LuStyle.space
-    verticalPadding: LuStyle.spaceHalf
+    leftPadding: LuStyle.space
+    rightPadding: LuStyle.space
+    topPadding: LuStyle.spaceHalf
+    bottomPadding: LuStyle.spaceHalf
     verticalAlignment: TextInput.AlignVCenter
     hoverEnabled: true
     selectByMouse: true
     color: LuStyle.text
     selectionColor: LuStyle.accentFill
-    selectedTextColor: LuStyle.onAccent
+    selectedTextColor: LuStyle.accentInk
     placeholderTextColor: LuStyle.textDim
     font.family: LuStyle.fontFamily
     font.pixelSize: LuStyle.fontBody

@@ -35,7 +35,7 @@ QtObject {
     readonly property color accentHover: pick("#0A6FE0", "#2C8FFB", "#003F8C", "#8CC4FF")
     readonly property color accentFill: pick("#0A6CDB", "#0A6CDB", "#0050B0", "#6CB4FF")
     readonly property color accentFillHover: pick("#0960C4", "#0960C4", "#003F8C", "#8CC4FF")
-    readonly property color onAccent: pick("#FFFFFF", "#FFFFFF", "#FFFFFF", "#000000")
+    readonly property color accentInk: pick("#FFFFFF", "#FFFFFF", "#FFFFFF", "#000000")
     readonly property color accentText: pick("#0660C6", "#69B1FF", "#0050B0", "#6CB4FF")
     readonly property color accentSoft: pick("#1F097BF8", "#33097BF8", "#1F0050B0", "#336CB4FF")
     readonly property color caution: pick("#C42B1C", "#FF8A80", "#A80000", "#FF9C94")
@@ -62,7 +62,7 @@ QtObject {
     readonly property int focusWidth: 2
 
     // Type
-    readonly property string fontFamily: Qt.fontFamilies().indexOf("Inter") >= 0 ? "Inter" : Qt.application.font.family
+    readonly property string fontFamily: LuContext.fontFamily
     readonly property real fontScale: LuContext.fontScale
     readonly property int fontCaption: Math.round(11 * fontScale)
     readonly property int fontBody: Math.round(13 * fontScale)

@@ -8,7 +8,8 @@ import QtQml
 QtObject {
     id: host
 
-    property list<Component> components
+    // A list of components.
+    property var components: []
     required property QtObject owner
     property var alive: []
 

@@ -7,7 +7,8 @@ QtObject {
     id: loader
 
     default property Component sourceComponent
-    property QtObject item: null
+    // The popup while it is open, else null.
+    property var item: null
     readonly property bool opened: item !== null
 
     function open(): void {
@@ -16,14 +17,13 @@ QtObject {
         const window = LuContext.mainWindow
         if (!window || !sourceComponent)
             return
-        const popup = sourceComponent.createObject(window.contentItem)
-        if (!popup) {
+        item = sourceComponent.createObject(window.contentItem)
+        if (!item) {
             console.warn("popup cannot be made:", sourceComponent.errorString())
             return
         }
-        popup.closed.connect(close)
-        item = popup
-        popup.open()
+        item.closed.connect(close)
+        item.open()
     }
 
     function close(): void {

@@ -69,7 +69,8 @@ LuWidgetBase {
                     anchors.centerIn: parent
                     width: LuStyle.glyphSize
                     height: LuStyle.glyphSize
-                    sourceSize: Qt.size(pixels, pixels)
+                    sourceSize.width: pixels
+                    sourceSize.height: pixels
                     source: wide.currentImage
                 }
             }
