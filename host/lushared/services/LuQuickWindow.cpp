@@ -30,18 +30,25 @@ void LuQuickWindow::enterFullScreen(bool overlay)
     coverScreen();
     // showFullScreen() would also ask for the focus, which belongs to the application below the overlay.
     if (overlay)
-        setVisible(true);
+        showCovering();
 }
 
 void LuQuickWindow::enterMaximized()
 {
     setWindowStates(Qt::WindowMaximized);
     coverScreen();
-    setVisible(true);
+    showCovering();
 }
 
 void LuQuickWindow::onScreenGeometryChanged()
 {
+    coverScreen();
+}
+
+// A platform without a window manager gives a window that it begins to show the size that it thinks right.
+void LuQuickWindow::showCovering()
+{
+    setVisible(true);
     coverScreen();
 }
 
@@ -64,8 +71,15 @@ void LuQuickWindow::coverScreen()
 {
     if (!screen())
         return;
+    QRect target = geometry();
     if (windowStates() & Qt::WindowFullScreen)
-        setGeometry(screen()->geometry());
+        target = screen()->geometry();
     else if (windowStates() & Qt::WindowMaximized)
-        setGeometry(screen()->availableGeometry());
+        target = screen()->availableGeometry().marginsRemoved(frameMargins());
+    if (target == geometry())
+        return;
+    setGeometry(target);
+    // A platform without a window manager keeps a covering window as it is until it is told its state again.
+    if (handle())
+        setWindowStates(windowStates());
 }

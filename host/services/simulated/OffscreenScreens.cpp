@@ -3,12 +3,15 @@
 
 #include "services/simulated/Values.h"
 
+#include <QEvent>
 #include <QGuiApplication>
 #include <QScreen>
+#include <QWindow>
 
 #include <algorithm>
 
 #include <qpa/qplatformnativeinterface.h>
+#include <qpa/qplatformwindow.h>
 #include <qpa/qwindowsysteminterface.h>
 
 namespace services {
@@ -68,6 +71,7 @@ bool OffscreenScreens::apply(const QJsonArray& screens)
         return false;
     if (m_original.isEmpty())
         m_original = present();
+    qApp->installEventFilter(this);
 
     QPlatformNativeInterface* const interface = QGuiApplication::platformNativeInterface();
     QJsonObject settings = configuration(interface);
@@ -117,8 +121,28 @@ bool OffscreenScreens::apply(const QJsonArray& screens)
 
 void OffscreenScreens::restore()
 {
-    if (!m_original.isEmpty())
-        apply(m_original);
+    if (m_original.isEmpty())
+        return;
+    apply(m_original);
+    qApp->removeEventFilter(this);
+}
+
+// The part of a window manager: the platform maximises over the whole screen, and after it has told so the
+// window gets what is free.
+bool OffscreenScreens::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() != QEvent::Resize && event->type() != QEvent::Move && event->type() != QEvent::Expose)
+        return false;
+    auto* const window = qobject_cast<QWindow*>(watched);
+    if (!window || !window->handle() || !window->screen() || window->windowStates() != Qt::WindowMaximized)
+        return false;
+    const QRect target = window->screen()->availableGeometry().marginsRemoved(window->frameMargins());
+    if (window->handle()->QPlatformWindow::geometry() != target) {
+        // Past the platform's own class, which refuses to move a maximised window.
+        window->handle()->QPlatformWindow::setGeometry(target);
+        QWindowSystemInterface::handleGeometryChange(window, target);
+    }
+    return false;
 }
 
 } // namespace services

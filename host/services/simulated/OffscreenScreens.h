@@ -3,12 +3,16 @@
 
 #include <QJsonArray>
 #include <QJsonObject>
+#include <QObject>
 
 namespace services {
 
-/// Gives Qt's off-screen platform other screens than the one that it starts with. GUI thread.
-class OffscreenScreens
+/// Gives Qt's off-screen platform other screens than the one that it starts with, and keeps maximised windows
+/// off their task bars, which that platform does not know. GUI thread.
+class OffscreenScreens : public QObject
 {
+    Q_OBJECT
+
 public:
     /// The screens that Qt has, whichever platform shows them: list of {"name","rect","available"}.
     static QJsonArray present();
@@ -19,6 +23,8 @@ public:
 
     /// Back to the screens that were there before the first apply().
     void restore();
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     QJsonArray m_original;

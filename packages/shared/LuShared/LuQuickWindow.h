@@ -37,6 +37,7 @@ protected:
 private:
     void followScreen();
     void coverScreen();
+    void showCovering();
 
     QMetaObject::Connection m_geometryConnection;
     QMetaObject::Connection m_availableConnection;

@@ -110,6 +110,7 @@ private Q_SLOTS:
     {
         LuQuickWindow window;
         window.setScreen(screenNamed("A"));
+        window.setWindowFlags(Qt::FramelessWindowHint);
         window.enterMaximized();
         QVERIFY(window.isVisible());
         QTRY_COMPARE(window.geometry(), QRect(0, 0, 1000, 760));
