@@ -2,6 +2,9 @@
 #include "LuAccessibleTree.h"
 
 #include <QAccessible>
+#include <QQmlContext>
+#include <QQmlEngine>
+#include <QQmlProperty>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QUrl>
@@ -157,9 +160,17 @@ template <class Visit> void visitRoots(QQuickItem* item, const Visit& visit)
 
 QString roleOf(QAccessibleInterface* interface)
 {
-    const QAccessible::Role role = interface->role();
-    if (role == QAccessible::CheckBox && interface->object() && interface->object()->inherits("QQuickSwitch"))
+    QAccessible::Role role = interface->role();
+    QObject* object = interface->object();
+    if (role == QAccessible::CheckBox && object && object->inherits("QQuickSwitch"))
         return u"switch"_s;
+    // A template's own role wins over the one that its QML gives it, so that a link would pass for a button.
+    if (role == QAccessible::Button && object)
+    {
+        const QVariant own = QQmlProperty::read(object, u"Accessible.role"_s, qmlContext(object));
+        if (own.isValid() && own.toInt() != QAccessible::NoRole)
+            role = QAccessible::Role(own.toInt());
+    }
     for (const RoleName& row : RoleNames)
     {
         if (row.role == role)

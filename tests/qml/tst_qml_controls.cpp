@@ -239,8 +239,7 @@ void TestControls::textHasEnoughContrast()
     QFETCH(QString, text);
     QFETCH(QString, surface);
     QFETCH(double, atLeast);
-    const int type = qmlTypeId("LumenDesk.Style", 1, 0, "LuStyle");
-    auto* style = m_shell->engine.singletonInstance<QObject*>(type);
+    const auto* style = m_window->property("style").value<QObject*>();
     QVERIFY(style);
     for (const bool high : {false, true})
     {
@@ -257,7 +256,7 @@ void TestControls::textHasEnoughContrast()
 
 void TestControls::reducedMotionStopsEveryTransition()
 {
-    auto* style = m_shell->engine.singletonInstance<QObject*>(qmlTypeId("LumenDesk.Style", 1, 0, "LuStyle"));
+    const auto* style = m_window->property("style").value<QObject*>();
     QCOMPARE(style->property("motion").toInt(), 0);
     m_shell->context.setReducedMotion(false);
     QCOMPARE(style->property("motion").toInt(), 150);
@@ -265,7 +264,7 @@ void TestControls::reducedMotionStopsEveryTransition()
 
 void TestControls::theTypeGrowsWithTheDesktopsFont()
 {
-    auto* style = m_shell->engine.singletonInstance<QObject*>(qmlTypeId("LumenDesk.Style", 1, 0, "LuStyle"));
+    const auto* style = m_window->property("style").value<QObject*>();
     QCOMPARE(style->property("fontBody").toInt(), 13);
     m_shell->context.setFontScale(2);
     QCOMPARE(style->property("fontBody").toInt(), 26);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
 import QtQuick.Window
+import LumenDesk
 import LumenDesk.Controls
 import LumenDesk.Style
 import LumenDesk.Widgets
@@ -11,6 +12,7 @@ Window {
 
     property var log: []
     property real confirmed: NaN
+    readonly property QtObject style: LuStyle
 
     function note(what: string): void {
         log = log.concat([what])
@@ -95,13 +97,13 @@ Window {
             LuImageRadio {
                 text: "Chosen"
                 checked: true
-                normalImage: "qrc:/TKPackage/images/packages/btn_pivot_0.svg"
-                checkedImage: "qrc:/TKPackage/images/packages/btn_pivot_0_active.svg"
+                normalImage: LuContext.resolvedResourceUrl("qrc:/images/packages/btn_pivot_0.svg", window, LuStyle.colorScheme)
+                checkedImage: LuContext.resolvedResourceUrl("qrc:/images/packages/btn_pivot_0_active.svg", window, LuStyle.colorScheme)
             }
             LuImageRadio {
                 text: "Other"
-                normalImage: "qrc:/TKPackage/images/packages/btn_pivot_90.svg"
-                checkedImage: "qrc:/TKPackage/images/packages/btn_pivot_90_active.svg"
+                normalImage: LuContext.resolvedResourceUrl("qrc:/images/packages/btn_pivot_90.svg", window, LuStyle.colorScheme)
+                checkedImage: LuContext.resolvedResourceUrl("qrc:/images/packages/btn_pivot_90_active.svg", window, LuStyle.colorScheme)
             }
         }
     }

@@ -34,10 +34,15 @@ T.TextField {
     function assistiveSet(wanted: var): bool {
         if (readOnly)
             return false
-        selectAll()
+        // Versions of Qt differ in whether insert() tells of itself.
+        let told = false
+        const tell = () => told = true
+        textEdited.connect(tell)
         remove(0, length)
         insert(0, String(wanted))
-        textEdited()
+        textEdited.disconnect(tell)
+        if (!told)
+            textEdited()
         return true
     }
 
