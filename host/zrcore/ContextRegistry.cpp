@@ -56,8 +56,12 @@ void watchContext(QObject* context, const std::weak_ptr<ContextListener>& listen
     bool first = false;
     {
         const std::lock_guard lock(registry().mutex);
-        first = !registry().listeners.contains(context);
-        registry().listeners[context].push_back(listener);
+        const auto [entry, inserted] = registry().listeners.try_emplace(context);
+        Listeners& known = entry->second;
+        first = inserted;
+        if (std::none_of(known.begin(), known.end(),
+                         [&](const auto& other) { return same(listener, other); }))
+            known.push_back(listener);
     }
     if (!first)
         return;
@@ -69,6 +73,7 @@ void watchContext(QObject* context, const std::weak_ptr<ContextListener>& listen
 void forgetListener(const std::weak_ptr<ContextListener>& listener)
 {
     const std::lock_guard lock(registry().mutex);
+    // An entry that becomes empty stays: its context is connected.
     for (auto& entry : registry().listeners)
         std::erase_if(entry.second, [&](const auto& other) { return same(listener, other); });
 }

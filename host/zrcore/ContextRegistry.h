@@ -16,8 +16,8 @@ public:
     virtual void contextGone(QObject* context) = 0;
 };
 
-/// From now on until it is destroyed or forgotten, @p listener is told of the end of @p context. Telling
-/// twice is the caller's to avoid. No lock of the caller's may be held.
+/// From now on until it is destroyed or forgotten, @p listener is told of the end of @p context, once. No
+/// lock of the caller's may be held.
 void watchContext(QObject* context, const std::weak_ptr<ContextListener>& listener);
 /// @p listener is not told any more.
 void forgetListener(const std::weak_ptr<ContextListener>& listener);

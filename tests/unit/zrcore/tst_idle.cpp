@@ -6,9 +6,12 @@
 #include "ZrCore/ZrDispatch.h"
 #include "ZrCore/ZrIdle.h"
 
+#include <QCoreApplication>
 #include <QTest>
+#include <QThread>
 
 #include <atomic>
+#include <functional>
 #include <thread>
 
 using namespace Qt::StringLiterals;
@@ -204,7 +207,7 @@ void tst_idle::notifyCallsOnceOnTheMainThread()
     queue->post(nullptr, [&] { gate.pass(); });
     ZrIdle::notify({queue}, this, [&] {
         ++calls;
-        onMain = QThread::currentThread() == qApp->thread();
+        onMain = QThread::currentThread() == QCoreApplication::instance()->thread();
     });
     QVERIFY(!ZrIdle::wait({queue}, 20));
     QCOMPARE(calls, 0);
