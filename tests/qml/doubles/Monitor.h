@@ -20,6 +20,30 @@ public:
     };
     Q_ENUM(FunctionEnable)
 
+    // In the order of the real class, for runs without its library.
+    enum Gamma
+    {
+        Gamma_16,
+        Gamma_18,
+        Gamma_20,
+        Gamma_22,
+        Gamma_24,
+        Gamma_26,
+        Gamma_BT1886,
+        Gamma_sRGB,
+    };
+    Q_ENUM(Gamma)
+
+    enum ColorTemperature
+    {
+        ColorTemperature_5000,
+        ColorTemperature_6500,
+        ColorTemperature_9300,
+        ColorTemperature_DCI,
+        ColorTemperature_UserDefine,
+    };
+    Q_ENUM(ColorTemperature)
+
     using QObject::QObject;
     QString displayName;
     int aiContrastEnable = FunctionOn;

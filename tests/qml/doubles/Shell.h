@@ -5,6 +5,7 @@
 #include "LuWindowBridge.h"
 #include "Monitor.h"
 
+#include <QJsonDocument>
 #include <QQmlApplicationEngine>
 #include <QQuickWindow>
 

@@ -29,8 +29,11 @@ QtObject {
     function close(): void {
         const popup = item
         item = null
-        if (popup)
+        if (popup) {
+            // It goes with the next turn of the event loop and takes nothing until then.
+            popup.visible = false
             popup.destroy()
+        }
     }
 
     Component.onDestruction: close()
