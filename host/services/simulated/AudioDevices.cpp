@@ -15,9 +15,9 @@ namespace services {
 // header that distributions do not install, and its members changed their order between versions. What all
 // versions share is the beginning: virtual table, reference count, id, mode. The places of the name and of
 // the default mark are found out once, by writing to a zeroed block and asking the public functions of
-// QAudioDevice. A block is zero wherever it was not written, and a zeroed QString is a null string, so that
-// asking is safe whatever the layout. Blocks are kept for good and their reference count never falls to zero,
-// so the virtual table is never used.
+// QAudioDevice. A block is zero wherever it was not written, and what is written is harmless in every place,
+// so that asking is safe whatever the layout. Blocks are kept for good and their reference count never falls
+// to zero, so the virtual table is never used.
 namespace {
 
 constexpr std::size_t blockSize = 1024;
@@ -69,15 +69,29 @@ Layout findLayout()
     if (device.id() != id || device.mode() != QAudioDevice::Output)
         return layout;
 
-    constexpr std::size_t step = alignof(QString);
+    // A string that is not null is one whose second word, the place of its text, is not; its length stays 0,
+    // so that nobody looks there. Where the word is taken for a string's first, the header of shared data, it
+    // is one that nobody frees.
+    static int header[16] = {everReferenced};
+    void* const somewhere = header;
+    constexpr std::size_t step = sizeof(void*);
     for (std::size_t at = (searchStart + step - 1) / step * step; at < searchEnd && layout.name == 0;
          at += step) {
-        auto* const text = new (block->bytes + at) QString(name);
-        if (device.description() == name)
+        unsigned char* const textWord = block->bytes + at + step;
+        std::memcpy(textWord, &somewhere, sizeof somewhere);
+        if (!device.description().isNull())
             layout.name = at;
-        text->~QString();
-        std::memset(block->bytes + at, 0, sizeof(QString));
+        std::memset(textWord, 0, sizeof somewhere);
     }
+    if (layout.name == 0)
+        return layout;
+    auto* const text = new (block->bytes + layout.name) QString(name);
+    const bool isRead = device.description() == name;
+    text->~QString();
+    std::memset(block->bytes + layout.name, 0, sizeof(QString));
+    if (!isRead)
+        return {};
+
     for (std::size_t at = searchStart; at < searchEnd && layout.isDefault == 0; ++at) {
         if (at >= layout.name && at < layout.name + sizeof(QString))
             continue;
