@@ -6,7 +6,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QLocalSocket>
-#include <QStandardPaths>
 
 #include <cerrno>
 #include <cstring>
@@ -47,12 +46,15 @@ QString systemError()
     return QString::fromLocal8Bit(std::strerror(errno));
 }
 
+/// One byte less than the system takes, since QLocalSocket, with which clients connect, does not take that one.
+constexpr qsizetype LongestPath = qsizetype(sizeof(sockaddr_un::sun_path)) - 2;
+
 bool fillAddress(const QString& path, sockaddr_un* address)
 {
     const QByteArray name = QFile::encodeName(path);
     *address = {};
     address->sun_family = AF_UNIX;
-    if (name.isEmpty() || size_t(name.size()) >= sizeof address->sun_path || name.contains('\0'))
+    if (name.isEmpty() || name.size() > LongestPath || name.contains('\0'))
         return false;
     std::memcpy(address->sun_path, name.constData(), size_t(name.size()));
     return true;
@@ -62,7 +64,7 @@ QString lengthError(const QString& path)
 {
     return u"the path of the control socket is too long: %1 bytes, at most %2 are possible: %3"_s
         .arg(QFile::encodeName(path).size())
-        .arg(sizeof(sockaddr_un::sun_path) - 1)
+        .arg(LongestPath)
         .arg(path);
 }
 
@@ -117,12 +119,6 @@ bool removeStale(const QString& path, QString* error)
 }
 
 } // namespace
-
-QString defaultSocketPath()
-{
-    return QDir(QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation))
-        .filePath(u"lumen-desk/control.sock"_s);
-}
 
 SocketClaim claimSocket(const QString& givenPath)
 {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "SocketPath.h"
+
 #include <QString>
 
 namespace control {
@@ -12,9 +14,6 @@ struct SocketClaim
     bool otherRuns = false;    ///< Another process serves the path.
     QString error;             ///< Why there is no socket, for a person to read; empty if there is one or otherRuns.
 };
-
-/// "lumen-desk/control.sock" in the user's runtime directory.
-QString defaultSocketPath();
 
 /// Creates the listening socket for the user alone: mode 0600, in a folder of mode 0700, which is made if it is not
 /// there. A folder that others may write is refused. A socket file that nobody serves any more is replaced; any other

@@ -187,8 +187,8 @@ QJsonValue Writer::writeEnumeration(const QVariant& value) const
         return isUnsigned ? *static_cast<const quint8*>(data) : *static_cast<const qint8*>(data);
     case 2:
         return isUnsigned ? *static_cast<const quint16*>(data) : *static_cast<const qint16*>(data);
-    case 4:
-        return isUnsigned ? qint64(*static_cast<const quint32*>(data)) : qint64(*static_cast<const qint32*>(data));
+    case 4: // Qt's own numbers of enumerations are int, whatever type the compiler has chosen
+        return *static_cast<const qint32*>(data);
     default:
         return *static_cast<const qint64*>(data);
     }
