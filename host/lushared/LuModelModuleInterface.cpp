@@ -19,7 +19,13 @@ struct LuModelModuleInterface::Private
 
     LuMonitorModel* const model;
     ZrShared<bool> syncEnable{false};
-    ZrShared<bool> marked{false}; ///< Skipped at the next launch; mirrors the settings.
+    enum class Mark
+    {
+        Unknown, ///< Nobody has asked the settings yet.
+        No,
+        Yes,
+    };
+    ZrShared<Mark> mark{Mark::Unknown}; ///< Skipped at the next launch.
     std::mutex runningMutex;
     QString runningKey;
     QHash<QString, QVariant> snapshot;
@@ -224,12 +230,12 @@ QVariant LuModelModuleInterface::moduleSetting(const QString& key, const QVarian
 
 void LuModelModuleInterface::markSkipped(bool skip)
 {
-    d->marked = skip;
+    d->mark = skip ? Private::Mark::Yes : Private::Mark::No;
 }
 
 void LuModelModuleInterface::setModuleSetting(const QString& key, const QVariant& value)
 {
-    if (d->marked.set(false))
+    if (d->mark.set(Private::Mark::No))
         LuMonitorModelPrivate::of(d->model).setSkipped(LuUtils::className(this), false);
     LuSettings::instance().setValue(settingSection() + QLatin1Char('/') + key, value);
 }

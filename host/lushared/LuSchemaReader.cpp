@@ -22,6 +22,10 @@ QString LuSchemaReader::forEachEntry(const QByteArray& bytes,
 LuSchemaReader::Result LuSchemaReader::readFile(const QString& path)
 {
     Result result;
+    if (path.isEmpty()) {
+        result.missing = true;
+        return result;
+    }
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
         result.missing = !file.exists();

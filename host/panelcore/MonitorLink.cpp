@@ -59,9 +59,12 @@ struct MonitorLink::Private
     std::atomic<int> probedMode{NotProbed};
     ZrShared<QString> screenName;
     std::function<void()> screenObserver;
+    std::function<void()> callObserver;
 
     bool note(ddc::Error error)
     {
+        if (callObserver)
+            callObserver();
         if (isNoAnswer(error))
             silentCalls.fetch_add(1);
         else if (error != ddc::Error::NullReply) // it may be a lacking code or a monitor that falls asleep
@@ -119,8 +122,15 @@ bool MonitorLink::setVCPWithin(int code, int value, int limitMs)
 {
     if (!d->transactor || !isByte(code) || value < 0 || value > 0xFFFF)
         return false;
-    return d->transactor->setVcpWithin(std::uint8_t(code), std::uint16_t(value), ddc::Transactor::Ms(limitMs)) ==
-           ddc::Error::None;
+    const ddc::Error error =
+        d->transactor->setVcpWithin(std::uint8_t(code), std::uint16_t(value), ddc::Transactor::Ms(limitMs));
+    // A bus that somebody else holds says nothing about the monitor.
+    return error != ddc::Error::Busy && d->note(error);
+}
+
+void MonitorLink::setCallObserver(std::function<void()> observer)
+{
+    d->callObserver = std::move(observer);
 }
 
 void MonitorLink::setWriteDelays(const QHash<int, int>& delays)

@@ -51,6 +51,10 @@ public:
     /// A write on a caller's thread that gives up if the bus is not free within @p limitMs.
     bool setVCPWithin(int code, int value, int limitMs);
 
+    /// Called after every transfer with all its tries, on the thread of the caller: a simulated device counts faults by
+    /// it. Set before the handle is in use.
+    void setCallObserver(std::function<void()> observer);
+
     /// Waits after writes of listed codes, in ms.
     void setWriteDelays(const QHash<int, int>& delays);
 

@@ -1,0 +1,284 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Application.h"
+
+#include "SimulatedMonitors.h"
+#include "adapters/ClockMethods.h"
+#include "adapters/ServiceMethods.h"
+#include "adapters/SimulatorMethods.h"
+#include "adapters/WindowMethods.h"
+
+#include <LuShared/LuMonitorModel.h>
+#include <ZrCore/ZrDispatch.h>
+#include <ZrCore/ZrEnvironment.h>
+#include <ZrCore/ZrIdle.h>
+#include <ZrCore/ZrS.h>
+#include <control/MonitorAccess.h>
+#include <control/Server.h>
+#include <lushared/LuEventLog.h>
+#include <lushared/LuHostOptions.h>
+#include <lushared/LuModelHost.h>
+#include <lushared/LuMonitorRegistry.h>
+#include <lushared/LuSettings.h>
+#include <lushared/services/ServiceRegistry.h>
+#include <panelcore/MonitorLink.h>
+#include <qml/LuContext.h>
+#include <qml/LuWindowBridge.h>
+#include <qml/LumenQml.h>
+#include <services/simulated/SimulatedServices.h>
+
+#include <QDebug>
+#include <QDir>
+#include <QFile>
+#include <QGuiApplication>
+#include <QJsonDocument>
+#include <QQmlApplicationEngine>
+#include <QStandardPaths>
+#include <QTranslator>
+
+Application::Application(const Options& options, bool hasDisplay)
+    : m_options(options), m_hasDisplay(hasDisplay), m_signals([this] { quit(); })
+{
+}
+
+Application::~Application()
+{
+    // The window goes first, since its bindings read the models; then the models, since they ask the services.
+    m_bridge.reset();
+    m_engine.reset();
+    m_server.reset();
+    m_registry.reset();
+    m_simulated.reset();
+    m_services.reset();
+}
+
+Application::Start Application::start()
+{
+    const QString socket = m_options.controlPath.isEmpty() ? control::defaultSocketPath() : m_options.controlPath;
+    m_server = std::make_unique<control::Server>();
+    switch (m_server->listen(socket)) {
+    case control::Server::Result::Listening:
+        break;
+    case control::Server::Result::OtherRuns:
+        qInfo().noquote() << "[Application] another instance serves" << socket << "- showing its window";
+        (void)control::raiseOther(socket);
+        return Start::OtherInstance;
+    case control::Server::Result::Failed:
+        qCritical().noquote() << "[Application] no control socket:" << m_server->errorString();
+        return Start::Failed;
+    }
+
+    LuHostOptions& host = LuHostOptions::instance();
+    host.autoSync = m_options.autoSync;
+    host.loadSettings = m_options.loadSettings;
+    host.restore = m_options.restore;
+    host.syncPeriodMs = m_options.syncPeriodMs;
+    host.schemaDirectory = m_options.schemaDirectory;
+
+    LuSettings::instance().open(m_options.configDirectory);
+    m_dataDirectory = m_options.dataDirectory.isEmpty()
+                          ? QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation)
+                          : QDir(m_options.dataDirectory).absolutePath();
+    ZrS::setDataPath(m_dataDirectory);
+    LuEventLog::instance().open(m_dataDirectory);
+    const QString userEnvironment =
+        QFileInfo(LuSettings::instance().fileName()).absolutePath() + QStringLiteral("/environment.json");
+    QString problem;
+    if (QFile::exists(userEnvironment) && !ZrEnvironment::addLayer(userEnvironment, &problem))
+        qWarning().noquote() << "[Application]" << problem;
+    if (!m_options.environmentFile.isEmpty() && !ZrEnvironment::addLayer(m_options.environmentFile, &problem)) {
+        qCritical().noquote() << "[Application] --environment:" << problem;
+        return Start::Failed;
+    }
+
+    m_registry = std::make_unique<LuMonitorRegistry>();
+    installServices();
+    m_packages.load(PackageLoader::defaultFolders());
+    const QList<LuPackagesInterface*> packages = m_packages.packages();
+    for (LuPackagesInterface* package : packages) {
+        m_registry->addPackage(package);
+        if (auto* translator = qobject_cast<QTranslator*>(package->translator()))
+            QGuiApplication::installTranslator(translator);
+    }
+    if (m_options.simulate) {
+        m_simulated = std::make_unique<SimulatedMonitors>(*m_registry, m_options.fastTiming, m_dataDirectory);
+        problem = m_simulated->make(m_options.simulatedMonitors);
+        if (!problem.isEmpty()) {
+            qCritical().noquote() << "[Application] --simulate:" << problem;
+            return Start::Failed;
+        }
+    }
+    if (!loadState())
+        return Start::Failed;
+    addControlMethods();
+    connect(m_registry.get(), &LuMonitorRegistry::settled, &m_server->dispatcher(), &control::Dispatcher::resume);
+    if (m_simulated)
+        m_simulated->plugAll();
+    if (!m_options.headless)
+        openWindow();
+    if (!m_options.screenshotFile.isEmpty()) {
+        if (m_registry->isBusy())
+            connect(m_registry.get(), &LuMonitorRegistry::settled, this, &Application::takePicture);
+        else
+            ZrDispatch::main()->post(this, [this] { takePicture(); });
+    }
+    return Start::Running;
+}
+
+void Application::installServices()
+{
+    const bool native = m_options.nativeServices.value_or(m_hasDisplay && !(m_options.headless && m_options.simulate));
+    if (native) {
+        qInfo().noquote() << "[Application] session" << services::Registry::sessionName();
+        return;
+    }
+    m_services = std::make_unique<services::SimulatedServices>();
+    m_services->install();
+    LuMonitorRegistry* registry = m_registry.get();
+    m_services->setKeyHandler([registry](Qt::KeyboardModifiers modifiers, Qt::Key key, bool repeated) {
+        LuMonitorModel* current = registry->current();
+        return current && LuModelHost::handleKey(current, modifiers, key, repeated);
+    });
+    services::SimulatedServices* session = m_services.get();
+    m_services->setMonitors({
+        [this](const QString& address) -> std::optional<QString> {
+            if (const LuMonitorModel* model = m_registry->find(address))
+                return model->id();
+            // A monitor that has no model yet, or is unplugged at the moment.
+            if (m_simulated && m_simulated->ids().contains(address))
+                return address;
+            return std::nullopt;
+        },
+        [registry] { return registry->current() ? registry->current()->id() : QString(); },
+        [registry, session] {
+            const QList<LuMonitorModel*> models = registry->monitors();
+            for (LuMonitorModel* model : models) {
+                const QString screen = session->screenOf(model->id());
+                if (!screen.isEmpty())
+                    MonitorLink::of(*model->info()).setScreenName(screen);
+            }
+        },
+    });
+}
+
+bool Application::loadState()
+{
+    if (m_options.stateFile.isEmpty())
+        return true;
+    const auto fail = [this](const QString& why) {
+        qCritical().noquote() << "[Application] --state" << m_options.stateFile + QLatin1Char(':') << why;
+        return false;
+    };
+    QFile file(m_options.stateFile);
+    if (!file.open(QIODevice::ReadOnly))
+        return fail(file.errorString());
+    QJsonParseError error;
+    const QJsonDocument document = QJsonDocument::fromJson(file.readAll(), &error);
+    if (!document.isObject())
+        return fail(error.error != QJsonParseError::NoError ? error.errorString() : QStringLiteral("not an object"));
+    const QJsonObject state = document.object();
+    const QJsonObject servicesState = state.value(QLatin1String("services")).toObject();
+    if (!servicesState.isEmpty()) {
+        services::Error problem;
+        if (!m_services)
+            return fail(QStringLiteral("\"services\" needs simulated services"));
+        if (!m_services->loadState(servicesState, &problem))
+            return fail(problem.message);
+    }
+    const QJsonObject vcp = state.value(QLatin1String("vcp")).toObject();
+    const QJsonArray faults = state.value(QLatin1String("faults")).toArray();
+    if (!m_simulated)
+        return vcp.isEmpty() && faults.isEmpty()
+                   ? true
+                   : fail(QStringLiteral("\"vcp\" and \"faults\" need simulated monitors"));
+    const QString problem = m_simulated->applyState(vcp, faults);
+    return problem.isEmpty() ? true : fail(problem);
+}
+
+void Application::addControlMethods()
+{
+    control::Backend backend;
+    backend.registry = m_registry.get();
+    backend.context = []() -> QObject* { return LuContext::instance(); };
+    backend.packageVersion = [this] { return m_packages.version(); };
+    backend.quit = [this] { quit(); };
+    control::MonitorAccess* access = control::addAllMethods(m_server.get(), backend);
+    addClockMethods(m_server.get(), m_services != nullptr);
+    addServiceMethods(m_server.get(), m_services.get());
+    addSimulatorMethods(m_server.get(), access, m_simulated.get());
+    addWindowMethods(m_server.get(), [this] { return m_bridge.get(); });
+}
+
+void Application::openWindow()
+{
+    m_engine = std::make_unique<QQmlApplicationEngine>();
+    const QList<LuPackagesInterface*> packages = m_packages.packages();
+    for (LuPackagesInterface* package : packages)
+        m_engine->addImportPath(QStringLiteral("qrc:/%1/qml").arg(package->name()));
+    lumenQmlInit(m_engine.get());
+    m_bridge = std::make_unique<LuWindowBridge>(m_engine.get());
+
+    LuContext* context = LuContext::instance();
+    if (!m_options.theme.isEmpty())
+        context->setTheme(m_options.theme);
+    context->setEnvironment(&ZrEnvironment::var, &ZrEnvironment::varDeviceChoice);
+    context->setScreenSource([](QObject* monitor) {
+        const auto* model = qobject_cast<LuMonitorModel*>(monitor);
+        return model ? model->screen() : nullptr;
+    });
+    context->setWidgetUrlSource([this](QObject* monitor) {
+        const auto* model = qobject_cast<LuMonitorModel*>(monitor);
+        LuPackagesInterface* package = model ? m_registry->packageFor(model) : nullptr;
+        return package ? package->widgetUrls() : QList<QUrl>();
+    });
+    connect(m_registry.get(), &LuMonitorRegistry::monitorsChanged, this, &Application::fillWindow);
+    connect(m_registry.get(), &LuMonitorRegistry::currentChanged, this, &Application::fillWindow);
+    connect(m_registry.get(), &LuMonitorRegistry::monitorAboutToBeRemoved, this, &Application::fillWindow);
+    // The window's monitor switcher and the registry name the same monitor.
+    connect(context, &LuContext::currentMonitorChanged, this, [this, context] {
+        if (const auto* model = qobject_cast<LuMonitorModel*>(context->currentMonitor());
+            model && model != m_registry->current())
+            m_registry->select(model->id());
+    });
+    fillWindow();
+    m_engine->load(lumenMainWindowUrl());
+    if (m_engine->rootObjects().isEmpty())
+        qCritical() << "[Application] the window could not be made";
+}
+
+void Application::fillWindow()
+{
+    QList<QObject*> monitors;
+    const QList<LuMonitorModel*> models = m_registry->monitors();
+    for (LuMonitorModel* model : models)
+        monitors.append(model);
+    LuContext* context = LuContext::instance();
+    context->setMonitors(monitors);
+    if (m_registry->current())
+        context->setCurrentMonitor(m_registry->current());
+}
+
+void Application::takePicture()
+{
+    // Everything that the window is to show has been read by then.
+    ZrIdle::notify({}, this, [this] {
+        const LuWindowBridge::Result result = m_bridge->screenshot(m_options.screenshotFile, m_options.page);
+        if (!result.ok())
+            qCritical().noquote() << "[Application] --screenshot:" << result.message;
+        m_ending = true;
+        m_registry->shutDown();
+        QGuiApplication::exit(result.ok() ? 0 : 1);
+    });
+}
+
+void Application::quit()
+{
+    if (m_ending)
+        return;
+    m_ending = true;
+    qInfo() << "[Application] ending";
+    m_registry->shutDown();
+    if (m_simulated)
+        m_simulated->persist();
+    m_server->close();
+    QGuiApplication::exit(0);
+}

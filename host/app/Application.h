@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Options.h"
+#include "PackageLoader.h"
+#include "UnixSignals.h"
+
+#include <QObject>
+
+#include <memory>
+
+class LuContext;
+class LuMonitorRegistry;
+class LuMonitorModel;
+class LuWindowBridge;
+class QQmlApplicationEngine;
+class SimulatedMonitors;
+
+namespace control {
+class Server;
+}
+namespace services {
+class SimulatedServices;
+}
+
+/// The composition root: makes the parts of the program from the options, connects them, and ends them in order.
+/// Lives in main(), on the GUI thread.
+class Application : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// How the start ended.
+    enum class Start
+    {
+        Running,
+        OtherInstance, ///< Another instance was shown instead.
+        Failed,        ///< What was wrong is in the log.
+    };
+
+    Application(const Options& options, bool hasDisplay);
+    ~Application() override;
+
+    Start start();
+
+private:
+    bool loadState();
+    void installServices();
+    void openWindow();
+    void fillWindow();
+    void takePicture();
+    void addControlMethods();
+    void quit();
+
+    const Options m_options;
+    const bool m_hasDisplay;
+    QString m_dataDirectory;
+    PackageLoader m_packages;
+    std::unique_ptr<services::SimulatedServices> m_services;
+    std::unique_ptr<LuMonitorRegistry> m_registry;
+    std::unique_ptr<SimulatedMonitors> m_simulated;
+    std::unique_ptr<control::Server> m_server;
+    std::unique_ptr<QQmlApplicationEngine> m_engine;
+    std::unique_ptr<LuWindowBridge> m_bridge;
+    UnixSignals m_signals;
+    bool m_ending = false;
+};

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "PackageLoader.h"
+
+#include <QCoreApplication>
+#include <QDebug>
+#include <QDir>
+#include <QJsonObject>
+#include <QLibrary>
+
+#include <algorithm>
+
+PackageLoader::PackageLoader() = default;
+
+PackageLoader::~PackageLoader() = default;
+
+QStringList PackageLoader::defaultFolders()
+{
+    QStringList folders = qEnvironmentVariable("LUMEN_DESK_PACKAGES").split(QDir::listSeparator(), Qt::SkipEmptyParts);
+    folders.append(QCoreApplication::applicationDirPath() + QStringLiteral("/../lib/lumen-desk/packages"));
+    return folders;
+}
+
+void PackageLoader::load(const QStringList& folders)
+{
+    for (const QString& folder : folders) {
+        const QFileInfoList files = QDir(folder).entryInfoList(QDir::Files, QDir::Name);
+        for (const QFileInfo& file : files) {
+            if (QLibrary::isLibrary(file.fileName()))
+                loadFile(file.canonicalFilePath());
+        }
+    }
+    if (m_packages.isEmpty())
+        qWarning().noquote() << "[PackageLoader] no package found in" << folders.join(QStringLiteral(", "));
+}
+
+void PackageLoader::loadFile(const QString& path)
+{
+    auto loader = std::make_unique<QPluginLoader>(path);
+    // The metadata is read without running any of the library's code.
+    const QJsonObject metaData = loader->metaData();
+    if (metaData.isEmpty())
+        return refuse(path, QStringLiteral("it is no plug-in of this Qt version"));
+    const QString interface = metaData.value(QLatin1String("IID")).toString();
+    if (interface != QLatin1String(LuPackagesInterface_iid))
+        return refuse(path, QStringLiteral("it is made for \"%1\", not for \"%2\"")
+                                .arg(interface, QLatin1String(LuPackagesInterface_iid)));
+    auto* package = qobject_cast<LuPackagesInterface*>(loader->instance());
+    if (!package)
+        return refuse(path, loader->isLoaded() ? QStringLiteral("it does not offer the interface that it names")
+                                               : loader->errorString());
+    const QString name = package->name();
+    const bool known = std::any_of(m_packages.begin(), m_packages.end(),
+                                   [&name](LuPackagesInterface* other) { return other->name() == name; });
+    if (known)
+        return refuse(path, QStringLiteral("a package %1 is loaded already").arg(name));
+    qInfo().noquote() << "[PackageLoader] package" << name << "from" << path;
+    if (m_packages.isEmpty())
+        m_version = QFileInfo(path).completeBaseName().section(QLatin1Char('-'), 1);
+    m_packages.append(package);
+    m_loaders.push_back(std::move(loader));
+}
+
+void PackageLoader::refuse(const QString& path, const QString& why)
+{
+    m_refusals.append(QStringLiteral("%1: %2").arg(path, why));
+    qWarning().noquote() << "[PackageLoader] refused" << m_refusals.last();
+}

@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "SimulatedBed.h"
+
+#include <LuShared/LuUtils.h>
+
+#include <QMetaProperty>
+#include <QSignalSpy>
+#include <QTest>
+
+namespace {
+
+/// A value that a property does not hold now; invalid for a type of which none can be made up.
+QVariant anotherValue(const QMetaProperty& property, const QVariant& present)
+{
+    switch (property.metaType().id()) {
+    case QMetaType::Bool:
+        return !present.toBool();
+    case QMetaType::Int:
+        return present.toInt() == 90 ? 270 : 90;
+    case QMetaType::QString:
+        return present.toString() + QStringLiteral("x");
+    default:
+        return {};
+    }
+}
+
+/// Properties that are the state of the panel, not of the feature.
+bool isTransient(const QMetaProperty& property)
+{
+    return QLatin1String(property.name()) == QLatin1String("syncEnable");
+}
+
+/// What a restart is to bring back, by module and property; what else is writable is told in the module's own tests.
+bool survivesRestart(const QString& module, const QMetaProperty& property)
+{
+    // The monitor holds the state of local contrast: see its own test.
+    return !isTransient(property) && module != QLatin1String("LuAiContrast");
+}
+
+} // namespace
+
+/// Rules that hold for every property of every module.
+class TestProperties : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void isReadableAndConstantOrNotifying_data() { rows(); }
+    void isReadableAndConstantOrNotifying();
+    void notifiesOncePerChangeAndNotWithoutOne_data() { rows(); }
+    void notifiesOncePerChangeAndNotWithoutOne();
+    void survivesARestart_data() { rows(); }
+    void survivesARestart();
+
+private:
+    static void rows();
+};
+
+void TestProperties::rows()
+{
+    QTest::addColumn<QString>("module");
+    QTest::addColumn<int>("index");
+    SimulatedBed bed;
+    const QList<LuModelModuleInterface*> modules = bed.launch().modules();
+    for (LuModelModuleInterface* module : modules) {
+        const QMetaObject* meta = module->metaObject();
+        for (int i = QObject::staticMetaObject.propertyCount(); i < meta->propertyCount(); ++i) {
+            const QString name = LuUtils::className(module);
+            QTest::newRow(qPrintable(name + QLatin1Char('.') + QLatin1String(meta->property(i).name()))) << name << i;
+        }
+    }
+    waitForRest();
+}
+
+void TestProperties::isReadableAndConstantOrNotifying()
+{
+    QFETCH(QString, module);
+    QFETCH(int, index);
+    SimulatedBed bed;
+    bed.launch();
+    LuModelModuleInterface* object = bed.module(qPrintable(module));
+    const QMetaProperty property = object->metaObject()->property(index);
+    QVERIFY(property.isReadable());
+    QVERIFY(property.read(object).isValid());
+    QVERIFY(property.isConstant() != property.hasNotifySignal());
+    QVERIFY(!(property.isConstant() && property.isWritable()));
+    QVERIFY(bed.idle());
+}
+
+void TestProperties::notifiesOncePerChangeAndNotWithoutOne()
+{
+    QFETCH(QString, module);
+    QFETCH(int, index);
+    SimulatedBed bed;
+    bed.launch();
+    QVERIFY(bed.idle());
+    LuModelModuleInterface* object = bed.module(qPrintable(module));
+    const QMetaProperty property = object->metaObject()->property(index);
+    if (!property.isWritable()) {
+        QVERIFY(!property.write(object, property.read(object)));
+        return;
+    }
+    const QVariant before = property.read(object);
+    const QVariant other = anotherValue(property, before);
+    QVERIFY2(other.isValid(), "teach this test the type of the property");
+    QSignalSpy spy(object, property.notifySignal());
+    QVERIFY(property.write(object, before));
+    QVERIFY(bed.idle());
+    QCOMPARE(spy.count(), 0);
+    QVERIFY(property.write(object, other));
+    QVERIFY(bed.idle());
+    QCOMPARE(property.read(object), other);
+    QCOMPARE(spy.count(), 1);
+    QVERIFY(property.write(object, other));
+    QVERIFY(bed.idle());
+    QCOMPARE(spy.count(), 1);
+}
+
+void TestProperties::survivesARestart()
+{
+    QFETCH(QString, module);
+    QFETCH(int, index);
+    SimulatedBed bed;
+    bed.launch();
+    QVERIFY(bed.idle());
+    LuModelModuleInterface* object = bed.module(qPrintable(module));
+    const QMetaProperty property = object->metaObject()->property(index);
+    const bool kept = property.isWritable() && survivesRestart(module, property);
+    const QVariant value = kept ? anotherValue(property, property.read(object)) : property.read(object);
+    if (kept)
+        property.write(object, value);
+    QVERIFY(bed.idle());
+    bed.relaunch();
+    LuModelModuleInterface* again = bed.module(qPrintable(module));
+    QCOMPARE(again->metaObject()->property(index).read(again), value);
+    QVERIFY(bed.idle());
+}
+
+QTEST_MAIN(TestProperties)
+#include "tst_properties.moc"
