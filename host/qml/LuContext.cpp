@@ -88,7 +88,7 @@ void LuContext::setCurrentMonitor(QObject* monitor)
 
 void LuContext::setMonitors(const QList<QObject*>& monitors)
 {
-    if (monitors == m_monitors)
+    if (std::equal(monitors.cbegin(), monitors.cend(), m_monitors.cbegin(), m_monitors.cend()))
         return;
     for (QObject* monitor : std::as_const(m_monitors))
         monitor->disconnect(this);

@@ -12,6 +12,7 @@
 #endif
 
 #include <QQmlEngine>
+#include <QQuickWindow>
 #include <QUrl>
 #include <QtQml>
 
@@ -61,6 +62,15 @@ void lumenQmlInit(QQmlEngine* engine)
     paths.append(u"qrc:/lumendesk/fallback"_s);
     engine->setImportPathList(paths);
     engine->addImageProvider(u"lumen"_s, new LuIconProvider);
+}
+
+void lumenQmlRelease()
+{
+    QQuickWindow last;
+    last.resize(1, 1);
+    last.releaseResources();
+    // What was released is deleted with the next drawing.
+    last.grabWindow();
 }
 
 QUrl lumenMainWindowUrl()

@@ -11,7 +11,10 @@ import LumenDesk.Style
 Window {
     id: window
 
-    readonly property rect free: LuContext.availableGeometry(window)
+    // The room on the screen; what it depends on is named, since a call tells of no change.
+    readonly property rect free: freeArea(header.Screen.virtualX, header.Screen.virtualY, header.Screen.width,
+                                          header.Screen.height, header.Screen.desktopAvailableWidth,
+                                          header.Screen.desktopAvailableHeight)
     // The widget whose page is open, or null. A page of the shell's own has no widget.
     property Item openWidget: null
     property Component openPageComponent: null
@@ -28,6 +31,10 @@ Window {
     flags: Qt.Window | Qt.FramelessWindowHint
     color: LuContext.translucentWindows ? "transparent" : LuStyle.background
     visible: false
+
+    function freeArea(...screen): rect {
+        return LuContext.availableGeometry(window)
+    }
 
     function place(): void {
         if (!LuContext.canPlaceWindows || movedByUser)
@@ -147,6 +154,7 @@ Window {
         active: false
         sourceComponent: PageWindow {
             mainWindow: window
+            free: window.free
             page: window.openPageComponent
             onCloseRequested: window.closePage()
         }

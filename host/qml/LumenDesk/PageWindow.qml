@@ -11,7 +11,8 @@ Window {
     required property Window mainWindow
     property alias page: panel.page
     readonly property Item panelItem: panel
-    readonly property rect free: LuContext.availableGeometry(mainWindow)
+    // The room on the screen of the main window.
+    required property rect free
     signal closeRequested()
 
     objectName: "pageWindow"

@@ -83,6 +83,11 @@ Shell::Shell(const QList<FakeMonitor*>& monitors)
     engine.load(lumenMainWindowUrl());
 }
 
+Shell::PictureCache::~PictureCache()
+{
+    lumenQmlRelease();
+}
+
 Shell::~Shell()
 {
     if (window())

@@ -30,6 +30,16 @@ public:
     static QList<QUrl> widgetUrls();
 
     LuContext& context;
+
+private:
+    /// Outlives the engine: pictures that nothing shows any more stay cached for a while, which looks like a leak.
+    struct PictureCache
+    {
+        ~PictureCache();
+    };
+    PictureCache m_pictures;
+
+public:
     QQmlApplicationEngine engine;
     std::unique_ptr<LuWindowBridge> bridge;
 };
