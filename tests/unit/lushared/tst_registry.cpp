@@ -1,0 +1,300 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "SimulatedBed.h"
+
+#include <lushared/LuHostOptions.h>
+#include <lushared/LuModelHost.h>
+#include <lushared/LuMonitorRegistry.h>
+#include <panelcore/MonitorLink.h>
+
+#include <QElapsedTimer>
+#include <QSignalSpy>
+#include <QTest>
+
+namespace {
+
+/// A simulated monitor for the registry, which makes the model itself.
+struct Plug
+{
+    explicit Plug(const QString& model, const QString& serial)
+        : monitor(std::make_unique<sim::Monitor>(sim::Identity{model, serial}))
+    {
+    }
+
+    QSharedPointer<MonitorInfo> info()
+    {
+        MonitorDescription description;
+        description.id = monitor->model() + QLatin1Char('@') + monitor->serial();
+        description.modelName = monitor->model();
+        description.serialNumber = monitor->serial();
+        description.builtIn = monitor->isBuiltIn();
+        return MonitorLink::create(description, monitor->isBuiltIn() ? nullptr : monitor->makeBus(),
+                                   MonitorLink::Waits::None);
+    }
+
+    std::unique_ptr<sim::Monitor> monitor;
+};
+
+} // namespace
+
+class TestRegistry : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void modelAppearsWhenItsModeIsKnown();
+    void orderIsThatOfAppearance();
+    void firstSupportedMonitorIsCurrent();
+    void choiceOfTheUserStays();
+    void findsByIdAndByUnambiguousName();
+    void sameIdTwiceIsRefused();
+    void removedMonitorGivesWayToAnother();
+    void monitorThatHangsDoesNotDelayAnother();
+    void monitorRemovedWhileItIsAskedLeavesNothing();
+    void onlyTheLaunchRestores();
+    void widgetsOfThePackageAreKnown();
+    void shutDownReportsAndEmpties();
+};
+
+void TestRegistry::init()
+{
+    LuHostOptions::instance() = LuHostOptions();
+    TestBed::instance();
+}
+
+void TestRegistry::modelAppearsWhenItsModeIsKnown()
+{
+    LuMonitorRegistry registry;
+    registry.addPackage(TestBed::instance().package());
+    QSignalSpy settled(&registry, &LuMonitorRegistry::settled);
+    QSignalSpy added(&registry, &LuMonitorRegistry::monitorAdded);
+    Plug plug(QStringLiteral("TK30Z"), QStringLiteral("R1"));
+    registry.addMonitor(plug.info());
+    QVERIFY(registry.isBusy());
+    QVERIFY(registry.monitors().isEmpty());
+    QTRY_COMPARE(settled.count(), 1);
+    QVERIFY(!registry.isBusy());
+    QCOMPARE(added.count(), 1);
+    QVERIFY(registry.monitors().first()->colorMode());
+    QVERIFY(waitForRest());
+    registry.shutDown();
+}
+
+void TestRegistry::orderIsThatOfAppearance()
+{
+    LuMonitorRegistry registry;
+    registry.addPackage(TestBed::instance().package());
+    Plug first(QStringLiteral("TK20"), QStringLiteral("R2"));
+    Plug second(QStringLiteral("TK30Z"), QStringLiteral("R2"));
+    sim::Fault slow;
+    slow.kind = sim::FaultKind::Timeout;
+    slow.blocks = std::chrono::milliseconds(50);
+    slow.count = 1;
+    first.monitor->armFault(slow);
+    registry.addMonitor(first.info());
+    registry.addMonitor(second.info());
+    QTRY_VERIFY(!registry.isBusy());
+    QCOMPARE(registry.monitors().at(0)->modelName(), QStringLiteral("TK20"));
+    QCOMPARE(registry.monitors().at(1)->modelName(), QStringLiteral("TK30Z"));
+    QVERIFY(waitForRest());
+    registry.shutDown();
+}
+
+void TestRegistry::firstSupportedMonitorIsCurrent()
+{
+    LuMonitorRegistry registry;
+    registry.addPackage(TestBed::instance().package());
+    Plug panel(QStringLiteral("builtin"), QString());
+    Plug foreign(QStringLiteral("Other"), QStringLiteral("R3"));
+    Plug supported(QStringLiteral("TK10"), QStringLiteral("R3"));
+    registry.addMonitor(panel.info());
+    QTRY_VERIFY(!registry.isBusy());
+    QVERIFY(registry.current()->isModelBuiltIn());
+    registry.addMonitor(foreign.info());
+    QTRY_VERIFY(!registry.isBusy());
+    QCOMPARE(registry.current()->modelName(), QStringLiteral("Other"));
+    registry.addMonitor(supported.info());
+    QTRY_VERIFY(!registry.isBusy());
+    QCOMPARE(registry.current()->modelName(), QStringLiteral("TK10"));
+    QVERIFY(registry.current()->isCurrentModel());
+    QVERIFY(waitForRest());
+    registry.shutDown();
+}
+
+void TestRegistry::choiceOfTheUserStays()
+{
+    LuMonitorRegistry registry;
+    registry.addPackage(TestBed::instance().package());
+    Plug foreign(QStringLiteral("Other"), QStringLiteral("R4"));
+    Plug supported(QStringLiteral("TK10"), QStringLiteral("R4"));
+    registry.addMonitor(foreign.info());
+    QTRY_VERIFY(!registry.isBusy());
+    QVERIFY(registry.select(QStringLiteral("Other@R4")));
+    QVERIFY(!registry.select(QStringLiteral("Nobody")));
+    QSignalSpy changed(&registry, &LuMonitorRegistry::currentChanged);
+    registry.addMonitor(supported.info());
+    QTRY_VERIFY(!registry.isBusy());
+    QCOMPARE(registry.current()->modelName(), QStringLiteral("Other"));
+    QCOMPARE(changed.count(), 0);
+    QVERIFY(registry.select(QStringLiteral("TK10")));
+    QCOMPARE(changed.count(), 1);
+    QVERIFY(waitForRest());
+    registry.shutDown();
+}
+
+void TestRegistry::findsByIdAndByUnambiguousName()
+{
+    LuMonitorRegistry registry;
+    registry.addPackage(TestBed::instance().package());
+    QVERIFY(!registry.find(QString()));
+    Plug one(QStringLiteral("TK10"), QStringLiteral("R5"));
+    Plug two(QStringLiteral("TK10"), QStringLiteral("R6"));
+    registry.addMonitor(one.info());
+    QTRY_VERIFY(!registry.isBusy());
+    QVERIFY(registry.find(QStringLiteral("TK10")));
+    registry.addMonitor(two.info());
+    QTRY_VERIFY(!registry.isBusy());
+    QVERIFY(!registry.find(QStringLiteral("TK10")));
+    QCOMPARE(registry.find(QStringLiteral("TK10@R6"))->serialNumber(), QStringLiteral("R6"));
+    QCOMPARE(registry.find(QString()), registry.current());
+    QVERIFY(waitForRest());
+    registry.shutDown();
+}
+
+void TestRegistry::sameIdTwiceIsRefused()
+{
+    LuMonitorRegistry registry;
+    registry.addPackage(TestBed::instance().package());
+    Plug plug(QStringLiteral("TK10"), QStringLiteral("R7"));
+    registry.addMonitor(plug.info());
+    registry.addMonitor(plug.info());
+    QTRY_VERIFY(!registry.isBusy());
+    QCOMPARE(registry.monitors().size(), 1);
+    QVERIFY(waitForRest());
+    registry.shutDown();
+}
+
+void TestRegistry::removedMonitorGivesWayToAnother()
+{
+    LuMonitorRegistry registry;
+    registry.addPackage(TestBed::instance().package());
+    Plug one(QStringLiteral("TK10"), QStringLiteral("R8"));
+    Plug two(QStringLiteral("TK20"), QStringLiteral("R8"));
+    registry.addMonitor(one.info());
+    registry.addMonitor(two.info());
+    QTRY_VERIFY(!registry.isBusy());
+    QVERIFY(registry.select(QStringLiteral("TK10@R8")));
+    QSignalSpy removed(&registry, &LuMonitorRegistry::monitorAboutToBeRemoved);
+    one.monitor->unplug();
+    QVERIFY(registry.removeMonitor(QStringLiteral("TK10@R8")));
+    QVERIFY(!registry.removeMonitor(QStringLiteral("TK10@R8")));
+    QCOMPARE(removed.count(), 1);
+    QCOMPARE(registry.current()->modelName(), QStringLiteral("TK20"));
+    QVERIFY(registry.removeMonitor(QStringLiteral("TK20@R8")));
+    QVERIFY(!registry.current());
+}
+
+void TestRegistry::monitorThatHangsDoesNotDelayAnother()
+{
+    LuMonitorRegistry registry;
+    registry.addPackage(TestBed::instance().package());
+    Plug hanging(QStringLiteral("TK10"), QStringLiteral("R9"));
+    Plug sound(QStringLiteral("TK20"), QStringLiteral("R9"));
+    sim::Fault fault;
+    fault.kind = sim::FaultKind::Timeout;
+    fault.blocks = std::chrono::seconds(60);
+    hanging.monitor->armFault(fault);
+    registry.addMonitor(hanging.info());
+    registry.addMonitor(sound.info());
+    QTRY_COMPARE(registry.monitors().size(), 1);
+    LuMonitorModel* model = registry.monitors().first();
+    QCOMPARE(model->modelName(), QStringLiteral("TK20"));
+    LuModelModuleInterface* contrast = model->moduleByClassName(QStringLiteral("LuAiContrast"));
+    QVERIFY(contrast->setProperty("state", true));
+    QTRY_COMPARE(int(sound.monitor->value(0xF3).value()), 1);
+    hanging.monitor->unplug();
+    QVERIFY(registry.removeMonitor(QStringLiteral("TK10@R9")));
+    QVERIFY(waitForRest());
+    registry.shutDown();
+}
+
+void TestRegistry::monitorRemovedWhileItIsAskedLeavesNothing()
+{
+    LuMonitorRegistry registry;
+    registry.addPackage(TestBed::instance().package());
+    Plug plug(QStringLiteral("TK10"), QStringLiteral("R10"));
+    sim::Fault fault;
+    fault.kind = sim::FaultKind::Timeout;
+    fault.blocks = std::chrono::seconds(60);
+    plug.monitor->armFault(fault);
+    registry.addMonitor(plug.info());
+    plug.monitor->unplug();
+    QElapsedTimer timer;
+    timer.start();
+    QVERIFY(registry.removeMonitor(QStringLiteral("TK10@R10")));
+    QVERIFY2(timer.elapsed() < 5000, qPrintable(QString::number(timer.elapsed())));
+    QVERIFY(waitForRest());
+    QVERIFY(registry.monitors().isEmpty());
+    QVERIFY(!registry.isBusy());
+}
+
+void TestRegistry::onlyTheLaunchRestores()
+{
+    Plug plug(QStringLiteral("TK30Z"), QStringLiteral("R11"));
+    const auto sets = [&plug](quint64 since) {
+        int count = 0;
+        for (const sim::TrafficEntry& entry : plug.monitor->traffic(since))
+            count += entry.op == sim::Op::Set;
+        return count;
+    };
+    for (int run = 0; run < 2; ++run) {
+        LuHostOptions::instance().launching = true;
+        LuMonitorRegistry registry;
+        registry.addPackage(TestBed::instance().package());
+        const quint64 seen = plug.monitor->traffic().isEmpty() ? 0 : plug.monitor->traffic().last().seq;
+        registry.addMonitor(plug.info());
+        QTRY_VERIFY(!registry.isBusy());
+        QVERIFY(waitForRest());
+        QCOMPARE(sets(seen) > 0, run == 1);
+        QVERIFY(registry.removeMonitor(QStringLiteral("TK30Z@R11")));
+        const quint64 unplugged = plug.monitor->traffic().last().seq;
+        registry.addMonitor(plug.info());
+        QTRY_VERIFY(!registry.isBusy());
+        QVERIFY(waitForRest());
+        QCOMPARE(sets(unplugged), 0);
+        registry.shutDown();
+    }
+}
+
+void TestRegistry::widgetsOfThePackageAreKnown()
+{
+    LuMonitorRegistry registry;
+    registry.addPackage(TestBed::instance().package());
+    Plug plug(QStringLiteral("TK30Z"), QStringLiteral("R12"));
+    registry.addMonitor(plug.info());
+    QTRY_VERIFY(!registry.isBusy());
+    QVERIFY(registry.current()->inWidgets(QStringLiteral("LuVolumeWidget")));
+    QVERIFY(!registry.current()->inWidgets(QStringLiteral("LuDualViewWidget")));
+    QCOMPARE(registry.packageFor(registry.current()), TestBed::instance().package());
+    QVERIFY(waitForRest());
+    registry.shutDown();
+}
+
+void TestRegistry::shutDownReportsAndEmpties()
+{
+    LuMonitorRegistry registry;
+    registry.addPackage(TestBed::instance().package());
+    Plug plug(QStringLiteral("TK30Z"), QStringLiteral("R13"));
+    registry.addMonitor(plug.info());
+    QTRY_VERIFY(!registry.isBusy());
+    QVERIFY(waitForRest());
+    // What was asked for last still reaches the monitor.
+    registry.current()->moduleByClassName(QStringLiteral("LuAiContrast"))->setProperty("state", true);
+    registry.shutDown();
+    QCOMPARE(int(plug.monitor->value(0xF3).value()), 1);
+    QVERIFY(registry.monitors().isEmpty());
+    QVERIFY(!registry.current());
+}
+
+QTEST_MAIN(TestRegistry)
+#include "tst_registry.moc"
