@@ -23,22 +23,14 @@ struct RoleName
 };
 
 constexpr RoleName RoleNames[] = {
-    {QAccessible::Window, "window"_L1},
-    {QAccessible::Dialog, "window"_L1},
-    {QAccessible::AlertMessage, "window"_L1},
-    {QAccessible::Pane, "page"_L1},
-    {QAccessible::Button, "button"_L1},
-    {QAccessible::CheckBox, "checkBox"_L1},
-    {QAccessible::RadioButton, "radio"_L1},
-    {QAccessible::Slider, "slider"_L1},
-    {QAccessible::ComboBox, "comboBox"_L1},
-    {QAccessible::EditableText, "textField"_L1},
-    {QAccessible::List, "list"_L1},
-    {QAccessible::ListItem, "listItem"_L1},
-    {QAccessible::StaticText, "label"_L1},
-    {QAccessible::Graphic, "image"_L1},
-    {QAccessible::Link, "link"_L1},
-    {QAccessible::Grouping, "group"_L1},
+    {QAccessible::Window, "window"_L1},       {QAccessible::Dialog, "window"_L1},
+    {QAccessible::AlertMessage, "window"_L1}, {QAccessible::Pane, "page"_L1},
+    {QAccessible::Button, "button"_L1},       {QAccessible::CheckBox, "checkBox"_L1},
+    {QAccessible::RadioButton, "radio"_L1},   {QAccessible::Slider, "slider"_L1},
+    {QAccessible::ComboBox, "comboBox"_L1},   {QAccessible::EditableText, "textField"_L1},
+    {QAccessible::List, "list"_L1},           {QAccessible::ListItem, "listItem"_L1},
+    {QAccessible::StaticText, "label"_L1},    {QAccessible::Graphic, "image"_L1},
+    {QAccessible::Link, "link"_L1},           {QAccessible::Grouping, "group"_L1},
 };
 
 QQuickItem* itemOf(QAccessibleInterface* interface)
@@ -63,19 +55,14 @@ QJsonObject rectOf(const QQuickItem* item)
 
 void addValue(QJsonObject& node, const QQuickItem* item, const QString& role)
 {
-    if (role == "slider"_L1)
-    {
+    if (role == "slider"_L1) {
         node.insert(u"value"_s, item->property("value").toDouble());
         node.insert(u"minimum"_s, item->property("from").toDouble());
         node.insert(u"maximum"_s, item->property("to").toDouble());
         node.insert(u"step"_s, item->property("stepSize").toDouble());
-    }
-    else if (role == "comboBox"_L1)
-    {
+    } else if (role == "comboBox"_L1) {
         node.insert(u"value"_s, item->property("displayText").toString());
-    }
-    else if (role == "textField"_L1)
-    {
+    } else if (role == "textField"_L1) {
         node.insert(u"value"_s, item->property("text").toString());
     }
 }
@@ -113,8 +100,7 @@ QJsonArray nodeOf(QAccessibleInterface* interface)
 QJsonArray childrenOf(QAccessibleInterface* interface)
 {
     QJsonArray children;
-    for (int index = 0; index < interface->childCount(); ++index)
-    {
+    for (int index = 0; index < interface->childCount(); ++index) {
         QAccessibleInterface* child = interface->child(index);
         if (!child || !child->isValid())
             continue;
@@ -126,28 +112,26 @@ QJsonArray childrenOf(QAccessibleInterface* interface)
 
 void collect(QAccessibleInterface* interface, QList<Node>& nodes)
 {
-    if (QQuickItem* item = itemOf(interface))
-    {
+    if (QQuickItem* item = itemOf(interface)) {
         if (!item->isVisible())
             return;
         if (const QString role = roleOf(interface); !role.isEmpty())
             nodes.append({item, role, interface->text(QAccessible::Name)});
     }
-    for (int index = 0; index < interface->childCount(); ++index)
-    {
+    for (int index = 0; index < interface->childCount(); ++index) {
         if (QAccessibleInterface* child = interface->child(index); child && child->isValid())
             collect(child, nodes);
     }
 }
 
 // An item that has no accessibility of its own (a plain Item) is not in the tree: its children are asked.
-template <class Visit> void visitRoots(QQuickItem* item, const Visit& visit)
+template <class Visit>
+void visitRoots(QQuickItem* item, const Visit& visit)
 {
     if (!item->isVisible())
         return;
     QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(item);
-    if (interface && interface->isValid() && !roleOf(interface).isEmpty())
-    {
+    if (interface && interface->isValid() && !roleOf(interface).isEmpty()) {
         visit(interface);
         return;
     }
@@ -156,7 +140,7 @@ template <class Visit> void visitRoots(QQuickItem* item, const Visit& visit)
         visitRoots(child, visit);
 }
 
-}
+} // namespace
 
 QString roleOf(QAccessibleInterface* interface)
 {
@@ -165,14 +149,12 @@ QString roleOf(QAccessibleInterface* interface)
     if (role == QAccessible::CheckBox && object && object->inherits("QQuickSwitch"))
         return u"switch"_s;
     // A template's own role wins over the one that its QML gives it, so that a link would pass for a button.
-    if (role == QAccessible::Button && object)
-    {
+    if (role == QAccessible::Button && object) {
         const QVariant own = QQmlProperty::read(object, u"Accessible.role"_s, qmlContext(object));
         if (own.isValid() && own.toInt() != QAccessible::NoRole)
             role = QAccessible::Role(own.toInt());
     }
-    for (const RoleName& row : RoleNames)
-    {
+    for (const RoleName& row : RoleNames) {
         if (row.role == role)
             return QString(row.name);
     }
@@ -182,15 +164,14 @@ QString roleOf(QAccessibleInterface* interface)
 QJsonObject ofWindow(QQuickWindow* window)
 {
     const QRect rect = window->geometry();
-    QJsonObject node{{u"role"_s, u"window"_s},
-                     {u"name"_s, window->title()},
-                     {u"enabled"_s, true},
-                     {u"focused"_s, window->isActive()},
-                     {u"opacity"_s, window->opacity()},
-                     {u"rect"_s, QJsonObject{{u"x"_s, 0},
-                                             {u"y"_s, 0},
-                                             {u"width"_s, rect.width()},
-                                             {u"height"_s, rect.height()}}}};
+    QJsonObject node{
+        {u"role"_s, u"window"_s},
+        {u"name"_s, window->title()},
+        {u"enabled"_s, true},
+        {u"focused"_s, window->isActive()},
+        {u"opacity"_s, window->opacity()},
+        {u"rect"_s,
+         QJsonObject{{u"x"_s, 0}, {u"y"_s, 0}, {u"width"_s, rect.width()}, {u"height"_s, rect.height()}}}};
     node.insert(u"children"_s, ofItem(window->contentItem()));
     return node;
 }
@@ -214,4 +195,4 @@ QList<Node> nodesBelow(QObject* object)
     return nodes;
 }
 
-}
+} // namespace LuAccessibleTree

@@ -36,4 +36,4 @@ QJsonArray ofItem(QQuickItem* item);
 /// Every visible node at @p object (a window or an item) and below, in reading order.
 QList<Node> nodesBelow(QObject* object);
 
-}
+} // namespace LuAccessibleTree

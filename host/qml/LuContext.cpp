@@ -43,9 +43,10 @@ double luminance(const QColor& color)
     const auto channel = [](double value) {
         return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
     };
-    return 0.2126 * channel(color.redF()) + 0.7152 * channel(color.greenF()) + 0.0722 * channel(color.blueF());
+    return 0.2126 * channel(color.redF()) + 0.7152 * channel(color.greenF()) +
+           0.0722 * channel(color.blueF());
 }
-}
+} // namespace
 
 LuContext* LuContext::instance()
 {
@@ -55,9 +56,7 @@ LuContext* LuContext::instance()
     return context;
 }
 
-LuContext::LuContext(QObject* parent)
-    : QObject(parent)
-    , m_theme(u"system"_s)
+LuContext::LuContext(QObject* parent) : QObject(parent), m_theme(u"system"_s)
 {
     setFontScale(desktopFontScale());
     updateColorScheme();
@@ -70,15 +69,13 @@ void LuContext::setCurrentMonitor(QObject* monitor)
 {
     if (monitor == m_currentMonitor)
         return;
-    if (monitor && !m_monitors.contains(monitor))
-    {
+    if (monitor && !m_monitors.contains(monitor)) {
         qCWarning(lcContext) << "not a connected monitor:" << monitor;
         return;
     }
     m_currentMonitor = monitor;
     // The widgets of the old monitor go before the new one is announced, so that none of them sees it.
-    if (!m_widgetUrls.isEmpty())
-    {
+    if (!m_widgetUrls.isEmpty()) {
         m_widgetUrls.clear();
         Q_EMIT widgetUrlsChanged();
     }
@@ -93,15 +90,13 @@ void LuContext::setMonitors(const QList<QObject*>& monitors)
     for (QObject* monitor : std::as_const(m_monitors))
         monitor->disconnect(this);
     m_monitors = monitors;
-    for (QObject* monitor : std::as_const(m_monitors))
-    {
+    for (QObject* monitor : std::as_const(m_monitors)) {
         connect(monitor, &QObject::destroyed, this, [this, monitor] {
             QList<QObject*> rest = m_monitors;
             rest.removeAll(monitor);
             m_monitors.removeAll(monitor);
             Q_EMIT monitorsChanged();
-            if (!m_currentMonitor)
-            {
+            if (!m_currentMonitor) {
                 m_widgetUrls.clear();
                 Q_EMIT widgetUrlsChanged();
                 Q_EMIT currentMonitorChanged();
@@ -192,8 +187,7 @@ void LuContext::setTheme(const QString& theme)
 {
     if (theme == m_theme)
         return;
-    if (theme != "system"_L1 && theme != "light"_L1 && theme != "dark"_L1)
-    {
+    if (theme != "system"_L1 && theme != "light"_L1 && theme != "dark"_L1) {
         qCWarning(lcContext) << "unknown theme:" << theme;
         return;
     }
@@ -205,10 +199,10 @@ void LuContext::setTheme(const QString& theme)
 void LuContext::updateColorScheme()
 {
     QString scheme = m_theme;
-    if (scheme == "system"_L1)
-    {
+    if (scheme == "system"_L1) {
         const QPalette palette = QGuiApplication::palette();
-        const bool dark = palette.color(QPalette::WindowText).lightness() > palette.color(QPalette::Window).lightness();
+        const bool dark =
+            palette.color(QPalette::WindowText).lightness() > palette.color(QPalette::Window).lightness();
         scheme = dark ? u"dark"_s : u"light"_s;
     }
     if (scheme == m_colorScheme)
@@ -287,8 +281,7 @@ QUrl LuContext::resolvedResourceUrl(const QUrl& url, QObject*, const QString& co
         return address(folder + "+dark/"_L1 + name);
     if (found(folder + name))
         return address(folder + name);
-    if (!m_missing.contains(name))
-    {
+    if (!m_missing.contains(name)) {
         m_missing.insert(name);
         qCWarning(lcContext).noquote() << "image missing:" << name;
     }
@@ -324,8 +317,7 @@ QString LuContext::monitorFacts(QObject* monitor) const
     QStringList facts;
     if (!monitor)
         return {};
-    if (const QScreen* screen = m_screenSource ? m_screenSource(monitor) : nullptr)
-    {
+    if (const QScreen* screen = m_screenSource ? m_screenSource(monitor) : nullptr) {
         const QSize size = screen->size() * screen->devicePixelRatio();
         facts << u"%1 × %2"_s.arg(size.width()).arg(size.height());
         if (screen->refreshRate() > 0)

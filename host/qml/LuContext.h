@@ -17,19 +17,21 @@
 
 class QScreen;
 
-/// What panels and the shell may ask of the program: the monitors, the windows, the look, resources and environment.
+/// What panels and the shell may ask of the program: the monitors, the windows, the look, resources and
+/// environment.
 ///
-/// The singleton `LuContext` of the QML module LumenDesk. It lives on the GUI thread as long as the application
-/// object; the composition root fills it before the first window is loaded.
+/// The singleton `LuContext` of the QML module LumenDesk. It lives on the GUI thread as long as the
+/// application object; the composition root fills it before the first window is loaded.
 class LuContext : public QObject
 {
     Q_OBJECT
-    Q_PROPERTY(QObject* currentMonitor READ currentMonitor WRITE setCurrentMonitor NOTIFY currentMonitorChanged)
+    Q_PROPERTY(
+        QObject* currentMonitor READ currentMonitor WRITE setCurrentMonitor NOTIFY currentMonitorChanged)
     Q_PROPERTY(QList<QObject*> monitors READ monitors NOTIFY monitorsChanged)
     Q_PROPERTY(QList<QUrl> widgetUrls READ widgetUrls NOTIFY widgetUrlsChanged)
     Q_PROPERTY(QQuickWindow* mainWindow READ mainWindow WRITE setMainWindow NOTIFY mainWindowChanged)
-    Q_PROPERTY(QObject* multiMonitorSyncControl READ multiMonitorSyncControl WRITE setMultiMonitorSyncControl NOTIFY
-                   multiMonitorSyncControlChanged)
+    Q_PROPERTY(QObject* multiMonitorSyncControl READ multiMonitorSyncControl WRITE setMultiMonitorSyncControl
+                   NOTIFY multiMonitorSyncControlChanged)
     Q_PROPERTY(bool isWindows READ isWindows CONSTANT)
     Q_PROPERTY(bool isMacOS READ isMacOS CONSTANT)
     Q_PROPERTY(bool isLinux READ isLinux CONSTANT)
@@ -97,13 +99,16 @@ public:
     /// The family that the window is drawn in: Inter where it is installed, else the desktop's.
     QString fontFamily() const;
 
-    /// @param values looks a key up for env(), @p choices for envDeviceChoice(); an invalid result means "not there".
+    /// @param values looks a key up for env(), @p choices for envDeviceChoice(); an invalid result means "not
+    /// there".
     void setEnvironment(Lookup values, Lookup choices);
     /// The screen that shows a monitor; without it the facts leave the resolution out.
     void setScreenSource(std::function<QScreen*(QObject* monitor)> source);
 
-    /// The file that stands behind "qrc:/images/packages/x.svg" of a package, in the variant of @p colorScheme.
-    /// @param item an item of the package that asks. A file that is missing gives an empty URL and one warning.
+    /// The file that stands behind "qrc:/images/packages/x.svg" of a package, in the variant of @p
+    /// colorScheme.
+    /// @param item an item of the package that asks. A file that is missing gives an empty URL and one
+    /// warning.
     Q_INVOKABLE QUrl resolvedResourceUrl(const QUrl& url, QObject* item, const QString& colorScheme) const;
     Q_INVOKABLE QVariant env(const QString& key, const QVariant& fallback = {}) const;
     Q_INVOKABLE QVariant envDeviceChoice(const QString& key, const QVariant& fallback = {}) const;

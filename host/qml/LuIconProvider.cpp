@@ -12,10 +12,7 @@ namespace {
 constexpr QSize Grid{24, 24};
 }
 
-LuIconProvider::LuIconProvider()
-    : QQuickImageProvider(QQuickImageProvider::Image)
-{
-}
+LuIconProvider::LuIconProvider() : QQuickImageProvider(QQuickImageProvider::Image) {}
 
 QImage LuIconProvider::requestImage(const QString& id, QSize* size, const QSize& requestedSize)
 {
@@ -24,8 +21,8 @@ QImage LuIconProvider::requestImage(const QString& id, QSize* size, const QSize&
         return {};
     const QColor color(u'#' + id.section(u'/', 1, 1));
     QByteArray drawing = file.readAll();
-    drawing.replace("currentColor", color.name(QColor::HexRgb).toLatin1() + "\" stroke-opacity=\""
-                                        + QByteArray::number(color.alphaF(), 'f', 3));
+    drawing.replace("currentColor", color.name(QColor::HexRgb).toLatin1() + "\" stroke-opacity=\"" +
+                                        QByteArray::number(color.alphaF(), 'f', 3));
     QBuffer buffer(&drawing);
     buffer.open(QIODevice::ReadOnly);
     QImageReader reader(&buffer, "svg");

@@ -6,45 +6,19 @@
 
 #include <QCoreApplication>
 #include <QGuiApplication>
-#include <QImage>
-#include <QKeyEvent>
-#include <QKeySequence>
-#include <QMouseEvent>
-#include <QPainter>
-#include <QPainterPath>
-#include <QPointer>
 #include <QQmlEngine>
 #include <QQmlError>
 #include <QQuickItem>
 #include <QQuickWindow>
-#include <QSaveFile>
 #include <QScopeGuard>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-// As LuStyle.radiusWindow.
-constexpr double CornerRadius = 14;
-
-LuWindowBridge::Result failure(int code, const QString& message)
-{
-    return {code, message, {}};
-}
-
-LuWindowBridge::Result noWindow()
-{
-    return failure(LuWindowBridge::NoWindow, u"there is no window"_s);
-}
-
 QJsonObject toJson(const QRect& rect)
 {
     return {{u"x"_s, rect.x()}, {u"y"_s, rect.y()}, {u"width"_s, rect.width()}, {u"height"_s, rect.height()}};
-}
-
-QString windowName(const QWindow* window)
-{
-    return window->objectName().isEmpty() ? window->title() : window->objectName();
 }
 
 bool isTypeOf(const QObject* object, const QString& type)
@@ -53,67 +27,9 @@ bool isTypeOf(const QObject* object, const QString& type)
     return object->objectName() == type || name == type || name.startsWith(type + "_QML"_L1);
 }
 
-// A picture of the window as it is once its layout has settled: a first drawing lays out, which may change the window's
-// size, and a window that has just been made learns its size from an event that is still on its way.
-QImage settledImage(QQuickWindow* window)
-{
-    constexpr int Rounds = 4;
-    QImage image;
-    for (int round = 0; round < Rounds; ++round)
-    {
-        const QSize before = window->size();
-        window->contentItem()->setSize(before);
-        image = window->grabWindow();
-        if (round > 0 && window->size() == before)
-            break;
-    }
-    image.setDevicePixelRatio(window->width() > 0 ? double(image.width()) / window->width() : 1);
-    return image;
-}
+} // namespace
 
-// The corners that a window shows are see-through; a drawing without alpha has them black.
-QImage withRoundCorners(const QImage& image, double radius)
-{
-    if (image.hasAlphaChannel() || radius <= 0)
-        return image;
-    QImage result(image.size(), QImage::Format_ARGB32_Premultiplied);
-    result.fill(Qt::transparent);
-    QPainter painter(&result);
-    painter.setRenderHint(QPainter::Antialiasing);
-    QPainterPath outline;
-    outline.addRoundedRect(result.rect(), radius * image.devicePixelRatio(), radius * image.devicePixelRatio());
-    QImage opaque = image;
-    opaque.setDevicePixelRatio(1);
-    painter.fillPath(outline, QBrush(opaque));
-    painter.end();
-    result.setDevicePixelRatio(image.devicePixelRatio());
-    return result;
-}
-
-// As the window does it for the item that has the focus, so that it also works while the desktop has the focus
-// elsewhere.
-void deliverKey(QQuickItem* item, QKeyEvent* event)
-{
-    event->accept();
-    QCoreApplication::sendEvent(item, event);
-    while (!event->isAccepted() && (item = item->parentItem()))
-    {
-        event->accept();
-        QCoreApplication::sendEvent(item, event);
-    }
-}
-
-}
-
-struct LuWindowBridge::Found
-{
-    QQuickItem* item = nullptr;
-    QString role;
-    Result error;
-};
-
-LuWindowBridge::LuWindowBridge(QQmlEngine* engine, QObject* parent)
-    : QObject(parent)
+LuWindowBridge::LuWindowBridge(QQmlEngine* engine, QObject* parent) : QObject(parent)
 {
     connect(engine, &QQmlEngine::warnings, this, [this](const QList<QQmlError>& errors) {
         for (const QQmlError& error : errors)
@@ -122,6 +38,21 @@ LuWindowBridge::LuWindowBridge(QQmlEngine* engine, QObject* parent)
 }
 
 LuWindowBridge::~LuWindowBridge() = default;
+
+LuWindowBridge::Result LuWindowBridge::failure(int code, const QString& message)
+{
+    return {code, message, {}};
+}
+
+LuWindowBridge::Result LuWindowBridge::noWindow()
+{
+    return failure(NoWindow, u"there is no window"_s);
+}
+
+QString LuWindowBridge::windowName(const QWindow* window)
+{
+    return window->objectName().isEmpty() ? window->title() : window->objectName();
+}
 
 QQuickWindow* LuWindowBridge::window() const
 {
@@ -170,8 +101,7 @@ LuWindowBridge::Result LuWindowBridge::widgetInfos() const
     QMetaObject::invokeMethod(window(), "widgetItems", Q_RETURN_ARG(QVariant, items));
     QJsonArray infos;
     const QVariantList list = items.toList();
-    for (const QVariant& entry : list)
-    {
+    for (const QVariant& entry : list) {
         const auto* item = entry.value<QQuickItem*>();
         if (!item)
             continue;
@@ -201,6 +131,10 @@ LuWindowBridge::Result LuWindowBridge::openPage(const QString& widget)
         return failure(NotWritable, u"the widget is disabled: %1"_s.arg(widget));
     if (item->property("popupWindow").value<QObject*>())
         return openPopup(widget);
+    // A page can only be seen with its window, and hiding the window closes it.
+    const bool has = item->property("page").value<QObject*>() != nullptr;
+    if (has && !window()->isVisible())
+        show();
     bool opened = false;
     QMetaObject::invokeMethod(window(), "openPage", Q_RETURN_ARG(bool, opened), Q_ARG(QString, widget));
     return opened ? Result() : failure(NoSuchThing, u"the widget has no page: %1"_s.arg(widget));
@@ -221,6 +155,8 @@ LuWindowBridge::Result LuWindowBridge::openPopup(const QString& widget)
     auto* popup = item ? item->property("popupWindow").value<QObject*>() : nullptr;
     if (!popup)
         return failure(NoSuchThing, u"no such popup: %1"_s.arg(widget));
+    if (!window()->isVisible())
+        show();
     QMetaObject::invokeMethod(popup, "open");
     return {};
 }
@@ -228,8 +164,7 @@ LuWindowBridge::Result LuWindowBridge::openPopup(const QString& widget)
 QQuickItem* LuWindowBridge::popupItem(const QString& type) const
 {
     const QList<QQuickItem*> children = window()->contentItem()->childItems();
-    for (QQuickItem* child : children)
-    {
+    for (QQuickItem* child : children) {
         if (isTypeOf(child, type))
             return child;
     }
@@ -241,21 +176,19 @@ LuWindowBridge::Result LuWindowBridge::close(const QString& name)
     if (!window())
         return noWindow();
     // What closes is deleted when the control returns to the event loop; the caller wants it gone now.
-    const auto flush = qScopeGuard([] { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); });
+    const auto flush =
+        qScopeGuard([] { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); });
     const auto* open = window()->property("openWidget").value<QQuickItem*>();
-    if (name.isEmpty() || (open && open->property("widgetName").toString() == name))
-    {
+    if (name.isEmpty() || (open && open->property("widgetName").toString() == name)) {
         QMetaObject::invokeMethod(window(), "closePage");
         return {};
     }
-    if (QQuickItem* item = widgetItem(name))
-    {
+    if (QQuickItem* item = widgetItem(name)) {
         if (auto* popup = item->property("popupWindow").value<QObject*>())
             QMetaObject::invokeMethod(popup, "close");
         return {};
     }
-    if (QQuickItem* popup = popupItem(name))
-    {
+    if (QQuickItem* popup = popupItem(name)) {
         QMetaObject::invokeMethod(popup, "close");
         return {};
     }
@@ -266,27 +199,23 @@ LuWindowBridge::Result LuWindowBridge::tree(const QString& widget) const
 {
     if (!window())
         return noWindow();
-    QJsonObject root{{u"role"_s, u"group"_s}, {u"name"_s, window()->title()}, {u"enabled"_s, true}, {u"focused"_s, false}};
+    QJsonObject root{
+        {u"role"_s, u"group"_s}, {u"name"_s, window()->title()}, {u"enabled"_s, true}, {u"focused"_s, false}};
     QJsonArray children;
-    if (widget.isEmpty())
-    {
+    if (widget.isEmpty()) {
         const QList<QWindow*> all = QGuiApplication::topLevelWindows();
-        for (QWindow* one : all)
-        {
+        for (QWindow* one : all) {
             auto* quick = qobject_cast<QQuickWindow*>(one);
             if (quick && quick->isVisible())
                 children.append(LuAccessibleTree::ofWindow(quick));
         }
-    }
-    else
-    {
+    } else {
         QQuickItem* item = widgetItem(widget);
         if (!item)
             return failure(NoSuchThing, u"no such widget: %1"_s.arg(widget));
         root.insert(u"name"_s, item->property("text").toString());
         children = LuAccessibleTree::ofItem(item);
-        if (item->property("pageOpen").toBool() && openPagePanel())
-        {
+        if (item->property("pageOpen").toBool() && openPagePanel()) {
             const QJsonArray page = LuAccessibleTree::ofItem(openPagePanel());
             for (const QJsonValue& node : page)
                 children.append(node);
@@ -299,18 +228,15 @@ LuWindowBridge::Result LuWindowBridge::tree(const QString& widget) const
 QList<QObject*> LuWindowBridge::scopes(const QString& within) const
 {
     QList<QObject*> result;
-    if (within.isEmpty())
-    {
+    if (within.isEmpty()) {
         const QList<QWindow*> all = QGuiApplication::topLevelWindows();
-        for (QWindow* one : all)
-        {
+        for (QWindow* one : all) {
             if (qobject_cast<QQuickWindow*>(one) && one->isVisible())
                 result << one;
         }
         return result;
     }
-    if (QQuickItem* item = widgetItem(within))
-    {
+    if (QQuickItem* item = widgetItem(within)) {
         // What stands on the page comes before a tile of the same name.
         if (item->property("pageOpen").toBool() && openPagePanel())
             result << openPagePanel();
@@ -320,37 +246,37 @@ QList<QObject*> LuWindowBridge::scopes(const QString& within) const
     if (QQuickItem* popup = popupItem(within))
         return {popup};
     const QList<QWindow*> all = QGuiApplication::topLevelWindows();
-    for (QWindow* one : all)
-    {
+    for (QWindow* one : all) {
         if (isTypeOf(one, within))
             result << one;
     }
     return result;
 }
 
-LuWindowBridge::Found LuWindowBridge::find(const QString& name, const QString& role, const QString& within) const
+LuWindowBridge::Found LuWindowBridge::find(const QString& name, const QString& role,
+                                           const QString& within) const
 {
     if (!window())
         return {nullptr, {}, noWindow()};
     const QList<QObject*> roots = scopes(within);
+    if (roots.isEmpty() && within.isEmpty())
+        return {nullptr, {}, failure(NoSuchThing, u"no window is shown, so no such control: %1"_s.arg(name))};
     if (roots.isEmpty())
         return {nullptr, {}, failure(NoSuchThing, u"nothing of that name is open: %1"_s.arg(within))};
     Found label;
-    for (QObject* root : roots)
-    {
+    for (QObject* root : roots) {
         const QList<LuAccessibleTree::Node> nodes = LuAccessibleTree::nodesBelow(root);
-        for (const LuAccessibleTree::Node& node : nodes)
-        {
+        for (const LuAccessibleTree::Node& node : nodes) {
             if (node.name != name || (!role.isEmpty() && node.role != role))
                 continue;
-            if (!node.item->isEnabled())
-            {
-                label = {nullptr, node.role, failure(NotWritable, u"the control is disabled: %1"_s.arg(name))};
+            if (!node.item->isEnabled()) {
+                label = {nullptr, node.role,
+                         failure(NotWritable, u"the control is disabled: %1"_s.arg(name))};
                 continue;
             }
             // Without a role a control is meant, not the text or page of the same name.
-            if (role.isEmpty() && (node.role == "label"_L1 || node.role == "page"_L1 || node.role == "group"_L1
-                                   || node.role == "window"_L1))
+            if (role.isEmpty() && (node.role == "label"_L1 || node.role == "page"_L1 ||
+                                   node.role == "group"_L1 || node.role == "window"_L1))
                 continue;
             return {node.item, node.role, {}};
         }
@@ -371,14 +297,13 @@ LuWindowBridge::Result LuWindowBridge::press(const QString& name, const QString&
     return {};
 }
 
-LuWindowBridge::Result LuWindowBridge::setValue(const QString& name, const QVariant& value, const QString& role,
-                                                const QString& within)
+LuWindowBridge::Result LuWindowBridge::setValue(const QString& name, const QVariant& value,
+                                                const QString& role, const QString& within)
 {
     const Found found = find(name, role, within);
     if (!found.item)
         return found.error;
-    if (value.typeId() == QMetaType::Bool && found.item->property("checked").isValid())
-    {
+    if (value.typeId() == QMetaType::Bool && found.item->property("checked").isValid()) {
         if (found.item->property("checked") != value)
             QMetaObject::invokeMethod(found.item, "assistivePress");
         return {};
@@ -387,52 +312,15 @@ LuWindowBridge::Result LuWindowBridge::setValue(const QString& name, const QVari
         return failure(NotWritable, u"the control has no value: %1"_s.arg(name));
     bool taken = false;
     QMetaObject::invokeMethod(found.item, "assistiveSet", Q_RETURN_ARG(bool, taken), Q_ARG(QVariant, value));
-    return taken ? Result() : failure(WrongValue, u"\"%1\" takes no such value: %2"_s.arg(name, value.toString()));
-}
-
-LuWindowBridge::Result LuWindowBridge::key(const QString& name, const QString& key, const QString& role,
-                                           const QString& within)
-{
-    const QKeySequence sequence = QKeySequence::fromString(key, QKeySequence::PortableText);
-    if (sequence.count() != 1 || sequence[0].key() == Qt::Key_unknown)
-        return failure(WrongValue, u"no such key: %1"_s.arg(key));
-    QQuickItem* item = nullptr;
-    if (name.isEmpty())
-    {
-        auto* focused = qobject_cast<QQuickWindow*>(QGuiApplication::focusWindow());
-        QQuickWindow* target = focused ? focused : window();
-        if (!target)
-            return noWindow();
-        item = target->activeFocusItem() ? target->activeFocusItem() : target->contentItem();
-    }
-    else
-    {
-        const Found found = find(name, role, within);
-        if (!found.item)
-            return found.error;
-        item = found.item;
-        item->forceActiveFocus(Qt::TabFocusReason);
-    }
-    const QKeyCombination combination = sequence[0];
-    const bool printable = combination.key() < Qt::Key_Escape && !(combination.keyboardModifiers() & Qt::ControlModifier);
-    const QString text = printable ? QString(QChar(char16_t(combination.key()))).toLower() : QString();
-    const QPointer<QQuickItem> target = item;
-    QKeyEvent down(QEvent::KeyPress, combination.key(), combination.keyboardModifiers(), text);
-    deliverKey(item, &down);
-    if (target)
-    {
-        QKeyEvent up(QEvent::KeyRelease, combination.key(), combination.keyboardModifiers(), text);
-        deliverKey(target, &up);
-    }
-    return {};
+    return taken ? Result()
+                 : failure(WrongValue, u"\"%1\" takes no such value: %2"_s.arg(name, value.toString()));
 }
 
 LuWindowBridge::Result LuWindowBridge::windows() const
 {
     QJsonArray list;
     const QList<QWindow*> all = QGuiApplication::topLevelWindows();
-    for (const QWindow* one : all)
-    {
+    for (const QWindow* one : all) {
         const auto* quick = qobject_cast<const QQuickWindow*>(one);
         list.append(QJsonObject{
             {u"name"_s, windowName(one)},
@@ -443,85 +331,4 @@ LuWindowBridge::Result LuWindowBridge::windows() const
         });
     }
     return {NoError, {}, list};
-}
-
-LuWindowBridge::Result LuWindowBridge::mouse(const QString& name, const QString& kind, const QPointF& position)
-{
-    QWindow* target = nullptr;
-    const QList<QWindow*> all = QGuiApplication::topLevelWindows();
-    for (QWindow* one : all)
-    {
-        if (windowName(one) == name || one->title() == name)
-            target = one;
-    }
-    if (!target)
-        return failure(NoSuchThing, u"no such window: %1"_s.arg(name));
-    const auto send = [&](QEvent::Type type, Qt::MouseButton button, Qt::MouseButtons buttons) {
-        m_buttons = buttons;
-        QMouseEvent event(type, position, target->mapToGlobal(position), button, buttons, Qt::NoModifier);
-        QCoreApplication::sendEvent(target, &event);
-    };
-    if (kind != "press"_L1 && kind != "move"_L1 && kind != "release"_L1 && kind != "click"_L1)
-        return failure(WrongValue, u"no such kind of pointer input: %1"_s.arg(kind));
-    if (kind == "move"_L1)
-        send(QEvent::MouseMove, Qt::NoButton, m_buttons);
-    if (kind == "press"_L1 || kind == "click"_L1)
-        send(QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton);
-    if (kind == "release"_L1 || kind == "click"_L1)
-        send(QEvent::MouseButtonRelease, Qt::LeftButton, Qt::NoButton);
-    return {};
-}
-
-LuWindowBridge::Result LuWindowBridge::screenshot(const QString& file, const QString& widget, const QString& theme)
-{
-    LuContext* context = LuContext::instance();
-    if (!window())
-        return noWindow();
-    if (!theme.isEmpty() && theme != "light"_L1 && theme != "dark"_L1)
-        return failure(WrongValue, u"no such theme: %1"_s.arg(theme));
-    // A picture shows the end of every transition.
-    const bool motion = context->reducedMotion();
-    const QString before = context->theme();
-    context->setReducedMotion(true);
-    if (!theme.isEmpty())
-        context->setTheme(theme);
-    bool opened = false;
-    const auto restore = qScopeGuard([&] {
-        if (opened)
-            close(widget);
-        context->setTheme(before);
-        context->setReducedMotion(motion);
-    });
-    QQuickWindow* target = window();
-    QRectF part;
-    if (!widget.isEmpty())
-    {
-        const QQuickItem* item = widgetItem(widget);
-        if (!item || !item->property("pageOpen").toBool())
-        {
-            if (const Result result = openPage(widget); !result.ok())
-                return result;
-            opened = true;
-        }
-        if (QQuickItem* panel = openPagePanel())
-        {
-            target = panel->window();
-            part = panel->mapRectToScene(QRectF(0, 0, panel->width(), panel->height()));
-        }
-    }
-    QImage image = settledImage(target);
-    if (image.isNull())
-        return failure(NoWindow, u"the window cannot be drawn"_s);
-    if (part.isValid() && target == window())
-    {
-        const double ratio = image.devicePixelRatio();
-        image = image.copy(QRectF(part.topLeft() * ratio, part.size() * ratio).toRect());
-        image.setDevicePixelRatio(ratio);
-    }
-    if (target->color().alpha() < 255)
-        image = withRoundCorners(image, CornerRadius);
-    QSaveFile out(file);
-    if (!out.open(QIODevice::WriteOnly) || !image.save(&out, "PNG") || !out.commit())
-        return failure(WrongValue, u"cannot write %1: %2"_s.arg(file, out.errorString()));
-    return {};
 }

@@ -19,15 +19,14 @@ class QWindow;
 
 /// The windows as scripts see and use them: widgets, pages, the accessible tree, input and pictures.
 ///
-/// All operations run on the GUI thread and return once they are done. Their error codes are those of the control
-/// protocol: 2 nothing of that name, 3 disabled, 4 a value that does not fit, 6 no window.
+/// All operations run on the GUI thread and return once they are done. Their error codes are those of the
+/// control protocol: 2 nothing of that name, 3 disabled, 4 a value that does not fit, 6 no window.
 class LuWindowBridge : public QObject
 {
     Q_OBJECT
 
 public:
-    enum Error
-    {
+    enum Error {
         NoError = 0,
         NoSuchThing = 2,
         NotWritable = 3,
@@ -51,26 +50,29 @@ public:
     Result show();
     Result hide();
 
-    /// List of {"widget","text","supported","active","enabled","shown","image","popup"} in the package's order.
+    /// List of {"widget","text","supported","active","enabled","shown","image","popup"} in the package's
+    /// order.
     Result widgetInfos() const;
 
-    /// As a click on the tile: the page, or the warning that stands in its place. Error 2 if it has neither.
+    /// As a click on the tile, with the window shown for it: the page, or the warning that stands in its
+    /// place. Error 2 if it has neither.
     Result openPage(const QString& widget);
     /// Opens an advanced section; error 2 if there is none of that name.
     Result openSection(const QString& section);
     /// Opens the popup of a widget, such as the warning of its colour mode.
     Result openPopup(const QString& widget);
-    /// Closes the page of @p name, or whatever page is open for an empty name, or a popup of that type. Its end, with the
-    /// event that belongs to it, has run on return.
+    /// Closes the page of @p name, or whatever page is open for an empty name, or a popup of that type. Its
+    /// end, with the event that belongs to it, has run on return.
     Result close(const QString& name = {});
 
     /// The tree of all visible windows, or of one widget's tile and its open page.
     Result tree(const QString& widget = {}) const;
 
     Result press(const QString& name, const QString& role = {}, const QString& within = {});
-    Result setValue(const QString& name, const QVariant& value, const QString& role = {}, const QString& within = {});
-    /// @param key as QKeySequence spells it, such as "Space" or "Ctrl+Right". An empty @p name means the control that
-    /// has the focus.
+    Result setValue(const QString& name, const QVariant& value, const QString& role = {},
+                    const QString& within = {});
+    /// @param key as QKeySequence spells it, such as "Space" or "Ctrl+Right". An empty @p name means the
+    /// control that has the focus.
     Result key(const QString& name, const QString& key, const QString& role = {}, const QString& within = {});
 
     Result windows() const;
@@ -84,8 +86,16 @@ public:
     QStringList warnings() const { return m_warnings; }
 
 private:
-    struct Found;
+    struct Found
+    {
+        QQuickItem* item = nullptr;
+        QString role;
+        Result error;
+    };
 
+    static Result failure(int code, const QString& message);
+    static Result noWindow();
+    static QString windowName(const QWindow* window);
     QQuickWindow* window() const;
     QQuickItem* widgetItem(const QString& name) const;
     QQuickItem* openPagePanel() const;

@@ -31,20 +31,22 @@ void registerTypes()
     if (done)
         return;
     done = true;
-    qmlRegisterSingletonType<LuContext>("LumenDesk", 1, 0, "LuContext", [](QQmlEngine*, QJSEngine*) -> QObject* {
-        LuContext* context = LuContext::instance();
-        QJSEngine::setObjectOwnership(context, QJSEngine::CppOwnership);
-        return context;
-    });
+    qmlRegisterSingletonType<LuContext>("LumenDesk", 1, 0, "LuContext",
+                                        [](QQmlEngine*, QJSEngine*) -> QObject* {
+                                            LuContext* context = LuContext::instance();
+                                            QJSEngine::setObjectOwnership(context, QJSEngine::CppOwnership);
+                                            return context;
+                                        });
 #ifdef LUMEN_QML_SHARED_TYPES
     const QString reason = u"Owned by the monitor"_s;
     qmlRegisterUncreatableType<LuMonitorModel>("LumenDesk", 1, 0, "LuMonitorModel", reason);
     qmlRegisterUncreatableType<LuModelModuleInterface>("LumenDesk", 1, 0, "LuModelModuleInterface", reason);
     qmlRegisterUncreatableType<LuVCPNode>("LumenDesk", 1, 0, "LuVCPNode", reason);
-    qmlRegisterUncreatableType<LuDataCollection>("LumenDesk", 1, 0, "LuDataCollection", u"Only enumerations"_s);
+    qmlRegisterUncreatableType<LuDataCollection>("LumenDesk", 1, 0, "LuDataCollection",
+                                                 u"Only enumerations"_s);
 #endif
 }
-}
+} // namespace
 
 void lumenQmlInit(QQmlEngine* engine)
 {
@@ -53,9 +55,9 @@ void lumenQmlInit(QQmlEngine* engine)
     // Own modules first; stand-ins for modules that an older Qt lacks last, so that the real ones win.
     // addImportPath() would prepend each.
     QStringList paths = engine->importPathList();
-    // A package's files import their module by the relative path "..". That import gets the module's name, and with it
-    // the C++ types, only from an import path that begins as the file's own path does. The engine turns ":/" into
-    // "qrc:/" unless it comes as a file's address.
+    // A package's files import their module by the relative path "..". That import gets the module's name,
+    // and with it the C++ types, only from an import path that begins as the file's own path does. The engine
+    // turns ":/" into "qrc:/" unless it comes as a file's address.
     paths.prepend(QUrl::fromLocalFile(u":/TKPackage/qml"_s).toString());
     paths.prepend(u"qrc:/TKPackage/qml"_s);
     paths.prepend(u"qrc:/lumendesk/qml"_s);

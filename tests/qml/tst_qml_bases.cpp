@@ -58,8 +58,8 @@ void TestBases::cleanup()
 QString TestBases::word(const char* strings, const char* function, int mode) const
 {
     QString result;
-    QMetaObject::invokeMethod(m_window->property(strings).value<QObject*>(), function, Q_RETURN_ARG(QString, result),
-                              Q_ARG(int, mode));
+    QMetaObject::invokeMethod(m_window->property(strings).value<QObject*>(), function,
+                              Q_RETURN_ARG(QString, result), Q_ARG(int, mode));
     return result;
 }
 
@@ -99,7 +99,8 @@ void TestBases::aShortcutStartsSomething()
 void TestBases::aSectionShowsWhileItsRequirementsHold()
 {
     const auto shown = [this] {
-        return QString::fromUtf8(QJsonDocument(m_shell->bridge->tree().value.toObject()).toJson()).contains(u"Section body"_s);
+        return QString::fromUtf8(QJsonDocument(m_shell->bridge->tree().value.toObject()).toJson())
+            .contains(u"Section body"_s);
     };
     QVERIFY(shown());
     m_window->setProperty("sectionRequired", false);
@@ -142,7 +143,8 @@ void TestBases::thePackageSpeaksAsItsMonitorsMenu_data()
     QTest::newRow("5000 K") << false << int(FakeMode::ColorTemperature_5000) << u"Reddish"_s << u"5000 K"_s;
     QTest::newRow("6500 K") << false << int(FakeMode::ColorTemperature_6500) << u"Normal"_s << u"6500 K"_s;
     QTest::newRow("9300 K") << false << int(FakeMode::ColorTemperature_9300) << u"Bluish"_s << u"9300 K"_s;
-    QTest::newRow("user") << false << int(FakeMode::ColorTemperature_UserDefine) << u"User defined"_s << u"User defined"_s;
+    QTest::newRow("user") << false << int(FakeMode::ColorTemperature_UserDefine) << u"User defined"_s
+                          << u"User defined"_s;
     QTest::newRow("gamma 1.6") << true << int(FakeMode::Gamma_16) << u"1.6"_s << u"1.6"_s;
     QTest::newRow("gamma 1.8") << true << int(FakeMode::Gamma_18) << u"1"_s << u"1.8"_s;
     QTest::newRow("gamma 2.0") << true << int(FakeMode::Gamma_20) << u"2"_s << u"2.0"_s;
@@ -170,8 +172,13 @@ void TestBases::theWalkthroughHasItsTwoPages()
     QCOMPARE(pages.count(), 2);
     QCOMPARE(pages.at(0)->property("title").toString(), u"BackGlow Auto-dimming"_s);
     QCOMPARE(pages.at(1)->property("title").toString(), u"Night Hours Protection"_s);
-    QVERIFY(pages.at(0)->property("animationSource").toUrl().toString().endsWith(u"intro_tk01_glow_a_ok.json"_s));
-    QVERIFY(pages.at(1)->property("animationSource").toUrl().toString().endsWith(u"intro_tk02_night_v2_ok.json"_s));
+    QVERIFY(
+        pages.at(0)->property("animationSource").toUrl().toString().endsWith(u"intro_tk01_glow_a_ok.json"_s));
+    QVERIFY(pages.at(1)
+                ->property("animationSource")
+                .toUrl()
+                .toString()
+                .endsWith(u"intro_tk02_night_v2_ok.json"_s));
     for (const int index : {0, 1})
         QVERIFY(!pages.at(index)->property("description").toString().isEmpty());
 }

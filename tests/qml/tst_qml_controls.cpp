@@ -8,7 +8,8 @@
 
 using namespace Qt::StringLiterals;
 
-/// The controls as assistive software, the keyboard and the pointer use them, and the colours that they are drawn in.
+/// The controls as assistive software, the keyboard and the pointer use them, and the colours that they are
+/// drawn in.
 class TestControls : public QObject
 {
     Q_OBJECT
@@ -64,11 +65,9 @@ void TestControls::cleanup()
 QJsonObject TestControls::node(const QString& name) const
 {
     const QJsonArray windows = m_shell->bridge->tree().value[u"children"_s].toArray();
-    for (const QJsonValue& window : windows)
-    {
+    for (const QJsonValue& window : windows) {
         const QJsonArray children = window[u"children"_s].toArray();
-        for (const QJsonValue& child : children)
-        {
+        for (const QJsonValue& child : children) {
             if (child[u"name"_s].toString() == name && child[u"role"_s].toString() != u"label"_s)
                 return child.toObject();
         }
@@ -143,8 +142,8 @@ void TestControls::aSliderShowsWhatTheMonitorConfirmed()
         // Just above the line, where only the tick and the handle are drawn.
         const int y = int(rect[u"y"_s].toDouble()) + 6;
         int columns = 0;
-        for (int x = int(rect[u"x"_s].toDouble()); x < int(rect[u"x"_s].toDouble() + rect[u"width"_s].toDouble()); ++x)
-        {
+        for (int x = int(rect[u"x"_s].toDouble());
+             x < int(rect[u"x"_s].toDouble() + rect[u"width"_s].toDouble()); ++x) {
             const QColor color = image.pixelColor(x, y);
             columns += color.blue() > 150 && color.red() < 120;
         }
@@ -221,13 +220,26 @@ void TestControls::textHasEnoughContrast_data()
         const char* surface;
         double atLeast;
     } rows[] = {
-        {"text", "background", 4.5},    {"text", "card", 4.5},         {"text", "raised", 4.5},
-        {"text", "field", 4.5},         {"text", "fieldHover", 4.5},   {"textDim", "background", 4.5},
-        {"textDim", "card", 4.5},       {"textDim", "raised", 4.5},    {"accentText", "background", 4.5},
-        {"accentText", "card", 4.5},    {"accentText", "raised", 4.5}, {"accentInk", "accentFill", 4.5},
-        {"accentInk", "cautionFill", 4.5}, {"caution", "card", 4.5},   {"accentInk", "accent", 3.0},
-        {"outline", "card", 3.0},       {"outline", "background", 3.0}, {"focus", "background", 3.0},
-        {"focus", "card", 3.0},         {"accent", "card", 3.0},
+        {"text", "background", 4.5},
+        {"text", "card", 4.5},
+        {"text", "raised", 4.5},
+        {"text", "field", 4.5},
+        {"text", "fieldHover", 4.5},
+        {"textDim", "background", 4.5},
+        {"textDim", "card", 4.5},
+        {"textDim", "raised", 4.5},
+        {"accentText", "background", 4.5},
+        {"accentText", "card", 4.5},
+        {"accentText", "raised", 4.5},
+        {"accentInk", "accentFill", 4.5},
+        {"accentInk", "cautionFill", 4.5},
+        {"caution", "card", 4.5},
+        {"accentInk", "accent", 3.0},
+        {"outline", "card", 3.0},
+        {"outline", "background", 3.0},
+        {"focus", "background", 3.0},
+        {"focus", "card", 3.0},
+        {"accent", "card", 3.0},
     };
     for (const auto& row : rows)
         QTest::addRow("%s on %s", row.text, row.surface)
@@ -241,15 +253,15 @@ void TestControls::textHasEnoughContrast()
     QFETCH(double, atLeast);
     const auto* style = m_window->property("style").value<QObject*>();
     QVERIFY(style);
-    for (const bool high : {false, true})
-    {
+    for (const bool high : {false, true}) {
         m_shell->context.setHighContrast(high);
-        for (const QString& theme : {u"light"_s, u"dark"_s})
-        {
+        for (const QString& theme : {u"light"_s, u"dark"_s}) {
             m_shell->context.setTheme(theme);
-            const double ratio = m_shell->context.contrastRatio(style->property(qPrintable(text)).value<QColor>(),
-                                                                style->property(qPrintable(surface)).value<QColor>());
-            QVERIFY2(ratio >= atLeast, qPrintable(u"%1, high contrast %2: %3"_s.arg(theme).arg(high).arg(ratio)));
+            const double ratio =
+                m_shell->context.contrastRatio(style->property(qPrintable(text)).value<QColor>(),
+                                               style->property(qPrintable(surface)).value<QColor>());
+            QVERIFY2(ratio >= atLeast,
+                     qPrintable(u"%1, high contrast %2: %3"_s.arg(theme).arg(high).arg(ratio)));
         }
     }
 }

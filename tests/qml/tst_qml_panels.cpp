@@ -63,7 +63,8 @@ void TestPanels::cleanup()
 
 void TestPanels::start(bool secondWithoutSensor)
 {
-    m_shell.emplace(secondWithoutSensor ? QList<FakeMonitor*>{&*m_second} : QList<FakeMonitor*>{&*m_first, &*m_second});
+    m_shell.emplace(secondWithoutSensor ? QList<FakeMonitor*>{&*m_second}
+                                        : QList<FakeMonitor*>{&*m_first, &*m_second});
     QVERIFY(m_shell->window());
     m_shell->window()->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_shell->window()));
@@ -200,8 +201,7 @@ void TestPanels::thePageRotatesTheDesktop()
 {
     start();
     QVERIFY(m_shell->bridge->openPage(u"LuAutoPivotWidget"_s).ok());
-    for (const int degrees : {90, 180, 270, 0})
-    {
+    for (const int degrees : {90, 180, 270, 0}) {
         const QString name = u"%1°"_s.arg(degrees);
         QVERIFY(m_shell->bridge->press(name, u"radio"_s, u"LuAutoPivotWidget"_s).ok());
         QCOMPARE(m_first->pivot.currentPivot(), degrees);

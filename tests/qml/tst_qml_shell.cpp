@@ -30,6 +30,8 @@ private Q_SLOTS:
     void theWindowIsNarrowAndStandsAtTheLowerRightCorner();
     void thePageStandsBesideTheWindow();
     void thePageLiesOverTheWindowWhereThereIsNoRoom();
+    void openingAPageShowsTheWindow();
+    void whatIsHiddenCannotBePressed();
     void tilesAreButtonsOfTheirName();
     void everyControlHasANameAndARole();
     void theTreeOfAWidgetHoldsItsPage();
@@ -87,8 +89,7 @@ QJsonObject TestShell::node(const QJsonObject& tree, const QString& name, const 
     if (tree[u"name"_s].toString() == name && (role.isEmpty() || tree[u"role"_s].toString() == role))
         return tree;
     const QJsonArray children = tree[u"children"_s].toArray();
-    for (const QJsonValue& child : children)
-    {
+    for (const QJsonValue& child : children) {
         if (const QJsonObject found = node(child.toObject(), name, role); !found.isEmpty())
             return found;
     }
@@ -201,6 +202,26 @@ void TestShell::thePageLiesOverTheWindowWhereThereIsNoRoom()
     QTRY_VERIFY(!m_shell->item(u"pagePanel"_s));
 }
 
+void TestShell::openingAPageShowsTheWindow()
+{
+    start({&*m_first});
+    QVERIFY(m_shell->bridge->hide().ok());
+    QVERIFY(!m_shell->window()->isVisible());
+    QVERIFY(m_shell->bridge->openPage(u"LuAutoPivotWidget"_s).ok());
+    QVERIFY(m_shell->window()->isVisible());
+    QVERIFY(m_shell->bridge->press(u"90°"_s).ok());
+    QCOMPARE(m_first->pivot.currentPivot(), 90);
+}
+
+void TestShell::whatIsHiddenCannotBePressed()
+{
+    start({&*m_first});
+    QVERIFY(m_shell->bridge->hide().ok());
+    const auto result = m_shell->bridge->press(u"Local Contrast"_s);
+    QCOMPARE(result.code, int(LuWindowBridge::NoSuchThing));
+    QVERIFY(!m_first->contrast.state());
+}
+
 void TestShell::tilesAreButtonsOfTheirName()
 {
     start({&*m_first});
@@ -211,7 +232,8 @@ void TestShell::tilesAreButtonsOfTheirName()
     QVERIFY(tile[u"image"_s].toString().endsWith(u"btn_aicontrast.svg"_s));
     QVERIFY(m_shell->bridge->press(u"Local Contrast"_s).ok());
     QVERIFY(m_first->contrast.state());
-    QCOMPARE(node(m_shell->bridge->tree().value.toObject(), u"Local Contrast"_s)[u"checked"_s].toBool(), true);
+    QCOMPARE(node(m_shell->bridge->tree().value.toObject(), u"Local Contrast"_s)[u"checked"_s].toBool(),
+             true);
 }
 
 void TestShell::everyControlHasANameAndARole()
@@ -246,13 +268,13 @@ void TestShell::theKeyboardReachesEveryTile()
     m_shell->window()->requestActivate();
     QVERIFY(QTest::qWaitForWindowActive(m_shell->window()));
     QStringList reached;
-    for (int step = 0; step < 12; ++step)
-    {
+    for (int step = 0; step < 12; ++step) {
         QTest::keyClick(m_shell->window(), Qt::Key_Tab);
         if (const QQuickItem* item = m_shell->window()->activeFocusItem())
             reached << item->objectName();
     }
-    for (const QString& name : {u"settingsButton"_s, u"closeButton"_s, u"LuAutoPivotWidget.button"_s, u"LuAiContrastWidget.button"_s})
+    for (const QString& name : {u"settingsButton"_s, u"closeButton"_s, u"LuAutoPivotWidget.button"_s,
+                                u"LuAiContrastWidget.button"_s})
         QVERIFY2(reached.contains(name), qPrintable(name + u" not in "_s + reached.join(u' ')));
 }
 
@@ -287,19 +309,40 @@ void TestShell::unknownThingsAreErrorTwo()
     start({&*m_first});
     LuWindowBridge& bridge = *m_shell->bridge;
     LuWindowBridge::Result result;
-    switch (what)
-    {
-    case 0: result = bridge.press(u"Nothing"_s); break;
-    case 1: result = bridge.press(u"Local Contrast"_s, {}, u"LuNothingWidget"_s); break;
-    case 2: result = bridge.press(u"Local Contrast"_s, u"slider"_s); break;
-    case 3: result = bridge.openPage(u"LuNothingWidget"_s); break;
-    case 4: result = bridge.openPage(u"LuAiContrastWidget"_s); break;
-    case 5: result = bridge.openSection(u"SectionNothing"_s); break;
-    case 6: result = bridge.openPopup(u"LuAiContrastWidget"_s); break;
-    case 7: result = bridge.close(u"LuNothingWidget"_s); break;
-    case 8: result = bridge.tree(u"LuNothingWidget"_s); break;
-    case 9: result = bridge.mouse(u"nothing"_s, u"click"_s, {}); break;
-    case 10: result = bridge.screenshot(u"/tmp/never.png"_s, u"LuNothingWidget"_s); break;
+    switch (what) {
+    case 0:
+        result = bridge.press(u"Nothing"_s);
+        break;
+    case 1:
+        result = bridge.press(u"Local Contrast"_s, {}, u"LuNothingWidget"_s);
+        break;
+    case 2:
+        result = bridge.press(u"Local Contrast"_s, u"slider"_s);
+        break;
+    case 3:
+        result = bridge.openPage(u"LuNothingWidget"_s);
+        break;
+    case 4:
+        result = bridge.openPage(u"LuAiContrastWidget"_s);
+        break;
+    case 5:
+        result = bridge.openSection(u"SectionNothing"_s);
+        break;
+    case 6:
+        result = bridge.openPopup(u"LuAiContrastWidget"_s);
+        break;
+    case 7:
+        result = bridge.close(u"LuNothingWidget"_s);
+        break;
+    case 8:
+        result = bridge.tree(u"LuNothingWidget"_s);
+        break;
+    case 9:
+        result = bridge.mouse(u"nothing"_s, u"click"_s, {});
+        break;
+    case 10:
+        result = bridge.screenshot(u"/tmp/never.png"_s, u"LuNothingWidget"_s);
+        break;
     }
     QCOMPARE(result.code, int(LuWindowBridge::NoSuchThing));
     QVERIFY(!result.message.isEmpty());
@@ -330,7 +373,8 @@ void TestShell::aPointerClickReachesATile()
 {
     start({&*m_first});
     QVERIFY(!m_shell->window()->grabWindow().isNull());
-    const QJsonObject rect = node(m_shell->bridge->tree().value.toObject(), u"Local Contrast"_s)[u"rect"_s].toObject();
+    const QJsonObject rect =
+        node(m_shell->bridge->tree().value.toObject(), u"Local Contrast"_s)[u"rect"_s].toObject();
     const QPointF centre(rect[u"x"_s].toDouble() + rect[u"width"_s].toDouble() / 2,
                          rect[u"y"_s].toDouble() + rect[u"height"_s].toDouble() / 2);
     QVERIFY(m_shell->bridge->mouse(u"mainWindow"_s, u"click"_s, centre).ok());
@@ -346,7 +390,8 @@ void TestShell::aPictureIsWrittenInTheThemeAskedFor()
         if (!m_shell->bridge->screenshot(file, {}, theme).ok())
             return -1;
         const QImage image(file);
-        return image.width() == 340 ? image.pixelColor(image.width() / 2, image.height() - 6).lightness() : -1;
+        return image.width() == 340 ? image.pixelColor(image.width() / 2, image.height() - 6).lightness()
+                                    : -1;
     };
     QVERIFY(lightness(u"light"_s) > 200);
     const int dark = lightness(u"dark"_s);
@@ -370,8 +415,7 @@ void TestShell::windowsAreListed()
     start({&*m_first});
     const QJsonArray list = m_shell->bridge->windows().value.toArray();
     bool found = false;
-    for (const QJsonValue& one : list)
-    {
+    for (const QJsonValue& one : list) {
         if (one[u"name"_s].toString() != u"mainWindow"_s)
             continue;
         found = true;
@@ -433,10 +477,10 @@ void TestShell::theTypeFileMatchesTheContext()
         properties << QString::fromLatin1(meta.property(index).name());
     QSet<QString> methods;
     QSet<QString> notifiers;
-    for (int index = meta.methodOffset(); index < meta.methodCount(); ++index)
-    {
+    for (int index = meta.methodOffset(); index < meta.methodCount(); ++index) {
         const QMetaMethod method = meta.method(index);
-        (method.methodType() == QMetaMethod::Signal ? notifiers : methods) << QString::fromLatin1(method.name());
+        (method.methodType() == QMetaMethod::Signal ? notifiers : methods)
+            << QString::fromLatin1(method.name());
     }
     QCOMPARE(names(u"Property"_s), properties);
     QCOMPARE(names(u"Signal"_s), notifiers);

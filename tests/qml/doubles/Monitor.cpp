@@ -26,9 +26,7 @@ void FakeAutoPivot::setCurrentPivot(int pivot)
 }
 
 FakeMonitor::FakeMonitor(const QString& name, QObject* parent)
-    : QObject(parent)
-    , nickName(name)
-    , m_mode(&allowing)
+    : QObject(parent), nickName(name), m_mode(&allowing)
 {
     forbidding.aiContrastEnable = FakeMode::FunctionOff;
 }

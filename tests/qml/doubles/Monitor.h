@@ -12,8 +12,7 @@ class FakeMode : public QObject
     Q_PROPERTY(int aiContrastEnable MEMBER aiContrastEnable CONSTANT)
 
 public:
-    enum FunctionEnable
-    {
+    enum FunctionEnable {
         FunctionOff,
         FunctionOn,
         FunctionUndefined,
@@ -21,8 +20,7 @@ public:
     Q_ENUM(FunctionEnable)
 
     // In the order of the real class, for runs without its library.
-    enum Gamma
-    {
+    enum Gamma {
         Gamma_16,
         Gamma_18,
         Gamma_20,
@@ -34,8 +32,7 @@ public:
     };
     Q_ENUM(Gamma)
 
-    enum ColorTemperature
-    {
+    enum ColorTemperature {
         ColorTemperature_5000,
         ColorTemperature_6500,
         ColorTemperature_9300,
@@ -76,8 +73,7 @@ class FakeAiContrast : public FakeModule
     Q_PROPERTY(bool state READ state WRITE setState NOTIFY stateChanged)
 
 public:
-    enum AiContrastDisplayNameType
-    {
+    enum AiContrastDisplayNameType {
         NameAiContrast = 1,
         NameLocalContrast = 2,
     };

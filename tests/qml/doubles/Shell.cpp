@@ -6,8 +6,8 @@
 #include <QGuiApplication>
 #include <QMutex>
 #include <QQuickItem>
-#include <QtQml>
 #include <QtQml/qqmlmoduleregistration.h>
+#include <QtQml>
 
 using namespace Qt::StringLiterals;
 
@@ -45,17 +45,15 @@ QQuickItem* itemBelow(QQuickItem* item, const QString& name)
     if (item->objectName() == name)
         return item;
     const QList<QQuickItem*> children = item->childItems();
-    for (QQuickItem* child : children)
-    {
+    for (QQuickItem* child : children) {
         if (QQuickItem* found = itemBelow(child, name))
             return found;
     }
     return nullptr;
 }
-}
+} // namespace
 
-Shell::Shell(const QList<FakeMonitor*>& monitors)
-    : context(*LuContext::instance())
+Shell::Shell(const QList<FakeMonitor*>& monitors) : context(*LuContext::instance())
 {
     initResources();
     if (!previous)
@@ -108,8 +106,7 @@ QQuickItem* Shell::widget(const char* name) const
 QQuickItem* Shell::item(const QString& objectName) const
 {
     const QList<QWindow*> windows = QGuiApplication::topLevelWindows();
-    for (QWindow* one : windows)
-    {
+    for (QWindow* one : windows) {
         auto* quick = qobject_cast<QQuickWindow*>(one);
         if (!quick || !quick->isVisible())
             continue;
@@ -126,7 +123,8 @@ QStringList Shell::takeWarnings()
 
 QList<QUrl> Shell::widgetUrls()
 {
-    const QStringList names{u"LuVolumeWidget"_s, u"LuAutoPivotWidget"_s, u"LuPivotWidget"_s, u"LuAiContrastWidget"_s};
+    const QStringList names{u"LuVolumeWidget"_s, u"LuAutoPivotWidget"_s, u"LuPivotWidget"_s,
+                            u"LuAiContrastWidget"_s};
     QList<QUrl> urls;
     for (const QString& name : names)
         urls << QUrl(u"qrc:///TKPackage/qml/TKPackage/Widgets/%1.qml"_s.arg(name));

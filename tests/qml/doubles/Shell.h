@@ -32,7 +32,8 @@ public:
     LuContext& context;
 
 private:
-    /// Outlives the engine: pictures that nothing shows any more stay cached for a while, which looks like a leak.
+    /// Outlives the engine: pictures that nothing shows any more stay cached for a while, which looks like a
+    /// leak.
     struct PictureCache
     {
         ~PictureCache();

@@ -28,8 +28,7 @@ int main(int argc, char** argv)
     Shell shell({&first, &second});
     shell.bridge->show();
     const auto shoot = [&](const QString& name, const QString& widget = {}) {
-        for (const QString& theme : {u"light"_s, u"dark"_s})
-        {
+        for (const QString& theme : {u"light"_s, u"dark"_s}) {
             const QString file = folder.filePath(name + u'-' + theme + suffix + u".png"_s);
             if (const auto result = shell.bridge->screenshot(file, widget, theme); !result.ok())
                 qCritical().noquote() << result.message;
@@ -54,11 +53,10 @@ int main(int argc, char** argv)
     shell.engine.load(QUrl(u"qrc:/tests/Controls.qml"_s));
     auto* controls = qobject_cast<QQuickWindow*>(shell.engine.rootObjects().constLast());
     controls->setProperty("confirmed", 55);
-    for (const QString& theme : {u"light"_s, u"dark"_s})
-    {
+    for (const QString& theme : {u"light"_s, u"dark"_s}) {
         shell.context.setTheme(theme);
-        if (!QTest::qWaitForWindowExposed(controls)
-            || !controls->grabWindow().save(folder.filePath(u"controls-"_s + theme + suffix + u".png"_s)))
+        if (!QTest::qWaitForWindowExposed(controls) ||
+            !controls->grabWindow().save(folder.filePath(u"controls-"_s + theme + suffix + u".png"_s)))
             qCritical("cannot draw the controls");
     }
     return Shell::takeWarnings().isEmpty() ? 0 : 1;
