@@ -111,6 +111,11 @@ QJsonValue World::value(QLatin1String path) const
 QJsonValue World::value(QLatin1String path, const QString& monitor) const
 {
     const std::lock_guard lock(m_mutex);
+    return ofMonitor(path, monitor);
+}
+
+QJsonValue World::ofMonitor(QLatin1String path, const QString& monitor) const
+{
     const auto own = m_perMonitor.constFind(path);
     if (own != m_perMonitor.constEnd()) {
         if (const auto it = own->constFind(monitor); it != own->constEnd())
@@ -134,8 +139,8 @@ bool World::setValue(QLatin1String path, const QJsonValue& value)
 
 bool World::setValue(QLatin1String path, const QString& monitor, const QJsonValue& value)
 {
-    const QJsonValue before = this->value(path, monitor);
     const std::lock_guard lock(m_mutex);
+    const QJsonValue before = ofMonitor(path, monitor);
     auto& own = m_perMonitor[path];
     // A model's name means all of its monitors.
     if (!monitor.contains(u'@'))

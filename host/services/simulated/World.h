@@ -89,6 +89,8 @@ public:
     DesktopEvents::KeyHandler keyHandler;
 
 private:
+    QJsonValue ofMonitor(QLatin1String path, const QString& monitor) const; // with the lock held
+
     mutable std::mutex m_mutex;
     QHash<QString, QJsonValue> m_shared;
     QHash<QString, QHash<QString, QJsonValue>> m_perMonitor; // by path, by monitor
