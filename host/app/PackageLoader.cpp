@@ -4,10 +4,40 @@
 #include <QCoreApplication>
 #include <QDebug>
 #include <QDir>
+#include <QFile>
 #include <QJsonObject>
 #include <QLibrary>
 
 #include <algorithm>
+#include <cstring>
+#include <elf.h>
+
+namespace {
+
+/// Whether every part that an ELF file (System V ABI, chapter 4) announces lies inside of it. The dynamic linker maps
+/// a file that was cut short all the same, and the first access behind its end kills the process.
+bool isWholeLibrary(const QString& path)
+{
+    QFile file(path);
+    Elf64_Ehdr header;
+    if (!file.open(QIODevice::ReadOnly) || file.read(reinterpret_cast<char*>(&header), sizeof header) != sizeof header)
+        return false;
+    if (std::memcmp(header.e_ident, ELFMAG, SELFMAG) != 0 || header.e_ident[EI_CLASS] != ELFCLASS64)
+        return false;
+    const auto size = quint64(file.size());
+    const auto inside = [size](quint64 offset, quint64 length) { return offset <= size && length <= size - offset; };
+    if (!inside(header.e_shoff, quint64(header.e_shnum) * header.e_shentsize) || header.e_phentsize != sizeof(Elf64_Phdr))
+        return false;
+    file.seek(qint64(header.e_phoff));
+    for (int i = 0; i < header.e_phnum; ++i) {
+        Elf64_Phdr part;
+        if (file.read(reinterpret_cast<char*>(&part), sizeof part) != sizeof part || !inside(part.p_offset, part.p_filesz))
+            return false;
+    }
+    return true;
+}
+
+} // namespace
 
 PackageLoader::PackageLoader() = default;
 
@@ -35,6 +65,8 @@ void PackageLoader::load(const QStringList& folders)
 
 void PackageLoader::loadFile(const QString& path)
 {
+    if (!isWholeLibrary(path))
+        return refuse(path, QStringLiteral("it is damaged, or no library for this computer"));
     auto loader = std::make_unique<QPluginLoader>(path);
     // The metadata is read without running any of the library's code.
     const QJsonObject metaData = loader->metaData();

@@ -69,16 +69,20 @@ bool LuSettings::open(const QString& directory)
     QSettings::setDefaultFormat(QSettings::IniFormat);
     if (!directory.isEmpty())
         QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, QDir(directory).absolutePath());
-    const QString path = QSettings().fileName();
-    if (QFileInfo::exists(path)) {
-        if (QSettings(path, QSettings::IniFormat).status() == QSettings::FormatError) {
-            const QString aside = path + QLatin1String(".damaged-") +
-                                  QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-HHmmss-zzz"));
-            const bool kept = QFile::rename(path, aside);
-            qWarning().noquote() << "[LuSettings]" << path << "is damaged;"
-                                 << (kept ? QStringLiteral("kept as %1, starting with defaults").arg(aside)
-                                          : QStringLiteral("it could not be kept aside"));
-        }
+    d->store.reset();
+    // The first object on a file is the one that parses it and knows of damage; sections are parsed when asked for.
+    auto probe = std::make_unique<QSettings>();
+    const QString path = probe->fileName();
+    (void)probe->allKeys();
+    const bool isDamaged = probe->status() == QSettings::FormatError;
+    probe.reset();
+    if (isDamaged) {
+        const QString aside = path + QLatin1String(".damaged-") +
+                              QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-HHmmss-zzz"));
+        const bool kept = QFile::rename(path, aside);
+        qWarning().noquote() << "[LuSettings]" << path << "is damaged;"
+                             << (kept ? QStringLiteral("kept as %1, starting with defaults").arg(aside)
+                                      : QStringLiteral("it could not be kept aside"));
     }
     const bool writable = QDir().mkpath(QFileInfo(path).absolutePath()) &&
                           QFileInfo(QFileInfo(path).absolutePath()).isWritable();

@@ -79,6 +79,7 @@ SimulatedBed::SimulatedBed(const QString& name, Timing timing) : m_timing(timing
     options.strictTiming = timing == Timing::Real;
     options.sequence = ZrSequence::next;
     options.epoch = sim::Clock::now();
+    m_epochMs = std::chrono::duration<double, std::milli>(options.epoch.time_since_epoch()).count();
     QString error;
     const std::optional<sim::Identity> identity = sim::Identity::parse(full, &error);
     if (!identity)
@@ -98,10 +99,8 @@ void SimulatedBed::destroy()
     m_model = nullptr;
 }
 
-LuMonitorModel& SimulatedBed::construct(bool launching)
+QSharedPointer<MonitorInfo> SimulatedBed::makeInfo()
 {
-    destroy();
-    LuHostOptions::instance().launching = launching;
     MonitorDescription description;
     description.id = m_monitor->model() + QLatin1Char('@') + m_monitor->serial();
     description.modelName = m_monitor->model();
@@ -113,7 +112,14 @@ LuMonitorModel& SimulatedBed::construct(bool launching)
                                                                    : MonitorLink::Waits::Real);
     MonitorLink::of(*info).setCallObserver([monitor = m_monitor.get()] { monitor->endTransaction(); });
     MonitorLink::of(*info).probeColorMode();
-    m_model = TestBed::instance().package()->modelConstructor()(nullptr, info);
+    return info;
+}
+
+LuMonitorModel& SimulatedBed::construct(bool launching)
+{
+    destroy();
+    LuHostOptions::instance().launching = launching;
+    m_model = TestBed::instance().package()->modelConstructor()(nullptr, makeInfo());
     LuModelHost::launch(m_model);
     return *m_model;
 }

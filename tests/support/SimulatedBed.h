@@ -50,6 +50,10 @@ public:
     ~SimulatedBed();
 
     sim::Monitor& monitor() { return *m_monitor; }
+    /// Zero of the wire log's milliseconds, in milliseconds of the steady clock.
+    double epochMs() const { return m_epochMs; }
+    /// A new handle of the monitor, which has told its colour mode.
+    QSharedPointer<MonitorInfo> makeInfo();
 
     /// Constructs the model as at the program's launch; an older one is destroyed first.
     LuMonitorModel& launch();
@@ -93,6 +97,7 @@ private:
     QString section() const;
 
     const Timing m_timing;
+    double m_epochMs = 0;
     std::unique_ptr<sim::Monitor> m_monitor;
     LuMonitorModel* m_model = nullptr;
     quint64 m_wireSeen = 0;

@@ -49,14 +49,17 @@ void TestPackages::brokenAndForeignOnesAreRefusedAndTheRestRuns()
     QVERIFY(write("libcut.so", package.read(package.size() / 3)));
     QVERIFY(write("libtext.so", "this is no library"));
     QVERIFY(write("libempty.so", {}));
+    // A library that is whole but no plug-in.
+    QVERIFY(QFile::copy(QStringLiteral(PLAIN_LIBRARY), folder.filePath(QStringLiteral("libplain.so"))));
     QVERIFY(write("notes.txt", "no library by its name"));
     PackageLoader loader;
     loader.load({folder.path(), QStringLiteral(PLUGIN_FOLDER), QStringLiteral(PACKAGE_FOLDER)});
     QCOMPARE(loader.packages().size(), 1);
-    QCOMPARE(loader.refusals().size(), 5);
-    QVERIFY(refusedBecause(loader, "libcut.so", "no plug-in of this Qt version"));
-    QVERIFY(refusedBecause(loader, "libtext.so", "no plug-in of this Qt version"));
-    QVERIFY(refusedBecause(loader, "libempty.so", "no plug-in of this Qt version"));
+    QCOMPARE(loader.refusals().size(), 6);
+    QVERIFY(refusedBecause(loader, "libcut.so", "it is damaged, or no library"));
+    QVERIFY(refusedBecause(loader, "libtext.so", "it is damaged, or no library"));
+    QVERIFY(refusedBecause(loader, "libempty.so", "it is damaged, or no library"));
+    QVERIFY(refusedBecause(loader, "libplain.so", "no plug-in of this Qt version"));
     QVERIFY(refusedBecause(loader, "foreign", "made for \"org.example.foreign/1.0\""));
     QVERIFY(refusedBecause(loader, "hollow", "does not offer the interface"));
 }
