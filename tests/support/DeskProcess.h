@@ -60,6 +60,7 @@ public:
                 QStringLiteral("--data-dir"),   m_directory.filePath(QStringLiteral("data"))};
     }
 
+    bool isRunning() const { return m_process && m_process->state() == QProcess::Running && m_client->isConnected(); }
     ControlClient& client() { return *m_client; }
     QProcess& process() { return *m_process; }
 

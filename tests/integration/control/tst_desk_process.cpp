@@ -102,7 +102,7 @@ void TestDeskProcess::aWrongSocketPathIsTold_data()
     QTest::addColumn<QString>("path");
     QTest::newRow("folder that cannot be made") << u"/proc/lumen/c.sock"_s;
     QTest::newRow("folder for everybody") << u"OPEN/c.sock"_s;
-    QTest::newRow("too long") << QString(u"/tmp/" + QString(110, u'x'));
+    QTest::newRow("too long") << u"/tmp/"_s + QString(110, u'x');
     QTest::newRow("a file") << u"FILE"_s;
 }
 
@@ -117,7 +117,8 @@ void TestDeskProcess::aWrongSocketPathIsTold()
     QVERIFY(desk.waitForEnd());
     QCOMPARE(desk.process().exitStatus(), QProcess::NormalExit);
     QVERIFY(desk.process().exitCode() != 0);
-    QVERIFY2(desk.errors().contains(path), qPrintable(desk.errors()));
+    const QString errors = desk.errors();
+    QVERIFY2(errors.contains(path) || errors.contains(QFileInfo(path).path()), qPrintable(errors));
 }
 
 void TestDeskProcess::aWrongOptionIsTold_data()
