@@ -25,6 +25,7 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include <atomic>
 #include <thread>
 
 using services::Error;
@@ -373,21 +374,27 @@ private Q_SLOTS:
         connect(
             LuPlatformNotifications::instance(), &LuPlatformNotifications::screenGeometryChanged, &receiver,
             [&] { threads.append(QThread::currentThread()); }, Qt::DirectConnection);
-        std::thread queue([this] {
-            for (int round = 0; round < 100; ++round) {
-                LuPlatform::setMonitorPivot(m_monitor, round % 2 ? 0 : 90);
-                LuPlatform::getMonitorPivot(m_monitor);
+        // Both sides go on until they have met often.
+        constexpr int meetings = 300;
+        std::atomic<int> changes = 0;
+        std::atomic<bool> isDone = false;
+        std::thread queue([&] {
+            while (!isDone) {
+                LuPlatform::setMonitorPivot(m_monitor, ++changes % 2 ? 90 : 0);
                 LuPlatform::getMonitorResolution(m_other);
             }
         });
-        // Reads meet the writes.
-        for (int round = 0; round < 100; ++round) {
-            QVERIFY(LuPlatform::getMonitorPivot(m_monitor) % 90 == 0);
+        int slanted = 0;
+        for (int meeting = 0; meeting < meetings || changes < meetings; ++meeting) {
+            slanted += LuPlatform::getMonitorPivot(m_monitor) % 90;
             m_session->get(QStringLiteral("TK30Z@A1/pivot"));
+            QCoreApplication::processEvents();
         }
+        isDone = true;
         queue.join();
-        QTRY_COMPARE(threads.size(), 100);
-        QCOMPARE(threads.count(QCoreApplication::instance()->thread()), 100);
+        QCOMPARE(slanted, 0);
+        QTRY_COMPARE(threads.size(), changes.load());
+        QCOMPARE(threads.count(QCoreApplication::instance()->thread()), threads.size());
     }
 
     void aRefusedHiDpiChangesNothing()
