@@ -70,7 +70,8 @@ void Connection::read()
     m_reading = true;
     int handled = 0;
     QByteArray line;
-    while (!m_refused && m_pending < m_limits.pendingRequests && handled < m_limits.linesPerTurn && takeLine(&line)) {
+    while (!m_refused && m_pending < m_limits.pendingRequests && handled < m_limits.linesPerTurn &&
+           takeLine(&line)) {
         ++handled;
         ++m_pending;
         m_dispatcher->handleLine(this, line);
@@ -157,8 +158,8 @@ void Connection::refuse(const QString& reason)
     drain();
 }
 
-/// A client that is still sending would lose its error if the socket closed over unread bytes: the answer's direction
-/// ends at once, the other when the client has gone or its time is over.
+/// A client that is still sending would lose its error if the socket closed over unread bytes: the answer's
+/// direction ends at once, the other when the client has gone or its time is over.
 void Connection::drain()
 {
     if (m_drain.isActive() && m_socket->bytesToWrite() == 0)

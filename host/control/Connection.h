@@ -15,16 +15,17 @@ class Dispatcher;
 /// What a client may ask of the server's memory and patience.
 struct Limits
 {
-    qint64 lineBytes = 1024 * 1024;         ///< Longest line, its newline included.
-    qint64 pendingBytes = 8 * 1024 * 1024;  ///< Unread answers from which on the connection ends.
-    int pendingRequests = 1024;             ///< Unanswered requests from which on no more are read.
-    int linesPerTurn = 64;                  ///< Lines handled before other clients have their turn.
-    int halfLineMs = 60'000;                ///< Silence after half a line that ends the connection.
-    int drainMs = 2'000;                    ///< How long a refused client's bytes are still taken, so that it gets to
-                                            ///< read its error.
+    qint64 lineBytes = 1024 * 1024;        ///< Longest line, its newline included.
+    qint64 pendingBytes = 8 * 1024 * 1024; ///< Unread answers from which on the connection ends.
+    int pendingRequests = 1024;            ///< Unanswered requests from which on no more are read.
+    int linesPerTurn = 64;                 ///< Lines handled before other clients have their turn.
+    int halfLineMs = 60'000;               ///< Silence after half a line that ends the connection.
+    int drainMs = 2'000; ///< How long a refused client's bytes are still taken, so that it gets to
+                         ///< read its error.
 };
 
-/// One connected client: cuts its bytes into lines and sends what it is to get. GUI thread; deletes itself at the end.
+/// One connected client: cuts its bytes into lines and sends what it is to get. GUI thread; deletes itself at
+/// the end.
 class Connection final : public Client
 {
     Q_OBJECT

@@ -25,7 +25,8 @@ QJsonObject readRequest(const QByteArray& line)
     if (error.error != QJsonParseError::NoError) {
         if (isScalar(line))
             throw RequestError(InvalidRequest, u"a request must be an object"_s);
-        throw RequestError(ParseError, u"the line is no JSON: %1 (byte %2)"_s.arg(error.errorString()).arg(error.offset));
+        throw RequestError(ParseError,
+                           u"the line is no JSON: %1 (byte %2)"_s.arg(error.errorString()).arg(error.offset));
     }
     if (document.isArray())
         throw RequestError(InvalidRequest, u"requests in a batch are not served: send one object a line"_s);
@@ -54,7 +55,8 @@ void Dispatcher::addMethod(const QString& name, const QStringList& parameters, M
         [method = std::move(method)](const Request& request) { request.reply.done(method(request)); }, when);
 }
 
-void Dispatcher::addAsyncMethod(const QString& name, const QStringList& parameters, AsyncMethod method, When when)
+void Dispatcher::addAsyncMethod(const QString& name, const QStringList& parameters, AsyncMethod method,
+                                When when)
 {
     Q_ASSERT(!m_methods.contains(name));
     m_methods.insert(name, {parameters, std::move(method), when});

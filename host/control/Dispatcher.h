@@ -33,8 +33,7 @@ public:
     using Method = std::function<QJsonValue(const Request&)>;
     /// Answers now or later through the request's reply, or throws RequestError.
     using AsyncMethod = std::function<void(const Request&)>;
-    enum class When
-    {
+    enum class When {
         Settled, ///< Waits while the program is busy; see setBusy().
         Always,
     };
@@ -42,7 +41,8 @@ public:
     explicit Dispatcher(QObject* parent = nullptr);
 
     /// @param parameters names that the method takes; a request with another one fails.
-    void addMethod(const QString& name, const QStringList& parameters, Method method, When when = When::Settled);
+    void addMethod(const QString& name, const QStringList& parameters, Method method,
+                   When when = When::Settled);
     void addAsyncMethod(const QString& name, const QStringList& parameters, AsyncMethod method,
                         When when = When::Settled);
     QStringList methods() const;

@@ -70,7 +70,8 @@ QJsonArray flowActions(const LuMonitorModel* model, const std::optional<QString>
 QVariantMap propertiesOf(const MonitorAccess& access, const Request& request, LuMonitorModel* model,
                          LuModelModuleInterface* module)
 {
-    return ObjectAccess(model, access.context()).readProperties(module, request.parameters.object(u"properties"_s));
+    return ObjectAccess(model, access.context())
+        .readProperties(module, request.parameters.object(u"properties"_s));
 }
 
 QJsonValue registerAction(const MonitorAccess& access, const Request& request)

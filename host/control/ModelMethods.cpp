@@ -140,7 +140,8 @@ QJsonArray shortcutActions(const LuMonitorModel* model)
     for (const LuShortcutAction* action : actions) {
         QString key;
         if (action->key() != Qt::Key_unknown)
-            key = QKeySequence(QKeyCombination(action->modifiers(), action->key())).toString(QKeySequence::PortableText);
+            key = QKeySequence(QKeyCombination(action->modifiers(), action->key()))
+                      .toString(QKeySequence::PortableText);
         list.append(QJsonObject{
             {u"title"_s, int(action->title())},
             {u"name"_s, int(action->name())},
@@ -188,11 +189,13 @@ void addFactMethods(Dispatcher& dispatcher, MonitorAccess* access)
         return nothing();
     });
     dispatcher.addMethod(u"snapshot"_s, {u"monitor"_s, u"module"_s}, [access](const Request& request) {
-        access->module(access->monitor(request), request.parameters.text(u"module"_s))->takePropertySnapshot();
+        access->module(access->monitor(request), request.parameters.text(u"module"_s))
+            ->takePropertySnapshot();
         return nothing();
     });
     dispatcher.addMethod(u"fireUpdate"_s, {u"monitor"_s, u"module"_s}, [access](const Request& request) {
-        access->module(access->monitor(request), request.parameters.text(u"module"_s))->fireUpdateSettingEvent();
+        access->module(access->monitor(request), request.parameters.text(u"module"_s))
+            ->fireUpdateSettingEvent();
         return nothing();
     });
 }

@@ -16,7 +16,8 @@ MonitorAccess::MonitorAccess(Server* server, Backend backend) : QObject(server),
     LuMonitorRegistry* const registry = m_backend.registry;
     server->dispatcher().setBusy([registry] { return registry->isBusy(); });
     // Posted, so that a method never runs inside the registry's own work.
-    connect(registry, &LuMonitorRegistry::settled, &server->dispatcher(), &Dispatcher::resume, Qt::QueuedConnection);
+    connect(registry, &LuMonitorRegistry::settled, &server->dispatcher(), &Dispatcher::resume,
+            Qt::QueuedConnection);
     connect(registry, &LuMonitorRegistry::monitorAboutToBeRemoved, this, [server](LuMonitorModel* model) {
         const QList<Watches*> all = server->findChildren<Watches*>();
         for (Watches* watches : all)
@@ -28,10 +29,11 @@ LuMonitorModel* MonitorAccess::monitor(const QString& address) const
 {
     LuMonitorModel* const model = m_backend.registry->find(address);
     if (!model)
-        throw RequestError(NoSuchMonitor, address.isEmpty()
-                                              ? u"no monitor is connected"_s
-                                              : u"no such monitor \"%1\", or not the only one of that name"_s.arg(
-                                                    address.left(100)));
+        throw RequestError(
+            NoSuchMonitor,
+            address.isEmpty()
+                ? u"no monitor is connected"_s
+                : u"no such monitor \"%1\", or not the only one of that name"_s.arg(address.left(100)));
     return model;
 }
 

@@ -21,8 +21,8 @@ namespace {
 
 bool isOperation(const QMetaMethod& method)
 {
-    return method.access() == QMetaMethod::Public
-           && (method.methodType() == QMetaMethod::Method || method.methodType() == QMetaMethod::Slot);
+    return method.access() == QMetaMethod::Public &&
+           (method.methodType() == QMetaMethod::Method || method.methodType() == QMetaMethod::Slot);
 }
 
 QList<QMetaMethod> operationsNamed(const QMetaObject* metaObject, const QByteArray& name)
@@ -123,13 +123,16 @@ void ObjectAccess::set(const QString& path, const QJsonValue& value) const
                                             path, QLatin1String(location.property.name())));
     if (!location.property.isWritable())
         throw RequestError(NotWritable, u"\"%1\" is not writable"_s.arg(path));
-    QVariant converted = readFor(ValueReader(m_resolver.root(path), location.object), location.property, value);
+    QVariant converted =
+        readFor(ValueReader(m_resolver.root(path), location.object), location.property, value);
     // As QMetaProperty::write(), which does not take every enumeration in its own type.
     const bool isVariant = location.property.metaType().id() == QMetaType::QVariant;
     int status = -1;
     int flags = 0;
-    void* pointers[] = {isVariant ? static_cast<void*>(&converted) : converted.data(), &converted, &status, &flags};
-    QMetaObject::metacall(location.object, QMetaObject::WriteProperty, location.property.propertyIndex(), pointers);
+    void* pointers[] = {isVariant ? static_cast<void*>(&converted) : converted.data(), &converted, &status,
+                        &flags};
+    QMetaObject::metacall(location.object, QMetaObject::WriteProperty, location.property.propertyIndex(),
+                          pointers);
 }
 
 QJsonValue ObjectAccess::call(const QString& path, const QJsonArray& arguments) const
@@ -153,7 +156,8 @@ QJsonValue ObjectAccess::call(const QString& path, const QJsonArray& arguments) 
         std::vector<QVariant> values;
         try {
             for (int i = 0; i < method.parameterCount(); ++i)
-                values.push_back(reader.read(arguments[i], method.parameterMetaType(i), u"argument %1"_s.arg(i + 1)));
+                values.push_back(
+                    reader.read(arguments[i], method.parameterMetaType(i), u"argument %1"_s.arg(i + 1)));
         } catch (const RequestError& error) {
             if (!misfit)
                 misfit = error;
@@ -163,8 +167,9 @@ QJsonValue ObjectAccess::call(const QString& path, const QJsonArray& arguments) 
     }
     if (misfit)
         throw RequestError(*misfit);
-    throw RequestError(InvalidParameters,
-                       u"\"%1\" takes %2 arguments, not %3"_s.arg(path, countsOf(named)).arg(arguments.size()));
+    throw RequestError(
+        InvalidParameters,
+        u"\"%1\" takes %2 arguments, not %3"_s.arg(path, countsOf(named)).arg(arguments.size()));
 }
 
 QJsonObject ObjectAccess::describe(const QString& path) const
@@ -183,7 +188,8 @@ QJsonObject ObjectAccess::describe(const QString& path) const
         const QMetaMethod method = metaObject->method(i);
         if (method.attributes() & QMetaMethod::Cloned) // the same declaration, with fewer arguments
             continue;
-        QJsonObject entry{{u"name"_s, QString::fromLatin1(method.name())}, {u"parameters"_s, parameterNames(method)}};
+        QJsonObject entry{{u"name"_s, QString::fromLatin1(method.name())},
+                          {u"parameters"_s, parameterNames(method)}};
         if (method.methodType() == QMetaMethod::Signal) {
             signalList.append(entry);
         } else if (isOperation(method)) {
@@ -205,8 +211,9 @@ QVariantMap ObjectAccess::readProperties(QObject* object, const QJsonObject& pro
     for (auto entry = properties.constBegin(); entry != properties.constEnd(); ++entry) {
         const int index = metaObject->indexOfProperty(entry.key().toUtf8().constData());
         if (index < QObject::staticMetaObject.propertyCount())
-            throw RequestError(NoSuchPath, u"%1 has no property \"%2\""_s.arg(QLatin1String(metaObject->className()),
-                                                                            entry.key().left(100)));
+            throw RequestError(NoSuchPath,
+                               u"%1 has no property \"%2\""_s.arg(QLatin1String(metaObject->className()),
+                                                                  entry.key().left(100)));
         const QMetaProperty property = metaObject->property(index);
         if (!property.isWritable())
             throw RequestError(NotWritable, u"\"%1\" is not writable"_s.arg(entry.key()));

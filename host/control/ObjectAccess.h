@@ -21,14 +21,16 @@ public:
     /// Returns once the property's setter has.
     void set(const QString& path, const QJsonValue& value) const;
 
-    /// Calls an invokable operation. Of several with one name the number of arguments decides, then whether they fit.
+    /// Calls an invokable operation. Of several with one name the number of arguments decides, then whether
+    /// they fit.
     QJsonValue call(const QString& path, const QJsonArray& arguments) const;
 
-    /// Class, properties, operations and signals in order of declaration, from the base class above QObject on.
+    /// Class, properties, operations and signals in order of declaration, from the base class above QObject
+    /// on.
     QJsonObject describe(const QString& path) const;
 
-    /// Sets several properties of one object, or none if one of them is not there or does not fit: then it throws.
-    /// The values are of the properties' own types.
+    /// Sets several properties of one object, or none if one of them is not there or does not fit: then it
+    /// throws. The values are of the properties' own types.
     QVariantMap readProperties(QObject* object, const QJsonObject& properties) const;
 
     const PathResolver& resolver() const { return m_resolver; }

@@ -117,7 +117,7 @@ qint64 Parameters::code(const QString& name, qint64 from, qint64 to) const
     const QString text = found.toString();
     bool ok = false;
     const qint64 number = text.startsWith("0x"_L1, Qt::CaseInsensitive) ? text.mid(2).toLongLong(&ok, 16)
-                                                                       : text.toLongLong(&ok, 10);
+                                                                        : text.toLongLong(&ok, 10);
     if (!ok)
         wrong(name, u"a whole number, or text that is one"_s);
     checkRange(name, number, from, to);

@@ -11,8 +11,8 @@
 
 namespace control {
 
-/// The named parameters of a request. A parameter that is missing or of another type throws InvalidParameters with a
-/// message that names it; the optional forms give nothing where it is missing.
+/// The named parameters of a request. A parameter that is missing or of another type throws InvalidParameters
+/// with a message that names it; the optional forms give nothing where it is missing.
 class Parameters
 {
 public:
@@ -28,7 +28,8 @@ public:
     /// A whole number in the given range, both ends included.
     qint64 integer(const QString& name, qint64 from = std::numeric_limits<qint64>::min(),
                    qint64 to = std::numeric_limits<qint64>::max()) const;
-    std::optional<qint64> optionalInteger(const QString& name, qint64 from = std::numeric_limits<qint64>::min(),
+    std::optional<qint64> optionalInteger(const QString& name,
+                                          qint64 from = std::numeric_limits<qint64>::min(),
                                           qint64 to = std::numeric_limits<qint64>::max()) const;
     double number(const QString& name, double from, double to) const;
     QJsonArray array(const QString& name) const;

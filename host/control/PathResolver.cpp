@@ -41,7 +41,8 @@ std::optional<QVariant> elementOf(const QVariant& value, qsizetype index)
 {
     if (value.typeId() == QMetaType::QJsonValue || value.typeId() == QMetaType::QJsonArray) {
         const QJsonArray array = value.toJsonArray();
-        return index < array.size() ? std::optional<QVariant>(QVariant::fromValue(array[index])) : std::nullopt;
+        return index < array.size() ? std::optional<QVariant>(QVariant::fromValue(array[index]))
+                                    : std::nullopt;
     }
     if (!isList(value))
         return std::nullopt;
@@ -63,7 +64,8 @@ std::optional<QVariant> memberOf(const QVariant& value, const QString& name)
     const QJsonValue json = isJson ? value.toJsonValue() : toJson(value);
     const QJsonObject object = json.toObject();
     const auto member = object.constFind(name);
-    return member == object.constEnd() ? std::nullopt : std::optional<QVariant>(QVariant::fromValue(QJsonValue(*member)));
+    return member == object.constEnd() ? std::nullopt
+                                       : std::optional<QVariant>(QVariant::fromValue(QJsonValue(*member)));
 }
 
 std::optional<QVariant> stepInto(const QVariant& value, const PathStep& step)
@@ -133,7 +135,8 @@ Location PathResolver::resolve(const QString& path) const
                 notThere(path, u"%1 is null"_s.arg(walked));
             const int index = step.name.isEmpty() ? -1 : propertyIndex(object->metaObject(), step.name);
             if (index < 0)
-                notThere(path, u"%1 has no %2"_s.arg(QLatin1String(object->metaObject()->className()), stepText(step)));
+                notThere(path, u"%1 has no %2"_s.arg(QLatin1String(object->metaObject()->className()),
+                                                     stepText(step)));
             location = {object, object->metaObject()->property(index), {}, {}};
             if (location.property.isReadable())
                 location.value = location.property.read(object);

@@ -13,17 +13,18 @@ namespace control {
 /// One part of a path: a name, or the place in a list.
 struct PathStep
 {
-    QString name;   ///< Empty for a place in a list.
+    QString name; ///< Empty for a place in a list.
     qsizetype index = -1;
 };
 
 /// Where a path leads.
 struct Location
 {
-    QPointer<QObject> object; ///< The last object on the way; the path's end itself where property is invalid.
-    QMetaProperty property;   ///< Property of the object that the path goes on with.
-    QList<PathStep> rest;     ///< What follows inside of the property's value.
-    QVariant value;           ///< Present value at the end of the path.
+    QPointer<QObject>
+        object;             ///< The last object on the way; the path's end itself where property is invalid.
+    QMetaProperty property; ///< Property of the object that the path goes on with.
+    QList<PathStep> rest;   ///< What follows inside of the property's value.
+    QVariant value;         ///< Present value at the end of the path.
 };
 
 /// Finds what a path names: properties of a monitor's model, or of the program's context behind "context.".

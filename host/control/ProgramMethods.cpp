@@ -70,7 +70,8 @@ QJsonArray logLines(quint64 since)
     QJsonArray list;
     const QList<LuLogLine> lines = LuLog::lines(since);
     for (const LuLogLine& line : lines)
-        list.append(QJsonObject{{u"seq"_s, qint64(line.seq)}, {u"level"_s, line.level}, {u"text"_s, line.text}});
+        list.append(
+            QJsonObject{{u"seq"_s, qint64(line.seq)}, {u"level"_s, line.level}, {u"text"_s, line.text}});
     return list;
 }
 
@@ -82,9 +83,12 @@ void addProgramMethods(Server* server, MonitorAccess* access)
     LuMonitorRegistry* const registry = access->backend().registry;
 
     dispatcher.addMethod(
-        u"version"_s, {}, [access](const Request&) { return QJsonValue(version(*access)); }, Dispatcher::When::Always);
-    dispatcher.addMethod(u"monitors"_s, {}, [registry](const Request&) { return QJsonValue(monitors(*registry)); });
-    dispatcher.addMethod(u"package"_s, {}, [registry](const Request&) { return QJsonValue(packages(*registry)); });
+        u"version"_s, {}, [access](const Request&) { return QJsonValue(version(*access)); },
+        Dispatcher::When::Always);
+    dispatcher.addMethod(u"monitors"_s, {},
+                         [registry](const Request&) { return QJsonValue(monitors(*registry)); });
+    dispatcher.addMethod(u"package"_s, {},
+                         [registry](const Request&) { return QJsonValue(packages(*registry)); });
     dispatcher.addMethod(u"select"_s, {u"monitor"_s}, [access, registry](const Request& request) {
         registry->select(access->monitor(request.parameters.text(u"monitor"_s))->id());
         return QJsonValue(QJsonObject());
@@ -92,7 +96,8 @@ void addProgramMethods(Server* server, MonitorAccess* access)
     dispatcher.addMethod(
         u"log"_s, {u"since"_s},
         [](const Request& request) {
-            return QJsonValue(logLines(quint64(request.parameters.optionalInteger(u"since"_s, 0).value_or(0))));
+            return QJsonValue(
+                logLines(quint64(request.parameters.optionalInteger(u"since"_s, 0).value_or(0))));
         },
         Dispatcher::When::Always);
     dispatcher.addMethod(

@@ -11,10 +11,11 @@
 
 namespace control {
 
-/// The answer that a request waits for. Copies are the same answer; the first done() or fail() counts. Any thread.
+/// The answer that a request waits for. Copies are the same answer; the first done() or fail() counts. Any
+/// thread.
 ///
-/// When the last copy goes without an answer, the request fails with what setAbandoned() named: whoever had promised
-/// to answer is gone.
+/// When the last copy goes without an answer, the request fails with what setAbandoned() named: whoever had
+/// promised to answer is gone.
 class Reply
 {
 public:

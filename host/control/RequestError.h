@@ -8,8 +8,7 @@
 namespace control {
 
 /// Codes of the errors that a request can be answered with: those of JSON-RPC and the program's own.
-enum ErrorCode : int
-{
+enum ErrorCode : int {
     ParseError = -32700,
     InvalidRequest = -32600,
     UnknownMethod = -32601,

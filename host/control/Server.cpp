@@ -72,9 +72,10 @@ void Server::close(int flushMs)
     elapsed.start();
     const QList<Connection*> connections = findChildren<Connection*>(Qt::FindDirectChildrenOnly);
     for (Connection* connection : connections) {
-        QLocalSocket* const socket = connection->findChild<QLocalSocket*>(QString(), Qt::FindDirectChildrenOnly);
-        while (!connection->isFlushed() && elapsed.elapsed() < flushMs
-               && socket->waitForBytesWritten(int(flushMs - elapsed.elapsed()))) {
+        QLocalSocket* const socket =
+            connection->findChild<QLocalSocket*>(QString(), Qt::FindDirectChildrenOnly);
+        while (!connection->isFlushed() && elapsed.elapsed() < flushMs &&
+               socket->waitForBytesWritten(int(flushMs - elapsed.elapsed()))) {
         }
         delete connection;
     }

@@ -20,8 +20,7 @@ class Server : public QObject
     Q_OBJECT
 
 public:
-    enum class Result
-    {
+    enum class Result {
         Listening,
         OtherRuns, ///< Another process serves the path; see raiseOther().
         Failed,    ///< The message is in errorString().
@@ -36,7 +35,8 @@ public:
     Result listen(const QString& path);
     QString errorString() const { return m_error; }
     QString path() const;
-    /// Sends what is still to be sent, for at most @p flushMs, ends all connections and removes the socket file.
+    /// Sends what is still to be sent, for at most @p flushMs, ends all connections and removes the socket
+    /// file.
     void close(int flushMs = 500);
     int clientCount() const;
 

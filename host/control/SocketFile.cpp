@@ -46,7 +46,8 @@ QString systemError()
     return QString::fromLocal8Bit(std::strerror(errno));
 }
 
-/// One byte less than the system takes, since QLocalSocket, with which clients connect, does not take that one.
+/// One byte less than the system takes, since QLocalSocket, with which clients connect, does not take that
+/// one.
 constexpr qsizetype LongestPath = qsizetype(sizeof(sockaddr_un::sun_path)) - 2;
 
 bool fillAddress(const QString& path, sockaddr_un* address)
@@ -72,8 +73,8 @@ QString lengthError(const QString& path)
 bool isServed(const sockaddr_un& address)
 {
     const Descriptor probe(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
-    return ::connect(probe.get(), reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0
-           || errno == EAGAIN || errno == EINPROGRESS;
+    return ::connect(probe.get(), reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0 ||
+           errno == EAGAIN || errno == EINPROGRESS;
 }
 
 /// Opens the folder, made if need be. What is wrong with it goes to @p error.
@@ -81,7 +82,8 @@ int openFolder(const QString& folder, QString* error)
 {
     if (!QDir(folder).exists()) {
         const QString parent = QFileInfo(folder).absolutePath();
-        if (!QDir().mkpath(parent) || (::mkdir(QFile::encodeName(folder).constData(), 0700) != 0 && errno != EEXIST)) {
+        if (!QDir().mkpath(parent) ||
+            (::mkdir(QFile::encodeName(folder).constData(), 0700) != 0 && errno != EEXIST)) {
             *error = u"the folder of the control socket cannot be made: %1: %2"_s.arg(folder, systemError());
             return -1;
         }
@@ -93,7 +95,8 @@ int openFolder(const QString& folder, QString* error)
         return -1;
     }
     if (status.st_mode & (S_IWGRP | S_IWOTH)) {
-        *error = u"the folder of the control socket may be written by other users, which is not safe: %1 (use one of "
+        *error = u"the folder of the control socket may be written by other users, which is not safe: %1 "
+                 u"(use one of "
                  "mode 0700)"_s.arg(folder);
         return -1;
     }
@@ -143,9 +146,9 @@ SocketClaim claimSocket(const QString& givenPath)
 
     Descriptor socket(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
     // The mode of the descriptor becomes that of the file: it is never open to others, not even for a moment.
-    if (socket.get() < 0 || ::fchmod(socket.get(), 0600) != 0
-        || ::bind(socket.get(), reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0
-        || ::listen(socket.get(), 128) != 0)
+    if (socket.get() < 0 || ::fchmod(socket.get(), 0600) != 0 ||
+        ::bind(socket.get(), reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0 ||
+        ::listen(socket.get(), 128) != 0)
         return {-1, false, u"the control socket cannot be made: %1: %2"_s.arg(path, systemError())};
     return {socket.release(), false, {}};
 }

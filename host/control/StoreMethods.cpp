@@ -20,7 +20,8 @@ namespace {
 QJsonArray events(const Parameters& parameters)
 {
     const auto since = quint64(parameters.optionalInteger(u"since"_s, 0).value_or(0));
-    const auto run = int(parameters.optionalInteger(u"run"_s, std::numeric_limits<int>::min(), 0).value_or(0));
+    const auto run =
+        int(parameters.optionalInteger(u"run"_s, std::numeric_limits<int>::min(), 0).value_or(0));
     QJsonArray list;
     const QList<LuEvent> found = LuEventLog::instance().events(since, run);
     for (const LuEvent& event : found) {
@@ -78,7 +79,8 @@ QJsonObject settings(const LuMonitorModel* model)
 QString storeKey(const MonitorAccess& access, const Request& request)
 {
     const QString key = request.parameters.text(u"key"_s);
-    if (key.isEmpty() || key.startsWith(u'/') || key.endsWith(u'/') || key.contains("//"_L1) || key.contains(u'\0'))
+    if (key.isEmpty() || key.startsWith(u'/') || key.endsWith(u'/') || key.contains("//"_L1) ||
+        key.contains(u'\0'))
         throw RequestError(InvalidParameters, u"\"%1\" is no key of a setting"_s.arg(key.left(100)));
     return request.parameters.contains(u"monitor"_s) ? prefixOf(access.monitor(request)) + key : key;
 }
@@ -93,11 +95,12 @@ void addStoreMethods(Server* server, MonitorAccess* access)
     dispatcher.addMethod(u"settings"_s, {u"monitor"_s}, [access](const Request& request) {
         return QJsonValue(settings(access->monitor(request)));
     });
-    dispatcher.addMethod(u"settings.set"_s, {u"monitor"_s, u"key"_s, u"value"_s}, [access](const Request& request) {
-        const QString key = storeKey(*access, request);
-        LuSettings::instance().setValue(key, ValueReader::readAny(request.parameters.value(u"value"_s)));
-        return QJsonValue(QJsonObject());
-    });
+    dispatcher.addMethod(
+        u"settings.set"_s, {u"monitor"_s, u"key"_s, u"value"_s}, [access](const Request& request) {
+            const QString key = storeKey(*access, request);
+            LuSettings::instance().setValue(key, ValueReader::readAny(request.parameters.value(u"value"_s)));
+            return QJsonValue(QJsonObject());
+        });
     dispatcher.addMethod(u"settings.remove"_s, {u"monitor"_s, u"key"_s}, [access](const Request& request) {
         LuSettings::instance().remove(storeKey(*access, request));
         return QJsonValue(QJsonObject());

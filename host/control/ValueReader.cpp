@@ -93,8 +93,8 @@ QVariant readWhole(const QJsonValue& json, QMetaType type, const QString& what)
 
 /// The named numbers of an object, each of them there and no other.
 template <std::size_t Count>
-std::array<double, Count> readNumbers(const QJsonValue& json, const std::array<QLatin1String, Count>& names, bool whole,
-                                      const QString& what)
+std::array<double, Count> readNumbers(const QJsonValue& json, const std::array<QLatin1String, Count>& names,
+                                      bool whole, const QString& what)
 {
     std::array<double, Count> numbers{};
     const QJsonObject object = json.toObject();
@@ -109,7 +109,8 @@ std::array<double, Count> readNumbers(const QJsonValue& json, const std::array<Q
         QStringList wanted;
         for (const QLatin1String name : names)
             wanted.append(u"\"%1\""_s.arg(name));
-        wrong(what, json, u"an object of the %1numbers %2"_s.arg(whole ? u"whole "_s : QString(), wanted.join(u", "_s)));
+        wrong(what, json,
+              u"an object of the %1numbers %2"_s.arg(whole ? u"whole "_s : QString(), wanted.join(u", "_s)));
     }
     return numbers;
 }
@@ -161,7 +162,8 @@ QVariant ValueReader::readAny(const QJsonValue& json)
     return json.toVariant();
 }
 
-QVariant ValueReader::read(const QJsonValue& json, QMetaType type, const QString& what, QMetaEnum enumerator) const
+QVariant ValueReader::read(const QJsonValue& json, QMetaType type, const QString& what,
+                           QMetaEnum enumerator) const
 {
     if (!type.isValid())
         throw RequestError(WrongValue, u"%1 is of a type that no value can be made of"_s.arg(what));
@@ -285,7 +287,8 @@ QVariant ValueReader::readStructured(const QJsonValue& json, QMetaType type, con
         return readList(json, type, what);
     if (type.flags() & QMetaType::IsGadget)
         return readGadget(json, type, what);
-    throw RequestError(WrongValue, u"%1 is of type %2, of which no value can be made"_s.arg(what, QLatin1String(type.name())));
+    throw RequestError(WrongValue, u"%1 is of type %2, of which no value can be made"_s.arg(
+                                       what, QLatin1String(type.name())));
 }
 
 QVariant ValueReader::readEnumeration(const QJsonValue& json, QMetaType type, const QString& what,
@@ -298,8 +301,9 @@ QVariant ValueReader::readEnumeration(const QJsonValue& json, QMetaType type, co
         number = enumerator.isFlag() ? enumerator.keysToValue(keys.constData(), &ok)
                                      : enumerator.keyToValue(keys.constData(), &ok);
         if (!ok)
-            throw RequestError(WrongValue, u"%1: \"%2\" is no name of %3"_s.arg(what, json.toString().left(100),
-                                                                             QLatin1String(enumerator.enumName())));
+            throw RequestError(WrongValue,
+                               u"%1: \"%2\" is no name of %3"_s.arg(what, json.toString().left(100),
+                                                                    QLatin1String(enumerator.enumName())));
     } else if (const std::optional<qint64> whole = wholeNumber(json)) {
         number = *whole;
     } else {
@@ -349,7 +353,8 @@ QVariant ValueReader::readAudioDevice(const QJsonValue& json, const QString& wha
         }
     }
     if (found.isNull())
-        throw RequestError(WrongValue, u"%1: there is no audio output \"%2\""_s.arg(what, id.toString().left(100)));
+        throw RequestError(WrongValue,
+                           u"%1: there is no audio output \"%2\""_s.arg(what, id.toString().left(100)));
     return QVariant::fromValue(found);
 }
 
@@ -362,24 +367,28 @@ QVariant ValueReader::readObject(const QJsonValue& json, QMetaType type, const Q
         if (isNode(wanted)) {
             object = findNode(text);
             if (!object)
-                throw RequestError(WrongValue, u"%1: there is no colour mode \"%2\""_s.arg(what, text.left(100)));
+                throw RequestError(WrongValue,
+                                   u"%1: there is no colour mode \"%2\""_s.arg(what, text.left(100)));
         } else {
             object = findById(text, wanted);
             if (!object && !text.isEmpty()) {
                 try {
                     object = PathResolver(m_root, nullptr).object(text);
                 } catch (const RequestError&) {
-                    throw RequestError(WrongValue,
-                                       u"%1: \"%2\" is neither an id nor a path of an object"_s.arg(what, text.left(100)));
+                    throw RequestError(
+                        WrongValue,
+                        u"%1: \"%2\" is neither an id nor a path of an object"_s.arg(what, text.left(100)));
                 }
             }
         }
         if (object && wanted && !inherits(object->metaObject(), wanted->className()))
-            throw RequestError(WrongValue, u"%1: \"%2\" is a %3, not a %4"_s.arg(
-                                               what, text.left(100), QLatin1String(object->metaObject()->className()),
-                                               QLatin1String(wanted->className())));
+            throw RequestError(WrongValue,
+                               u"%1: \"%2\" is a %3, not a %4"_s.arg(
+                                   what, text.left(100), QLatin1String(object->metaObject()->className()),
+                                   QLatin1String(wanted->className())));
     } else if (!json.isNull()) {
-        wrong(what, json, isNode(wanted) ? u"the name of a colour mode"_s : u"the id or the path of an object"_s);
+        wrong(what, json,
+              isNode(wanted) ? u"the name of a colour mode"_s : u"the id or the path of an object"_s);
     }
     return QVariant(type, &object);
 }
@@ -398,12 +407,14 @@ QObject* ValueReader::findNode(const QString& name) const
     return nullptr;
 }
 
-/// Looks at the objects that properties of the owner, then of the root's parts, hold: by themselves or in a list.
+/// Looks at the objects that properties of the owner, then of the root's parts, hold: by themselves or in a
+/// list.
 QObject* ValueReader::findById(const QString& id, const QMetaObject* wanted) const
 {
     const auto fits = [&](QObject* object) {
-        return object && (!wanted || inherits(object->metaObject(), wanted->className()))
-               && object->property("id").typeId() == QMetaType::QString && object->property("id").toString() == id;
+        return object && (!wanted || inherits(object->metaObject(), wanted->className())) &&
+               object->property("id").typeId() == QMetaType::QString &&
+               object->property("id").toString() == id;
     };
     QList<QObject*> holders;
     if (m_owner)
@@ -480,7 +491,8 @@ QVariant ValueReader::readGadget(const QJsonValue& json, QMetaType type, const Q
     for (auto member = object.constBegin(); member != object.constEnd(); ++member) {
         const int index = metaObject->indexOfProperty(member.key().toUtf8().constData());
         if (index < 0 || !metaObject->property(index).isWritable())
-            throw RequestError(WrongValue, u"%1 has no member \"%2\" that can be set"_s.arg(what, member.key().left(100)));
+            throw RequestError(
+                WrongValue, u"%1 has no member \"%2\" that can be set"_s.arg(what, member.key().left(100)));
         const QMetaProperty property = metaObject->property(index);
         const QVariant value = read(member.value(), property.metaType(), u"%1.%2"_s.arg(what, member.key()),
                                     property.isEnumType() ? property.enumerator() : QMetaEnum());

@@ -26,17 +26,20 @@ public:
     /// @param owner object whose properties are searched first for an object of an id; may be null.
     ValueReader(QObject* root, QObject* owner) : m_root(root), m_owner(owner) {}
 
-    /// How an audio device is found by its id; null for one that is not there. By itself the outputs of the system.
+    /// How an audio device is found by its id; null for one that is not there. By itself the outputs of the
+    /// system.
     static void setAudioLookup(AudioLookup lookup);
 
     /// A value of exactly @p type. @p what names the value in messages, such as "state".
-    QVariant read(const QJsonValue& json, QMetaType type, const QString& what, QMetaEnum enumerator = {}) const;
+    QVariant read(const QJsonValue& json, QMetaType type, const QString& what,
+                  QMetaEnum enumerator = {}) const;
 
     /// A value of the type that the JSON suggests, for stores and maps that take any.
     static QVariant readAny(const QJsonValue& json);
 
 private:
-    QVariant readEnumeration(const QJsonValue& json, QMetaType type, const QString& what, QMetaEnum enumerator) const;
+    QVariant readEnumeration(const QJsonValue& json, QMetaType type, const QString& what,
+                             QMetaEnum enumerator) const;
     QVariant readStructured(const QJsonValue& json, QMetaType type, const QString& what) const;
     QVariant readAudioDevice(const QJsonValue& json, const QString& what) const;
     QVariant readObject(const QJsonValue& json, QMetaType type, const QString& what) const;

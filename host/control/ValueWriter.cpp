@@ -108,7 +108,7 @@ QJsonValue Writer::write(const QVariant& value)
     case QMetaType::ULongLong: {
         const quint64 number = value.toULongLong();
         return number <= quint64(std::numeric_limits<qint64>::max()) ? QJsonValue(qint64(number))
-                                                                      : QJsonValue(double(number));
+                                                                     : QJsonValue(double(number));
     }
     case QMetaType::Float:
     case QMetaType::Double:
@@ -175,7 +175,8 @@ QJsonValue Writer::writeOther(const QVariant& value)
         return writeGadget(value);
     if (value.canConvert<QString>())
         return value.toString();
-    throw RequestError(WrongValue, u"a value of type %1 has no JSON form"_s.arg(QLatin1String(value.typeName())));
+    throw RequestError(WrongValue,
+                       u"a value of type %1 has no JSON form"_s.arg(QLatin1String(value.typeName())));
 }
 
 QJsonValue Writer::writeEnumeration(const QVariant& value) const
@@ -232,7 +233,8 @@ QJsonValue Writer::writeGadget(const QVariant& value)
     for (int i = 0; metaObject && i < metaObject->propertyCount(); ++i) {
         const QMetaProperty property = metaObject->property(i);
         if (property.isReadable())
-            result.insert(QLatin1String(property.name()), writeMember(property.readOnGadget(value.constData())));
+            result.insert(QLatin1String(property.name()),
+                          writeMember(property.readOnGadget(value.constData())));
     }
     return result;
 }
@@ -253,7 +255,8 @@ QJsonValue Writer::writeMap(const QVariant& value)
     for (auto entry = map.begin(); entry != map.end(); ++entry) {
         const QVariant key = entry.key();
         const bool isEnumeration = bool(key.metaType().flags() & QMetaType::IsEnumeration);
-        const QString name = isEnumeration ? QString::number(writeEnumeration(key).toInteger()) : key.toString();
+        const QString name =
+            isEnumeration ? QString::number(writeEnumeration(key).toInteger()) : key.toString();
         result.insert(name, write(entry.value()));
     }
     return result;

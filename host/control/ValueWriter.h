@@ -6,7 +6,8 @@
 
 namespace control {
 
-/// The JSON form of a value, as the control protocol defines it. GUI thread, as it reads properties of objects.
+/// The JSON form of a value, as the control protocol defines it. GUI thread, as it reads properties of
+/// objects.
 ///
 /// Throws RequestError (WrongValue) for a type that has no form, and for an object with too many members.
 QJsonValue toJson(const QVariant& value);

@@ -61,7 +61,8 @@ class EventRelay final : public SignalRelay
 {
 public:
     EventRelay(Client* client, QString monitor, QString path, const QMetaMethod& signal)
-        : SignalRelay(client), m_client(client), m_monitor(std::move(monitor)), m_path(std::move(path)), m_signal(signal)
+        : SignalRelay(client), m_client(client), m_monitor(std::move(monitor)), m_path(std::move(path)),
+          m_signal(signal)
     {
     }
 
@@ -71,8 +72,9 @@ protected:
         QJsonArray values;
         for (int i = 0; i < m_signal.parameterCount(); ++i) {
             const QMetaType type = m_signal.parameterMetaType(i);
-            const QVariant value = type.id() == QMetaType::QVariant ? *static_cast<QVariant*>(arguments[i + 1])
-                                                                    : QVariant(type, arguments[i + 1]);
+            const QVariant value = type.id() == QMetaType::QVariant
+                                       ? *static_cast<QVariant*>(arguments[i + 1])
+                                       : QVariant(type, arguments[i + 1]);
             values.append(toJsonOrNull(value));
         }
         m_client->notify(message(u"signal"_s, m_monitor, m_path, u"args"_s, values));
@@ -107,7 +109,8 @@ QMetaMethod findSignal(QObject* object, const QString& text, const QString& path
 bool SignalRelay::attach(QObject* sender, const QMetaMethod& signal)
 {
     for (int i = 0; i < signal.parameterCount(); ++i) {
-        if (!signal.parameterMetaType(i).isValid() || signal.parameterMetaType(i).id() == QMetaType::UnknownType)
+        if (!signal.parameterMetaType(i).isValid() ||
+            signal.parameterMetaType(i).id() == QMetaType::UnknownType)
             return false;
     }
     const int slot = QObject::staticMetaObject.methodCount();

@@ -56,7 +56,8 @@ public:
 
 private:
     using Key = QPair<QString, QString>;
-    std::unique_ptr<SignalRelay> makeRelay(const QString& monitor, const PathResolver& resolver, const QString& path);
+    std::unique_ptr<SignalRelay> makeRelay(const QString& monitor, const PathResolver& resolver,
+                                           const QString& path);
 
     Client* const m_client;
     QHash<Key, SignalRelay*> m_relays;

@@ -11,7 +11,8 @@
 #include <QString>
 #include <QTimer>
 
-/// A client of the control socket for tests. It waits in the event loop, so that the server may live in the same thread.
+/// A client of the control socket for tests. It waits in the event loop, so that the server may live in the
+/// same thread.
 class ControlClient
 {
 public:
@@ -97,10 +98,14 @@ public:
     {
         return call(method, parameters).result.toObject().value(QLatin1String("value"));
     }
-    QJsonValue get(const QString& path) { return value(QStringLiteral("get"), {{QStringLiteral("path"), path}}); }
+    QJsonValue get(const QString& path)
+    {
+        return value(QStringLiteral("get"), {{QStringLiteral("path"), path}});
+    }
     Answer set(const QString& path, const QJsonValue& newValue)
     {
-        return call(QStringLiteral("set"), {{QStringLiteral("path"), path}, {QStringLiteral("value"), newValue}});
+        return call(QStringLiteral("set"),
+                    {{QStringLiteral("path"), path}, {QStringLiteral("value"), newValue}});
     }
 
     /// Messages that have come and were not taken yet: notifications, and errors without an id.

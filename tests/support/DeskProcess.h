@@ -12,7 +12,8 @@
 
 /// A running lumen-desk with folders of its own, for tests. It ends with the object.
 ///
-/// LUMEN_DESK is the program's path. Stopping and starting again keeps the folders, as two sessions of a person do.
+/// LUMEN_DESK is the program's path. Stopping and starting again keeps the folders, as two sessions of a
+/// person do.
 class DeskProcess
 {
 public:
@@ -60,7 +61,10 @@ public:
                 QStringLiteral("--data-dir"),   m_directory.filePath(QStringLiteral("data"))};
     }
 
-    bool isRunning() const { return m_process && m_process->state() == QProcess::Running && m_client->isConnected(); }
+    bool isRunning() const
+    {
+        return m_process && m_process->state() == QProcess::Running && m_client->isConnected();
+    }
     ControlClient& client() { return *m_client; }
     QProcess& process() { return *m_process; }
 

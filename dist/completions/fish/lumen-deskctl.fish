@@ -11,7 +11,7 @@ end
 function __lumen_deskctl_paths
     set -l front (string match -rg '^(.*)\.[^.]*$' -- (commandline -ct))
     for name in (lumen-deskctl --timeout 500 --json describe $front 2>/dev/null |
-            string match -ra '"(?:properties|operations)":\[[^]]*' | string match -rga '"name":"([^"]*)"')
+            string replace -r '"signals":.*' '' | string match -rga '"name":"([^"]*)"')
         string join . $front $name
     end
 end

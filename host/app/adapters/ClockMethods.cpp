@@ -23,7 +23,8 @@ namespace {
 /// A hundred years: no further than the calendar of a schedule can go.
 constexpr qint64 MaximumAdvanceMs = qint64(100) * 366 * 24 * 3600 * 1000;
 
-/// Moves the clock on a thread of its own, since the GUI thread has to run what falls due; one move after the other.
+/// Moves the clock on a thread of its own, since the GUI thread has to run what falls due; one move after the
+/// other.
 class ClockMover : public QObject
 {
 public:
@@ -117,8 +118,9 @@ QJsonValue setTime(const Request& request)
     const QString text = request.parameters.text(u"time"_s);
     const QDateTime time = QDateTime::fromString(text, Qt::ISODateWithMs);
     if (!time.isValid())
-        throw RequestError(InvalidParameters,
-                           u"parameter \"time\" must be a date and time as in ISO 8601, not \"%1\""_s.arg(text.left(100)));
+        throw RequestError(
+            InvalidParameters,
+            u"parameter \"time\" must be a date and time as in ISO 8601, not \"%1\""_s.arg(text.left(100)));
     ZrClock::instance().set(time);
     return QJsonObject();
 }

@@ -40,12 +40,13 @@ QJsonValue setState(services::SimulatedServices* session, const Request& request
 
 QJsonValue emitSignal(services::SimulatedServices* session, const Request& request)
 {
-    const QJsonValue arguments =
-        request.parameters.contains(u"args"_s) ? request.parameters.value(u"args"_s) : QJsonValue(QJsonObject());
+    const QJsonValue arguments = request.parameters.contains(u"args"_s) ? request.parameters.value(u"args"_s)
+                                                                        : QJsonValue(QJsonObject());
     if (!arguments.isObject() && !arguments.isArray())
         throw RequestError(InvalidParameters, u"parameter \"args\" must be an object or a list"_s);
     services::Error error;
-    const QJsonObject answer = needed(session).emitSignal(request.parameters.text(u"signal"_s), arguments, &error);
+    const QJsonObject answer =
+        needed(session).emitSignal(request.parameters.text(u"signal"_s), arguments, &error);
     check(error);
     return answer;
 }

@@ -101,9 +101,9 @@ QJsonValue traffic(const Simulator& simulator, const Request& request)
     const QList<sim::TrafficEntry> entries = monitor.traffic(since);
     for (const sim::TrafficEntry& entry : entries) {
         QJsonObject row{
-            {u"seq"_s, qint64(entry.seq)},  {u"ms"_s, entry.ms},
+            {u"seq"_s, qint64(entry.seq)},    {u"ms"_s, entry.ms},
             {u"op"_s, sim::opName(entry.op)}, {u"code"_s, int(entry.code)},
-            {u"value"_s, int(entry.value)}, {u"ok"_s, entry.ok},
+            {u"value"_s, int(entry.value)},   {u"ok"_s, entry.ok},
         };
         if (entry.window)
             row.insert(u"window"_s, *entry.window);
@@ -119,8 +119,9 @@ sim::Fault readFault(const Request& request)
     const QString kind = parameters.text(u"kind"_s);
     const auto known = sim::faultKindFromName(kind);
     if (!known)
-        throw RequestError(InvalidParameters,
-                           u"\"%1\" is no fault: nack, null, checksum, garbage and timeout are"_s.arg(kind.left(100)));
+        throw RequestError(
+            InvalidParameters,
+            u"\"%1\" is no fault: nack, null, checksum, garbage and timeout are"_s.arg(kind.left(100)));
     fault.kind = *known;
     if (parameters.contains(u"code"_s))
         fault.code = std::uint8_t(codeOf(request));
@@ -150,7 +151,8 @@ QJsonValue plug(const Simulator& simulator, const Request& request)
 {
     SimulatedWorld& world = simulator.plugged();
     const QString name = request.parameters.text(u"monitor"_s);
-    const QJsonObject vcp = request.parameters.contains(u"vcp"_s) ? request.parameters.object(u"vcp"_s) : QJsonObject();
+    const QJsonObject vcp =
+        request.parameters.contains(u"vcp"_s) ? request.parameters.object(u"vcp"_s) : QJsonObject();
     QString error;
     if (world.plug(name, vcp, &error).isEmpty())
         throw RequestError(InvalidParameters, error);

@@ -46,7 +46,8 @@ QString targetKind(const Request& request)
             given.append(name);
     }
     if (given.size() != 1)
-        throw RequestError(InvalidParameters, u"one of the parameters \"widget\", \"section\" and \"popup\" is needed"_s);
+        throw RequestError(InvalidParameters,
+                           u"one of the parameters \"widget\", \"section\" and \"popup\" is needed"_s);
     return given.first();
 }
 
@@ -75,17 +76,20 @@ void addViewMethods(Dispatcher& dispatcher, const Bridge& bridge)
 {
     dispatcher.addMethod(u"ui.widgets"_s, {},
                          [bridge](const Request&) { return valueOf(needed(bridge).widgetInfos()); });
-    dispatcher.addMethod(u"ui.windows"_s, {}, [bridge](const Request&) { return valueOf(needed(bridge).windows()); });
+    dispatcher.addMethod(u"ui.windows"_s, {},
+                         [bridge](const Request&) { return valueOf(needed(bridge).windows()); });
     dispatcher.addMethod(u"ui.warnings"_s, {}, [bridge](const Request&) {
         return QJsonValue(QJsonArray::fromStringList(needed(bridge).warnings()));
     });
     dispatcher.addMethod(u"ui.tree"_s, {u"widget"_s}, [bridge](const Request& request) {
         return valueOf(needed(bridge).tree(optional(request, u"widget"_s)));
     });
-    dispatcher.addMethod(u"ui.screenshot"_s, {u"file"_s, u"widget"_s, u"theme"_s}, [bridge](const Request& request) {
-        return valueOf(needed(bridge).screenshot(request.parameters.text(u"file"_s), optional(request, u"widget"_s),
-                                                 optional(request, u"theme"_s)));
-    });
+    dispatcher.addMethod(u"ui.screenshot"_s, {u"file"_s, u"widget"_s, u"theme"_s},
+                         [bridge](const Request& request) {
+                             return valueOf(needed(bridge).screenshot(request.parameters.text(u"file"_s),
+                                                                      optional(request, u"widget"_s),
+                                                                      optional(request, u"theme"_s)));
+                         });
 }
 
 void addControlMethods(Dispatcher& dispatcher, const Bridge& bridge)
@@ -93,21 +97,23 @@ void addControlMethods(Dispatcher& dispatcher, const Bridge& bridge)
     const QString name = u"name"_s;
     const QString role = u"role"_s;
     const QString within = u"within"_s;
-    dispatcher.addMethod(u"ui.press"_s, {name, role, within}, [bridge, name, role, within](const Request& request) {
-        return valueOf(needed(bridge).press(request.parameters.text(name), optional(request, role),
-                                            optional(request, within)));
-    });
-    dispatcher.addMethod(u"ui.setValue"_s, {name, role, within, u"value"_s},
-                         [bridge, name, role, within](const Request& request) {
-                             const QVariant value = ValueReader::readAny(request.parameters.value(u"value"_s));
-                             return valueOf(needed(bridge).setValue(request.parameters.text(name), value,
-                                                                    optional(request, role), optional(request, within)));
-                         });
-    dispatcher.addMethod(u"ui.key"_s, {name, role, within, u"key"_s},
-                         [bridge, name, role, within](const Request& request) {
-                             return valueOf(needed(bridge).key(optional(request, name), request.parameters.text(u"key"_s),
-                                                               optional(request, role), optional(request, within)));
-                         });
+    dispatcher.addMethod(
+        u"ui.press"_s, {name, role, within}, [bridge, name, role, within](const Request& request) {
+            return valueOf(needed(bridge).press(request.parameters.text(name), optional(request, role),
+                                                optional(request, within)));
+        });
+    dispatcher.addMethod(
+        u"ui.setValue"_s, {name, role, within, u"value"_s},
+        [bridge, name, role, within](const Request& request) {
+            const QVariant value = ValueReader::readAny(request.parameters.value(u"value"_s));
+            return valueOf(needed(bridge).setValue(request.parameters.text(name), value,
+                                                   optional(request, role), optional(request, within)));
+        });
+    dispatcher.addMethod(
+        u"ui.key"_s, {name, role, within, u"key"_s}, [bridge, name, role, within](const Request& request) {
+            return valueOf(needed(bridge).key(optional(request, name), request.parameters.text(u"key"_s),
+                                              optional(request, role), optional(request, within)));
+        });
 }
 
 } // namespace
@@ -117,13 +123,16 @@ void addWindowMethods(Server* server, Bridge bridge)
     Dispatcher& dispatcher = server->dispatcher();
     // A second instance asks for it, whatever else is going on.
     dispatcher.addMethod(
-        u"ui.show"_s, {}, [bridge](const Request&) { return valueOf(needed(bridge).show()); }, Dispatcher::When::Always);
-    dispatcher.addMethod(u"ui.hide"_s, {}, [bridge](const Request&) { return valueOf(needed(bridge).hide()); });
+        u"ui.show"_s, {}, [bridge](const Request&) { return valueOf(needed(bridge).show()); },
+        Dispatcher::When::Always);
+    dispatcher.addMethod(u"ui.hide"_s, {},
+                         [bridge](const Request&) { return valueOf(needed(bridge).hide()); });
     dispatcher.addMethod(u"ui.open"_s, {u"widget"_s, u"section"_s, u"popup"_s},
                          [bridge](const Request& request) { return open(needed(bridge), request); });
-    dispatcher.addMethod(u"ui.close"_s, {u"widget"_s, u"section"_s, u"popup"_s}, [bridge](const Request& request) {
-        return valueOf(needed(bridge).close(request.parameters.text(targetKind(request))));
-    });
+    dispatcher.addMethod(
+        u"ui.close"_s, {u"widget"_s, u"section"_s, u"popup"_s}, [bridge](const Request& request) {
+            return valueOf(needed(bridge).close(request.parameters.text(targetKind(request))));
+        });
     dispatcher.addMethod(u"ui.mouse"_s, {u"window"_s, u"kind"_s, u"x"_s, u"y"_s},
                          [bridge](const Request& request) { return mouse(needed(bridge), request); });
     addViewMethods(dispatcher, bridge);

@@ -134,7 +134,8 @@ const Command* takeCommand(QStringList* arguments)
     return nullptr;
 }
 
-bool readArguments(const Command& command, const QStringList& arguments, QJsonObject* parameters, QString* error)
+bool readArguments(const Command& command, const QStringList& arguments, QJsonObject* parameters,
+                   QString* error)
 {
     const QList<Parameter> wanted = parametersOf(command);
     QStringList positional;

@@ -28,7 +28,8 @@ bool DeskClient::takeMessage(QJsonObject* message)
 DeskClient::Outcome DeskClient::request(const QString& method, const QJsonObject& parameters, int timeoutMs,
                                         QJsonObject* answer)
 {
-    const QJsonObject request{{u"jsonrpc"_s, u"2.0"_s}, {u"id"_s, 1}, {u"method"_s, method}, {u"params"_s, parameters}};
+    const QJsonObject request{
+        {u"jsonrpc"_s, u"2.0"_s}, {u"id"_s, 1}, {u"method"_s, method}, {u"params"_s, parameters}};
     m_socket.write(QJsonDocument(request).toJson(QJsonDocument::Compact) + '\n');
     QElapsedTimer elapsed;
     elapsed.start();
@@ -41,8 +42,8 @@ DeskClient::Outcome DeskClient::request(const QString& method, const QJsonObject
         const qint64 left = timeoutMs == 0 ? -1 : timeoutMs - elapsed.elapsed();
         if (timeoutMs != 0 && left <= 0)
             return Outcome::TimedOut;
-        if (!m_socket.waitForReadyRead(int(left)) && m_socket.bytesAvailable() == 0
-            && m_socket.state() != QLocalSocket::ConnectedState)
+        if (!m_socket.waitForReadyRead(int(left)) && m_socket.bytesAvailable() == 0 &&
+            m_socket.state() != QLocalSocket::ConnectedState)
             return Outcome::Lost;
     }
 }

@@ -11,8 +11,7 @@
 class DeskClient
 {
 public:
-    enum class Outcome
-    {
+    enum class Outcome {
         Answered,
         TimedOut,
         Lost, ///< The connection ended.
@@ -26,7 +25,8 @@ public:
     /// @param timeoutMs 0 waits without limit.
     Outcome request(const QString& method, const QJsonObject& parameters, int timeoutMs, QJsonObject* answer);
 
-    /// Hands over every notification until the connection ends or @p interrupted, a file descriptor, can be read.
+    /// Hands over every notification until the connection ends or @p interrupted, a file descriptor, can be
+    /// read.
     /// @return true if it was interrupted.
     bool listen(int interrupted, const std::function<void(const QJsonObject&)>& notified);
 

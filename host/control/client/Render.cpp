@@ -15,14 +15,15 @@ namespace {
 /// Columns that the client knows an order for; others follow as they come.
 const QStringList& columnOrder()
 {
-    static const QStringList order{u"seq"_s, u"run"_s, u"time"_s, u"ms"_s, u"id"_s, u"name"_s, u"widget"_s, u"level"_s};
+    static const QStringList order{u"seq"_s, u"run"_s,  u"time"_s,   u"ms"_s,
+                                   u"id"_s,  u"name"_s, u"widget"_s, u"level"_s};
     return order;
 }
 
 bool isTable(const QJsonArray& list)
 {
-    return !list.isEmpty()
-           && std::all_of(list.begin(), list.end(), [](const QJsonValue& entry) { return entry.isObject(); });
+    return !list.isEmpty() &&
+           std::all_of(list.begin(), list.end(), [](const QJsonValue& entry) { return entry.isObject(); });
 }
 
 QStringList columnsOf(const QJsonArray& list)
@@ -65,7 +66,7 @@ QString renderTable(const QJsonArray& list, const QString& indent)
             qsizetype width = 0;
             for (const QStringList& other : rows)
                 width = std::max(width, std::min<qsizetype>(other[c].size(), 60));
-            line += row[c].leftJustified(c + 1 < row.size() ? width + 2 : 0);
+            line += row[c].leftJustified(c + 1 < row.size() ? width : 0) + u"  "_s;
         }
         text += indent + line.trimmed() + u'\n';
     }
@@ -86,8 +87,8 @@ QString render(const QJsonValue& value, const QString& indent)
     if (value.isObject()) {
         const QJsonObject object = value.toObject();
         for (auto member = object.begin(); member != object.end(); ++member) {
-            const bool nested = (member->isObject() && !member->toObject().isEmpty())
-                                || (member->isArray() && isTable(member->toArray()));
+            const bool nested = (member->isObject() && !member->toObject().isEmpty()) ||
+                                (member->isArray() && isTable(member->toArray()));
             text += indent + member.key() + (nested ? u":\n"_s : u": "_s);
             text += nested ? render(*member, indent + u"  "_s) : renderInline(*member) + u'\n';
         }

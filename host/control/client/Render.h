@@ -5,8 +5,8 @@
 #include <QJsonValue>
 #include <QString>
 
-/// A result for people: a value alone, a list of objects as a table, an object as names and values. Ends with a newline
-/// unless it is empty.
+/// A result for people: a value alone, a list of objects as a table, an object as names and values. Ends with
+/// a newline unless it is empty.
 QString renderResult(const QJsonValue& result);
 
 /// One notification of a watch, without a newline.

@@ -18,8 +18,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-enum ExitCode
-{
+enum ExitCode {
     Done = 0,
     AnsweredWithError = 1,
     WrongUsage = 2,
@@ -50,11 +49,13 @@ QString helpText()
                    "  -v, --version          show the version and end\n\nCommands:\n"_s;
     for (const Command& command : commands()) {
         const QString usage = usageOf(command);
-        const QString gap = usage.size() < 44 ? QString(44 - usage.size(), u' ') : u"\n"_s + QString(46, u' ');
+        const QString gap =
+            usage.size() < 44 ? QString(44 - usage.size(), u' ') : u"\n"_s + QString(46, u' ');
         text += u"  %1%2%3\n"_s.arg(usage, gap, QString::fromLatin1(command.help));
     }
-    text += u"\nA value is JSON where it is JSON, else a string. An argument may be given as NAME=VALUE.\n"
-            "Exit codes: 0 done, 1 the program answered with an error, 2 wrong usage, 3 no running lumen-desk.\n"_s;
+    text +=
+        u"\nA value is JSON where it is JSON, else a string. An argument may be given as NAME=VALUE.\n"
+        "Exit codes: 0 done, 1 the program answered with an error, 2 wrong usage, 3 no running lumen-desk.\n"_s;
     return text;
 }
 
@@ -103,8 +104,9 @@ int run(const CommandLine& line, const Command& command, const QString& method, 
     }
     if (answer.contains("error"_L1)) {
         const QJsonObject error = answer.value("error"_L1).toObject();
-        return fail(AnsweredWithError, u"%1 (error %2)"_s.arg(error.value("message"_L1).toString())
-                                           .arg(error.value("code"_L1).toInt()));
+        return fail(
+            AnsweredWithError,
+            u"%1 (error %2)"_s.arg(error.value("message"_L1).toString()).arg(error.value("code"_L1).toInt()));
     }
     if (watching)
         return watch(client, interrupted, line.json);

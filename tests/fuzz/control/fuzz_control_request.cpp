@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// Lines of a client, newline by newline, through the parser, the dispatcher, paths and values on a small object tree.
+// Lines of a client, newline by newline, through the parser, the dispatcher, paths and values on a small
+// object tree.
 #include "../../unit/control/TestObjects.h"
 
 #include <control/Dispatcher.h>
@@ -51,8 +52,8 @@ void addMethods(Dispatcher& dispatcher, Model& model)
         return QJsonValue(QJsonObject());
     });
     dispatcher.addMethod(u"code"_s, {u"code"_s, u"count"_s}, [](const Request& r) {
-        return QJsonValue(r.parameters.code(u"code"_s, 0, 255)
-                          + r.parameters.optionalInteger(u"count"_s, 0, 10).value_or(0));
+        return QJsonValue(r.parameters.code(u"code"_s, 0, 255) +
+                          r.parameters.optionalInteger(u"count"_s, 0, 10).value_or(0));
     });
 }
 

@@ -73,7 +73,8 @@ void TestDeskctl::resultsAreForPeople_data()
     QTest::newRow("table") << QStringList{u"monitors"_s} << u"^ID +.*MODEL.*\\nTK30Z@.*\\n$"_s;
     QTest::newRow("nothing") << QStringList{u"idle"_s} << u"^$"_s;
     QTest::newRow("names and values") << QStringList{u"version"_s} << u"qt: 6\\."_s;
-    QTest::newRow("option behind") << QStringList{u"get"_s, u"modelName"_s, u"-m"_s, u"TK30Z"_s} << u"^TK30Z\\n$"_s;
+    QTest::newRow("option behind") << QStringList{u"get"_s, u"modelName"_s, u"-m"_s, u"TK30Z"_s}
+                                   << u"^TK30Z\\n$"_s;
     QTest::newRow("list") << QStringList{u"get"_s, u"colorModeList"_s} << u"^(\\S.*\\n)+$"_s;
 }
 
@@ -90,18 +91,58 @@ void TestDeskctl::resultsAreForPeople()
 void TestDeskctl::everyCommandReachesItsMethod_data()
 {
     QTest::addColumn<QStringList>("arguments");
-    for (const char* line :
-         {"monitors", "select TK30Z", "get id", "describe", "describe aiContrast", "call aiContrast.takePropertySnapshot",
-          "events", "events 0 -1", "idle", "sync", "sync LuAiContrast", "apply", "settings", "settings set a/b 1",
-          "settings remove a/b", "snapshot LuAutoPivot", "fireUpdate LuAutoPivot", "model", "stats", "actions",
-          "trigger LuAiContrast {\"state\":true}", "flowActions list", "flowActions list f",
-          "flowActions register f 12 {\"syncEnable\":true}", "flowActions unregister f 12", "queue",
-          "forgetFirstConnection", "version", "package", "log", "log 5", "sim get 0xF3", "sim set 0xF3 1", "sim traffic",
-          "sim fault nack 0xF3 get 1", "sim fault kind=null count=1", "sim fault", "sim plug TK20@CTL",
-          "-m TK20@CTL sim unplug", "sim reset", "services get pivot", "services set pivot 90",
-          "services emit screenGeometryChanged", "clock get", "clock set 2024-03-04T07:30:00", "clock advance 1000",
-          "raw version", "raw get {\"path\":\"id\"}", "-m TK30Z raw get {\"path\":\"id\"}", "--json monitors",
-          "--timeout 10000 idle", "--timeout 0 idle"})
+    for (const char* line : {"monitors",
+                             "select TK30Z",
+                             "get id",
+                             "describe",
+                             "describe aiContrast",
+                             "call aiContrast.takePropertySnapshot",
+                             "events",
+                             "events 0 -1",
+                             "idle",
+                             "sync",
+                             "sync LuAiContrast",
+                             "apply",
+                             "settings",
+                             "settings set a/b 1",
+                             "settings remove a/b",
+                             "snapshot LuAutoPivot",
+                             "fireUpdate LuAutoPivot",
+                             "model",
+                             "stats",
+                             "actions",
+                             "trigger LuAiContrast {\"state\":true}",
+                             "flowActions list",
+                             "flowActions list f",
+                             "flowActions register f 12 {\"syncEnable\":true}",
+                             "flowActions unregister f 12",
+                             "queue",
+                             "forgetFirstConnection",
+                             "version",
+                             "package",
+                             "log",
+                             "log 5",
+                             "sim get 0xF3",
+                             "sim set 0xF3 1",
+                             "sim traffic",
+                             "sim fault nack 0xF3 get 1",
+                             "sim fault kind=null count=1",
+                             "sim fault",
+                             "sim plug TK20@CTL",
+                             "-m TK20@CTL sim unplug",
+                             "sim reset",
+                             "services get pivot",
+                             "services set pivot 90",
+                             "services emit screenGeometryChanged",
+                             "clock get",
+                             "clock set 2024-03-04T07:30:00",
+                             "clock advance 1000",
+                             "raw version",
+                             "raw get {\"path\":\"id\"}",
+                             "-m TK30Z raw get {\"path\":\"id\"}",
+                             "--json monitors",
+                             "--timeout 10000 idle",
+                             "--timeout 0 idle"})
         QTest::newRow(line) << QString::fromLatin1(line).split(u' ');
 }
 
@@ -115,7 +156,8 @@ void TestDeskctl::everyCommandReachesItsMethod()
 void TestDeskctl::valuesAreJsonWhereTheyAreJson()
 {
     QCOMPARE(run({u"set"_s, u"nickName"_s, u"My monitor"_s}).code, 0);
-    QCOMPARE(run({u"--json"_s, u"get"_s, u"nickName"_s}).json(), QJsonValue(QJsonObject{{u"value"_s, u"My monitor"_s}}));
+    QCOMPARE(run({u"--json"_s, u"get"_s, u"nickName"_s}).json(),
+             QJsonValue(QJsonObject{{u"value"_s, u"My monitor"_s}}));
     QCOMPARE(run({u"set"_s, u"nickName"_s, u"5"_s}).code, 1); // a number is no name
     QCOMPARE(run({u"set"_s, u"nickName"_s, u"\"5\""_s}).code, 0);
     QCOMPARE(run({u"get"_s, u"nickName"_s}).out, u"5\n"_s);
@@ -160,7 +202,8 @@ void TestDeskctl::anErrorOfTheProgramIsPrinted()
     const Run result = run({u"get"_s, u"nope"_s});
     QCOMPARE(result.code, 1);
     QVERIFY(result.out.isEmpty());
-    QVERIFY2(result.errors.contains("nope"_L1) && result.errors.contains("error 2"_L1), qPrintable(result.errors));
+    QVERIFY2(result.errors.contains("nope"_L1) && result.errors.contains("error 2"_L1),
+             qPrintable(result.errors));
     QCOMPARE(run({u"-m"_s, u"TK99"_s, u"get"_s, u"id"_s}).code, 1);
     QCOMPARE(run({u"ui"_s, u"show"_s}).code, 1);
 }
@@ -192,7 +235,8 @@ void TestDeskctl::watchPrintsUntilInterrupted()
 {
     QFETCH(bool, json);
     QProcess watcher;
-    QStringList arguments{u"--control"_s, m_desk.socketPath(), u"watch"_s, u"nickName"_s, u"nickNameChanged()"_s};
+    QStringList arguments{u"--control"_s, m_desk.socketPath(), u"watch"_s, u"nickName"_s,
+                          u"nickNameChanged()"_s};
     if (json)
         arguments.prepend(u"--json"_s);
     watcher.start(QStringLiteral(LUMEN_DESKCTL), arguments);
@@ -225,7 +269,8 @@ void TestDeskctl::watchEndsWithTheProgram()
     DeskProcess passing;
     QVERIFY2(passing.start(), qPrintable(passing.errors()));
     QProcess watcher;
-    watcher.start(QStringLiteral(LUMEN_DESKCTL), {u"--control"_s, passing.socketPath(), u"watch"_s, u"nickName"_s});
+    watcher.start(QStringLiteral(LUMEN_DESKCTL),
+                  {u"--control"_s, passing.socketPath(), u"watch"_s, u"nickName"_s});
     QVERIFY(watcher.waitForStarted());
     int change = 0;
     const auto watching = [&] {
@@ -243,7 +288,8 @@ void TestDeskctl::helpAndVersionNeedNoProgram()
     const QString nobody = m_desk.filePath(u"nobody.sock"_s);
     const Run help = run({u"--help"_s}, nobody);
     QCOMPARE(help.code, 0);
-    for (const char* command : {"monitors", "sim fault", "services emit", "clock advance", "ui press", "raw METHOD"})
+    for (const char* command :
+         {"monitors", "sim fault", "services emit", "clock advance", "ui press", "raw METHOD"})
         QVERIFY2(help.out.contains(QLatin1String(command)), command);
     const Run version = run({u"--version"_s}, nobody);
     QCOMPARE(version.code, 0);

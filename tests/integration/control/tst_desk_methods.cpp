@@ -133,7 +133,8 @@ void TestDeskMethods::selectMakesAMonitorCurrent()
     QVERIFY(desk().call(u"select"_s, {{u"monitor"_s, u"TK20"_s}}).ok());
     QCOMPARE(desk().get(u"modelName"_s), QJsonValue(u"TK20"_s));
     QCOMPARE(desk().get(u"isCurrentModel"_s), QJsonValue(true));
-    QCOMPARE(desk().value(u"get"_s, {{u"monitor"_s, m_id}, {u"path"_s, u"isCurrentModel"_s}}), QJsonValue(false));
+    QCOMPARE(desk().value(u"get"_s, {{u"monitor"_s, m_id}, {u"path"_s, u"isCurrentModel"_s}}),
+             QJsonValue(false));
     QVERIFY(desk().call(u"select"_s, {{u"monitor"_s, m_id}}).ok());
     QCOMPARE(desk().get(u"modelName"_s), QJsonValue(u"TK30Z"_s));
     QVERIFY(desk().call(u"sim.unplug"_s, {{u"monitor"_s, u"TK20@OTHER"_s}}).ok());
@@ -186,8 +187,10 @@ void TestDeskMethods::watchTellsEachChange()
     QJsonObject changed;
     QJsonObject signal;
     for (const QJsonObject& message : desk().messages())
-        (message.value("method"_L1) == "changed"_L1 ? changed : signal) = message.value("params"_L1).toObject();
-    QCOMPARE(changed, (QJsonObject{{u"monitor"_s, m_id}, {u"path"_s, u"aiContrast.state"_s}, {u"value"_s, !before}}));
+        (message.value("method"_L1) == "changed"_L1 ? changed : signal) =
+            message.value("params"_L1).toObject();
+    QCOMPARE(changed,
+             (QJsonObject{{u"monitor"_s, m_id}, {u"path"_s, u"aiContrast.state"_s}, {u"value"_s, !before}}));
     QCOMPARE(signal, (QJsonObject{{u"monitor"_s, m_id},
                                   {u"path"_s, u"aiContrast.stateChanged()"_s},
                                   {u"args"_s, QJsonArray()}}));
@@ -229,7 +232,9 @@ void TestDeskMethods::settingsAreListedWrittenAndRemoved()
 {
     const QString key = u"LuBrightness/Cinema/displayBrightness"_s;
     QVERIFY(desk().call(u"settings.set"_s, {{u"monitor"_s, m_id}, {u"key"_s, key}, {u"value"_s, 42}}).ok());
-    QVERIFY(desk().call(u"settings.set"_s, {{u"key"_s, u"test/own"_s}, {u"value"_s, QJsonArray{1, u"a"_s}}}).ok());
+    QVERIFY(desk()
+                .call(u"settings.set"_s, {{u"key"_s, u"test/own"_s}, {u"value"_s, QJsonArray{1, u"a"_s}}})
+                .ok());
     QJsonObject settings = desk().call(u"settings"_s).result.toObject();
     QCOMPARE(membersOf(settings), (QStringList{u"application"_s, u"monitor"_s}));
     QCOMPARE(settings.value("monitor"_L1).toObject().value(key).toVariant().toInt(), 42);
@@ -249,8 +254,10 @@ void TestDeskMethods::eventsAreKept()
 {
     const QJsonArray before = desk().call(u"events"_s).result.toArray();
     const qint64 since = before.isEmpty() ? 0 : before.last().toObject().value("seq"_L1).toInteger();
-    const QJsonArray arguments{u"ACT_AUTO_PIVOT"_s, u"on_update_setting"_s, u"SOURCE_USER"_s, QJsonArray{u"a"_s, u"b"_s}};
-    QVERIFY(desk().call(u"call"_s, {{u"path"_s, u"autoPivot.fireCustomEvent"_s}, {u"args"_s, arguments}}).ok());
+    const QJsonArray arguments{u"ACT_AUTO_PIVOT"_s, u"on_update_setting"_s, u"SOURCE_USER"_s,
+                               QJsonArray{u"a"_s, u"b"_s}};
+    QVERIFY(
+        desk().call(u"call"_s, {{u"path"_s, u"autoPivot.fireCustomEvent"_s}, {u"args"_s, arguments}}).ok());
     const QJsonArray events = desk().call(u"events"_s, {{u"since"_s, since}}).result.toArray();
     QCOMPARE(events.size(), 1);
     QJsonObject event = events[0].toObject();
@@ -314,7 +321,8 @@ void TestDeskMethods::actionsAreListed()
     QVERIFY(answer.ok());
     const QJsonArray actions = answer.result.toArray();
     for (const QJsonValue& action : actions)
-        QCOMPARE(membersOf(action), (QStringList{u"active"_s, u"duplicated"_s, u"key"_s, u"name"_s, u"title"_s}));
+        QCOMPARE(membersOf(action),
+                 (QStringList{u"active"_s, u"duplicated"_s, u"key"_s, u"name"_s, u"title"_s}));
 }
 
 void TestDeskMethods::triggerSetsAsAnotherFunction()
@@ -388,18 +396,25 @@ void TestDeskMethods::errorsNameWhatWasWrong_data()
     QTest::newRow("method") << "fly" << QJsonObject() << -32601 << "fly";
     QTest::newRow("parameter") << "version" << QJsonObject{{u"x"_s, 1}} << -32602 << "x";
     QTest::newRow("missing") << "get" << QJsonObject() << -32602 << "path";
-    QTest::newRow("monitor") << "get" << QJsonObject{{u"monitor"_s, u"TK99"_s}, {u"path"_s, u"id"_s}} << 1 << "TK99";
+    QTest::newRow("monitor") << "get" << QJsonObject{{u"monitor"_s, u"TK99"_s}, {u"path"_s, u"id"_s}} << 1
+                             << "TK99";
     QTest::newRow("path") << "get" << QJsonObject{{u"path"_s, u"aiContrast.glow"_s}} << 2 << "glow";
     QTest::newRow("module") << "sync" << QJsonObject{{u"module"_s, u"LuNope"_s}} << 2 << "LuNope";
-    QTest::newRow("not writable") << "set" << QJsonObject{{u"path"_s, u"id"_s}, {u"value"_s, u"x"_s}} << 3 << "id";
-    QTest::newRow("wrong type") << "set" << QJsonObject{{u"path"_s, u"aiContrast.state"_s}, {u"value"_s, u"x"_s}} << 4
+    QTest::newRow("not writable") << "set" << QJsonObject{{u"path"_s, u"id"_s}, {u"value"_s, u"x"_s}} << 3
+                                  << "id";
+    QTest::newRow("wrong type") << "set"
+                                << QJsonObject{{u"path"_s, u"aiContrast.state"_s}, {u"value"_s, u"x"_s}} << 4
                                 << "state";
-    QTest::newRow("colour mode") << "set" << QJsonObject{{u"path"_s, u"colorMode"_s}, {u"value"_s, u"Sepia"_s}} << 4
+    QTest::newRow("colour mode") << "set"
+                                 << QJsonObject{{u"path"_s, u"colorMode"_s}, {u"value"_s, u"Sepia"_s}} << 4
                                  << "Sepia";
-    QTest::newRow("arguments") << "call" << QJsonObject{{u"path"_s, u"openFocusAssist"_s}, {u"args"_s, QJsonArray{1}}}
+    QTest::newRow("arguments") << "call"
+                               << QJsonObject{{u"path"_s, u"openFocusAssist"_s}, {u"args"_s, QJsonArray{1}}}
                                << -32602 << "openFocusAssist";
-    QTest::newRow("signal") << "watch" << QJsonObject{{u"paths"_s, QJsonArray{u"aiContrast.gone()"_s}}} << 2 << "gone";
-    QTest::newRow("constant") << "watch" << QJsonObject{{u"paths"_s, QJsonArray{u"aiContrast.aiContrastEnable"_s}}} << 2
+    QTest::newRow("signal") << "watch" << QJsonObject{{u"paths"_s, QJsonArray{u"aiContrast.gone()"_s}}} << 2
+                            << "gone";
+    QTest::newRow("constant") << "watch"
+                              << QJsonObject{{u"paths"_s, QJsonArray{u"aiContrast.aiContrastEnable"_s}}} << 2
                               << "aiContrastEnable";
 }
 

@@ -178,11 +178,14 @@ void TestDeskProcess::hostileClientsChangeNothing()
     DeskProcess desk;
     QVERIFY2(desk.start(), qPrintable(desk.errors()));
     const QList<QByteArray> attacks{
-        QByteArray(100'000, '\0') + '\n', QByteArray(100'000, '['), QByteArray(2'000'000, 'x'),
-        QByteArray("\xff\xfe\n{}\n[]\nnull\n"), QByteArray("{\"jsonrpc\":\"2.0\",\"id\":1,\"method\":\"call\",\"params\":"
-                                                          "{\"path\":\"deleteLater\"}}\n"),
-        QByteArray("{\"jsonrpc\":\"2.0\",\"id\":1,\"method\":\"get\",\"params\":{\"path\":\"") + QByteArray(500'000, '.')
-            + "\"}}\n",
+        QByteArray(100'000, '\0') + '\n',
+        QByteArray(100'000, '['),
+        QByteArray(2'000'000, 'x'),
+        QByteArray("\xff\xfe\n{}\n[]\nnull\n"),
+        QByteArray("{\"jsonrpc\":\"2.0\",\"id\":1,\"method\":\"call\",\"params\":"
+                   "{\"path\":\"deleteLater\"}}\n"),
+        QByteArray("{\"jsonrpc\":\"2.0\",\"id\":1,\"method\":\"get\",\"params\":{\"path\":\"") +
+            QByteArray(500'000, '.') + "\"}}\n",
         QByteArray("{\"jsonrpc\":\"2.0\",\"id\":1,\"method\":\"get\",\"params\":{\"path\":\"context\"}}\n")};
     for (const QByteArray& attack : attacks) {
         ControlClient hostile;
@@ -198,9 +201,10 @@ void TestDeskProcess::hostileClientsChangeNothing()
 void TestDeskProcess::theStateIsThereBeforeTheFirstModel()
 {
     DeskProcess desk;
-    const QString file = writeFile(desk, u"state.json"_s,
-                                   R"({"services": {"pivot": 90}, "vcp": {"TK30Z": {"0xF3": 1}}, "faults": []})");
-    QVERIFY2(desk.start(DeskProcess::usualOptions() + QStringList{u"--state"_s, file}), qPrintable(desk.errors()));
+    const QString file = writeFile(
+        desk, u"state.json"_s, R"({"services": {"pivot": 90}, "vcp": {"TK30Z": {"0xF3": 1}}, "faults": []})");
+    QVERIFY2(desk.start(DeskProcess::usualOptions() + QStringList{u"--state"_s, file}),
+             qPrintable(desk.errors()));
     QCOMPARE(desk.client().value(u"sim.get"_s, {{u"code"_s, 0xF3}}), QJsonValue(1));
     QCOMPARE(desk.client().value(u"services.get"_s, {{u"path"_s, u"pivot"_s}}), QJsonValue(90));
     QVERIFY(desk.client().call(u"idle"_s).ok());

@@ -72,17 +72,24 @@ void TestDeskSimulated::wrongCodesAndValuesAreTold_data()
     QTest::newRow("no code") << "sim.get" << QJsonObject() << -32602;
     QTest::newRow("code beyond a byte") << "sim.get" << code(256) << -32602;
     QTest::newRow("code in words") << "sim.get" << code(u"brightness"_s) << -32602;
-    QTest::newRow("value beyond 16 bits") << "sim.set" << QJsonObject{{u"code"_s, 0x12}, {u"value"_s, 65536}} << -32602;
-    QTest::newRow("negative value") << "sim.set" << QJsonObject{{u"code"_s, 0x12}, {u"value"_s, -1}} << -32602;
-    QTest::newRow("no such monitor") << "sim.get" << QJsonObject{{u"monitor"_s, u"X"_s}, {u"code"_s, 0x12}} << 1;
+    QTest::newRow("value beyond 16 bits")
+        << "sim.set" << QJsonObject{{u"code"_s, 0x12}, {u"value"_s, 65536}} << -32602;
+    QTest::newRow("negative value") << "sim.set" << QJsonObject{{u"code"_s, 0x12}, {u"value"_s, -1}}
+                                    << -32602;
+    QTest::newRow("no such monitor") << "sim.get" << QJsonObject{{u"monitor"_s, u"X"_s}, {u"code"_s, 0x12}}
+                                     << 1;
     QTest::newRow("fault") << "sim.fault" << QJsonObject{{u"kind"_s, u"fire"_s}} << -32602;
-    QTest::newRow("direction") << "sim.fault" << QJsonObject{{u"kind"_s, u"nack"_s}, {u"op"_s, u"both"_s}} << -32602;
+    QTest::newRow("direction") << "sim.fault" << QJsonObject{{u"kind"_s, u"nack"_s}, {u"op"_s, u"both"_s}}
+                               << -32602;
     QTest::newRow("count") << "sim.fault" << QJsonObject{{u"kind"_s, u"nack"_s}, {u"count"_s, 0}} << -32602;
-    QTest::newRow("probability") << "sim.fault" << QJsonObject{{u"kind"_s, u"nack"_s}, {u"probability"_s, 2}} << -32602;
+    QTest::newRow("probability") << "sim.fault" << QJsonObject{{u"kind"_s, u"nack"_s}, {u"probability"_s, 2}}
+                                 << -32602;
     QTest::newRow("plug without a name") << "sim.plug" << QJsonObject() << -32602;
-    QTest::newRow("name that fits no EDID") << "sim.plug" << QJsonObject{{u"monitor"_s, QString(40, u'x')}} << -32602;
+    QTest::newRow("name that fits no EDID")
+        << "sim.plug" << QJsonObject{{u"monitor"_s, QString(40, u'x')}} << -32602;
     QTest::newRow("wrong value at plugging")
-        << "sim.plug" << QJsonObject{{u"monitor"_s, u"TK20"_s}, {u"vcp"_s, QJsonObject{{u"x"_s, 1}}}} << -32602;
+        << "sim.plug" << QJsonObject{{u"monitor"_s, u"TK20"_s}, {u"vcp"_s, QJsonObject{{u"x"_s, 1}}}}
+        << -32602;
     QTest::newRow("unplug nobody") << "sim.unplug" << QJsonObject{{u"monitor"_s, u"TK20"_s}} << 1;
 }
 
@@ -113,7 +120,8 @@ void TestDeskSimulated::trafficIsToldInOrder()
         QVERIFY(row.value("seq"_L1).toInteger() > before);
         before = row.value("seq"_L1).toInteger();
         QVERIFY(row.value("op"_L1) == "get"_L1 || row.value("op"_L1) == "set"_L1);
-        QVERIFY(row.value("ok"_L1).isBool() && row.value("ms"_L1).isDouble() && row.value("code"_L1).isDouble());
+        QVERIFY(row.value("ok"_L1).isBool() && row.value("ms"_L1).isDouble() &&
+                row.value("code"_L1).isDouble());
     }
     QCOMPARE(traffic.last().toObject().value("code"_L1), QJsonValue(0xF3));
     QCOMPARE(desk.client().call(u"sim.traffic"_s, {{u"since"_s, before}}).result, QJsonValue(QJsonArray()));
@@ -131,7 +139,8 @@ void TestDeskSimulated::aFaultMeetsAsManyTransactionsAsAsked()
                 .ok());
     QVERIFY(desk.client().set(u"aiContrast.state"_s, !before).ok());
     QVERIFY(desk.client().call(u"idle"_s).ok());
-    QCOMPARE(desk.client().get(u"aiContrast.state"_s), QJsonValue(before)); // the write failed, with all its retries
+    QCOMPARE(desk.client().get(u"aiContrast.state"_s),
+             QJsonValue(before)); // the write failed, with all its retries
     QVERIFY(desk.client().set(u"aiContrast.state"_s, !before).ok());
     QVERIFY(desk.client().call(u"idle"_s).ok());
     QCOMPARE(desk.client().get(u"aiContrast.state"_s), QJsonValue(!before));
@@ -164,14 +173,17 @@ void TestDeskSimulated::aMonitorIsPluggedAndUnplugged()
     const QJsonObject at{{u"monitor"_s, u"TK40X@P1"_s}, {u"path"_s, u"aiContrast.state"_s}};
     QVERIFY(desk.client().call(u"idle"_s, {{u"monitor"_s, u"TK40X@P1"_s}}).ok());
     QCOMPARE(desk.client().call(u"monitors"_s).result.toArray().size(), 2);
-    QVERIFY(desk.client().call(u"watch"_s, {{u"monitor"_s, u"TK40X@P1"_s},
-                                             {u"paths"_s, QJsonArray{u"aiContrast.state"_s}}}).ok());
+    QVERIFY(desk.client()
+                .call(u"watch"_s,
+                      {{u"monitor"_s, u"TK40X@P1"_s}, {u"paths"_s, QJsonArray{u"aiContrast.state"_s}}})
+                .ok());
     QVERIFY(desk.client().call(u"sim.unplug"_s, {{u"monitor"_s, u"TK40X@P1"_s}}).ok());
     QCOMPARE(desk.client().call(u"monitors"_s).result.toArray().size(), 1);
     QCOMPARE(desk.client().call(u"get"_s, at).code, 1);
     QCOMPARE(desk.client().call(u"sim.unplug"_s, {{u"monitor"_s, u"TK40X@P1"_s}}).code, 1);
     // The monitor itself is still there, with its values, and comes back.
-    QCOMPARE(desk.client().value(u"sim.get"_s, {{u"monitor"_s, u"TK40X@P1"_s}, {u"code"_s, 0x12}}), QJsonValue(33));
+    QCOMPARE(desk.client().value(u"sim.get"_s, {{u"monitor"_s, u"TK40X@P1"_s}, {u"code"_s, 0x12}}),
+             QJsonValue(33));
     QVERIFY(desk.client().call(u"sim.plug"_s, {{u"monitor"_s, u"TK40X@P1"_s}}).ok());
     QVERIFY(desk.client().call(u"get"_s, at).ok());
     QCOMPARE(desk.stop(), 0);
@@ -180,7 +192,8 @@ void TestDeskSimulated::aMonitorIsPluggedAndUnplugged()
 void TestDeskSimulated::twoMonitorsAreToldApart()
 {
     DeskProcess desk;
-    QVERIFY2(desk.start({u"--headless"_s, u"--simulate"_s, u"TK30Z@A,TK30Z@B,builtin,XX99"_s, u"--ddc-timing"_s, u"fast"_s}),
+    QVERIFY2(desk.start({u"--headless"_s, u"--simulate"_s, u"TK30Z@A,TK30Z@B,builtin,XX99"_s,
+                         u"--ddc-timing"_s, u"fast"_s}),
              qPrintable(desk.errors()));
     const QJsonArray monitors = desk.client().call(u"monitors"_s).result.toArray();
     QCOMPARE(monitors.size(), 4);
@@ -189,17 +202,23 @@ void TestDeskSimulated::twoMonitorsAreToldApart()
     QCOMPARE(monitors[2].toObject().value("builtIn"_L1), QJsonValue(true));
     QCOMPARE(monitors[3].toObject().value("supported"_L1), QJsonValue(false));
     QCOMPARE(desk.client().call(u"get"_s, {{u"monitor"_s, u"TK30Z"_s}, {u"path"_s, u"id"_s}}).code, 1);
-    QVERIFY(desk.client().call(u"set"_s, {{u"monitor"_s, u"TK30Z@B"_s}, {u"path"_s, u"nickName"_s}, {u"value"_s, u"B"_s}}).ok());
-    QCOMPARE(desk.client().value(u"get"_s, {{u"monitor"_s, u"TK30Z@A"_s}, {u"path"_s, u"nickName"_s}}), QJsonValue(u"TK30Z"_s));
+    QVERIFY(
+        desk.client()
+            .call(u"set"_s, {{u"monitor"_s, u"TK30Z@B"_s}, {u"path"_s, u"nickName"_s}, {u"value"_s, u"B"_s}})
+            .ok());
+    QCOMPARE(desk.client().value(u"get"_s, {{u"monitor"_s, u"TK30Z@A"_s}, {u"path"_s, u"nickName"_s}}),
+             QJsonValue(u"TK30Z"_s));
     QCOMPARE(desk.stop(), 0);
 }
 
 void TestDeskSimulated::requestsWaitForAMonitorThatAppears()
 {
     DeskProcess desk;
-    QVERIFY2(desk.start({u"--headless"_s, u"--simulate"_s, u"TK30Z"_s}), qPrintable(desk.errors())); // with real waits
+    QVERIFY2(desk.start({u"--headless"_s, u"--simulate"_s, u"TK30Z"_s}),
+             qPrintable(desk.errors())); // with real waits
     const int plug = desk.client().send(u"sim.plug"_s, {{u"monitor"_s, u"TK20@LATE"_s}});
-    const int get = desk.client().send(u"get"_s, {{u"monitor"_s, u"TK20@LATE"_s}, {u"path"_s, u"modelName"_s}});
+    const int get =
+        desk.client().send(u"get"_s, {{u"monitor"_s, u"TK20@LATE"_s}, {u"path"_s, u"modelName"_s}});
     const int version = desk.client().send(u"version"_s);
     QVERIFY(desk.client().wait(version).ok());
     QVERIFY(desk.client().wait(plug).ok());
@@ -212,14 +231,17 @@ void TestDeskSimulated::aMonitorKeepsItsValuesAcrossRuns()
     QVERIFY2(desk.start(), qPrintable(desk.errors()));
     QVERIFY(desk.client().call(u"sim.set"_s, {{u"code"_s, 0x12}, {u"value"_s, 41}}).ok());
     const QJsonArray arguments{6, u"on"_s, 0, QJsonArray()};
-    QVERIFY(desk.client().call(u"call"_s, {{u"path"_s, u"autoPivot.fireCustomEvent"_s}, {u"args"_s, arguments}}).ok());
+    QVERIFY(desk.client()
+                .call(u"call"_s, {{u"path"_s, u"autoPivot.fireCustomEvent"_s}, {u"args"_s, arguments}})
+                .ok());
     QCOMPARE(desk.stop(), 0);
     QVERIFY2(desk.start(), qPrintable(desk.errors()));
     QCOMPARE(desk.client().value(u"sim.get"_s, {{u"code"_s, 0x12}}), QJsonValue(41));
     bool found = false;
     const QJsonArray events = desk.client().call(u"events"_s, {{u"run"_s, -1}}).result.toArray();
     for (const QJsonValue& event : events)
-        found |= event.toObject().value("event"_L1) == "on"_L1 && event.toObject().value("run"_L1).toInt() == -1;
+        found |=
+            event.toObject().value("event"_L1) == "on"_L1 && event.toObject().value("run"_L1).toInt() == -1;
     QVERIFY(found);
 }
 
@@ -236,15 +258,18 @@ void TestDeskSimulated::theSessionIsReadAndChanged()
     QCOMPARE(desk.client().call(u"services.get"_s, {{u"path"_s, u"TK99/pivot"_s}}).code, 1);
     QCOMPARE(desk.client().call(u"services.emit"_s, {{u"signal"_s, u"nothing"_s}}).code, 2);
     QVERIFY(desk.client().call(u"services.emit"_s, {{u"signal"_s, u"screenGeometryChanged"_s}}).ok());
-    QCOMPARE(desk.client().call(u"services.emit"_s, {{u"signal"_s, u"kvmChanged"_s}, {u"args"_s, 1}}).code, -32602);
+    QCOMPARE(desk.client().call(u"services.emit"_s, {{u"signal"_s, u"kvmChanged"_s}, {u"args"_s, 1}}).code,
+             -32602);
 }
 
 void TestDeskSimulated::aKeyTellsWhetherItWasTaken()
 {
     DeskProcess desk;
     QVERIFY2(desk.start(), qPrintable(desk.errors()));
-    const QJsonObject key{{u"modifiers"_s, u"Ctrl+Alt+Shift"_s}, {u"key"_s, u"F12"_s}, {u"repeated"_s, false}};
-    const auto answer = desk.client().call(u"services.emit"_s, {{u"signal"_s, u"activeKeyEvent"_s}, {u"args"_s, key}});
+    const QJsonObject key{
+        {u"modifiers"_s, u"Ctrl+Alt+Shift"_s}, {u"key"_s, u"F12"_s}, {u"repeated"_s, false}};
+    const auto answer =
+        desk.client().call(u"services.emit"_s, {{u"signal"_s, u"activeKeyEvent"_s}, {u"args"_s, key}});
     QVERIFY2(answer.ok(), qPrintable(answer.message));
     QCOMPARE(answer.result.toObject(), (QJsonObject{{u"handled"_s, false}}));
 }
@@ -254,8 +279,9 @@ void TestDeskSimulated::theClockStandsAndMoves()
     DeskProcess desk;
     QVERIFY2(desk.start(), qPrintable(desk.errors()));
     const auto time = [&desk] {
-        return QDateTime::fromString(desk.client().call(u"clock.get"_s).result.toObject().value("time"_L1).toString(),
-                                     Qt::ISODateWithMs);
+        return QDateTime::fromString(
+            desk.client().call(u"clock.get"_s).result.toObject().value("time"_L1).toString(),
+            Qt::ISODateWithMs);
     };
     QVERIFY(qAbs(time().msecsTo(QDateTime::currentDateTime())) < 60'000);
     const QDateTime start(QDate(2024, 3, 4), QTime(7, 30));

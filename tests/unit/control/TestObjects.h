@@ -122,21 +122,18 @@ class Module : public Base
     Q_PROPERTY(Module* self READ self CONSTANT)
 
 public:
-    enum Mode
-    {
+    enum Mode {
         Off = 0,
         On = 1,
         Auto = 7,
     };
     Q_ENUM(Mode)
-    enum class Small : quint8
-    {
+    enum class Small : quint8 {
         One = 1,
         Two = 2,
     };
     Q_ENUM(Small)
-    enum Option
-    {
+    enum Option {
         A = 1,
         B = 2,
         C = 4,

@@ -124,11 +124,32 @@ void TestControlObjects::aPathLeadsToItsValue()
 void TestControlObjects::aPathThatLeadsNowhereIsNamed_data()
 {
     QTest::addColumn<QString>("path");
-    for (const char* path :
-         {"", ".", "name.", ".name", "nope", "module.nope", "module.nothing.x", "module.level.x", "module.flows[2]",
-          "module.flows[-1]", "module.flows[]", "module.flows[0", "module.flows[0]x", "module.flows[a]", "name[0]",
-          "module.size.depth", "[0]", "context", "context.name", "module..level", "module.flows[99999999999999999999]",
-          "Module.level", "module level", "module.add", "objectName", "module.map.x"})
+    for (const char* path : {"",
+                             ".",
+                             "name.",
+                             ".name",
+                             "nope",
+                             "module.nope",
+                             "module.nothing.x",
+                             "module.level.x",
+                             "module.flows[2]",
+                             "module.flows[-1]",
+                             "module.flows[]",
+                             "module.flows[0",
+                             "module.flows[0]x",
+                             "module.flows[a]",
+                             "name[0]",
+                             "module.size.depth",
+                             "[0]",
+                             "context",
+                             "context.name",
+                             "module..level",
+                             "module.flows[99999999999999999999]",
+                             "Module.level",
+                             "module level",
+                             "module.add",
+                             "objectName",
+                             "module.map.x"})
         QTest::newRow(path) << QString::fromLatin1(path);
 }
 
@@ -246,24 +267,26 @@ void TestControlObjects::describeTellsEverythingInOrder()
              (QStringList{u"baseOperation"_s, u"slotOperation"_s, u"add"_s, u"join"_s, u"join"_s, u"either"_s,
                           u"either"_s, u"withDefault"_s, u"setMode"_s, u"nameOf"_s, u"codeOf"_s, u"echo"_s,
                           u"fireHappened"_s}));
-    QCOMPARE(namesOf(told.value("signals"_L1)), (QStringList{u"syncEnableChanged"_s, u"levelChanged"_s,
-                                                              u"stateChanged"_s, u"activeChanged"_s, u"happened"_s}));
-    QCOMPARE(named(told.value("properties"_L1), u"level"_s),
-             (QJsonObject{{u"name"_s, u"level"_s},
-                          {u"type"_s, u"int"_s},
-                          {u"readable"_s, true},
-                          {u"writable"_s, true},
-                          {u"constant"_s, false},
-                          {u"notify"_s, u"levelChanged"_s}}));
+    QCOMPARE(namesOf(told.value("signals"_L1)),
+             (QStringList{u"syncEnableChanged"_s, u"levelChanged"_s, u"stateChanged"_s, u"activeChanged"_s,
+                          u"happened"_s}));
+    QCOMPARE(named(told.value("properties"_L1), u"level"_s), (QJsonObject{{u"name"_s, u"level"_s},
+                                                                          {u"type"_s, u"int"_s},
+                                                                          {u"readable"_s, true},
+                                                                          {u"writable"_s, true},
+                                                                          {u"constant"_s, false},
+                                                                          {u"notify"_s, u"levelChanged"_s}}));
     const QJsonObject fixed = named(told.value("properties"_L1), u"fixed"_s);
     QCOMPARE(fixed.value("constant"_L1), QJsonValue(true));
     QCOMPARE(fixed.value("writable"_L1), QJsonValue(false));
     QVERIFY(!fixed.contains("notify"_L1));
     QCOMPARE(named(told.value("operations"_L1), u"add"_s),
-             (QJsonObject{
-                 {u"name"_s, u"add"_s}, {u"parameters"_s, QJsonArray{u"int"_s, u"int"_s}}, {u"returns"_s, u"int"_s}}));
-    QCOMPARE(named(told.value("signals"_L1), u"happened"_s),
-             (QJsonObject{{u"name"_s, u"happened"_s}, {u"parameters"_s, QJsonArray{u"int"_s, u"QString"_s}}}));
+             (QJsonObject{{u"name"_s, u"add"_s},
+                          {u"parameters"_s, QJsonArray{u"int"_s, u"int"_s}},
+                          {u"returns"_s, u"int"_s}}));
+    QCOMPARE(
+        named(told.value("signals"_L1), u"happened"_s),
+        (QJsonObject{{u"name"_s, u"happened"_s}, {u"parameters"_s, QJsonArray{u"int"_s, u"QString"_s}}}));
     QCOMPARE(ObjectAccess(&model, nullptr).describe({}).value("class"_L1), QJsonValue(u"Model"_s));
     QCOMPARE(codeOf([&] { ObjectAccess(&model, nullptr).describe(u"module.level"_s); }), int(NoSuchPath));
     QCOMPARE(codeOf([&] { ObjectAccess(&model, nullptr).describe(u"module.nothing"_s); }), int(NoSuchPath));
@@ -343,7 +366,9 @@ void TestControlObjects::aWrongPathWatchesNoneOfItsRequest()
     const PathResolver resolver(&model, nullptr);
     for (const QString& wrong : {u"module.fixed"_s, u"module.nope"_s, u"module.nope()"_s, u"()"_s, u""_s,
                                  u"module.happened(bool)"_s, u"module.add()"_s}) {
-        QCOMPARE(codeOf([&] { Watches::of(&client)->add(u"m"_s, resolver, {u"module.level"_s, wrong}); }),
+        QCOMPARE(codeOf([&] {
+                     Watches::of(&client)->add(u"m"_s, resolver, {u"module.level"_s, wrong});
+                 }),
                  int(NoSuchPath));
     }
     model.module()->setLevel(1);
@@ -354,7 +379,8 @@ void TestControlObjects::emissionsOfOtherThreadsNeitherBlockNorGetLost()
 {
     Model model;
     RecordingClient client;
-    Watches::of(&client)->add(u"m"_s, PathResolver(&model, nullptr), {u"module.happened()"_s, u"module.state"_s});
+    Watches::of(&client)->add(u"m"_s, PathResolver(&model, nullptr),
+                              {u"module.happened()"_s, u"module.state"_s});
     constexpr int Count = 5000;
     std::thread emitter([&model] {
         for (int i = 0; i < Count; ++i) {

@@ -73,20 +73,20 @@ void TestControlRequests::init()
     m_dispatcher = std::make_unique<Dispatcher>();
     m_dispatcher->addMethod(u"echo"_s, {u"value"_s},
                             [](const Request& r) { return QJsonValue(r.parameters.value(u"value"_s)); });
-    m_dispatcher->addMethod(u"wrong"_s, {}, [](const Request&) -> QJsonValue {
-        throw RequestError(NotWritable, u"no"_s);
-    });
+    m_dispatcher->addMethod(u"wrong"_s, {},
+                            [](const Request&) -> QJsonValue { throw RequestError(NotWritable, u"no"_s); });
     m_dispatcher->addMethod(u"throws"_s, {},
                             [](const Request&) -> QJsonValue { throw std::runtime_error("broken"); });
     m_dispatcher->addAsyncMethod(u"later"_s, {}, [this](const Request& r) { m_kept.append(r.reply); });
-    m_dispatcher->addMethod(u"read"_s, {u"text"_s, u"maybe"_s, u"whole"_s, u"list"_s, u"object"_s, u"code"_s, u"real"_s},
-                            [](const Request& r) {
-                                const Parameters& p = r.parameters;
-                                return QJsonValue(QJsonArray{
-                                    p.text(u"text"_s), p.optionalText(u"maybe"_s).value_or(u"-"_s),
-                                    p.integer(u"whole"_s, 0, 10), QJsonArray::fromStringList(p.texts(u"list"_s)),
-                                    p.object(u"object"_s), p.code(u"code"_s, 0, 255), p.number(u"real"_s, 0, 1)});
-                            });
+    m_dispatcher->addMethod(
+        u"read"_s, {u"text"_s, u"maybe"_s, u"whole"_s, u"list"_s, u"object"_s, u"code"_s, u"real"_s},
+        [](const Request& r) {
+            const Parameters& p = r.parameters;
+            return QJsonValue(
+                QJsonArray{p.text(u"text"_s), p.optionalText(u"maybe"_s).value_or(u"-"_s),
+                           p.integer(u"whole"_s, 0, 10), QJsonArray::fromStringList(p.texts(u"list"_s)),
+                           p.object(u"object"_s), p.code(u"code"_s, 0, 255), p.number(u"real"_s, 0, 1)});
+        });
     m_dispatcher->addMethod(
         u"always"_s, {}, [](const Request&) { return QJsonValue(true); }, Dispatcher::When::Always);
 }
@@ -132,18 +132,23 @@ void TestControlRequests::aWrongRequestGetsItsError_data()
     QTest::newRow("bool as id") << request("always", "{}", "true") << int(InvalidRequest) << none;
     QTest::newRow("list as id") << request("always", "{}", "[1]") << int(InvalidRequest) << none;
     QTest::newRow("object as id") << request("always", "{}", "{}") << int(InvalidRequest) << none;
-    QTest::newRow("no version") << QByteArray(R"({"id":3,"method":"always"})") << int(InvalidRequest) << QJsonValue(3);
+    QTest::newRow("no version") << QByteArray(R"({"id":3,"method":"always"})") << int(InvalidRequest)
+                                << QJsonValue(3);
     QTest::newRow("other version") << QByteArray(R"({"jsonrpc":"1.0","id":3,"method":"always"})")
                                    << int(InvalidRequest) << QJsonValue(3);
-    QTest::newRow("no method") << QByteArray(R"({"jsonrpc":"2.0","id":3})") << int(InvalidRequest) << QJsonValue(3);
-    QTest::newRow("number as method") << QByteArray(R"({"jsonrpc":"2.0","id":3,"method":5})") << int(InvalidRequest)
-                                      << QJsonValue(3);
-    QTest::newRow("text as parameters") << request("always", "\"x\"", "3") << int(InvalidRequest) << QJsonValue(3);
-    QTest::newRow("list as parameters") << request("always", "[1]", "3") << int(InvalidParameters) << QJsonValue(3);
+    QTest::newRow("no method") << QByteArray(R"({"jsonrpc":"2.0","id":3})") << int(InvalidRequest)
+                               << QJsonValue(3);
+    QTest::newRow("number as method")
+        << QByteArray(R"({"jsonrpc":"2.0","id":3,"method":5})") << int(InvalidRequest) << QJsonValue(3);
+    QTest::newRow("text as parameters")
+        << request("always", "\"x\"", "3") << int(InvalidRequest) << QJsonValue(3);
+    QTest::newRow("list as parameters")
+        << request("always", "[1]", "3") << int(InvalidParameters) << QJsonValue(3);
     QTest::newRow("unknown method") << request("nope", "{}", "3") << int(UnknownMethod) << QJsonValue(3);
-    QTest::newRow("unknown parameter") << request("always", R"({"x":1})", "3") << int(InvalidParameters)
-                                       << QJsonValue(3);
-    QTest::newRow("missing parameter") << request("echo", "{}", "3") << int(InvalidParameters) << QJsonValue(3);
+    QTest::newRow("unknown parameter")
+        << request("always", R"({"x":1})", "3") << int(InvalidParameters) << QJsonValue(3);
+    QTest::newRow("missing parameter")
+        << request("echo", "{}", "3") << int(InvalidParameters) << QJsonValue(3);
     QTest::newRow("error of a method") << request("wrong", "{}", "3") << int(NotWritable) << QJsonValue(3);
 }
 
@@ -206,11 +211,13 @@ void TestControlRequests::aParameterThatDoesNotFitIsNamed()
 {
     QFETCH(QString, name);
     QFETCH(QJsonValue, value);
-    QJsonObject parameters{{u"text"_s, u"t"_s}, {u"whole"_s, 10}, {u"list"_s, QJsonArray{u"a"_s}}, {u"object"_s, QJsonObject()},
-                           {u"code"_s, u"0xf3"_s}, {u"real"_s, 0.5}};
+    QJsonObject parameters{
+        {u"text"_s, u"t"_s},          {u"whole"_s, 10},       {u"list"_s, QJsonArray{u"a"_s}},
+        {u"object"_s, QJsonObject()}, {u"code"_s, u"0xf3"_s}, {u"real"_s, 0.5}};
     const auto send = [&] {
         m_client->answers.clear();
-        m_dispatcher->handleLine(m_client.get(), request("read", QJsonDocument(parameters).toJson(QJsonDocument::Compact)));
+        m_dispatcher->handleLine(m_client.get(),
+                                 request("read", QJsonDocument(parameters).toJson(QJsonDocument::Compact)));
         return m_client->answers.value(0);
     };
     QCOMPARE(send().value("result"_L1),

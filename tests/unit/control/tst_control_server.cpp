@@ -98,7 +98,8 @@ void TestControlServer::init()
         return QJsonValue(m_touched);
     });
     m_server->addMethod(u"watch"_s, {u"paths"_s}, [this](const Request& r) {
-        Watches::of(r.client)->add(u"m"_s, PathResolver(m_model.get(), nullptr), r.parameters.texts(u"paths"_s));
+        Watches::of(r.client)->add(u"m"_s, PathResolver(m_model.get(), nullptr),
+                                   r.parameters.texts(u"paths"_s));
         return QJsonValue(QJsonObject());
     });
     m_server->addAsyncMethod(u"later"_s, {}, [this](const Request& r) { m_kept.append(r.reply); });
@@ -332,7 +333,8 @@ void TestControlServer::answersThatPileUpEndTheConnection()
     slow.socket().setReadBufferSize(1024); // and it never reads
     QTest::ignoreMessage(QtWarningMsg, "[Control] A client lets its answers pile up: its connection ends.");
     for (int i = 0; i < 40; ++i) {
-        slow.socket().write("{\"jsonrpc\":\"2.0\",\"id\":7,\"method\":\"fill\",\"params\":{\"bytes\":500000}}\n");
+        slow.socket().write(
+            "{\"jsonrpc\":\"2.0\",\"id\":7,\"method\":\"fill\",\"params\":{\"bytes\":500000}}\n");
         slow.socket().flush();
         QVERIFY(other.call(u"touch"_s).ok());
     }

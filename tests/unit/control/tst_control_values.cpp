@@ -116,10 +116,14 @@ void TestControlValues::otherFormsAreTaken_data()
     QTest::newRow("names of flags") << "module.options" << QByteArray("\"A|C\"") << QByteArray("5");
     QTest::newRow("whole number as 3.0") << "module.level" << QByteArray("3.0") << QByteArray("3");
     QTest::newRow("whole number for a double") << "module.ratio" << QByteArray("2") << QByteArray("2");
-    QTest::newRow("opaque colour") << "module.color" << QByteArray("\"#097BF8\"") << QByteArray("\"#ff097bf8\"");
-    QTest::newRow("upper case colour") << "module.color" << QByteArray("\"#FF097BF8\"") << QByteArray("\"#ff097bf8\"");
-    QTest::newRow("time of minutes") << "module.time" << QByteArray("\"07:30\"") << QByteArray("\"07:30:00.000\"");
-    QTest::newRow("time of seconds") << "module.time" << QByteArray("\"07:30:01\"") << QByteArray("\"07:30:01.000\"");
+    QTest::newRow("opaque colour") << "module.color" << QByteArray("\"#097BF8\"")
+                                   << QByteArray("\"#ff097bf8\"");
+    QTest::newRow("upper case colour")
+        << "module.color" << QByteArray("\"#FF097BF8\"") << QByteArray("\"#ff097bf8\"");
+    QTest::newRow("time of minutes") << "module.time" << QByteArray("\"07:30\"")
+                                     << QByteArray("\"07:30:00.000\"");
+    QTest::newRow("time of seconds") << "module.time" << QByteArray("\"07:30:01\"")
+                                     << QByteArray("\"07:30:01.000\"");
     QTest::newRow("date and time of seconds") << "module.dateTime" << QByteArray("\"2024-03-04T07:30:15\"")
                                               << QByteArray("\"2024-03-04T07:30:15.000\"");
 }
@@ -160,7 +164,8 @@ void TestControlValues::aValueThatDoesNotFitIsRefusedAndChangesNothing_data()
     QTest::newRow("size of fractions") << "module.size" << QByteArray(R"({"width":1.5,"height":2})");
     QTest::newRow("size of strings") << "module.size" << QByteArray(R"({"width":"1","height":"2"})");
     QTest::newRow("size as a list") << "module.size" << QByteArray("[1,2]");
-    QTest::newRow("rect beyond int") << "module.rect" << QByteArray(R"({"x":1e12,"y":0,"width":1,"height":1})");
+    QTest::newRow("rect beyond int") << "module.rect"
+                                     << QByteArray(R"({"x":1e12,"y":0,"width":1,"height":1})");
     QTest::newRow("no colour") << "module.color" << QByteArray("\"bluish\"");
     QTest::newRow("colour as a number") << "module.color" << QByteArray("255");
     QTest::newRow("number for an address") << "module.url" << QByteArray("7");
@@ -246,7 +251,8 @@ void TestControlValues::objectsAreReadWithTheirProperties()
     const QJsonArray flows = ObjectAccess(&m_model, nullptr).get(u"module.flows"_s).toArray();
     QCOMPARE(flows.size(), 2);
     QCOMPARE(flows[0].toObject().value("name"_L1), QJsonValue(u"Work"_s));
-    QCOMPARE(ObjectAccess(&m_model, nullptr).get(u"colorModeList"_s), (QJsonArray{u"Standard"_s, u"Cinema"_s}));
+    QCOMPARE(ObjectAccess(&m_model, nullptr).get(u"colorModeList"_s),
+             (QJsonArray{u"Standard"_s, u"Cinema"_s}));
 }
 
 void TestControlValues::objectsThatPointAtEachOtherEnd()
@@ -261,8 +267,10 @@ void TestControlValues::objectsAreGivenByIdOrPath_data()
 {
     QTest::addColumn<QString>("given");
     QTest::addColumn<QString>("name");
-    QTest::newRow("id") << "id-2" << "Play";
-    QTest::newRow("path") << "module.flows[0]" << "Work";
+    QTest::newRow("id") << "id-2"
+                        << "Play";
+    QTest::newRow("path") << "module.flows[0]"
+                          << "Work";
 }
 
 void TestControlValues::objectsAreGivenByIdOrPath()
@@ -299,7 +307,9 @@ void TestControlValues::audioDevicesAreGivenById()
         return QAudioDevice();
     });
     const ObjectAccess access(&m_model, nullptr);
-    QCOMPARE(codeOf([&] { access.set(u"module.audio"_s, QJsonObject{{u"id"_s, u"a"_s}, {u"name"_s, u"A"_s}}); }),
+    QCOMPARE(codeOf([&] {
+                 access.set(u"module.audio"_s, QJsonObject{{u"id"_s, u"a"_s}, {u"name"_s, u"A"_s}});
+             }),
              int(WrongValue));
     QCOMPARE(codeOf([&] { access.set(u"module.audio"_s, u"b"_s); }), int(WrongValue));
     QCOMPARE(asked, (QStringList{u"a"_s, u"b"_s}));
