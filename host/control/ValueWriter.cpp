@@ -19,6 +19,8 @@
 #include <QUrl>
 
 #include <cmath>
+#include <limits>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -83,6 +85,33 @@ QJsonValue textOrNull(bool valid, const QString& text)
     return valid ? QJsonValue(text) : QJsonValue();
 }
 
+std::optional<QJsonValue> geometryOrTime(const QVariant& value)
+{
+    switch (value.typeId()) {
+    case QMetaType::QSize:
+        return sizeObject(value.toSize());
+    case QMetaType::QSizeF:
+        return sizeObject(value.toSizeF());
+    case QMetaType::QPoint:
+        return pointObject(value.toPoint());
+    case QMetaType::QPointF:
+        return pointObject(value.toPointF());
+    case QMetaType::QRect:
+        return rectObject(value.toRect());
+    case QMetaType::QRectF:
+        return rectObject(value.toRectF());
+    case QMetaType::QTime:
+        return textOrNull(value.toTime().isValid(), value.toTime().toString(u"HH:mm:ss.zzz"_s));
+    case QMetaType::QDate:
+        return textOrNull(value.toDate().isValid(), value.toDate().toString(Qt::ISODate));
+    case QMetaType::QDateTime:
+        return textOrNull(value.toDateTime().isValid(),
+                          value.toDateTime().toLocalTime().toString(Qt::ISODateWithMs));
+    default:
+        return std::nullopt;
+    }
+}
+
 QJsonValue Writer::write(const QVariant& value)
 {
     if (++m_values > MaximumValues)
@@ -119,29 +148,10 @@ QJsonValue Writer::write(const QVariant& value)
         return QString::fromUtf8(value.toByteArray());
     case QMetaType::QUrl:
         return value.toUrl().toString();
-    case QMetaType::QSize:
-        return sizeObject(value.toSize());
-    case QMetaType::QSizeF:
-        return sizeObject(value.toSizeF());
-    case QMetaType::QPoint:
-        return pointObject(value.toPoint());
-    case QMetaType::QPointF:
-        return pointObject(value.toPointF());
-    case QMetaType::QRect:
-        return rectObject(value.toRect());
-    case QMetaType::QRectF:
-        return rectObject(value.toRectF());
     case QMetaType::QColor: {
         const auto color = value.value<QColor>();
         return textOrNull(color.isValid(), color.name(QColor::HexArgb));
     }
-    case QMetaType::QTime:
-        return textOrNull(value.toTime().isValid(), value.toTime().toString(u"HH:mm:ss.zzz"_s));
-    case QMetaType::QDate:
-        return textOrNull(value.toDate().isValid(), value.toDate().toString(Qt::ISODate));
-    case QMetaType::QDateTime:
-        return textOrNull(value.toDateTime().isValid(),
-                          value.toDateTime().toLocalTime().toString(Qt::ISODateWithMs));
     case QMetaType::QKeySequence:
         return value.value<QKeySequence>().toString(QKeySequence::PortableText);
     case QMetaType::QJsonValue:
@@ -159,6 +169,8 @@ QJsonValue Writer::write(const QVariant& value)
 
 QJsonValue Writer::writeOther(const QVariant& value)
 {
+    if (const std::optional<QJsonValue> plain = geometryOrTime(value))
+        return *plain;
     if (value.metaType() == QMetaType::fromType<QAudioDevice>())
         return audioObject(value.value<QAudioDevice>());
     if (value.metaType() == QMetaType::fromType<QKeyCombination>())
