@@ -122,7 +122,8 @@ class Module : public Base
     Q_PROPERTY(Module* self READ self CONSTANT)
 
 public:
-    enum Mode {
+    /// With a type of its own any number is a value of it, as the protocol takes any.
+    enum Mode : int {
         Off = 0,
         On = 1,
         Auto = 7,
