@@ -6,6 +6,7 @@
 #include <QJsonDocument>
 #include <QLocalSocket>
 #include <QLoggingCategory>
+#include <QPointer>
 
 #include <sys/socket.h>
 
@@ -70,11 +71,14 @@ void Connection::read()
     m_reading = true;
     int handled = 0;
     QByteArray line;
+    const QPointer<Connection> self(this); // a method may end the server
     while (!m_refused && m_pending < m_limits.pendingRequests && handled < m_limits.linesPerTurn &&
            takeLine(&line)) {
         ++handled;
         ++m_pending;
         m_dispatcher->handleLine(this, line);
+        if (!self)
+            return;
     }
     m_reading = false;
     if (m_refused)

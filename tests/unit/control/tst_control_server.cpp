@@ -70,6 +70,7 @@ private Q_SLOTS:
     void sixtyFourClientsGetTheirOwnAnswers();
     void watchersOfADisconnectedClientAreGone();
     void theEndFlushesAndRemovesTheSocket();
+    void aMethodMayEndTheServer();
 
 private:
     QString path() const { return m_directory->filePath(u"c.sock"_s); }
@@ -478,6 +479,21 @@ void TestControlServer::theEndFlushesAndRemovesTheSocket()
     QVERIFY(client.waitForEnd());
     QVERIFY(!anotherInstanceRuns(name));
     QCOMPARE(m_server->listen(name), Server::Result::Listening);
+}
+
+void TestControlServer::aMethodMayEndTheServer()
+{
+    m_server->addMethod(u"end"_s, {}, [this](const Request&) {
+        m_server->close();
+        return QJsonValue(true);
+    });
+    ControlClient client;
+    QVERIFY(client.connectTo(path()));
+    client.send(u"end"_s);
+    client.send(u"touch"_s);
+    QVERIFY(client.waitForEnd());
+    QCOMPARE(m_touched, 0);
+    QCOMPARE(m_server->clientCount(), 0);
 }
 
 QTEST_GUILESS_MAIN(TestControlServer)
