@@ -19,17 +19,19 @@ qint64 nowNs()
 
 } // namespace
 
-ProcessProbe::ProcessProbe(const QStringList& arguments) : m_socket(m_directory.filePath(QStringLiteral("run/control.sock")))
+ProcessProbe::ProcessProbe(const QStringList& arguments)
+    : m_socket(m_directory.filePath(QStringLiteral("run/control.sock")))
 {
     QDir().mkdir(m_directory.filePath(QStringLiteral("run")));
     QFile::setPermissions(m_directory.filePath(QStringLiteral("run")),
                           QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     m_process.setStandardErrorFile(QProcess::nullDevice());
     m_startedNs = nowNs();
-    m_process.start(QStringLiteral(PROGRAM_FILE),
-                    arguments + QStringList{QStringLiteral("--control"), m_socket, QStringLiteral("--config-dir"),
-                                            m_directory.filePath(QStringLiteral("config")), QStringLiteral("--data-dir"),
-                                            m_directory.filePath(QStringLiteral("data"))});
+    m_process.start(
+        QStringLiteral(PROGRAM_FILE),
+        arguments + QStringList{QStringLiteral("--control"), m_socket, QStringLiteral("--config-dir"),
+                                m_directory.filePath(QStringLiteral("config")), QStringLiteral("--data-dir"),
+                                m_directory.filePath(QStringLiteral("data"))});
 }
 
 ProcessProbe::~ProcessProbe()

@@ -107,7 +107,10 @@ void ReadBack(benchmark::State& state)
         bool done = false;
         const double start = nowMs();
         double end = start;
-        LuModelHost::sync(&bed.model(), nullptr, [&] { done = true; end = nowMs(); });
+        LuModelHost::sync(&bed.model(), nullptr, [&] {
+            done = true;
+            end = nowMs();
+        });
         while (!done)
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
         const auto gets = bed.wire().size();
@@ -153,7 +156,8 @@ void Construction(benchmark::State& state)
         SimulatedBed bed;
         const auto info = bed.makeInfo();
         const double start = nowMs();
-        const std::unique_ptr<LuMonitorModel> model(TestBed::instance().package()->modelConstructor()(nullptr, info));
+        const std::unique_ptr<LuMonitorModel> model(
+            TestBed::instance().package()->modelConstructor()(nullptr, info));
         const double end = nowMs();
         times.push_back(end - start);
         state.SetIterationTime((end - start) / 1000.0);
@@ -174,10 +178,16 @@ void startTime(benchmark::State& state, const char* name, bool headless, const c
     note(state, name, median(times));
 }
 
-void HeadlessStart(benchmark::State& state) { startTime(state, "HeadlessStart", true, "version"); }
+void HeadlessStart(benchmark::State& state)
+{
+    startTime(state, "HeadlessStart", true, "version");
+}
 BENCHMARK(HeadlessStart)->UseManualTime()->Iterations(9)->Unit(benchmark::kMillisecond);
 
-void WindowStart(benchmark::State& state) { startTime(state, "WindowStart", false, "ui.windows"); }
+void WindowStart(benchmark::State& state)
+{
+    startTime(state, "WindowStart", false, "ui.windows");
+}
 BENCHMARK(WindowStart)->UseManualTime()->Iterations(9)->Unit(benchmark::kMillisecond);
 
 void Memory(benchmark::State& state)
@@ -224,8 +234,8 @@ void printBudget()
             continue;
         const bool good = found->second >= 0 && found->second <= row.limit;
         over += !good;
-        std::printf("%-75s %9.2f %-2s %9.2f %-2s %s\n", row.what, found->second, row.unit, row.limit, row.unit,
-                    good ? "" : "OVER");
+        std::printf("%-75s %9.2f %-2s %9.2f %-2s %s\n", row.what, found->second, row.unit, row.limit,
+                    row.unit, good ? "" : "OVER");
     }
     std::printf("%d over budget\n", over);
 }

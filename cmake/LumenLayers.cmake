@@ -3,6 +3,7 @@
 
 set(LUMEN_LAYER_zrcore "")
 set(LUMEN_LAYER_ddc "")
+set(LUMEN_LAYER_ddc-i2c ddc)
 set(LUMEN_LAYER_panelcore zrcore ddc)
 set(LUMEN_LAYER_services-api zrcore panelcore)
 set(LUMEN_LAYER_lushared zrcore panelcore services-api)
@@ -12,7 +13,7 @@ set(LUMEN_LAYER_control zrcore panelcore services-api lushared)
 set(LUMEN_LAYER_qml zrcore panelcore lushared)
 set(LUMEN_LAYER_module zrcore panelcore lushared)
 set(LUMEN_LAYER_package zrcore panelcore lushared module)
-set(LUMEN_LAYER_app zrcore ddc panelcore services-api lushared services simulator control qml)
+set(LUMEN_LAYER_app zrcore ddc ddc-i2c panelcore services-api lushared services simulator control qml)
 
 define_property(TARGET PROPERTY LUMEN_LAYER BRIEF_DOCS "Layer of the architecture")
 

@@ -19,6 +19,7 @@ LAYERS = {
     "packages/tkpackage": ["packages/shared", "packages/modules", "packages/tkpackage"],
     "host/zrcore": ["packages/shared/ZrCore", "host/zrcore"],
     "host/ddc": ["host/ddc"],
+    "host/ddc-i2c": ["host/ddc-i2c", "host/ddc"],
     "host/panelcore": ["packages/shared/ZrCore", "packages/shared/PanelCore", "host/panelcore", "host/ddc"],
     "host/services/api": ["packages/shared", "host/services/api"],
     "host/services/simulated": ["packages/shared", "host/services", "host/lushared"],

@@ -24,6 +24,7 @@
 #include <qml/LuContext.h>
 #include <qml/LuWindowBridge.h>
 #include <qml/LumenQml.h>
+#include <services/native/Session.h>
 #include <services/simulated/SimulatedServices.h>
 
 #include <QDebug>
@@ -42,9 +43,13 @@ Application::Application(const Options& options, bool hasDisplay)
 
 Application::~Application()
 {
-    // The window goes first, since its bindings read the models; then the models, since they ask the services.
+    // The window goes first, since its bindings read the models; then the models, since they ask the
+    // services.
     m_bridge.reset();
-    m_engine.reset();
+    if (m_engine) {
+        m_engine.reset();
+        lumenQmlRelease();
+    }
     m_server.reset();
     m_registry.reset();
     m_simulated.reset();
@@ -53,7 +58,8 @@ Application::~Application()
 
 Application::Start Application::start()
 {
-    const QString socket = m_options.controlPath.isEmpty() ? control::defaultSocketPath() : m_options.controlPath;
+    const QString socket =
+        m_options.controlPath.isEmpty() ? control::defaultSocketPath() : m_options.controlPath;
     m_server = std::make_unique<control::Server>();
     switch (m_server->listen(socket)) {
     case control::Server::Result::Listening:
@@ -85,7 +91,8 @@ Application::Start Application::start()
     QString problem;
     if (QFile::exists(userEnvironment) && !ZrEnvironment::addLayer(userEnvironment, &problem))
         qWarning().noquote() << "[Application]" << problem;
-    if (!m_options.environmentFile.isEmpty() && !ZrEnvironment::addLayer(m_options.environmentFile, &problem)) {
+    if (!m_options.environmentFile.isEmpty() &&
+        !ZrEnvironment::addLayer(m_options.environmentFile, &problem)) {
         qCritical().noquote() << "[Application] --environment:" << problem;
         return Start::Failed;
     }
@@ -110,7 +117,8 @@ Application::Start Application::start()
     if (!loadState())
         return Start::Failed;
     addControlMethods();
-    connect(m_registry.get(), &LuMonitorRegistry::settled, &m_server->dispatcher(), &control::Dispatcher::resume);
+    connect(m_registry.get(), &LuMonitorRegistry::settled, &m_server->dispatcher(),
+            &control::Dispatcher::resume);
     if (m_simulated)
         m_simulated->plugAll();
     if (!m_options.headless)
@@ -126,7 +134,8 @@ Application::Start Application::start()
 
 void Application::installServices()
 {
-    const bool native = m_options.nativeServices.value_or(m_hasDisplay && !(m_options.headless && m_options.simulate));
+    const bool native =
+        m_options.nativeServices.value_or(m_hasDisplay && !(m_options.headless && m_options.simulate));
     if (native) {
         qInfo().noquote() << "[Application] session" << services::Registry::sessionName();
         return;
@@ -174,7 +183,8 @@ bool Application::loadState()
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(file.readAll(), &error);
     if (!document.isObject())
-        return fail(error.error != QJsonParseError::NoError ? error.errorString() : QStringLiteral("not an object"));
+        return fail(error.error != QJsonParseError::NoError ? error.errorString()
+                                                            : QStringLiteral("not an object"));
     const QJsonObject state = document.object();
     const QJsonObject servicesState = state.value(QLatin1String("services")).toObject();
     if (!servicesState.isEmpty()) {
@@ -212,14 +222,20 @@ void Application::openWindow()
 {
     m_engine = std::make_unique<QQmlApplicationEngine>();
     const QList<LuPackagesInterface*> packages = m_packages.packages();
+    QStringList names;
     for (LuPackagesInterface* package : packages)
-        m_engine->addImportPath(QStringLiteral("qrc:/%1/qml").arg(package->name()));
-    lumenQmlInit(m_engine.get());
+        names.append(package->name());
+    lumenQmlInit(m_engine.get(), names);
     m_bridge = std::make_unique<LuWindowBridge>(m_engine.get());
 
     LuContext* context = LuContext::instance();
-    if (!m_options.theme.isEmpty())
-        context->setTheme(m_options.theme);
+    const QString themeKey = QStringLiteral("theme");
+    context->setTheme(m_options.theme.isEmpty()
+                          ? LuSettings::instance().value(themeKey, QStringLiteral("system")).toString()
+                          : m_options.theme);
+    connect(context, &LuContext::themeChanged, this,
+            [context, themeKey] { LuSettings::instance().setValue(themeKey, context->theme()); });
+    context->setTranslucentWindows(services::sessionBlendsWindows());
     context->setEnvironment(&ZrEnvironment::var, &ZrEnvironment::varDeviceChoice);
     context->setScreenSource([](QObject* monitor) {
         const auto* model = qobject_cast<LuMonitorModel*>(monitor);
@@ -243,6 +259,8 @@ void Application::openWindow()
     m_engine->load(lumenMainWindowUrl());
     if (m_engine->rootObjects().isEmpty())
         qCritical() << "[Application] the window could not be made";
+    else
+        m_bridge->show();
 }
 
 void Application::fillWindow()

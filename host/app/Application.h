@@ -23,16 +23,15 @@ namespace services {
 class SimulatedServices;
 }
 
-/// The composition root: makes the parts of the program from the options, connects them, and ends them in order.
-/// Lives in main(), on the GUI thread.
+/// The composition root: makes the parts of the program from the options, connects them, and ends them in
+/// order. Lives in main(), on the GUI thread.
 class Application : public QObject
 {
     Q_OBJECT
 
 public:
     /// How the start ended.
-    enum class Start
-    {
+    enum class Start {
         Running,
         OtherInstance, ///< Another instance was shown instead.
         Failed,        ///< What was wrong is in the log.

@@ -22,7 +22,8 @@ bool answers(const QByteArray& socketPath)
     const int descriptor = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
     if (descriptor < 0)
         return false;
-    const bool connected = ::connect(descriptor, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
+    const bool connected =
+        ::connect(descriptor, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
     ::close(descriptor);
     return connected;
 }

@@ -18,7 +18,8 @@ struct Row
 
 constexpr Row Rows[] = {
     {"headless", nullptr, "No window and no tray; needs no display server."},
-    {"simulate", "LIST", "Simulated monitors in place of the real ones: MODEL or MODEL@SERIAL, with commas between."},
+    {"simulate", "LIST",
+     "Simulated monitors in place of the real ones: MODEL or MODEL@SERIAL, with commas between."},
     {"ddc-timing", "real|fast", "Waits of the simulated bus: those of DDC/CI (real, the default) or none."},
     {"services", "native|simulated", "Services of the operating system, or simulated ones."},
     {"control", "PATH", "Path of the control socket."},
@@ -70,7 +71,10 @@ ParsedOptions parseOptions(const QStringList& arguments)
         return refuse(parser.errorText());
     if (parser.isSet(help) || parser.isSet(version)) {
         result.outcome = ParsedOptions::Outcome::ShowAndEnd;
-        result.text = parser.isSet(help) ? parser.helpText() : QStringLiteral("lumen-desk " LUMEN_DESK_VERSION "\n");
+        // The parser knows the program's name from the application object, which there is none of yet.
+        result.text = parser.isSet(help) ? parser.helpText().replace(QStringLiteral("<executable_name>"),
+                                                                     QStringLiteral("lumen-desk"))
+                                         : QStringLiteral("lumen-desk " LUMEN_DESK_VERSION "\n");
         return result;
     }
     if (!parser.positionalArguments().isEmpty())
@@ -79,7 +83,8 @@ ParsedOptions parseOptions(const QStringList& arguments)
     const auto value = [&parser](const char* name) { return parser.value(QString::fromLatin1(name)); };
     const auto isSet = [&parser](const char* name) { return parser.isSet(QString::fromLatin1(name)); };
     const auto wrong = [&](const char* name) {
-        return refuse(QStringLiteral("Option '--%1' does not take '%2'.").arg(QLatin1String(name), value(name)));
+        return refuse(
+            QStringLiteral("Option '--%1' does not take '%2'.").arg(QLatin1String(name), value(name)));
     };
     Options& options = result.options;
     options.headless = isSet("headless");
@@ -94,7 +99,8 @@ ParsedOptions parseOptions(const QStringList& arguments)
         options.fastTiming = *fast;
     }
     if (isSet("services")) {
-        options.nativeServices = choice(value("services"), QLatin1String("native"), QLatin1String("simulated"));
+        options.nativeServices =
+            choice(value("services"), QLatin1String("native"), QLatin1String("simulated"));
         if (!options.nativeServices)
             return wrong("services");
     }
@@ -110,7 +116,8 @@ ParsedOptions parseOptions(const QStringList& arguments)
             return wrong("sync-period");
     }
     options.theme = value("theme");
-    static const QStringList themes{QString(), QStringLiteral("light"), QStringLiteral("dark"), QStringLiteral("system")};
+    static const QStringList themes{QString(), QStringLiteral("light"), QStringLiteral("dark"),
+                                    QStringLiteral("system")};
     if (!themes.contains(options.theme))
         return wrong("theme");
     options.autoSync = !isSet("no-auto-sync");
@@ -124,7 +131,8 @@ ParsedOptions parseOptions(const QStringList& arguments)
     options.screenshotFile = value("screenshot");
     options.page = value("page");
     if (!options.schemaDirectory.isEmpty() && !QFileInfo(options.schemaDirectory).isDir())
-        return refuse(QStringLiteral("Option '--schema-dir': there is no folder '%1'.").arg(options.schemaDirectory));
+        return refuse(
+            QStringLiteral("Option '--schema-dir': there is no folder '%1'.").arg(options.schemaDirectory));
     if (options.headless && !options.screenshotFile.isEmpty())
         return refuse(QStringLiteral("Options '--headless' and '--screenshot' exclude each other."));
     return result;

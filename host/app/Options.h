@@ -32,8 +32,7 @@ struct Options
 /// What reading the command line came to.
 struct ParsedOptions
 {
-    enum class Outcome
-    {
+    enum class Outcome {
         Run,
         ShowAndEnd, ///< text goes to standard output: help or version.
         Refuse,     ///< text goes to standard error: what was wrong.

@@ -10,20 +10,20 @@
 #include <memory>
 #include <vector>
 
-/// Finds and loads feature packages. A library that is broken or no package is refused with a message in the log, and
-/// the others are loaded all the same. GUI thread.
+/// Finds and loads feature packages. A library that is broken or no package is refused with a message in the
+/// log, and the others are loaded all the same. GUI thread.
 class PackageLoader
 {
 public:
     PackageLoader();
     ~PackageLoader();
 
-    /// Folders in which packages are installed: those of the environment variable LUMEN_DESK_PACKAGES, then the one
-    /// that belongs to the program.
+    /// Folders in which packages are installed: those of the environment variable LUMEN_DESK_PACKAGES, then
+    /// the one that belongs to the program.
     static QStringList defaultFolders();
 
-    /// Loads every package of the folders, in the order of the folders and of the file names. A package of a name
-    /// that is loaded already is refused.
+    /// Loads every package of the folders, in the order of the folders and of the file names. A package of a
+    /// name that is loaded already is refused.
     void load(const QStringList& folders);
 
     /// The loaded packages in the order of loading; they stay loaded as long as the process runs.

@@ -26,8 +26,8 @@ const sim::Clock::time_point epoch = sim::Clock::now();
 MonitorDescription describe(const sim::Monitor& monitor, const QString& id)
 {
     const QByteArray bytes = monitor.edid();
-    const ddc::Result<ddc::Edid> edid = ddc::parseEdid(
-        {reinterpret_cast<const std::uint8_t*>(bytes.constData()), size_t(bytes.size())});
+    const ddc::Result<ddc::Edid> edid =
+        ddc::parseEdid({reinterpret_cast<const std::uint8_t*>(bytes.constData()), size_t(bytes.size())});
     MonitorDescription description;
     description.id = id;
     description.modelName = QString::fromStdString(edid.value.name);
@@ -39,8 +39,10 @@ MonitorDescription describe(const sim::Monitor& monitor, const QString& id)
 
 } // namespace
 
-SimulatedMonitors::SimulatedMonitors(LuMonitorRegistry& registry, bool fastTiming, const QString& dataDirectory)
-    : m_registry(registry), m_fastTiming(fastTiming), m_dataDirectory(dataDirectory + QStringLiteral("/simulator"))
+SimulatedMonitors::SimulatedMonitors(LuMonitorRegistry& registry, bool fastTiming,
+                                     const QString& dataDirectory)
+    : m_registry(registry), m_fastTiming(fastTiming),
+      m_dataDirectory(dataDirectory + QStringLiteral("/simulator"))
 {
     if (!QDir().mkpath(m_dataDirectory))
         qWarning().noquote() << "[SimulatedMonitors] cannot make" << m_dataDirectory
@@ -123,16 +125,17 @@ void SimulatedMonitors::connectDevice(Device& device)
     MonitorDescription description = describe(*device.monitor, device.id);
     description.screenName = screenFor(device);
     description.nativeHandle = description.screenName;
-    const auto info = MonitorLink::create(description,
-                                          device.monitor->isBuiltIn() ? nullptr : device.monitor->makeBus(),
-                                          m_fastTiming ? MonitorLink::Waits::None : MonitorLink::Waits::Real);
+    const auto info =
+        MonitorLink::create(description, device.monitor->isBuiltIn() ? nullptr : device.monitor->makeBus(),
+                            m_fastTiming ? MonitorLink::Waits::None : MonitorLink::Waits::Real);
     MonitorLink::of(*info).setCallObserver([monitor = device.monitor.get()] { monitor->endTransaction(); });
     m_registry.addMonitor(info);
 }
 
 SimulatedMonitors::Device* SimulatedMonitors::device(const QString& id)
 {
-    const auto found = std::find_if(m_devices.begin(), m_devices.end(), [&id](const auto& each) { return each->id == id; });
+    const auto found =
+        std::find_if(m_devices.begin(), m_devices.end(), [&id](const auto& each) { return each->id == id; });
     return found == m_devices.end() ? nullptr : found->get();
 }
 

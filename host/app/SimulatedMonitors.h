@@ -15,8 +15,8 @@
 
 class LuMonitorRegistry;
 
-/// The simulated monitors of this run: makes the devices, plugs them into the registry, and keeps their values across
-/// runs. GUI thread.
+/// The simulated monitors of this run: makes the devices, plugs them into the registry, and keeps their
+/// values across runs. GUI thread.
 class SimulatedMonitors : public QObject, public SimulatedWorld
 {
     Q_OBJECT
@@ -28,8 +28,8 @@ public:
     /// Makes the devices of a comma-separated list. An empty result: done; else what was wrong.
     QString make(const QString& list);
 
-    /// Sets values ({MONITOR: {"0x12": 40}}) and arms faults before anything is plugged in. An empty result: done; else
-    /// what was wrong.
+    /// Sets values ({MONITOR: {"0x12": 40}}) and arms faults before anything is plugged in. An empty result:
+    /// done; else what was wrong.
     QString applyState(const QJsonObject& vcp, const QJsonArray& faults);
 
     /// Plugs every device that was made into the registry.

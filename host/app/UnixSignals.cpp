@@ -22,7 +22,8 @@ void writeByte(int)
 
 } // namespace
 
-UnixSignals::UnixSignals(std::function<void()> action, QObject* parent) : QObject(parent), m_action(std::move(action))
+UnixSignals::UnixSignals(std::function<void()> action, QObject* parent)
+    : QObject(parent), m_action(std::move(action))
 {
     if (::pipe2(signalPipe, O_CLOEXEC | O_NONBLOCK) != 0) {
         qWarning() << "[UnixSignals] no pipe: signals end the program at once";

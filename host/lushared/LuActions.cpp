@@ -128,8 +128,8 @@ void LuShortcutAction::setDuplicated(bool duplicated)
     Q_EMIT duplicatedChanged();
 }
 
-LuModuleAction::LuModuleAction(ActionTitle title, LuModelModuleInterface* module, const QVariantMap& properties,
-                               QObject* parent)
+LuModuleAction::LuModuleAction(ActionTitle title, LuModelModuleInterface* module,
+                               const QVariantMap& properties, QObject* parent)
     : LuActionInterface(title, parent), m_module(module), m_properties(properties)
 {
 }

@@ -15,16 +15,16 @@
 /// One usage event.
 struct LUSHARED_EXPORT LuEvent
 {
-    quint64 seq = 0;     ///< Place in the process-wide order of events, wire transactions and log lines.
-    int run = 0;         ///< 0 this run of the program, -1 the one before, ...
-    QDateTime time;      ///< Of the program's clock.
-    QString monitor;     ///< Id of the monitor.
-    QString module;      ///< Class name; empty for an event of the model itself.
-    int action = 0;      ///< LuDataCollection::Action.
-    bool onOff = false;  ///< Kind: on/off, else custom.
-    bool on = false;     ///< Of an on/off event.
-    QString event;       ///< Of a custom event.
-    int source = 0;      ///< LuDataCollection::TriggerSource.
+    quint64 seq = 0;    ///< Place in the process-wide order of events, wire transactions and log lines.
+    int run = 0;        ///< 0 this run of the program, -1 the one before, ...
+    QDateTime time;     ///< Of the program's clock.
+    QString monitor;    ///< Id of the monitor.
+    QString module;     ///< Class name; empty for an event of the model itself.
+    int action = 0;     ///< LuDataCollection::Action.
+    bool onOff = false; ///< Kind: on/off, else custom.
+    bool on = false;    ///< Of an on/off event.
+    QString event;      ///< Of a custom event.
+    int source = 0;     ///< LuDataCollection::TriggerSource.
     QStringList parameters;
 };
 

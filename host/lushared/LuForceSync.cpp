@@ -22,7 +22,8 @@ void LuForceSync::connectAll(const std::function<void(const QString&)>& request)
     for (const Pair& pair : m_pairs) {
         if (!pair.sender)
             continue;
-        auto trigger = std::make_unique<LuForceSyncTrigger>([request, name = pair.moduleClassName] { request(name); });
+        auto trigger =
+            std::make_unique<LuForceSyncTrigger>([request, name = pair.moduleClassName] { request(name); });
         // Direct: the signal may come on the queue's thread, and the request only posts jobs.
         QObject::connect(pair.sender, pair.signal, trigger.get(), fire, Qt::DirectConnection);
         m_triggers.push_back(std::move(trigger));

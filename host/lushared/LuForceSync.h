@@ -24,8 +24,8 @@ private:
     const std::function<void()> m_action;
 };
 
-/// The signals after which a module is read back at once. Pairs are collected while modules are constructed and
-/// connected in one step.
+/// The signals after which a module is read back at once. Pairs are collected while modules are constructed
+/// and connected in one step.
 class LuForceSync
 {
 public:

@@ -16,7 +16,8 @@ struct LUSHARED_EXPORT LuLogLine
     QString text;
 };
 
-/// Takes Qt's messages: writes them to standard error and keeps the last ones for the control socket. Any thread.
+/// Takes Qt's messages: writes them to standard error and keeps the last ones for the control socket. Any
+/// thread.
 class LUSHARED_EXPORT LuLog
 {
 public:

@@ -46,9 +46,8 @@ void LuModelHost::apply(LuMonitorModel* model, std::function<void()> done)
 
 void LuModelHost::sync(LuMonitorModel* model, LuModelModuleInterface* module, std::function<void()> done)
 {
-    LuMonitorModelPrivate::of(model).engine.readBack(module, [done = std::move(done)]() mutable {
-        ZrDispatch::main()->post(nullptr, std::move(done));
-    });
+    LuMonitorModelPrivate::of(model).engine.readBack(
+        module, [done = std::move(done)]() mutable { ZrDispatch::main()->post(nullptr, std::move(done)); });
 }
 
 QString LuModelHost::trigger(LuModelModuleInterface* module, const QVariantMap& properties)
@@ -105,10 +104,12 @@ QString LuModelHost::moduleSection(const LuModelModuleInterface* module)
 
 void LuModelHost::forgetFirstConnection(const LuMonitorModel* model)
 {
-    LuSettings::instance().remove(LuMonitorModelPrivate::of(model).sectionKey(QStringLiteral("connectedVersions")));
+    LuSettings::instance().remove(
+        LuMonitorModelPrivate::of(model).sectionKey(QStringLiteral("connectedVersions")));
 }
 
-bool LuModelHost::handleKey(LuMonitorModel* model, Qt::KeyboardModifiers modifiers, Qt::Key key, bool repeated)
+bool LuModelHost::handleKey(LuMonitorModel* model, Qt::KeyboardModifiers modifiers, Qt::Key key,
+                            bool repeated)
 {
     const QKeyEvent event(QEvent::KeyPress, key, modifiers, QString(), repeated);
     bool handled = false;

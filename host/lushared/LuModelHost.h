@@ -18,22 +18,25 @@ class LUSHARED_EXPORT LuModelHost
 public:
     LuModelHost() = delete;
 
-    /// Ends the construction of a model that was met before: applies the stored values if they are to be restored,
-    /// then runs the initial sync and starts the periodic read-back. Called once, right after the constructor.
+    /// Ends the construction of a model that was met before: applies the stored values if they are to be
+    /// restored, then runs the initial sync and starts the periodic read-back. Called once, right after the
+    /// constructor.
     static void launch(LuMonitorModel* model);
 
-    /// Runs applyValues of all modules in their order as one job, skip marks aside. @p done is called on the GUI
-    /// thread when it has run.
+    /// Runs applyValues of all modules in their order as one job, skip marks aside. @p done is called on the
+    /// GUI thread when it has run.
     static void apply(LuMonitorModel* model, std::function<void()> done);
 
-    /// Reads one module back, or the colour mode and then all modules, whatever syncEnable says. @p done is called on
-    /// the GUI thread when the last step has run.
+    /// Reads one module back, or the colour mode and then all modules, whatever syncEnable says. @p done is
+    /// called on the GUI thread when the last step has run.
     static void sync(LuMonitorModel* model, LuModelModuleInterface* module, std::function<void()> done);
 
-    /// Writes properties to a module as another function of the program. An empty result: done; else what was wrong.
+    /// Writes properties to a module as another function of the program. An empty result: done; else what was
+    /// wrong.
     static QString trigger(LuModelModuleInterface* module, const QVariantMap& properties);
 
-    /// Whether auto sync and loading of settings hold, and the class names of the modules that skip the launch.
+    /// Whether auto sync and loading of settings hold, and the class names of the modules that skip the
+    /// launch.
     static bool autoSyncEnabled(const LuMonitorModel* model);
     static bool loadSettingsEnabled(const LuMonitorModel* model);
     static QStringList skippedModules(const LuMonitorModel* model);
@@ -51,8 +54,8 @@ public:
     /// The next launch meets the monitor for the first time; its settings stay.
     static void forgetFirstConnection(const LuMonitorModel* model);
 
-    /// Lets the model take a press: the shortcut actions with these keys are asked in their order. True if one took
-    /// it.
+    /// Lets the model take a press: the shortcut actions with these keys are asked in their order. True if
+    /// one took it.
     static bool handleKey(LuMonitorModel* model, Qt::KeyboardModifiers modifiers, Qt::Key key, bool repeated);
 
     /// Reports every active feature as off, as the application ends.

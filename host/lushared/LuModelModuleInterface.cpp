@@ -19,8 +19,7 @@ struct LuModelModuleInterface::Private
 
     LuMonitorModel* const model;
     ZrShared<bool> syncEnable{false};
-    enum class Mark
-    {
+    enum class Mark {
         Unknown, ///< Nobody has asked the settings yet.
         No,
         Yes,
@@ -181,7 +180,8 @@ bool LuModelModuleInterface::setVCP(int code, int value)
     return d->model->setVCP(code, value);
 }
 
-void LuModelModuleInterface::postUniqueAtFront(QObject* context, const QString& key, std::function<void()>&& job)
+void LuModelModuleInterface::postUniqueAtFront(QObject* context, const QString& key,
+                                               std::function<void()>&& job)
 {
     LuMonitorModelPrivate& host = LuMonitorModelPrivate::of(d->model);
     host.dispatch->postUniqueAtFront(context, key, [this, key, work = std::move(job)] {
@@ -220,7 +220,8 @@ QString LuModelModuleInterface::settingSection() const
 
 QVariant LuModelModuleInterface::moduleSetting(const QString& key, const QVariant& defaultValue) const
 {
-    const QVariant stored = LuSettings::instance().value(settingSection() + QLatin1Char('/') + key, defaultValue);
+    const QVariant stored =
+        LuSettings::instance().value(settingSection() + QLatin1Char('/') + key, defaultValue);
     // A value of another type, from a hand-edited file say, is no value.
     if (!defaultValue.isValid() || stored.metaType() == defaultValue.metaType())
         return stored;
@@ -289,18 +290,20 @@ bool LuModelModuleInterface::loadVCPFunctionOnOffByCategory(const QByteArray& sc
     return findEntry(schema, category, value) && value == OnValue;
 }
 
-void LuModelModuleInterface::loadVCPFunctionsOnOffByCategory(const QByteArray& schema, const QString& category,
+void LuModelModuleInterface::loadVCPFunctionsOnOffByCategory(const QByteArray& schema,
+                                                             const QString& category,
                                                              QHash<QString, bool>& result)
 {
     (void)LuSchemaReader::forEachEntry(schema, [&](const QXmlStreamAttributes& attributes) {
         if (attributes.value(CategoryAttribute) == category)
-            result.insert(attributes.value(TypeAttribute).toString(), attributes.value(ValueAttribute) == OnValue);
+            result.insert(attributes.value(TypeAttribute).toString(),
+                          attributes.value(ValueAttribute) == OnValue);
         return true;
     });
 }
 
-bool LuModelModuleInterface::loadVCPFunctionStringByCategory(const QByteArray& schema, const QString& category,
-                                                             QString& result)
+bool LuModelModuleInterface::loadVCPFunctionStringByCategory(const QByteArray& schema,
+                                                             const QString& category, QString& result)
 {
     return findEntry(schema, category, result);
 }

@@ -160,9 +160,10 @@ bool LuMonitorModel::registerFlowAction(const QString& flowId, LuActionInterface
 {
     if (!d->modules.contains(module))
         return false;
-    const auto same = std::find_if(d->flowActions.begin(), d->flowActions.end(), [&](const LuFlowAction* action) {
-        return action->modeId() == flowId && action->title() == title;
-    });
+    const auto same =
+        std::find_if(d->flowActions.begin(), d->flowActions.end(), [&](const LuFlowAction* action) {
+            return action->modeId() == flowId && action->title() == title;
+        });
     if (same != d->flowActions.end()) {
         (*same)->deleteLater();
         d->flowActions.erase(same);
@@ -199,9 +200,9 @@ QList<LuModelModuleInterface*> LuMonitorModel::modules() const
 
 LuModelModuleInterface* LuMonitorModel::moduleByClassName(const QString& className) const
 {
-    const auto found = std::find_if(d->modules.begin(), d->modules.end(), [&](LuModelModuleInterface* module) {
-        return LuUtils::className(module) == className;
-    });
+    const auto found =
+        std::find_if(d->modules.begin(), d->modules.end(),
+                     [&](LuModelModuleInterface* module) { return LuUtils::className(module) == className; });
     return found == d->modules.end() ? nullptr : *found;
 }
 
@@ -307,7 +308,8 @@ bool LuMonitorModel::openResolutionSettings()
 
 bool LuMonitorModel::openFocusAssist()
 {
-    return LuPlatformProgram::instance()->openApplication(QStringLiteral("gnome-notifications-panel.desktop"));
+    return LuPlatformProgram::instance()->openApplication(
+        QStringLiteral("gnome-notifications-panel.desktop"));
 }
 
 void LuMonitorModel::resetCurrentColorMode()
@@ -372,7 +374,8 @@ void LuMonitorModel::initForceSyncConnections()
 void LuMonitorModel::readVcpDelays()
 {
     // One table for a series: the series stands in front of "MonitorModel" in the class name.
-    const QString series = QString::fromLatin1(metaObject()->className()).remove(QStringLiteral("MonitorModel"));
+    const QString series =
+        QString::fromLatin1(metaObject()->className()).remove(QStringLiteral("MonitorModel"));
     QFile file(LuUtils::schemaFile(QStringLiteral(":/schema/%1_vcpDelay.xml").arg(series)));
     if (!file.open(QIODevice::ReadOnly))
         return;
@@ -396,8 +399,8 @@ void LuMonitorModel::readVcpDelays()
         }
     }
     if (reader.hasError())
-        qWarning().noquote() << "[LuMonitorModel] delay table:" << file.fileName() << "line" << reader.lineNumber()
-                             << reader.errorString();
+        qWarning().noquote() << "[LuMonitorModel] delay table:" << file.fileName() << "line"
+                             << reader.lineNumber() << reader.errorString();
     // What is said of one model goes before what is said of all.
     ofPackage.insert(ofModel);
     d->link().setWriteDelays(ofPackage);

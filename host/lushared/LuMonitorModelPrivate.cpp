@@ -23,7 +23,9 @@ const QString SkipKey = QStringLiteral("skippedAtLaunch");
 QString sectionOf(const MonitorInfo& info)
 {
     const QString serial = info.id().mid(info.id().indexOf(QLatin1Char('@')) + 1);
-    const auto encoded = [](const QString& text) { return QString::fromLatin1(QUrl::toPercentEncoding(text)); };
+    const auto encoded = [](const QString& text) {
+        return QString::fromLatin1(QUrl::toPercentEncoding(text));
+    };
     return encoded(info.modelName()) + QLatin1Char('_') + encoded(serial);
 }
 
@@ -67,7 +69,8 @@ void LuMonitorModelPrivate::readColorModes()
         return;
     }
     if (!schema.problem.isEmpty()) {
-        qWarning().noquote() << "[LuMonitorModel] damaged schema, the model is not supported:" << schema.problem;
+        qWarning().noquote() << "[LuMonitorModel] damaged schema, the model is not supported:"
+                             << schema.problem;
         return;
     }
     for (const QXmlStreamAttributes& attributes : schema.entries) {
@@ -80,9 +83,10 @@ void LuMonitorModelPrivate::readColorModes()
                                  << q->modelName() << name;
             continue;
         }
-        VCPNode* node = nodeFactory(q, code, qMax(0, LuSchemaReader::hexByte(attributes.value(QLatin1String("SHCode")))),
-                                    attributes.value(QLatin1String("Type")).toString(), name,
-                                    attributes.value(QLatin1String("Category")).toString());
+        VCPNode* node =
+            nodeFactory(q, code, qMax(0, LuSchemaReader::hexByte(attributes.value(QLatin1String("SHCode")))),
+                        attributes.value(QLatin1String("Type")).toString(), name,
+                        attributes.value(QLatin1String("Category")).toString());
         node->loadExtraValues(attributes);
         if (auto* mode = qobject_cast<LuVCPNode*>(node))
             nodes.append(mode);
@@ -118,9 +122,8 @@ void LuMonitorModelPrivate::makeCurrent(LuVCPNode* node)
 
 LuVCPNode* LuMonitorModelPrivate::nodeOfCode(int code) const
 {
-    const auto found = std::find_if(nodes.begin(), nodes.end(), [code](const LuVCPNode* node) {
-        return node->code() == code;
-    });
+    const auto found = std::find_if(nodes.begin(), nodes.end(),
+                                    [code](const LuVCPNode* node) { return node->code() == code; });
     return found == nodes.end() ? nullptr : *found;
 }
 
@@ -146,7 +149,8 @@ bool LuMonitorModelPrivate::isRestoring() const
 {
     const LuHostOptions& options = LuHostOptions::instance();
     return metBefore && options.launching &&
-           options.restore.value_or(LuSettings::instance().value(QStringLiteral("restoreAtStart"), true).toBool());
+           options.restore.value_or(
+               LuSettings::instance().value(QStringLiteral("restoreAtStart"), true).toBool());
 }
 
 void LuMonitorModelPrivate::runInitialSync()

@@ -40,7 +40,8 @@ struct LuMonitorRegistry::Private
 
     auto entryOf(const QString& id)
     {
-        return std::find_if(entries.begin(), entries.end(), [&id](const Entry& entry) { return entry.info->id() == id; });
+        return std::find_if(entries.begin(), entries.end(),
+                            [&id](const Entry& entry) { return entry.info->id() == id; });
     }
 
     LuPackagesInterface* packageOf(const QString& modelName) const
@@ -77,7 +78,8 @@ struct LuMonitorRegistry::Private
         }
     }
 
-    /// Without a choice of the user: the first supported monitor, else the first external one, else the first.
+    /// Without a choice of the user: the first supported monitor, else the first external one, else the
+    /// first.
     void chooseCurrent()
     {
         if (chosen && current)
@@ -86,9 +88,8 @@ struct LuMonitorRegistry::Private
         const auto rank = [](const LuMonitorModel* model) {
             return model->isModelSupported() ? 0 : model->isModelBuiltIn() ? 2 : 1;
         };
-        const auto best = std::min_element(models.begin(), models.end(), [&](auto* a, auto* b) {
-            return rank(a) < rank(b);
-        });
+        const auto best = std::min_element(models.begin(), models.end(),
+                                           [&](auto* a, auto* b) { return rank(a) < rank(b); });
         makeCurrent(best == models.end() ? nullptr : *best);
     }
 
@@ -106,7 +107,10 @@ struct LuMonitorRegistry::Private
     }
 };
 
-LuMonitorRegistry::LuMonitorRegistry(QObject* parent) : QObject(parent), d(new Private{this, {}, {}, nullptr, false}) {}
+LuMonitorRegistry::LuMonitorRegistry(QObject* parent)
+    : QObject(parent), d(new Private{this, {}, {}, nullptr, false})
+{
+}
 
 LuMonitorRegistry::~LuMonitorRegistry()
 {
@@ -210,7 +214,8 @@ QList<LuMonitorModel*> LuMonitorRegistry::monitors() const
 
 bool LuMonitorRegistry::isBusy() const
 {
-    return std::any_of(d->entries.begin(), d->entries.end(), [](const Private::Entry& entry) { return !entry.model; });
+    return std::any_of(d->entries.begin(), d->entries.end(),
+                       [](const Private::Entry& entry) { return !entry.model; });
 }
 
 LuMonitorModel* LuMonitorRegistry::current() const

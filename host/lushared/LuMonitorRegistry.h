@@ -43,7 +43,8 @@ public:
     LuMonitorModel* current() const;
     /// Makes the monitor of that address current; false if there is none.
     bool select(const QString& address);
-    /// The monitor of an id, or of a model name that only one has; empty for the current one. Null if there is none.
+    /// The monitor of an id, or of a model name that only one has; empty for the current one. Null if there
+    /// is none.
     LuMonitorModel* find(const QString& address) const;
 
 Q_SIGNALS:

@@ -9,7 +9,8 @@ QString LuSchemaReader::forEachEntry(const QByteArray& bytes,
 {
     QXmlStreamReader reader(bytes);
     while (!reader.atEnd()) {
-        if (reader.readNext() == QXmlStreamReader::StartElement && reader.name() == QLatin1String("VCPcode")) {
+        if (reader.readNext() == QXmlStreamReader::StartElement &&
+            reader.name() == QLatin1String("VCPcode")) {
             if (!visit(reader.attributes()))
                 return {};
         }

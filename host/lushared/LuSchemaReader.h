@@ -23,8 +23,8 @@ struct Result
 /// Reads a file of the form VCPTree/VCPList/VCPcode.
 Result readFile(const QString& path);
 
-/// Calls @p visit with each "VCPcode" element of @p bytes until it returns false. Returns an empty string, or a
-/// message with the line at which the text is damaged; the entries in front of it were visited.
+/// Calls @p visit with each "VCPcode" element of @p bytes until it returns false. Returns an empty string, or
+/// a message with the line at which the text is damaged; the entries in front of it were visited.
 QString forEachEntry(const QByteArray& bytes, const std::function<bool(const QXmlStreamAttributes&)>& visit);
 
 /// Number of a hexadecimal byte written as "0x1F"; -1 for anything else.

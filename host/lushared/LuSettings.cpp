@@ -70,7 +70,8 @@ bool LuSettings::open(const QString& directory)
     if (!directory.isEmpty())
         QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, QDir(directory).absolutePath());
     d->store.reset();
-    // The first object on a file is the one that parses it and knows of damage; sections are parsed when asked for.
+    // The first object on a file is the one that parses it and knows of damage; sections are parsed when
+    // asked for.
     auto probe = std::make_unique<QSettings>();
     const QString path = probe->fileName();
     (void)probe->allKeys();

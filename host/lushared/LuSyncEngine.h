@@ -11,17 +11,19 @@
 class LuModelModuleInterface;
 class LuMonitorModelPrivate;
 
-/// Reads a monitor's features back: in periodic rounds while somebody looks, at once where a change asks for it.
+/// Reads a monitor's features back: in periodic rounds while somebody looks, at once where a change asks for
+/// it.
 ///
-/// Every step is a job of its own behind what waits on the model's queue, so that a setter waits for one step at most.
-/// A monitor that gives no answer is asked again after 2, 4, 8 ... 60 s, or at once after a user's action.
+/// Every step is a job of its own behind what waits on the model's queue, so that a setter waits for one step
+/// at most. A monitor that gives no answer is asked again after 2, 4, 8 ... 60 s, or at once after a user's
+/// action.
 class LuSyncEngine
 {
 public:
     explicit LuSyncEngine(LuMonitorModelPrivate& model) : m_model(model) {}
 
-    /// First round: asks every module for its steps now, on the caller's thread, and posts them; periodic rounds
-    /// follow.
+    /// First round: asks every module for its steps now, on the caller's thread, and posts them; periodic
+    /// rounds follow.
     void start();
 
     /// A feature became visible: a round begins at once. Any thread.
@@ -33,12 +35,12 @@ public:
     /// Reads one module back as soon as what waits has run; requests that wait are one. Any thread.
     void force(LuModelModuleInterface* module);
 
-    /// Reads one module, or the colour mode and every module, whatever is visible; then calls @p done on the queue.
+    /// Reads one module, or the colour mode and every module, whatever is visible; then calls @p done on the
+    /// queue.
     void readBack(LuModelModuleInterface* module, std::function<void()> done);
 
 private:
-    enum class Count
-    {
+    enum class Count {
         Foreground, ///< Counts for idleness.
         Background,
     };

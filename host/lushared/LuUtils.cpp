@@ -44,7 +44,8 @@ QString LuUtils::className(QObject* object)
     if (!object)
         return {};
     const QString name = QString::fromLatin1(object->metaObject()->className());
-    return name.mid(name.lastIndexOf(QLatin1String("::")) < 0 ? 0 : name.lastIndexOf(QLatin1String("::")) + 2);
+    return name.mid(name.lastIndexOf(QLatin1String("::")) < 0 ? 0
+                                                              : name.lastIndexOf(QLatin1String("::")) + 2);
 }
 
 QMimeData* LuUtils::copyMimeData(const QMimeData* source)

@@ -46,8 +46,10 @@ bool isByte(int code)
 
 QString hexCode(int code)
 {
-    return QStringLiteral("0x%1").arg(code, 2, 16, QLatin1Char('0')).toUpper().replace(QLatin1Char('X'),
-                                                                                      QLatin1Char('x'));
+    return QStringLiteral("0x%1")
+        .arg(code, 2, 16, QLatin1Char('0'))
+        .toUpper()
+        .replace(QLatin1Char('X'), QLatin1Char('x'));
 }
 
 } // namespace
@@ -84,8 +86,8 @@ MonitorLink::MonitorLink(std::unique_ptr<ddc::Bus> bus, Waits waits) : d(new Pri
 
 MonitorLink::~MonitorLink() = default;
 
-QSharedPointer<MonitorInfo> MonitorLink::create(const MonitorDescription& description, std::unique_ptr<ddc::Bus> bus,
-                                                Waits waits)
+QSharedPointer<MonitorInfo> MonitorLink::create(const MonitorDescription& description,
+                                                std::unique_ptr<ddc::Bus> bus, Waits waits)
 {
     std::unique_ptr<MonitorLink> link(new MonitorLink(std::move(bus), waits));
     link->d->screenName = description.screenName;
@@ -185,18 +187,19 @@ QJsonObject MonitorLink::statistics() const
         writes.insert(hexCode(code.code), QJsonObject{{QStringLiteral("total"), qint64(code.total)},
                                                       {QStringLiteral("today"), qint64(code.today)}});
     const ddc::LearntWaits learnt = d->transactor ? d->transactor->learnt() : ddc::LearntWaits();
-    return {{QStringLiteral("bus"), d->transactor ? QString::fromStdString(d->transactor->busName()) : QString()},
-            {QStringLiteral("transfers"), qint64(counts.transfers)},
-            {QStringLiteral("gets"), qint64(counts.gets)},
-            {QStringLiteral("sets"), qint64(counts.sets)},
-            {QStringLiteral("retries"), qint64(counts.retries)},
-            {QStringLiteral("nullReplies"), qint64(counts.nullReplies)},
-            {QStringLiteral("checksumErrors"), qint64(counts.checksumErrors)},
-            {QStringLiteral("errors"), errors},
-            {QStringLiteral("learntWaits"),
-             QJsonObject{{QStringLiteral("replyMs"), qint64(learnt.replyDelay.count())},
-                         {QStringLiteral("afterSetMs"), qint64(learnt.afterSet.count())}}},
-            {QStringLiteral("writes"), writes}};
+    return {
+        {QStringLiteral("bus"), d->transactor ? QString::fromStdString(d->transactor->busName()) : QString()},
+        {QStringLiteral("transfers"), qint64(counts.transfers)},
+        {QStringLiteral("gets"), qint64(counts.gets)},
+        {QStringLiteral("sets"), qint64(counts.sets)},
+        {QStringLiteral("retries"), qint64(counts.retries)},
+        {QStringLiteral("nullReplies"), qint64(counts.nullReplies)},
+        {QStringLiteral("checksumErrors"), qint64(counts.checksumErrors)},
+        {QStringLiteral("errors"), errors},
+        {QStringLiteral("learntWaits"),
+         QJsonObject{{QStringLiteral("replyMs"), qint64(learnt.replyDelay.count())},
+                     {QStringLiteral("afterSetMs"), qint64(learnt.afterSet.count())}}},
+        {QStringLiteral("writes"), writes}};
 }
 
 std::optional<int> MonitorLink::probedColorMode() const

@@ -34,15 +34,14 @@ struct MonitorDescription
 class PANELCORE_EXPORT MonitorLink
 {
 public:
-    enum class Waits
-    {
+    enum class Waits {
         Real, ///< The waits of DDC/CI.
         None, ///< No waits at all, for a simulated bus.
     };
 
     /// Makes the handle of a monitor. @p bus may be null: every transfer then fails.
-    static QSharedPointer<MonitorInfo> create(const MonitorDescription& description, std::unique_ptr<ddc::Bus> bus,
-                                              Waits waits);
+    static QSharedPointer<MonitorInfo> create(const MonitorDescription& description,
+                                              std::unique_ptr<ddc::Bus> bus, Waits waits);
     static MonitorLink& of(const MonitorInfo& info);
 
     /// Transfers; false if the monitor gave no usable answer. @p code 0 to 255.
@@ -51,8 +50,8 @@ public:
     /// A write on a caller's thread that gives up if the bus is not free within @p limitMs.
     bool setVCPWithin(int code, int value, int limitMs);
 
-    /// Called after every transfer with all its tries, on the thread of the caller: a simulated device counts faults by
-    /// it. Set before the handle is in use.
+    /// Called after every transfer with all its tries, on the thread of the caller: a simulated device counts
+    /// faults by it. Set before the handle is in use.
     void setCallObserver(std::function<void()> observer);
 
     /// Waits after writes of listed codes, in ms.
@@ -72,8 +71,8 @@ public:
 
     QJsonObject statistics() const;
 
-    /// The value of 0xDC that was read before the model is constructed; unset if nobody has asked, -1 if the monitor
-    /// gave no answer.
+    /// The value of 0xDC that was read before the model is constructed; unset if nobody has asked, -1 if the
+    /// monitor gave no answer.
     std::optional<int> probedColorMode() const;
     /// Reads 0xDC and remembers the answer. Blocks.
     void probeColorMode();

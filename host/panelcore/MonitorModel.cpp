@@ -25,7 +25,10 @@ constexpr int GuiWriteLimitMs = 150;
 class MonitorModel::Private
 {
 public:
-    explicit Private(MonitorModel* model, QSharedPointer<MonitorInfo> handle) : q(model), info(std::move(handle)) {}
+    explicit Private(MonitorModel* model, QSharedPointer<MonitorInfo> handle)
+        : q(model), info(std::move(handle))
+    {
+    }
 
     void findScreen()
     {

@@ -3,6 +3,8 @@
 
 #include <QEvent>
 #include <QFile>
+#include <QQmlContext>
+#include <QQmlEngine>
 #include <QFontInfo>
 #include <QGuiApplication>
 #include <QLoggingCategory>
@@ -266,7 +268,26 @@ void LuContext::setScreenSource(std::function<QScreen*(QObject*)> source)
     m_screenSource = std::move(source);
 }
 
-QUrl LuContext::resolvedResourceUrl(const QUrl& url, QObject*, const QString& colorScheme) const
+void LuContext::setPackages(const QStringList& names)
+{
+    m_packages = names;
+}
+
+QStringList LuContext::imageFolders(const QObject* item) const
+{
+    // A panel's own package goes before the others: its files stand below the package's name.
+    const QQmlContext* context = item ? qmlContext(item) : nullptr;
+    const QString own = context ? context->baseUrl().path().section(u'/', 1, 1) : QString();
+    QStringList names = m_packages;
+    if (names.removeOne(own))
+        names.prepend(own);
+    QStringList folders;
+    for (const QString& name : std::as_const(names))
+        folders.append(u"/%1/images/packages/"_s.arg(name));
+    return folders;
+}
+
+QUrl LuContext::resolvedResourceUrl(const QUrl& url, QObject* item, const QString& colorScheme) const
 {
     static const QString shared = u"/images/packages/"_s;
     if (url.isEmpty())
@@ -274,13 +295,15 @@ QUrl LuContext::resolvedResourceUrl(const QUrl& url, QObject*, const QString& co
     if (url.scheme() != "qrc"_L1 || !url.path().startsWith(shared))
         return url;
     const QString name = url.path().mid(shared.size());
-    const QString folder = u"/TKPackage/images/packages/"_s;
     const auto found = [](const QString& path) { return QFile::exists(u':' + path); };
     const auto address = [](const QString& path) { return QUrl(u"qrc:"_s + path); };
-    if (colorScheme == "dark"_L1 && found(folder + "+dark/"_L1 + name))
-        return address(folder + "+dark/"_L1 + name);
-    if (found(folder + name))
-        return address(folder + name);
+    const QStringList folders = imageFolders(item);
+    for (const QString& folder : folders) {
+        if (colorScheme == "dark"_L1 && found(folder + "+dark/"_L1 + name))
+            return address(folder + "+dark/"_L1 + name);
+        if (found(folder + name))
+            return address(folder + name);
+    }
     if (!m_missing.contains(name)) {
         m_missing.insert(name);
         qCWarning(lcContext).noquote() << "image missing:" << name;

@@ -10,6 +10,7 @@
 #include <QRectF>
 #include <QSet>
 #include <QString>
+#include <QStringList>
 #include <QUrl>
 #include <QVariant>
 
@@ -64,6 +65,8 @@ public:
 
     /// The widgets of the current monitor's package, in its order.
     QList<QUrl> widgetUrls() const { return m_widgetUrls; }
+    /// Names of the loaded packages: their pictures are looked up in this order.
+    void setPackages(const QStringList& names);
     /// How the widgets of a monitor are found. Asked whenever the current monitor changes.
     void setWidgetUrlSource(std::function<QList<QUrl>(QObject* monitor)> source);
 
@@ -143,6 +146,7 @@ protected:
 
 private:
     explicit LuContext(QObject* parent);
+    QStringList imageFolders(const QObject* item) const;
     void updateColorScheme();
     void updateWidgetUrls();
 
@@ -161,5 +165,6 @@ private:
     double m_fontScale = 1;
     Lookup m_values;
     Lookup m_choices;
+    QStringList m_packages;
     mutable QSet<QString> m_missing;
 };

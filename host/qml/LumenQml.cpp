@@ -48,7 +48,7 @@ void registerTypes()
 }
 } // namespace
 
-void lumenQmlInit(QQmlEngine* engine)
+void lumenQmlInit(QQmlEngine* engine, const QStringList& packages)
 {
     initResources();
     registerTypes();
@@ -58,8 +58,11 @@ void lumenQmlInit(QQmlEngine* engine)
     // A package's files import their module by the relative path "..". That import gets the module's name,
     // and with it the C++ types, only from an import path that begins as the file's own path does. The engine
     // turns ":/" into "qrc:/" unless it comes as a file's address.
-    paths.prepend(QUrl::fromLocalFile(u":/TKPackage/qml"_s).toString());
-    paths.prepend(u"qrc:/TKPackage/qml"_s);
+    for (const QString& package : packages) {
+        paths.prepend(QUrl::fromLocalFile(u":/%1/qml"_s.arg(package)).toString());
+        paths.prepend(u"qrc:/%1/qml"_s.arg(package));
+    }
+    LuContext::instance()->setPackages(packages);
     paths.prepend(u"qrc:/lumendesk/qml"_s);
     paths.append(u"qrc:/lumendesk/fallback"_s);
     engine->setImportPathList(paths);

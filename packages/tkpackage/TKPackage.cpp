@@ -9,34 +9,13 @@ constexpr int SeriesPackage = 3;
 
 /// Widgets in the order in which the window shows them.
 constexpr const char* WidgetNames[] = {
-    "LuVolumeWidget",
-    "LuBrightnessWidget",
-    "LuBuiltInBrightnessWidget",
-    "LuResolutionWidget",
-    "LuDpiScalingWidget",
-    "LuBackLightWidget",
-    "LuNightProtectionWidget",
-    "LuABPlusWidget",
-    "LuABSettingWidget",
-    "LuLowBlueLightWidget",
-    "LuEcoPrivacyWidget",
-    "LuAutoPivotWidget",
-    "LuPivotWidget",
-    "LuDaisyChainWidget",
-    "LuPartitionWidget",
-    "LuShortcutsWidget",
-    "LuHDRWidget",
-    "LuHiDPIWidget",
-    "LuColorWeaknessWidget",
-    "LuPIPPBPWidget",
-    "LuDualViewPlusWidget",
-    "LuFlowWidget",
-    "LuAiContrastWidget",
-    "LuMultiMonitorSyncWidget",
-    "LuSmartKvmBasicWidget",
-    "LuInputSourceWidget",
-    "LuDirectSearchWidget",
-    "LuFocusAssistWidget",
+    "LuVolumeWidget",        "LuBrightnessWidget",   "LuBuiltInBrightnessWidget", "LuResolutionWidget",
+    "LuDpiScalingWidget",    "LuBackLightWidget",    "LuNightProtectionWidget",   "LuABPlusWidget",
+    "LuABSettingWidget",     "LuLowBlueLightWidget", "LuEcoPrivacyWidget",        "LuAutoPivotWidget",
+    "LuPivotWidget",         "LuDaisyChainWidget",   "LuPartitionWidget",         "LuShortcutsWidget",
+    "LuHDRWidget",           "LuHiDPIWidget",        "LuColorWeaknessWidget",     "LuPIPPBPWidget",
+    "LuDualViewPlusWidget",  "LuFlowWidget",         "LuAiContrastWidget",        "LuMultiMonitorSyncWidget",
+    "LuSmartKvmBasicWidget", "LuInputSourceWidget",  "LuDirectSearchWidget",      "LuFocusAssistWidget",
 };
 
 } // namespace
@@ -62,7 +41,8 @@ QList<QUrl> TKPackage::widgetUrls()
     static const QList<QUrl> urls = [this] {
         QList<QUrl> list;
         for (const char* name : WidgetNames)
-            list.append(QUrl(QStringLiteral("qrc:///%1/Widgets/%2.qml").arg(qmlBasePath(), QLatin1String(name))));
+            list.append(
+                QUrl(QStringLiteral("qrc:///%1/Widgets/%2.qml").arg(qmlBasePath(), QLatin1String(name))));
         return list;
     }();
     return urls;

@@ -31,7 +31,8 @@ QString eventText(const LuEvent& event)
 
 QString wireText(const sim::TrafficEntry& entry)
 {
-    QString text = QStringLiteral("%1 0x%2").arg(sim::opName(entry.op), QString::number(entry.code, 16).toUpper());
+    QString text =
+        QStringLiteral("%1 0x%2").arg(sim::opName(entry.op), QString::number(entry.code, 16).toUpper());
     if (entry.ok || entry.op == sim::Op::Set)
         text += QLatin1Char(' ') + QString::number(entry.value);
     return entry.ok ? text : text + QStringLiteral(" failed");
@@ -74,7 +75,8 @@ SimulatedBed::SimulatedBed(const QString& name, Timing timing) : m_timing(timing
 {
     static int count = 0;
     TestBed::instance();
-    const QString full = name.contains(QLatin1Char('@')) ? name : QStringLiteral("%1@T%2").arg(name).arg(++count);
+    const QString full =
+        name.contains(QLatin1Char('@')) ? name : QStringLiteral("%1@T%2").arg(name).arg(++count);
     sim::Options options;
     options.strictTiming = timing == Timing::Real;
     options.sequence = ZrSequence::next;
@@ -107,9 +109,9 @@ QSharedPointer<MonitorInfo> SimulatedBed::makeInfo()
     description.serialNumber = m_monitor->serial();
     description.builtIn = m_monitor->isBuiltIn();
     description.simulated = true;
-    const auto info = MonitorLink::create(description, m_monitor->isBuiltIn() ? nullptr : m_monitor->makeBus(),
-                                          m_timing == Timing::Fast ? MonitorLink::Waits::None
-                                                                   : MonitorLink::Waits::Real);
+    const auto info =
+        MonitorLink::create(description, m_monitor->isBuiltIn() ? nullptr : m_monitor->makeBus(),
+                            m_timing == Timing::Fast ? MonitorLink::Waits::None : MonitorLink::Waits::Real);
     MonitorLink::of(*info).setCallObserver([monitor = m_monitor.get()] { monitor->endTransaction(); });
     MonitorLink::of(*info).probeColorMode();
     return info;
@@ -215,7 +217,9 @@ void SimulatedBed::forget()
 
 QString SimulatedBed::section() const
 {
-    const auto encoded = [](const QString& text) { return QString::fromLatin1(QUrl::toPercentEncoding(text)); };
+    const auto encoded = [](const QString& text) {
+        return QString::fromLatin1(QUrl::toPercentEncoding(text));
+    };
     return encoded(m_monitor->model()) + QLatin1Char('_') + encoded(m_monitor->serial()) + QLatin1Char('/');
 }
 

@@ -15,8 +15,8 @@
 
 /// The package on simulated monitors, without a window and without waits on the wire.
 ///
-/// One bed per test program: it opens the settings and events in a folder of its own, loads the package as the
-/// application does, and installs simulated services.
+/// One bed per test program: it opens the settings and events in a folder of its own, loads the package as
+/// the application does, and installs simulated services.
 class TestBed
 {
 public:
@@ -39,8 +39,7 @@ private:
 class SimulatedBed
 {
 public:
-    enum class Timing
-    {
+    enum class Timing {
         Fast,
         Real, ///< The waits of DDC/CI, enforced by the device.
     };

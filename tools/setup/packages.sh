@@ -5,19 +5,17 @@
 # To build and run the program.
 run_packages=(
   build-essential cmake ninja-build ccache pkg-config
-  qt6-base-dev qt6-base-dev-tools qt6-declarative-dev qt6-declarative-dev-tools qt6-multimedia-dev
-  qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-5compat-dev libqt6svg6-dev libqt6svg6
-  libgl-dev libvulkan-dev libxkbcommon-dev libegl-dev
-  qml6-module-qtquick qml6-module-qtquick-controls qml6-module-qtquick-templates qml6-module-qtquick-layouts
-  qml6-module-qtquick-window qml6-module-qtquick-shapes qml6-module-qtqml qml6-module-qtqml-models
-  qml6-module-qtqml-workerscript qml6-module-qt-labs-platform qml6-module-qt-labs-qmlmodels
-  qml6-module-qt-labs-folderlistmodel qml6-module-qt5compat-graphicaleffects
+  qt6-base-dev qt6-base-private-dev qt6-base-dev-tools qt6-declarative-dev qt6-declarative-dev-tools qt6-multimedia-dev
+  qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libqt6svg6 qt6-svg-plugins
+  libgl-dev libvulkan-dev libxkbcommon-dev libegl-dev libxcb1-dev
+  qml6-module-qtqml qml6-module-qtqml-workerscript qml6-module-qtquick qml6-module-qtquick-window
+  qml6-module-qtquick-templates
   fonts-inter fonts-noto-core
 )
 
 # To run every test.
 test_packages=(
-  python3 libxml2-utils libbenchmark-dev xvfb xauth
+  python3 libxml2-utils libbenchmark-dev xvfb xauth xdotool binutils
 )
 
 # Installs what is missing of the packages that it is given. Needs root or sudo only if something is missing.

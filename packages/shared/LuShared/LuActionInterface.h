@@ -5,8 +5,8 @@
 
 #include <QObject>
 
-/// Base of what a key or a flow can set off: an action that belongs to a topic and can be switched on and off.
-/// Lives on the GUI thread.
+/// Base of what a key or a flow can set off: an action that belongs to a topic and can be switched on and
+/// off. Lives on the GUI thread.
 class LUSHARED_EXPORT LuActionInterface : public QObject
 {
     Q_OBJECT
@@ -15,8 +15,7 @@ class LUSHARED_EXPORT LuActionInterface : public QObject
 
 public:
     /// Topic of an action. The numbers are stored and never change.
-    enum ActionTitle
-    {
+    enum ActionTitle {
         NoTitle = 0,
         Input = 1,
         ColorMode = 2,

@@ -5,6 +5,7 @@
 #include <LuShared/LuSharedGlobal.h>
 #include <LuShared/LuShortcutAction.h>
 #include <LuShared/LuSyncTasks.h>
+#include <ZrCore/ZrShared.h>
 
 #include <QHash>
 #include <QKeyCombination>
@@ -16,21 +17,25 @@
 
 #include <functional>
 #include <memory>
+#include <type_traits>
 
 class LuMonitorModel;
 class MonitorInfo;
 class QKeyEvent;
 class ZrDispatch;
 
-/// Base of every feature of a monitor: one module owns one feature's VCP codes, settings, read-back and events.
+/// Base of every feature of a monitor: one module owns one feature's VCP codes, settings, read-back and
+/// events.
 ///
-/// A module belongs to its model and lives on the GUI thread. Its members mirror the hardware: setter jobs and sync
-/// tasks write them on the model's queue, getters read them on the GUI thread and never touch the hardware (see
-/// ZrShared for members that both sides use). Changed signals may be emitted on the queue's thread.
+/// A module belongs to its model and lives on the GUI thread. Its members mirror the hardware: setter jobs
+/// and sync tasks write them on the model's queue, getters read them on the GUI thread and never touch the
+/// hardware (see ZrShared for members that both sides use). Changed signals may be emitted on the queue's
+/// thread.
 class LUSHARED_EXPORT LuModelModuleInterface : public QObject
 {
     Q_OBJECT
-    /// The panel binds it to "this monitor is shown and the window is visible": only then is the feature read back.
+    /// The panel binds it to "this monitor is shown and the window is visible": only then is the feature read
+    /// back.
     Q_PROPERTY(bool syncEnable READ syncEnable WRITE setSyncEnable NOTIFY syncEnableChanged)
 
 public:
@@ -39,14 +44,15 @@ public:
 
     // The order of these operations is part of the binary interface.
 
-    /// Reads the enable flag and the options of the feature; the one place where the schema is seen. GUI thread.
+    /// Reads the enable flag and the options of the feature; the one place where the schema is seen. GUI
+    /// thread.
     virtual void readSchema(const QByteArray& schema) = 0;
 
     /// One-shot step of the initial sync for state that no VCP task brings. GUI thread.
     virtual void onInitialSync();
 
-    /// Builds the read-back steps of one period, or returns null when there is nothing to read now. The caller owns
-    /// the result. Queue or GUI thread.
+    /// Builds the read-back steps of one period, or returns null when there is nothing to read now. The
+    /// caller owns the result. Queue or GUI thread.
     virtual LuSyncTasks* syncPeriodically() = 0;
 
     /// Fills the members from the settings. GUI thread, during construction of the model.
@@ -58,8 +64,8 @@ public:
     /// Registers the handlers of the feature's shortcuts. GUI thread.
     virtual void registerShortcutActions();
 
-    /// Another part of the monitor changed in a way that this feature depends on: its sync tasks are run now. An
-    /// override calls the base last. Any thread.
+    /// Another part of the monitor changed in a way that this feature depends on: its sync tasks are run now.
+    /// An override calls the base last. Any thread.
     virtual void onForceSyncRequested();
 
     /// A detail page closes: @p parameters holds the values at its opening. GUI thread.
@@ -76,7 +82,8 @@ public:
     void setSyncEnable(bool enable);
 
     /// Binds an action of the shortcut table to this module. GUI thread.
-    void registerShortcutAction(LuShortcutAction::ActionName name, std::function<bool(const QKeyEvent&)> handler);
+    void registerShortcutAction(LuShortcutAction::ActionName name,
+                                std::function<bool(const QKeyEvent&)> handler);
 
     /// Binds the key combinations of an action; an empty set removes them. GUI thread.
     void registerShortcutKeys(LuShortcutAction::ActionName name, const QSet<QKeyCombination>& keys);
@@ -100,8 +107,8 @@ public:
     /// Records the module's properties, as a detail page opens.
     Q_INVOKABLE void takePropertySnapshot();
 
-    /// Hands the recorded values to onFireUpdateSettingEventRequested(), as the page closes, so that one visit gives
-    /// one event. Without a snapshot nothing happens.
+    /// Hands the recorded values to onFireUpdateSettingEventRequested(), as the page closes, so that one
+    /// visit gives one event. Without a snapshot nothing happens.
     Q_INVOKABLE void fireUpdateSettingEvent();
 
 Q_SIGNALS:
@@ -113,11 +120,12 @@ protected:
     /// Reads a VCP code of this monitor; false if the transfer failed, @p value is then untouched. Blocks.
     bool getVCP(int code, int& value);
 
-    /// Writes a VCP code of this monitor and honours the model's delay table; true if the write went out. Blocks.
+    /// Writes a VCP code of this monitor and honours the model's delay table; true if the write went out.
+    /// Blocks.
     bool setVCP(int code, int value);
 
-    /// Puts a job in front of all background work of the model's queue, behind earlier front jobs. A job that still
-    /// waits with the same context and key is replaced.
+    /// Puts a job in front of all background work of the model's queue, behind earlier front jobs. A job that
+    /// still waits with the same context and key is replaced.
     void postUniqueAtFront(QObject* context, const QString& key, std::function<void()>&& job);
 
     /// The model's serial queue.
@@ -139,8 +147,8 @@ protected:
     /// Name of this module's section in the settings store.
     QString settingSection() const;
 
-    /// Schema readers. A category that the schema lacks leaves @p result as it was; the on/off reader then returns
-    /// false. A damaged schema yields what stands in front of the damage.
+    /// Schema readers. A category that the schema lacks leaves @p result as it was; the on/off reader then
+    /// returns false. A damaged schema yields what stands in front of the damage.
     bool loadVCPFunctionOnOffByCategory(const QByteArray& schema, const QString& category);
     void loadVCPFunctionsOnOffByCategory(const QByteArray& schema, const QString& category,
                                          QHash<QString, bool>& result);
@@ -149,10 +157,10 @@ protected:
 
     // The setter pattern and the sync pattern, each written once.
 
-    /// Whether a setter has nothing to do: @p value is the member's and no job of @p key is on its way to another
-    /// one. An older job of the key that still waits is dropped then, since the last word wins.
+    /// Whether a setter has nothing to do: @p value is the member's and no job of @p key is on its way to
+    /// another one. An older job of the key that still waits is dropped then, since the last word wins.
     template <class T>
-    bool isSettled(const QString& key, const T& member, const T& value)
+    bool isSettled(const QString& key, const ZrShared<T>& member, const std::type_identity_t<T>& value)
     {
         return member == value && !isChanging(key);
     }
@@ -160,7 +168,8 @@ protected:
     /// Whether a job of @p key runs at this moment; a job that only waits is dropped.
     bool isChanging(const QString& key);
 
-    /// The current colour mode allows a function: there is a mode and @p accessor of its node says FunctionOn.
+    /// The current colour mode allows a function: there is a mode and @p accessor of its node says
+    /// FunctionOn.
     template <class Accessor>
     bool colorModeAllows(Accessor accessor) const;
 

@@ -24,8 +24,8 @@ public:
     /// Value that the user chose for a property of the module; invalid if there is none.
     QVariant actionProperty(const QString& name) const { return m_properties.value(name); }
 
-    /// Writes the stored properties to the module, on the caller's thread. The module sees the change as another
-    /// function's. False if the module is gone or refused a property.
+    /// Writes the stored properties to the module, on the caller's thread. The module sees the change as
+    /// another function's. False if the module is gone or refused a property.
     virtual bool trigger();
 
 private:

@@ -24,8 +24,9 @@ class ZrDispatch;
 
 /// One connected monitor with its colour modes and feature modules, as panels and scripts see it.
 ///
-/// Lives on the GUI thread; owns its modules, its nodes and the serial queue on which the work of the monitor runs.
-/// The package's subclass creates the modules in its constructor and then calls the protected steps in their order.
+/// Lives on the GUI thread; owns its modules, its nodes and the serial queue on which the work of the monitor
+/// runs. The package's subclass creates the modules in its constructor and then calls the protected steps in
+/// their order.
 class LUSHARED_EXPORT LuMonitorModel : public MonitorModel
 {
     Q_OBJECT
@@ -41,8 +42,10 @@ class LUSHARED_EXPORT LuMonitorModel : public MonitorModel
     /// As a module's syncEnable, for the colour mode itself.
     Q_PROPERTY(bool syncCurrentColorMode READ syncCurrentColorMode WRITE setSyncCurrentColorMode NOTIFY
                    syncCurrentColorModeChanged)
-    Q_PROPERTY(bool ecoLockingPaused READ ecoLockingPaused WRITE setEcoLockingPaused NOTIFY ecoLockingPausedChanged)
-    /// High dynamic range of the desktop on this monitor; false and not changeable where the platform has none.
+    Q_PROPERTY(
+        bool ecoLockingPaused READ ecoLockingPaused WRITE setEcoLockingPaused NOTIFY ecoLockingPausedChanged)
+    /// High dynamic range of the desktop on this monitor; false and not changeable where the platform has
+    /// none.
     Q_PROPERTY(bool isHDR READ isHDR WRITE setIsHDR NOTIFY isHDRChanged)
     Q_PROPERTY(bool isHDREnable READ isHDREnable NOTIFY isHDREnableChanged)
     Q_PROPERTY(bool isMirrored READ isMirrored NOTIFY isMirroredChanged)
@@ -53,7 +56,8 @@ class LUSHARED_EXPORT LuMonitorModel : public MonitorModel
     Q_PROPERTY(LuVCPNode* currentDualMode READ currentDualMode NOTIFY currentDualModeChanged)
 
 public:
-    using NodeFactory = std::function<VCPNode*(QObject*, int, int, const QString&, const QString&, const QString&)>;
+    using NodeFactory =
+        std::function<VCPNode*(QObject*, int, int, const QString&, const QString&, const QString&)>;
 
     /// @param nodeFactory makes one colour-mode node of the schema; the model owns the result.
     LuMonitorModel(QObject* parent, QSharedPointer<MonitorInfo> info, NodeFactory nodeFactory);
@@ -78,8 +82,8 @@ public:
 
     /// Node of the current picture mode; null if the monitor reports none that the schema has. Any thread.
     LuVCPNode* colorMode() const;
-    /// Posts a job that writes the mode and makes the node current once the monitor took it. The present node and
-    /// null do nothing.
+    /// Posts a job that writes the mode and makes the node current once the monitor took it. The present node
+    /// and null do nothing.
     void setColorMode(LuVCPNode* node);
     /// All nodes in schema order.
     QList<LuVCPNode*> colorModeList() const;
@@ -94,8 +98,8 @@ public:
     /// All flow actions, or those of one flow.
     QList<LuFlowAction*> flowActions() const;
     QList<LuFlowAction*> flowActions(const QString& flowId) const;
-    /// Stores an action of a flow; it replaces one of the same flow and title. False if the module is not this
-    /// model's.
+    /// Stores an action of a flow; it replaces one of the same flow and title. False if the module is not
+    /// this model's.
     bool registerFlowAction(const QString& flowId, LuActionInterface::ActionTitle title,
                             LuModelModuleInterface* module, const QVariantMap& properties);
     void unregisterFlowActions(const QString& flowId, LuModelModuleInterface* module);
@@ -120,8 +124,8 @@ public:
 
     /// True while the present change of @p module, on the calling thread, comes from another function.
     bool isOtherFunctionTrigger(LuModelModuleInterface* module) const;
-    /// Marks (or unmarks) a module so that the next launch does not apply its values. Kept in the settings; the
-    /// module's next setting clears the mark.
+    /// Marks (or unmarks) a module so that the next launch does not apply its values. Kept in the settings;
+    /// the module's next setting clears the mark.
     void setSkipApplyValuesWithLaunchTime(LuModelModuleInterface* module, const bool& skip);
 
     /// Lets the module of that class name sync at once whenever @p sender emits @p signal. Pairs that are
@@ -135,7 +139,8 @@ public:
     Q_INVOKABLE bool openResolutionSettings();
     /// Opens the desktop's focus or do-not-disturb settings; false where the system has none.
     Q_INVOKABLE bool openFocusAssist();
-    /// Puts the current colour mode back to its factory values (VCP 0x08, MCCS 2.2), then reads everything back.
+    /// Puts the current colour mode back to its factory values (VCP 0x08, MCCS 2.2), then reads everything
+    /// back.
     Q_INVOKABLE void resetCurrentColorMode();
     Q_INVOKABLE void fireHdrChangedEvent(bool state, LuDataCollection::TriggerSource source);
 

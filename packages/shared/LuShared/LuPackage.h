@@ -23,7 +23,8 @@ public:
     /// The translator, loaded for the application's language at the first call.
     QObject* translator() override;
 
-    /// Folder of the package's QML module in the resources, without a slash in front: "TKPackage/qml/TKPackage".
+    /// Folder of the package's QML module in the resources, without a slash in front:
+    /// "TKPackage/qml/TKPackage".
     QString qmlBasePath() const;
 
 private:

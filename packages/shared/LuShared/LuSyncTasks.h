@@ -11,8 +11,8 @@
 
 /// The read-back steps of one module for one period.
 ///
-/// A module builds the list in syncPeriodically(); the sync engine takes the steps out and runs them in order, one at
-/// a time, on the model's queue. The list belongs to whoever called syncPeriodically().
+/// A module builds the list in syncPeriodically(); the sync engine takes the steps out and runs them in
+/// order, one at a time, on the model's queue. The list belongs to whoever called syncPeriodically().
 class LUSHARED_EXPORT LuSyncTasks : public QObject
 {
     Q_OBJECT
@@ -27,8 +27,8 @@ public:
     /// Appends one step.
     void addTask(std::function<void()> task);
 
-    /// Called from inside a running step: runs @p task to its end before returning, so that the step may read what
-    /// the sub-task left in the step's locals.
+    /// Called from inside a running step: runs @p task to its end before returning, so that the step may read
+    /// what the sub-task left in the step's locals.
     void addSubTask(std::function<void()> task);
 
     /// Number of steps.

@@ -30,8 +30,10 @@ class LUSHARED_EXPORT LuVCPNode : public VCPNode
     Q_PROPERTY(VCPNode::FunctionEnable hueEnable READ hueEnable CONSTANT)
     Q_PROPERTY(VCPNode::FunctionEnable gamutEnable READ gamutEnable CONSTANT)
     Q_PROPERTY(VCPNode::FunctionEnable uniformityEnable READ uniformityEnable CONSTANT)
-    Q_PROPERTY(VCPNode::FunctionEnable abPlusOnPresetColorTempEnable READ abPlusOnPresetColorTempEnable CONSTANT)
-    Q_PROPERTY(VCPNode::FunctionEnable abPlusOnCustomColorTempEnable READ abPlusOnCustomColorTempEnable CONSTANT)
+    Q_PROPERTY(
+        VCPNode::FunctionEnable abPlusOnPresetColorTempEnable READ abPlusOnPresetColorTempEnable CONSTANT)
+    Q_PROPERTY(
+        VCPNode::FunctionEnable abPlusOnCustomColorTempEnable READ abPlusOnCustomColorTempEnable CONSTANT)
     Q_PROPERTY(VCPNode::FunctionEnable blcOnBrightnessEnable READ blcOnBrightnessEnable CONSTANT)
     Q_PROPERTY(VCPNode::FunctionEnable blcOnContrastEnable READ blcOnContrastEnable CONSTANT)
     Q_PROPERTY(VCPNode::FunctionEnable appleColorSyncEnable READ appleColorSyncEnable CONSTANT)
@@ -39,8 +41,7 @@ class LUSHARED_EXPORT LuVCPNode : public VCPNode
 
 public:
     /// Gamma curves; the code of VCP 0x72 is chosen where the value is written.
-    enum Gamma
-    {
+    enum Gamma {
         Gamma_16,
         Gamma_18,
         Gamma_20,
@@ -52,8 +53,7 @@ public:
     };
     Q_ENUM(Gamma)
 
-    enum Gamut
-    {
+    enum Gamut {
         Gamut_Native,
         Gamut_sRGB,
         Gamut_Rec709,
@@ -63,8 +63,7 @@ public:
     };
     Q_ENUM(Gamut)
 
-    enum ColorTemperature
-    {
+    enum ColorTemperature {
         ColorTemperature_5000,
         ColorTemperature_6500,
         ColorTemperature_9300,
@@ -109,8 +108,7 @@ public:
     bool isHdr() const { return m_isHdr; }
 
 private:
-    enum Flag
-    {
+    enum Flag {
         Brightness,
         Contrast,
         Sharpness,

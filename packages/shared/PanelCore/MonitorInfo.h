@@ -12,8 +12,8 @@ class MonitorInfoPrivate;
 
 /// The host's handle of one connected monitor: who it is, and (for the host alone) the way to its bus.
 ///
-/// Handles are made by the host when a monitor appears and shared with the monitor's model. All functions may be
-/// called from any thread; the identity never changes during the handle's life.
+/// Handles are made by the host when a monitor appears and shared with the monitor's model. All functions may
+/// be called from any thread; the identity never changes during the handle's life.
 class PANELCORE_EXPORT MonitorInfo
 {
 public:
@@ -22,8 +22,8 @@ public:
     MonitorInfo(const MonitorInfo&) = delete;
     MonitorInfo& operator=(const MonitorInfo&) = delete;
 
-    /// Address of the monitor among the connected ones: model, "@", serial number; a twin that has no serial number
-    /// of its own carries "#2", "#3" behind it.
+    /// Address of the monitor among the connected ones: model, "@", serial number; a twin that has no serial
+    /// number of its own carries "#2", "#3" behind it.
     QString id() const;
 
     /// Model name as the monitor reports it in its EDID, such as "TK30Z".
@@ -41,7 +41,8 @@ public:
     /// Name of the QScreen that shows on this monitor; empty while none does.
     QString screenName() const;
 
-    /// The display system's own identifier of the output, such as an X11 RandR output name; empty where it has none.
+    /// The display system's own identifier of the output, such as an X11 RandR output name; empty where it
+    /// has none.
     QString nativeHandle() const;
 
 private:

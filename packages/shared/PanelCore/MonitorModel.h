@@ -14,9 +14,9 @@ class QScreen;
 
 /// The hardware side of a monitor's model: VCP access, the functions with standard codes, and the screen.
 ///
-/// Functions that reach the monitor (get..., set...) block for the transfer and the waits of DDC/CI. They are called
-/// from the model's queue; a call from another thread is safe and waits for the bus. They return false when the
-/// transfer failed, and an out argument is then untouched.
+/// Functions that reach the monitor (get..., set...) block for the transfer and the waits of DDC/CI. They are
+/// called from the model's queue; a call from another thread is safe and waits for the bus. They return false
+/// when the transfer failed, and an out argument is then untouched.
 class PANELCORE_EXPORT MonitorModel : public QObject
 {
     Q_OBJECT
@@ -44,11 +44,13 @@ public:
     /// Writes a VCP code and holds later accesses back as the delay table says.
     bool setVCP(int code, int value);
 
-    /// Hardware brightness, VCP 0x10 (MCCS 2.2), 0 to 100. The second argument of the setter is reserved, pass 0.
+    /// Hardware brightness, VCP 0x10 (MCCS 2.2), 0 to 100. The second argument of the setter is reserved,
+    /// pass 0.
     bool getBrightness(int& value);
     bool setBrightness(int value, int reserved);
 
-    /// Speaker volume, VCP 0x62 (MCCS 2.2), with the maximum that the monitor reports. Reserved argument: pass 0.
+    /// Speaker volume, VCP 0x62 (MCCS 2.2), with the maximum that the monitor reports. Reserved argument:
+    /// pass 0.
     bool getVolume(int& value, int& maximum);
     bool setVolume(int value, int reserved = 0);
 

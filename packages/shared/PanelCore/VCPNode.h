@@ -19,8 +19,7 @@ class PANELCORE_EXPORT VCPNode : public QObject
 
 public:
     /// What a node says of a function.
-    enum FunctionEnable
-    {
+    enum FunctionEnable {
         FunctionOff = 0,       ///< Written as "off".
         FunctionOn = 1,        ///< Written as "on".
         FunctionUndefined = 2, ///< Not written.
@@ -31,7 +30,8 @@ public:
             const QString& category);
     ~VCPNode() override;
 
-    /// Reads what the schema entry holds besides the constructor's arguments. Called once, after construction.
+    /// Reads what the schema entry holds besides the constructor's arguments. Called once, after
+    /// construction.
     virtual void loadExtraValues(const QXmlStreamAttributes& attributes);
 
     /// Value of the node on its VCP code, 0 to 255.

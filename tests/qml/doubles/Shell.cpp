@@ -58,7 +58,7 @@ Shell::Shell(const QList<FakeMonitor*>& monitors) : context(*LuContext::instance
     initResources();
     if (!previous)
         previous = qInstallMessageHandler(keepWarnings);
-    lumenQmlInit(&engine);
+    lumenQmlInit(&engine, {QStringLiteral("TKPackage")});
     static const bool registered = [] {
         if (qmlTypeId("LumenDesk", 1, 0, "LuVCPNode") < 0)
             qmlRegisterUncreatableType<FakeMode>("LumenDesk", 1, 0, "LuVCPNode", u"double"_s);

@@ -17,14 +17,16 @@ private Q_SLOTS:
 private:
     static ParsedOptions parse(const QString& line)
     {
-        return parseOptions(QStringList{QStringLiteral("lumen-desk")} + line.split(QLatin1Char(' '), Qt::SkipEmptyParts));
+        return parseOptions(QStringList{QStringLiteral("lumen-desk")} +
+                            line.split(QLatin1Char(' '), Qt::SkipEmptyParts));
     }
 };
 
 void TestOptions::everyOptionIsTaken()
 {
     const ParsedOptions parsed = parse(QStringLiteral(
-        "--headless --simulate TK30Z,TK20@A1 --ddc-timing fast --services simulated --control /x/c.sock --config-dir /c "
+        "--headless --simulate TK30Z,TK20@A1 --ddc-timing fast --services simulated --control /x/c.sock "
+        "--config-dir /c "
         "--data-dir /d --sync-period 100 --restore off --no-auto-sync --no-load-settings --state /s.json "
         "--schema-dir /tmp --environment /e.json --theme dark --page LuAutoPivotWidget"));
     QCOMPARE(parsed.outcome, ParsedOptions::Outcome::Run);
@@ -64,11 +66,15 @@ void TestOptions::wrongUseIsRefused_data()
     QTest::newRow("services") << QStringLiteral("--services none") << QStringLiteral("--services");
     QTest::newRow("restore") << QStringLiteral("--restore yes") << QStringLiteral("--restore");
     QTest::newRow("theme") << QStringLiteral("--theme blue") << QStringLiteral("--theme");
-    QTest::newRow("period of no number") << QStringLiteral("--sync-period soon") << QStringLiteral("--sync-period");
-    QTest::newRow("period of nothing") << QStringLiteral("--sync-period 0") << QStringLiteral("--sync-period");
+    QTest::newRow("period of no number")
+        << QStringLiteral("--sync-period soon") << QStringLiteral("--sync-period");
+    QTest::newRow("period of nothing")
+        << QStringLiteral("--sync-period 0") << QStringLiteral("--sync-period");
     QTest::newRow("missing value") << QStringLiteral("--control") << QStringLiteral("control");
-    QTest::newRow("folder that is not there") << QStringLiteral("--schema-dir /nowhere/at/all") << QStringLiteral("/nowhere/at/all");
-    QTest::newRow("picture without a window") << QStringLiteral("--headless --screenshot a.png") << QStringLiteral("--screenshot");
+    QTest::newRow("folder that is not there")
+        << QStringLiteral("--schema-dir /nowhere/at/all") << QStringLiteral("/nowhere/at/all");
+    QTest::newRow("picture without a window")
+        << QStringLiteral("--headless --screenshot a.png") << QStringLiteral("--screenshot");
 }
 
 void TestOptions::wrongUseIsRefused()

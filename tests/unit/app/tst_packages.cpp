@@ -67,7 +67,8 @@ void TestPackages::brokenAndForeignOnesAreRefusedAndTheRestRuns()
 void TestPackages::secondOneOfTheSameNameIsRefused()
 {
     QTemporaryDir folder;
-    QVERIFY(QFile::copy(QStringLiteral(PACKAGE_FOLDER "/libTKPackage-1.11.0.0.so"), folder.filePath(QStringLiteral("libTKPackage-1.10.0.0.so"))));
+    QVERIFY(QFile::copy(QStringLiteral(PACKAGE_FOLDER "/libTKPackage-1.11.0.0.so"),
+                        folder.filePath(QStringLiteral("libTKPackage-1.10.0.0.so"))));
     PackageLoader loader;
     loader.load({QStringLiteral(PACKAGE_FOLDER), folder.path()});
     QCOMPARE(loader.packages().size(), 1);

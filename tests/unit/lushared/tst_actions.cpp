@@ -54,9 +54,12 @@ void TestActions::registrationKeepsItsOrder()
     SimulatedBed bed;
     LuMonitorModel& model = bed.launch();
     LuModelModuleInterface* module = bed.module("LuKvmSwitch");
-    module->registerShortcutAction(LuShortcutAction::Kvm_LoopAllKvmSwitch, [](const QKeyEvent&) { return true; });
-    module->registerShortcutAction(LuShortcutAction::Input_SwitchtoHDMI, [](const QKeyEvent&) { return true; });
-    module->registerShortcutAction(LuShortcutAction::Kvm_LoopAllKvmSwitch, [](const QKeyEvent&) { return false; });
+    module->registerShortcutAction(LuShortcutAction::Kvm_LoopAllKvmSwitch,
+                                   [](const QKeyEvent&) { return true; });
+    module->registerShortcutAction(LuShortcutAction::Input_SwitchtoHDMI,
+                                   [](const QKeyEvent&) { return true; });
+    module->registerShortcutAction(LuShortcutAction::Kvm_LoopAllKvmSwitch,
+                                   [](const QKeyEvent&) { return false; });
     QCOMPARE(model.shortcutActions().size(), 2);
     QCOMPARE(model.shortcutActions().at(0)->name(), LuShortcutAction::Kvm_LoopAllKvmSwitch);
     QCOMPARE(model.shortcutActions().at(1)->name(), LuShortcutAction::Input_SwitchtoHDMI);
@@ -122,8 +125,10 @@ void TestActions::flowActionReplacesOneOfTheSameTitle()
     LuModelModuleInterface* module = bed.module("LuAiContrast");
     QSignalSpy registered(&model, &LuMonitorModel::flowActionRegistered);
     const QString flow = QStringLiteral("flow");
-    QVERIFY(model.registerFlowAction(flow, LuActionInterface::Volume, module, {{QStringLiteral("state"), true}}));
-    QVERIFY(model.registerFlowAction(flow, LuActionInterface::Volume, module, {{QStringLiteral("state"), false}}));
+    QVERIFY(
+        model.registerFlowAction(flow, LuActionInterface::Volume, module, {{QStringLiteral("state"), true}}));
+    QVERIFY(model.registerFlowAction(flow, LuActionInterface::Volume, module,
+                                     {{QStringLiteral("state"), false}}));
     QVERIFY(model.registerFlowAction(flow, LuActionInterface::EcoPrivacy, module, {}));
     QVERIFY(model.registerFlowAction(QStringLiteral("other"), LuActionInterface::Volume, module, {}));
     QCOMPARE(registered.count(), 4);
@@ -143,7 +148,8 @@ void TestActions::flowActionTriggersAsAnotherFunction()
     LuMonitorModel& model = bed.launch();
     QVERIFY(bed.idle());
     LuModelModuleInterface* module = bed.module("LuAiContrast");
-    QVERIFY(model.registerFlowAction(QStringLiteral("flow"), LuActionInterface::Volume, module, {{QStringLiteral("state"), true}}));
+    QVERIFY(model.registerFlowAction(QStringLiteral("flow"), LuActionInterface::Volume, module,
+                                     {{QStringLiteral("state"), true}}));
     QVERIFY(model.flowActions().first()->trigger());
     QVERIFY(!model.isOtherFunctionTrigger(module));
     QVERIFY(bed.idle());
@@ -156,7 +162,8 @@ void TestActions::flowActionOfAForeignModuleIsRefused()
     SimulatedBed two;
     one.launch();
     two.launch();
-    QVERIFY(!one.model().registerFlowAction(QStringLiteral("flow"), LuActionInterface::Volume, two.module("LuAiContrast"), {}));
+    QVERIFY(!one.model().registerFlowAction(QStringLiteral("flow"), LuActionInterface::Volume,
+                                            two.module("LuAiContrast"), {}));
     QVERIFY(one.idle());
 }
 
@@ -185,9 +192,12 @@ void TestActions::triggerNamesWhatIsWrong()
     bed.launch();
     QVERIFY(bed.idle());
     LuModelModuleInterface* module = bed.module("LuAiContrast");
-    QVERIFY(LuModelHost::trigger(module, {{QStringLiteral("nothing"), 1}}).contains(QStringLiteral("nothing")));
-    QVERIFY(LuModelHost::trigger(module, {{QStringLiteral("aiContrastEnable"), true}}).contains(QStringLiteral("aiContrastEnable")));
-    QVERIFY(LuModelHost::trigger(module, {{QStringLiteral("state"), QVariantList{1, 2}}}).contains(QStringLiteral("state")));
+    QVERIFY(
+        LuModelHost::trigger(module, {{QStringLiteral("nothing"), 1}}).contains(QStringLiteral("nothing")));
+    QVERIFY(LuModelHost::trigger(module, {{QStringLiteral("aiContrastEnable"), true}})
+                .contains(QStringLiteral("aiContrastEnable")));
+    QVERIFY(LuModelHost::trigger(module, {{QStringLiteral("state"), QVariantList{1, 2}}})
+                .contains(QStringLiteral("state")));
     bed.forget();
     QVERIFY(bed.idle());
     QCOMPARE(bed.wire(), QStringList());

@@ -65,9 +65,11 @@ void TestEvents::earlierRunIsFoundOnDisk()
     QTemporaryDir directory;
     QFile file(directory.filePath(QStringLiteral("events.jsonl")));
     QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("{\"seq\":7,\"run\":3,\"time\":\"2026-01-01T10:00:00.000\",\"monitor\":\"TK30Z@1\",\"module\":\"LuX\",\"action\":6,"
+    file.write("{\"seq\":7,\"run\":3,\"time\":\"2026-01-01T10:00:00.000\",\"monitor\":\"TK30Z@1\",\"module\":"
+               "\"LuX\",\"action\":6,"
                "\"source\":2,\"on\":false,\"parameters\":[\"90\"]}\n");
-    file.write("{\"seq\":2,\"run\":2,\"time\":\"2026-01-01T09:00:00.000\",\"monitor\":\"TK30Z@1\",\"module\":\"LuX\",\"action\":6,"
+    file.write("{\"seq\":2,\"run\":2,\"time\":\"2026-01-01T09:00:00.000\",\"monitor\":\"TK30Z@1\",\"module\":"
+               "\"LuX\",\"action\":6,"
                "\"source\":0,\"event\":\"x\",\"parameters\":[]}\n");
     file.close();
     LuEventLog& log = LuEventLog::instance();

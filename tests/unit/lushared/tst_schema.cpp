@@ -26,11 +26,11 @@ const QByteArray Schema = R"(<?xml version="1.0" encoding="UTF-8"?>
 class Reader : public LuModelModuleInterface
 {
 public:
-    using LuModelModuleInterface::LuModelModuleInterface;
     using LuModelModuleInterface::loadVCPFunctionOnOffByCategory;
     using LuModelModuleInterface::loadVCPFunctionsOnOffByCategory;
     using LuModelModuleInterface::loadVCPFunctionStringByCategory;
     using LuModelModuleInterface::loadVCPFunctionValueByCategory;
+    using LuModelModuleInterface::LuModelModuleInterface;
     void readSchema(const QByteArray&) override {}
     LuSyncTasks* syncPeriodically() override { return nullptr; }
 };
@@ -101,10 +101,11 @@ void TestSchema::numberByCategory()
 void TestSchema::damageYieldsWhatStandsInFront()
 {
     int entries = 0;
-    const QString problem = LuSchemaReader::forEachEntry(Schema.left(Schema.indexOf("2.0")), [&entries](const auto&) {
-        ++entries;
-        return true;
-    });
+    const QString problem =
+        LuSchemaReader::forEachEntry(Schema.left(Schema.indexOf("2.0")), [&entries](const auto&) {
+            ++entries;
+            return true;
+        });
     QCOMPARE(entries, 3);
     QVERIFY(problem.startsWith(QStringLiteral("line 6")));
 }

@@ -83,10 +83,12 @@ void TestSettings::typedValuesComeBackAsTheyWere()
 {
     const QString folder = freshFolder();
     QVERIFY(LuSettings::instance().open(folder));
-    const QVariantList list{QVariantMap{{QStringLiteral("start"), QTime(22, 0)}, {QStringLiteral("days"), QVariantList{true, false}}}};
+    const QVariantList list{QVariantMap{{QStringLiteral("start"), QTime(22, 0)},
+                                        {QStringLiteral("days"), QVariantList{true, false}}}};
     LuSettings::instance().setValue(QStringLiteral("list"), list);
     QVERIFY(LuSettings::instance().flush());
-    const QVariant read = QSettings(LuSettings::instance().fileName(), QSettings::IniFormat).value(QStringLiteral("list"));
+    const QVariant read =
+        QSettings(LuSettings::instance().fileName(), QSettings::IniFormat).value(QStringLiteral("list"));
     QCOMPARE(read.toList(), list);
 }
 
@@ -126,7 +128,8 @@ void TestSettings::damagedFileIsKeptAside()
     file.close();
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("is damaged; kept as .*damaged-")));
     QVERIFY(LuSettings::instance().open(folder));
-    const QStringList aside = QDir(folder + QStringLiteral("/lumen-desk")).entryList({QStringLiteral("*.damaged-*")});
+    const QStringList aside =
+        QDir(folder + QStringLiteral("/lumen-desk")).entryList({QStringLiteral("*.damaged-*")});
     QCOMPARE(aside.size(), 1);
     QFile kept(folder + QStringLiteral("/lumen-desk/") + aside.first());
     QVERIFY(kept.open(QIODevice::ReadOnly));
@@ -142,9 +145,11 @@ void TestSettings::folderThatCannotBeWrittenIsTold()
     QFile file(folder);
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.close();
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("cannot write to .* - changes last until")));
+    QTest::ignoreMessage(QtWarningMsg,
+                         QRegularExpression(QStringLiteral("cannot write to .* - changes last until")));
     QVERIFY(!LuSettings::instance().open(folder));
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("cannot write .* - changes last until")));
+    QTest::ignoreMessage(QtWarningMsg,
+                         QRegularExpression(QStringLiteral("cannot write .* - changes last until")));
     LuSettings::instance().setValue(QStringLiteral("a"), 5);
     QVERIFY(!LuSettings::instance().flush());
     QCOMPARE(LuSettings::instance().value(QStringLiteral("a")).toInt(), 5);
@@ -163,7 +168,8 @@ void TestSettings::killedProcessLeavesAWholeFile()
     QSettings left(folder + QStringLiteral("/lumen-desk/lumen-desk.ini"), QSettings::IniFormat);
     QCOMPARE(left.status(), QSettings::NoError);
     QVERIFY(left.contains(QStringLiteral("M/key0")));
-    QVERIFY(QDir(folder + QStringLiteral("/lumen-desk")).entryList({QStringLiteral("*.damaged-*")}).isEmpty());
+    QVERIFY(
+        QDir(folder + QStringLiteral("/lumen-desk")).entryList({QStringLiteral("*.damaged-*")}).isEmpty());
 }
 
 QTEST_GUILESS_MAIN(TestSettings)

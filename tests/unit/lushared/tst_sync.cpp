@@ -136,13 +136,20 @@ void TestSync::subTaskHasRunWhenItReturns()
     tasks.addTask([&] {
         int found = 0;
         order.append(QStringLiteral("step"));
-        tasks.addSubTask([&] { found = 1; order.append(QStringLiteral("first")); });
-        tasks.addSubTask([&] { found += 10; order.append(QStringLiteral("second")); });
+        tasks.addSubTask([&] {
+            found = 1;
+            order.append(QStringLiteral("first"));
+        });
+        tasks.addSubTask([&] {
+            found += 10;
+            order.append(QStringLiteral("second"));
+        });
         order.append(QString::number(found));
     });
     for (const auto& step : tasks.takeTasks())
         step();
-    QCOMPARE(order, (QStringList{QStringLiteral("step"), QStringLiteral("first"), QStringLiteral("second"), QStringLiteral("11")}));
+    QCOMPARE(order, (QStringList{QStringLiteral("step"), QStringLiteral("first"), QStringLiteral("second"),
+                                 QStringLiteral("11")}));
 }
 
 void TestSync::listHandsItsStepsOver()

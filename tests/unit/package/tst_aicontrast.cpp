@@ -9,7 +9,8 @@ namespace {
 constexpr const char* Module = "LuAiContrast";
 constexpr int ContrastCode = 0xF3;
 
-/// A colour mode keeps the bus for half a second, and a second one waits for it: what comes meanwhile waits as well.
+/// A colour mode keeps the bus for half a second, and a second one waits for it: what comes meanwhile waits
+/// as well.
 void occupyQueue(SimulatedBed& bed)
 {
     LuMonitorModel& model = bed.model();
@@ -148,7 +149,8 @@ void TestAiContrast::lastWordWinsWhileTheQueueIsBusy()
     bed.set(Module, "state", !target);
     bed.set(Module, "state", target);
     QVERIFY(bed.idle());
-    QCOMPARE(bed.wire().filter(QStringLiteral("set 0xF3")), QStringList{QStringLiteral("set 0xF3 %1").arg(int(target))});
+    QCOMPARE(bed.wire().filter(QStringLiteral("set 0xF3")),
+             QStringList{QStringLiteral("set 0xF3 %1").arg(int(target))});
     QCOMPARE(bed.get(Module, "state").toBool(), target);
 }
 
@@ -178,8 +180,9 @@ void TestAiContrast::monitorsChangeIsTakenStoredAndLogged()
     QCOMPARE(bed.wire(), QStringList{QStringLiteral("get 0xF3 1")});
     QCOMPARE(bed.get(Module, "state").toBool(), true);
     QCOMPARE(bed.setting(QStringLiteral("LuAiContrast/state")).toBool(), true);
-    QCOMPARE(bed.log(), (QStringList{QStringLiteral("[LuAiContrast] sync: \"TK30Z\""),
-                                     QStringLiteral("[LuAiContrast] sync LuAiContrast state changed: true")}));
+    QCOMPARE(bed.log(),
+             (QStringList{QStringLiteral("[LuAiContrast] sync: \"TK30Z\""),
+                          QStringLiteral("[LuAiContrast] sync LuAiContrast state changed: true")}));
     QCOMPARE(spy.count(), 1);
     QCOMPARE(bed.events(), QStringList());
     QVERIFY(bed.sync(Module));

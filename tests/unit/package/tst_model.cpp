@@ -18,27 +18,50 @@
 namespace {
 
 const QStringList ConstructionOrder{
-    QStringLiteral("LuAiContrast"),    QStringLiteral("LuApplicationMode"), QStringLiteral("LuAutoPivot"),
-    QStringLiteral("LuBackLight"),     QStringLiteral("LuABPlus"),          QStringLiteral("LuABSetting"),
-    QStringLiteral("LuBrightness"),    QStringLiteral("LuColorWeakness"),   QStringLiteral("LuDaisyChain"),
-    QStringLiteral("LuDirectSearch"),  QStringLiteral("LuDpiScaling"),      QStringLiteral("LuDualView"),
-    QStringLiteral("LuEcoPrivacy"),    QStringLiteral("LuHidpi"),           QStringLiteral("LuInputSource"),
-    QStringLiteral("LuKvmSwitch"),     QStringLiteral("LuLowBlueLight"),    QStringLiteral("LuNightProtection"),
-    QStringLiteral("LuPartition"),     QStringLiteral("LuPipPbp"),          QStringLiteral("LuSmartKvmBasic"),
-    QStringLiteral("LuResolution"),    QStringLiteral("LuVolume"),          QStringLiteral("LuMultiMonitorSync"),
-    QStringLiteral("LuOsdSetting"),    QStringLiteral("LuFlow"),            QStringLiteral("LuShortcuts"),
+    QStringLiteral("LuAiContrast"),    QStringLiteral("LuApplicationMode"),
+    QStringLiteral("LuAutoPivot"),     QStringLiteral("LuBackLight"),
+    QStringLiteral("LuABPlus"),        QStringLiteral("LuABSetting"),
+    QStringLiteral("LuBrightness"),    QStringLiteral("LuColorWeakness"),
+    QStringLiteral("LuDaisyChain"),    QStringLiteral("LuDirectSearch"),
+    QStringLiteral("LuDpiScaling"),    QStringLiteral("LuDualView"),
+    QStringLiteral("LuEcoPrivacy"),    QStringLiteral("LuHidpi"),
+    QStringLiteral("LuInputSource"),   QStringLiteral("LuKvmSwitch"),
+    QStringLiteral("LuLowBlueLight"),  QStringLiteral("LuNightProtection"),
+    QStringLiteral("LuPartition"),     QStringLiteral("LuPipPbp"),
+    QStringLiteral("LuSmartKvmBasic"), QStringLiteral("LuResolution"),
+    QStringLiteral("LuVolume"),        QStringLiteral("LuMultiMonitorSync"),
+    QStringLiteral("LuOsdSetting"),    QStringLiteral("LuFlow"),
+    QStringLiteral("LuShortcuts"),
 };
 
 const QStringList PropertyOrder{
-    QStringLiteral("aiContrast"),   QStringLiteral("applicationMode"), QStringLiteral("autoPivot"),
-    QStringLiteral("backLight"),    QStringLiteral("abPlus"),          QStringLiteral("abSetting"),
-    QStringLiteral("brightness"),   QStringLiteral("colorWeakness"),   QStringLiteral("daisyChain"),
-    QStringLiteral("directSearch"), QStringLiteral("dpiScaling"),      QStringLiteral("dualView"),
-    QStringLiteral("ecoPrivacy"),   QStringLiteral("flow"),            QStringLiteral("hidpi"),
-    QStringLiteral("inputSource"),  QStringLiteral("kvmSwitch"),       QStringLiteral("lowBlueLight"),
-    QStringLiteral("multiMonitorSync"), QStringLiteral("nightProtection"), QStringLiteral("osdSetting"),
-    QStringLiteral("partition"),    QStringLiteral("pipPbp"),          QStringLiteral("shortcuts"),
-    QStringLiteral("smartKvmBasic"), QStringLiteral("resolution"),     QStringLiteral("volume"),
+    QStringLiteral("aiContrast"),
+    QStringLiteral("applicationMode"),
+    QStringLiteral("autoPivot"),
+    QStringLiteral("backLight"),
+    QStringLiteral("abPlus"),
+    QStringLiteral("abSetting"),
+    QStringLiteral("brightness"),
+    QStringLiteral("colorWeakness"),
+    QStringLiteral("daisyChain"),
+    QStringLiteral("directSearch"),
+    QStringLiteral("dpiScaling"),
+    QStringLiteral("dualView"),
+    QStringLiteral("ecoPrivacy"),
+    QStringLiteral("flow"),
+    QStringLiteral("hidpi"),
+    QStringLiteral("inputSource"),
+    QStringLiteral("kvmSwitch"),
+    QStringLiteral("lowBlueLight"),
+    QStringLiteral("multiMonitorSync"),
+    QStringLiteral("nightProtection"),
+    QStringLiteral("osdSetting"),
+    QStringLiteral("partition"),
+    QStringLiteral("pipPbp"),
+    QStringLiteral("shortcuts"),
+    QStringLiteral("smartKvmBasic"),
+    QStringLiteral("resolution"),
+    QStringLiteral("volume"),
 };
 
 } // namespace
@@ -138,10 +161,11 @@ void TestModel::modesOfTheSchemaBecomeNodes()
     QStringList names;
     for (const LuVCPNode* node : model.colorModeList())
         names.append(QStringLiteral("%1 %2").arg(node->code(), 0, 16).arg(node->displayName()));
-    QCOMPARE(names, (QStringList{QStringLiteral("31 Coding - Light Theme"), QStringLiteral("30 Coding - Dark Theme"),
-                                 QStringLiteral("3a Coding - Paper Color"), QStringLiteral("f M-book"),
-                                 QStringLiteral("32 Cinema"), QStringLiteral("28 Game"), QStringLiteral("1f ePaper"),
-                                 QStringLiteral("a sRGB"), QStringLiteral("12 User"), QStringLiteral("23 HDR")}));
+    QCOMPARE(names,
+             (QStringList{QStringLiteral("31 Coding - Light Theme"), QStringLiteral("30 Coding - Dark Theme"),
+                          QStringLiteral("3a Coding - Paper Color"), QStringLiteral("f M-book"),
+                          QStringLiteral("32 Cinema"), QStringLiteral("28 Game"), QStringLiteral("1f ePaper"),
+                          QStringLiteral("a sRGB"), QStringLiteral("12 User"), QStringLiteral("23 HDR")}));
     QCOMPARE(model.getColorModeByName(QStringLiteral("Cinema"))->code(), 0x32);
     QVERIFY(!model.getColorModeByName(QStringLiteral("cinema")));
     QVERIFY(bed.idle());
@@ -317,19 +341,24 @@ void TestModel::damagedSchemaIsNoSupport_data()
     QTest::addColumn<QByteArray>("features");
     QTest::addColumn<bool>("supported");
     QTest::addColumn<bool>("contrast");
-    const QByteArray mode = "<VCPcode Type=\"User\" Name=\"User\" Category=\"Picture Mode\" Code=\"0x12\" SHCode=\"0x00\" "
-                            "AiContrastEnable=\"on\"/>";
-    const QByteArray feature = "<VCPcode Type=\"AiContrast\" Name=\"AiContrast\" Category=\"AiContrast\" Value=\"on\"/>";
+    const QByteArray mode =
+        "<VCPcode Type=\"User\" Name=\"User\" Category=\"Picture Mode\" Code=\"0x12\" SHCode=\"0x00\" "
+        "AiContrastEnable=\"on\"/>";
+    const QByteArray feature =
+        "<VCPcode Type=\"AiContrast\" Name=\"AiContrast\" Category=\"AiContrast\" Value=\"on\"/>";
     const QByteArray goodModes = "<VCPTree><VCPList>" + mode + "</VCPList></VCPTree>";
     const QByteArray goodFeatures = "<VCPTree><VCPList>" + feature + "</VCPList></VCPTree>";
     QTest::newRow("both sound") << goodModes << goodFeatures << true << true;
     QTest::newRow("modes cut") << QByteArray("<VCPTree><VCPList>" + mode) << goodFeatures << false << false;
     QTest::newRow("modes empty") << QByteArray() << goodFeatures << false << false;
     QTest::newRow("modes without an entry") << QByteArray("<VCPTree/>") << goodFeatures << false << false;
-    QTest::newRow("code that is no byte") << QByteArray(goodModes).replace("0x12", "0x123") << goodFeatures << false << false;
+    QTest::newRow("code that is no byte")
+        << QByteArray(goodModes).replace("0x12", "0x123") << goodFeatures << false << false;
     QTest::newRow("binary") << QByteArray(200, '\xff') << goodFeatures << false << false;
-    QTest::newRow("features cut behind the entry") << goodModes << QByteArray("<VCPTree><VCPList>" + feature) << true << true;
-    QTest::newRow("features damaged in front of the entry") << goodModes << QByteArray("<VCPTree><" + feature) << true << false;
+    QTest::newRow("features cut behind the entry")
+        << goodModes << QByteArray("<VCPTree><VCPList>" + feature) << true << true;
+    QTest::newRow("features damaged in front of the entry")
+        << goodModes << QByteArray("<VCPTree><" + feature) << true << false;
     QTest::newRow("features empty") << goodModes << QByteArray() << true << false;
 }
 
@@ -353,7 +382,10 @@ void TestModel::damagedSchemaIsNoSupport()
     QCOMPARE(bed.get("LuAiContrast", "aiContrastEnable").toBool(), contrast);
     QVERIFY(bed.idle());
     if (!supported || !contrast)
-        QVERIFY(!bed.log().filter(QStringLiteral("[LuMonitorModel]")).filter(QRegularExpression(QStringLiteral("damage|left out|without a colour mode"))).isEmpty());
+        QVERIFY(!bed.log()
+                     .filter(QStringLiteral("[LuMonitorModel]"))
+                     .filter(QRegularExpression(QStringLiteral("damage|left out|without a colour mode")))
+                     .isEmpty());
 }
 
 void TestModel::settingTheModeWritesAndEmits()
@@ -436,7 +468,8 @@ void TestModel::delayTableHoldsBackEveryAccess()
     const QList<sim::TrafficEntry> traffic = bed.monitor().traffic(seen);
     QVERIFY(traffic.size() >= 2);
     QCOMPARE(int(traffic.at(0).code), 0xDC);
-    QVERIFY2(traffic.at(1).ms - traffic.at(0).ms >= 500.0, qPrintable(QString::number(traffic.at(1).ms - traffic.at(0).ms)));
+    QVERIFY2(traffic.at(1).ms - traffic.at(0).ms >= 500.0,
+             qPrintable(QString::number(traffic.at(1).ms - traffic.at(0).ms)));
     QCOMPARE(bed.monitor().violations().total(), 0);
 }
 

@@ -36,8 +36,8 @@ private:
 void TestPlugin::exportsExactlyThreeSymbols()
 {
     QProcess nm;
-    nm.start(QStringLiteral("nm"), {QStringLiteral("-D"), QStringLiteral("--defined-only"), QStringLiteral("-C"),
-                                    TestBed::packageFile()});
+    nm.start(QStringLiteral("nm"), {QStringLiteral("-D"), QStringLiteral("--defined-only"),
+                                    QStringLiteral("-C"), TestBed::packageFile()});
     QVERIFY(nm.waitForFinished());
     QStringList symbols;
     const QList<QByteArray> lines = nm.readAllStandardOutput().split('\n');
@@ -47,14 +47,16 @@ void TestPlugin::exportsExactlyThreeSymbols()
             symbols.append(QString::fromLatin1(name));
     }
     symbols.sort();
-    QCOMPARE(symbols, (QStringList{QStringLiteral("qml_register_types_TKPackage()"), QStringLiteral("qt_plugin_instance"),
+    QCOMPARE(symbols, (QStringList{QStringLiteral("qml_register_types_TKPackage()"),
+                                   QStringLiteral("qt_plugin_instance"),
                                    QStringLiteral("qt_plugin_query_metadata_v2")}));
 }
 
 void TestPlugin::metadataNamesInterfaceAndClass()
 {
     const QJsonObject metaData = QPluginLoader(TestBed::packageFile()).metaData();
-    QCOMPARE(metaData.value(QLatin1String("IID")).toString(), QStringLiteral("com.orvane.lupackagesinterface/1.10"));
+    QCOMPARE(metaData.value(QLatin1String("IID")).toString(),
+             QStringLiteral("com.orvane.lupackagesinterface/1.10"));
     QCOMPARE(metaData.value(QLatin1String("className")).toString(), QStringLiteral("TKPackage"));
     bool found = false;
     const QList<QStaticPlugin> plugins = QPluginLoader::staticPlugins();
@@ -83,8 +85,9 @@ void TestPlugin::instanceIsTheSameEachTime()
 void TestPlugin::supportedModelsAreSevenInOrder()
 {
     QCOMPARE(package()->supportedModels(),
-             (QStringList{QStringLiteral("TK10"), QStringLiteral("TK20"), QStringLiteral("TK30"), QStringLiteral("TK30X"),
-                          QStringLiteral("TK30Z"), QStringLiteral("TK40"), QStringLiteral("TK40X")}));
+             (QStringList{QStringLiteral("TK10"), QStringLiteral("TK20"), QStringLiteral("TK30"),
+                          QStringLiteral("TK30X"), QStringLiteral("TK30Z"), QStringLiteral("TK40"),
+                          QStringLiteral("TK40X")}));
 }
 
 void TestPlugin::listsKeepTheirOrder()
@@ -108,20 +111,34 @@ void TestPlugin::nameIsThatOfTheTranslations()
 void TestPlugin::widgetUrlsStandBelowTheModule()
 {
     static const QStringList names{
-        QStringLiteral("LuVolumeWidget"),          QStringLiteral("LuBrightnessWidget"),
-        QStringLiteral("LuBuiltInBrightnessWidget"), QStringLiteral("LuResolutionWidget"),
-        QStringLiteral("LuDpiScalingWidget"),      QStringLiteral("LuBackLightWidget"),
-        QStringLiteral("LuNightProtectionWidget"), QStringLiteral("LuABPlusWidget"),
-        QStringLiteral("LuABSettingWidget"),       QStringLiteral("LuLowBlueLightWidget"),
-        QStringLiteral("LuEcoPrivacyWidget"),      QStringLiteral("LuAutoPivotWidget"),
-        QStringLiteral("LuPivotWidget"),           QStringLiteral("LuDaisyChainWidget"),
-        QStringLiteral("LuPartitionWidget"),       QStringLiteral("LuShortcutsWidget"),
-        QStringLiteral("LuHDRWidget"),             QStringLiteral("LuHiDPIWidget"),
-        QStringLiteral("LuColorWeaknessWidget"),   QStringLiteral("LuPIPPBPWidget"),
-        QStringLiteral("LuDualViewPlusWidget"),    QStringLiteral("LuFlowWidget"),
-        QStringLiteral("LuAiContrastWidget"),      QStringLiteral("LuMultiMonitorSyncWidget"),
-        QStringLiteral("LuSmartKvmBasicWidget"),   QStringLiteral("LuInputSourceWidget"),
-        QStringLiteral("LuDirectSearchWidget"),    QStringLiteral("LuFocusAssistWidget"),
+        QStringLiteral("LuVolumeWidget"),
+        QStringLiteral("LuBrightnessWidget"),
+        QStringLiteral("LuBuiltInBrightnessWidget"),
+        QStringLiteral("LuResolutionWidget"),
+        QStringLiteral("LuDpiScalingWidget"),
+        QStringLiteral("LuBackLightWidget"),
+        QStringLiteral("LuNightProtectionWidget"),
+        QStringLiteral("LuABPlusWidget"),
+        QStringLiteral("LuABSettingWidget"),
+        QStringLiteral("LuLowBlueLightWidget"),
+        QStringLiteral("LuEcoPrivacyWidget"),
+        QStringLiteral("LuAutoPivotWidget"),
+        QStringLiteral("LuPivotWidget"),
+        QStringLiteral("LuDaisyChainWidget"),
+        QStringLiteral("LuPartitionWidget"),
+        QStringLiteral("LuShortcutsWidget"),
+        QStringLiteral("LuHDRWidget"),
+        QStringLiteral("LuHiDPIWidget"),
+        QStringLiteral("LuColorWeaknessWidget"),
+        QStringLiteral("LuPIPPBPWidget"),
+        QStringLiteral("LuDualViewPlusWidget"),
+        QStringLiteral("LuFlowWidget"),
+        QStringLiteral("LuAiContrastWidget"),
+        QStringLiteral("LuMultiMonitorSyncWidget"),
+        QStringLiteral("LuSmartKvmBasicWidget"),
+        QStringLiteral("LuInputSourceWidget"),
+        QStringLiteral("LuDirectSearchWidget"),
+        QStringLiteral("LuFocusAssistWidget"),
     };
     QStringList expected;
     for (const QString& name : names)
@@ -146,19 +163,22 @@ void TestPlugin::resourcesStandInTheirFolders_data()
     QTest::addColumn<QString>("path");
     for (const QString& model : package()->supportedModels()) {
         QTest::newRow(qPrintable(model)) << QStringLiteral(":/schema/model/%1.xml").arg(model);
-        QTest::newRow(qPrintable(model + QStringLiteral(" features"))) << QStringLiteral(":/schema/model/%1_ext.xml").arg(model);
+        QTest::newRow(qPrintable(model + QStringLiteral(" features")))
+            << QStringLiteral(":/schema/model/%1_ext.xml").arg(model);
     }
     for (const char* path :
          {":/schema/TK_vcpDelay.xml", ":/schema/osdSetting/TK20_osd.xml", ":/schema/osdSetting/TK30Z_osd.xml",
           ":/TKPackage/schema/TKDefaultShortcuts.xml", ":/TKPackage/schema/ZQDefaultShortcuts.xml",
           ":/TKPackage/schema/FNDefaultShortcuts.xml", ":/TKPackage/schema/YHDefaultShortcuts.xml",
           ":/TKPackage/schema/Resolutions.xml", ":/TKPackage/qml/TKPackage/qmldir",
-          ":/TKPackage/images/packages/btn_aicontrast.svg", ":/TKPackage/images/packages/btn_aicontrast_active.svg",
+          ":/TKPackage/images/packages/btn_aicontrast.svg",
+          ":/TKPackage/images/packages/btn_aicontrast_active.svg",
           ":/TKPackage/images/packages/+dark/btn_aicontrast.svg"})
         QTest::newRow(path) << QString::fromLatin1(path);
-    for (const char* language : {"cs", "de", "en", "es", "fr", "hr", "hu", "it", "ja", "ko", "nl", "pl", "pt", "ro", "ru",
-                                 "sv", "zh", "zh_TW"})
-        QTest::newRow(language) << QStringLiteral(":/TKPackage/translations/TKPackage_%1.qm").arg(QLatin1String(language));
+    for (const char* language : {"cs", "de", "en", "es", "fr", "hr", "hu", "it", "ja", "ko", "nl", "pl", "pt",
+                                 "ro", "ru", "sv", "zh", "zh_TW"})
+        QTest::newRow(language)
+            << QStringLiteral(":/TKPackage/translations/TKPackage_%1.qm").arg(QLatin1String(language));
 }
 
 void TestPlugin::resourcesStandInTheirFolders()
@@ -174,11 +194,12 @@ void TestPlugin::qmldirNamesTheModule()
     QFile file(QStringLiteral(":/TKPackage/qml/TKPackage/qmldir"));
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QStringList lines = QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-    QCOMPARE(lines.mid(0, 6), (QStringList{QStringLiteral("module TKPackage"), QStringLiteral("linktarget TKPackage_Qml"),
-                                           QStringLiteral("optional plugin TKPackage_Qml"),
-                                           QStringLiteral("classname TKPackagePlugin"),
-                                           QStringLiteral("typeinfo TKPackage_Qml.qmltypes"),
-                                           QStringLiteral("prefer :/TKPackage/qml/TKPackage/")}));
+    QCOMPARE(lines.mid(0, 6),
+             (QStringList{QStringLiteral("module TKPackage"), QStringLiteral("linktarget TKPackage_Qml"),
+                          QStringLiteral("optional plugin TKPackage_Qml"),
+                          QStringLiteral("classname TKPackagePlugin"),
+                          QStringLiteral("typeinfo TKPackage_Qml.qmltypes"),
+                          QStringLiteral("prefer :/TKPackage/qml/TKPackage/")}));
     for (const QString& line : lines.mid(6)) {
         const QStringList parts = line.split(QLatin1Char(' '));
         QCOMPARE(parts.size(), 3);

@@ -30,7 +30,8 @@ bool isTransient(const QMetaProperty& property)
     return QLatin1String(property.name()) == QLatin1String("syncEnable");
 }
 
-/// What a restart is to bring back, by module and property; what else is writable is told in the module's own tests.
+/// What a restart is to bring back, by module and property; what else is writable is told in the module's own
+/// tests.
 bool survivesRestart(const QString& module, const QMetaProperty& property)
 {
     // The monitor holds the state of local contrast: see its own test.
@@ -66,7 +67,8 @@ void TestProperties::rows()
         const QMetaObject* meta = module->metaObject();
         for (int i = QObject::staticMetaObject.propertyCount(); i < meta->propertyCount(); ++i) {
             const QString name = LuUtils::className(module);
-            QTest::newRow(qPrintable(name + QLatin1Char('.') + QLatin1String(meta->property(i).name()))) << name << i;
+            QTest::newRow(qPrintable(name + QLatin1Char('.') + QLatin1String(meta->property(i).name())))
+                << name << i;
         }
     }
     waitForRest();

@@ -8,8 +8,8 @@
 
 /// The monitor's adaptive contrast, on VCP 0xF3 (1 on, 0 off), where the colour mode allows it.
 ///
-/// What a user sets here is written to the monitor alone. The setting follows only what the monitor reports, so that
-/// the next launch restores the monitor's own state.
+/// What a user sets here is written to the monitor alone. The setting follows only what the monitor reports,
+/// so that the next launch restores the monitor's own state.
 class LuAiContrast : public LuModelModuleInterface
 {
     Q_OBJECT
@@ -21,8 +21,7 @@ class LuAiContrast : public LuModelModuleInterface
 
 public:
     /// Name under which the panel shows the feature.
-    enum AiContrastDisplayNameType
-    {
+    enum AiContrastDisplayNameType {
         NameAiContrast = 1,
         NameLocalContrast = 2,
     };

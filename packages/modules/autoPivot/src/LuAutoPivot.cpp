@@ -67,7 +67,8 @@ void LuAutoPivot::applyValues()
     Q_EMIT currentPivotChanged();
     Q_EMIT isLandscapeChanged();
     Q_EMIT stateChanged();
-    fireOnOffEvent(LuDataCollection::ACT_AUTO_PIVOT, m_state, LuDataCollection::SOURCE_LAUNCH, eventParameters());
+    fireOnOffEvent(LuDataCollection::ACT_AUTO_PIVOT, m_state, LuDataCollection::SOURCE_LAUNCH,
+                   eventParameters());
 }
 
 void LuAutoPivot::setState(bool state)

@@ -6,8 +6,8 @@
 
 #include <QtQml/qqmlregistration.h>
 
-/// Keeps the desktop's rotation in step with the turn of the monitor, which its sensor reports on VCP 0xAA; on every
-/// model it mirrors the desktop's rotation and lets the user choose one.
+/// Keeps the desktop's rotation in step with the turn of the monitor, which its sensor reports on VCP 0xAA;
+/// on every model it mirrors the desktop's rotation and lets the user choose one.
 class LuAutoPivot : public LuModelModuleInterface
 {
     Q_OBJECT
@@ -20,8 +20,7 @@ class LuAutoPivot : public LuModelModuleInterface
 
 public:
     /// What the sensor reports. It never reports 180 degrees: that rotation is only the user's choice.
-    enum PivotStatus
-    {
+    enum PivotStatus {
         PivotHorizontal = 1,
         PivotVertical = 2,
         PivotReverseVertical = 3,

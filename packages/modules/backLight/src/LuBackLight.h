@@ -7,8 +7,8 @@
 
 /// The lighting on the back of the monitor.
 ///
-/// The monitor carries this object so that panels and scripts find it; without the feature it stays inactive: it sends
-/// nothing to the monitor, keeps no setting and reports no event.
+/// The monitor carries this object so that panels and scripts find it; without the feature it stays inactive:
+/// it sends nothing to the monitor, keeps no setting and reports no event.
 class LuBackLight : public LuModelModuleInterface
 {
     Q_OBJECT

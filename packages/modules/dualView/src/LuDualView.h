@@ -7,8 +7,8 @@
 
 /// Two colour modes side by side.
 ///
-/// The monitor carries this object so that panels and scripts find it; without the feature it stays inactive: it sends
-/// nothing to the monitor, keeps no setting and reports no event.
+/// The monitor carries this object so that panels and scripts find it; without the feature it stays inactive:
+/// it sends nothing to the monitor, keeps no setting and reports no event.
 class LuDualView : public LuModelModuleInterface
 {
     Q_OBJECT

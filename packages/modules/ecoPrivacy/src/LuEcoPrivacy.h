@@ -7,8 +7,8 @@
 
 /// Dims the monitor while nobody sits in front of it.
 ///
-/// The monitor carries this object so that panels and scripts find it; without the feature it stays inactive: it sends
-/// nothing to the monitor, keeps no setting and reports no event.
+/// The monitor carries this object so that panels and scripts find it; without the feature it stays inactive:
+/// it sends nothing to the monitor, keeps no setting and reports no event.
 class LuEcoPrivacy : public LuModelModuleInterface
 {
     Q_OBJECT

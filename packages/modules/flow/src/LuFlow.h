@@ -7,8 +7,8 @@
 
 /// Scenarios with a schedule and actions.
 ///
-/// The monitor carries this object so that panels and scripts find it; without the feature it stays inactive: it sends
-/// nothing to the monitor, keeps no setting and reports no event.
+/// The monitor carries this object so that panels and scripts find it; without the feature it stays inactive:
+/// it sends nothing to the monitor, keeps no setting and reports no event.
 class LuFlow : public LuModelModuleInterface
 {
     Q_OBJECT

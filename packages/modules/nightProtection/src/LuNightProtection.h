@@ -7,8 +7,8 @@
 
 /// Softens the picture in a dark room.
 ///
-/// The monitor carries this object so that panels and scripts find it; without the feature it stays inactive: it sends
-/// nothing to the monitor, keeps no setting and reports no event.
+/// The monitor carries this object so that panels and scripts find it; without the feature it stays inactive:
+/// it sends nothing to the monitor, keeps no setting and reports no event.
 class LuNightProtection : public LuModelModuleInterface
 {
     Q_OBJECT

@@ -7,8 +7,8 @@
 
 /// The settings of the monitor's own menu.
 ///
-/// The monitor carries this object so that panels and scripts find it; without the feature it stays inactive: it sends
-/// nothing to the monitor, keeps no setting and reports no event.
+/// The monitor carries this object so that panels and scripts find it; without the feature it stays inactive:
+/// it sends nothing to the monitor, keeps no setting and reports no event.
 class LuOsdSetting : public LuModelModuleInterface
 {
     Q_OBJECT

@@ -9,8 +9,8 @@ class LuInputSource;
 
 /// Several inputs in one picture.
 ///
-/// The monitor carries this object so that panels and scripts find it; without the feature it stays inactive: it sends
-/// nothing to the monitor, keeps no setting and reports no event.
+/// The monitor carries this object so that panels and scripts find it; without the feature it stays inactive:
+/// it sends nothing to the monitor, keeps no setting and reports no event.
 class LuPipPbp : public LuModelModuleInterface
 {
     Q_OBJECT

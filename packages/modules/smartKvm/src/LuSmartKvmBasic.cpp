@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "LuSmartKvmBasic.h"
 
-LuSmartKvmBasic::LuSmartKvmBasic(LuMonitorModel* model, LuPipPbp*, LuInputSource*, LuKvmSwitch*) : LuModelModuleInterface(model) {}
+LuSmartKvmBasic::LuSmartKvmBasic(LuMonitorModel* model, LuPipPbp*, LuInputSource*, LuKvmSwitch*)
+    : LuModelModuleInterface(model)
+{
+}
 
 LuSmartKvmBasic::~LuSmartKvmBasic() = default;
 

@@ -11,8 +11,8 @@ class LuKvmSwitch;
 
 /// Keyboard and mouse follow the pointer across two computers in one picture.
 ///
-/// The monitor carries this object so that panels and scripts find it; without the feature it stays inactive: it sends
-/// nothing to the monitor, keeps no setting and reports no event.
+/// The monitor carries this object so that panels and scripts find it; without the feature it stays inactive:
+/// it sends nothing to the monitor, keeps no setting and reports no event.
 class LuSmartKvmBasic : public LuModelModuleInterface
 {
     Q_OBJECT
@@ -21,7 +21,8 @@ class LuSmartKvmBasic : public LuModelModuleInterface
     Q_PROPERTY(bool smartKvmBasicEnable READ smartKvmBasicEnable CONSTANT)
 
 public:
-    explicit LuSmartKvmBasic(LuMonitorModel* model, LuPipPbp* pipPbp, LuInputSource* inputSource, LuKvmSwitch* kvmSwitch);
+    explicit LuSmartKvmBasic(LuMonitorModel* model, LuPipPbp* pipPbp, LuInputSource* inputSource,
+                             LuKvmSwitch* kvmSwitch);
     ~LuSmartKvmBasic() override;
 
     bool smartKvmBasicEnable() const { return false; }

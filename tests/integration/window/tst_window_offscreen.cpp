@@ -1,0 +1,222 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "DeskProcess.h"
+
+#include <QFileInfo>
+#include <QImage>
+#include <QtTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QStringList WithWindow{u"--simulate"_s, u"TK30Z"_s,      u"--ddc-timing"_s,
+                             u"fast"_s,       u"--services"_s, u"simulated"_s};
+
+QJsonObject widgetRow(ControlClient& client, const QString& widget)
+{
+    const QJsonArray rows = client.call(u"ui.widgets"_s).result.toArray();
+    for (const QJsonValue& row : rows) {
+        if (row.toObject().value(u"widget"_s).toString() == widget)
+            return row.toObject();
+    }
+    return {};
+}
+
+QStringList wire(ControlClient& client, const QString& op)
+{
+    QStringList result;
+    const QJsonArray rows = client.call(u"sim.traffic"_s).result.toArray();
+    for (const QJsonValue& row : rows) {
+        const QJsonObject entry = row.toObject();
+        if (entry.value(u"op"_s).toString() == op)
+            result.append(
+                u"%1=%2"_s.arg(entry.value(u"code"_s).toInt(), 0, 16).arg(entry.value(u"value"_s).toInt()));
+    }
+    return result;
+}
+
+} // namespace
+
+/// What a user meets first, without a screen.
+class TestWindowOffscreen : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void tilesOfTheFirstFeaturesAreShown();
+    void clickOnTheTileReachesTheWire();
+    void changeAtTheMonitorReachesTheTile();
+    void forbiddenModeShowsTheWarning();
+    void pageTurnsTheDesktopAndReportsOnce();
+    void visibleTilesAreReadBackHiddenOnesAreNot();
+    void modelWithoutTheFeatureHasNoTile();
+    void unsupportedMonitorHasAWindow();
+    void monitorComesAndGoes();
+    void picturesAreTaken();
+
+private:
+    ControlClient& client() { return m_desk->client(); }
+    void startWith(const QString& models);
+
+    std::unique_ptr<DeskProcess> m_desk;
+};
+
+void TestWindowOffscreen::init()
+{
+    m_desk = std::make_unique<DeskProcess>();
+    QVERIFY2(m_desk->start(WithWindow), qPrintable(m_desk->errors()));
+    QVERIFY(client().call(u"idle"_s).ok());
+}
+
+void TestWindowOffscreen::cleanup()
+{
+    if (m_desk && m_desk->isRunning()) {
+        QCOMPARE(client().call(u"ui.warnings"_s).result.toArray(), QJsonArray());
+        QCOMPARE(m_desk->stop(), 0);
+    }
+    m_desk.reset();
+}
+
+void TestWindowOffscreen::startWith(const QString& models)
+{
+    QCOMPARE(m_desk->stop(), 0);
+    QStringList options = WithWindow;
+    options[1] = models;
+    QVERIFY2(m_desk->start(options), qPrintable(m_desk->errors()));
+    QVERIFY(client().call(u"idle"_s).ok());
+}
+
+void TestWindowOffscreen::tilesOfTheFirstFeaturesAreShown()
+{
+    for (const char* widget : {"LuAiContrastWidget", "LuAutoPivotWidget"}) {
+        const QJsonObject row = widgetRow(client(), QString::fromLatin1(widget));
+        QVERIFY2(row.value(u"shown"_s).toBool() && row.value(u"supported"_s).toBool(), widget);
+    }
+    QCOMPARE(widgetRow(client(), u"LuAiContrastWidget"_s).value(u"text"_s).toString(), u"Local Contrast"_s);
+    QCOMPARE(widgetRow(client(), u"LuAutoPivotWidget"_s).value(u"text"_s).toString(), u"Auto Pivot"_s);
+    QVERIFY(!widgetRow(client(), u"LuPivotWidget"_s).value(u"shown"_s).toBool());
+}
+
+void TestWindowOffscreen::clickOnTheTileReachesTheWire()
+{
+    QVERIFY(client().call(u"ui.press"_s, {{u"name"_s, u"Local Contrast"_s}}).ok());
+    QVERIFY(client().call(u"idle"_s).ok());
+    QCOMPARE(wire(client(), u"set"_s), QStringList{u"f3=1"_s});
+    QCOMPARE(client().get(u"aiContrast.state"_s), QJsonValue(true));
+    QTRY_VERIFY(widgetRow(client(), u"LuAiContrastWidget"_s).value(u"active"_s).toBool());
+    QVERIFY(client().call(u"ui.press"_s, {{u"name"_s, u"Local Contrast"_s}}).ok());
+    QVERIFY(client().call(u"idle"_s).ok());
+    QCOMPARE(wire(client(), u"set"_s), (QStringList{u"f3=1"_s, u"f3=0"_s}));
+}
+
+void TestWindowOffscreen::changeAtTheMonitorReachesTheTile()
+{
+    QVERIFY(client().call(u"sim.set"_s, {{u"code"_s, 0xF3}, {u"value"_s, 1}}).ok());
+    // The window is open: the next round sees it, nobody asks.
+    QTRY_VERIFY_WITH_TIMEOUT(widgetRow(client(), u"LuAiContrastWidget"_s).value(u"active"_s).toBool(), 20000);
+    QCOMPARE(client().get(u"aiContrast.state"_s), QJsonValue(true));
+}
+
+void TestWindowOffscreen::forbiddenModeShowsTheWarning()
+{
+    QVERIFY(client().set(u"colorMode"_s, u"sRGB"_s).ok());
+    QVERIFY(client().call(u"idle"_s).ok());
+    QTRY_VERIFY(widgetRow(client(), u"LuAiContrastWidget"_s).value(u"popup"_s).toBool());
+    const qsizetype sets = wire(client(), u"set"_s).size();
+    QVERIFY(client().call(u"ui.press"_s, {{u"name"_s, u"Local Contrast"_s}}).ok());
+    QVERIFY(client().call(u"idle"_s).ok());
+    QCOMPARE(wire(client(), u"set"_s).size(), sets);
+    QVERIFY(!widgetRow(client(), u"LuAiContrastWidget"_s).value(u"active"_s).toBool());
+    const QByteArray tree = QJsonDocument(client().call(u"ui.tree"_s).result.toArray().isEmpty()
+                                              ? QJsonArray{client().call(u"ui.tree"_s).result}
+                                              : client().call(u"ui.tree"_s).result.toArray())
+                                .toJson();
+    QVERIFY2(tree.count("Local Contrast") >= 2, tree.constData());
+}
+
+void TestWindowOffscreen::pageTurnsTheDesktopAndReportsOnce()
+{
+    QVERIFY(client().call(u"ui.open"_s, {{u"widget"_s, u"LuAutoPivotWidget"_s}}).ok());
+    QVERIFY(client().call(u"ui.press"_s, {{u"name"_s, u"90°"_s}, {u"role"_s, u"radio"_s}}).ok());
+    QVERIFY(client().call(u"ui.press"_s, {{u"name"_s, u"270°"_s}, {u"role"_s, u"radio"_s}}).ok());
+    QVERIFY(client().call(u"idle"_s).ok());
+    QCOMPARE(client().get(u"autoPivot.currentPivot"_s), QJsonValue(270));
+    QCOMPARE(client().value(u"services.get"_s, {{u"path"_s, u"pivot"_s}}), QJsonValue(270));
+    QVERIFY(client().call(u"ui.close"_s, {{u"widget"_s, u"LuAutoPivotWidget"_s}}).ok());
+    QVERIFY(client().call(u"idle"_s).ok());
+    int updates = 0;
+    const QJsonArray events = client().call(u"events"_s).result.toArray();
+    for (const QJsonValue& event : events)
+        updates += event.toObject().value(u"event"_s).toString() == u"off_update_setting"_s;
+    QCOMPARE(updates, 1);
+}
+
+void TestWindowOffscreen::visibleTilesAreReadBackHiddenOnesAreNot()
+{
+    QTRY_COMPARE(client().get(u"aiContrast.syncEnable"_s), QJsonValue(true));
+    QVERIFY(client().call(u"ui.hide"_s).ok());
+    QTRY_COMPARE(client().get(u"aiContrast.syncEnable"_s), QJsonValue(false));
+    // The rotation follows while the window is hidden.
+    QCOMPARE(client().get(u"autoPivot.syncEnable"_s), QJsonValue(true));
+    QVERIFY(client().call(u"ui.show"_s).ok());
+    QTRY_COMPARE(client().get(u"aiContrast.syncEnable"_s), QJsonValue(true));
+}
+
+void TestWindowOffscreen::modelWithoutTheFeatureHasNoTile()
+{
+    startWith(u"TK30"_s);
+    QVERIFY(!widgetRow(client(), u"LuAiContrastWidget"_s).value(u"shown"_s).toBool());
+    QVERIFY(!widgetRow(client(), u"LuAutoPivotWidget"_s).value(u"shown"_s).toBool());
+    QVERIFY(widgetRow(client(), u"LuPivotWidget"_s).value(u"shown"_s).toBool());
+}
+
+void TestWindowOffscreen::unsupportedMonitorHasAWindow()
+{
+    startWith(u"Other"_s);
+    const QJsonObject monitor = client().call(u"monitors"_s).result.toArray().first().toObject();
+    QVERIFY(!monitor.value(u"supported"_s).toBool());
+    QVERIFY(client().call(u"ui.windows"_s).ok());
+}
+
+void TestWindowOffscreen::monitorComesAndGoes()
+{
+    QVERIFY(client().call(u"sim.plug"_s, {{u"monitor"_s, u"TK20@X1"_s}}).ok());
+    QTRY_COMPARE(client().call(u"monitors"_s).result.toArray().size(), 2);
+    QVERIFY(client().call(u"select"_s, {{u"monitor"_s, u"TK20@X1"_s}}).ok());
+    QTRY_VERIFY(!widgetRow(client(), u"LuAutoPivotWidget"_s).value(u"shown"_s).toBool());
+    QVERIFY(client().call(u"sim.unplug"_s, {{u"monitor"_s, u"TK20@X1"_s}}).ok());
+    QTRY_VERIFY(widgetRow(client(), u"LuAutoPivotWidget"_s).value(u"shown"_s).toBool());
+    const QString last =
+        client().call(u"monitors"_s).result.toArray().first().toObject().value(u"id"_s).toString();
+    QVERIFY(client().call(u"sim.unplug"_s, {{u"monitor"_s, last}}).ok());
+    QVERIFY(client().call(u"monitors"_s).result.toArray().isEmpty());
+    QVERIFY(client().call(u"ui.windows"_s).ok());
+    QVERIFY(client().call(u"sim.plug"_s, {{u"monitor"_s, last}}).ok());
+    QTRY_COMPARE(client().call(u"monitors"_s).result.toArray().size(), 1);
+    QTRY_VERIFY(widgetRow(client(), u"LuAiContrastWidget"_s).value(u"shown"_s).toBool());
+}
+
+void TestWindowOffscreen::picturesAreTaken()
+{
+    for (const char* theme : {"light", "dark"}) {
+        const QString file = m_desk->filePath(QString::fromLatin1(theme) + u".png"_s);
+        QVERIFY(client()
+                    .call(u"ui.screenshot"_s, {{u"file"_s, file}, {u"theme"_s, QString::fromLatin1(theme)}})
+                    .ok());
+        const QImage image(file);
+        QVERIFY(image.width() >= 300 && image.height() >= 100);
+    }
+    QVERIFY(QImage(m_desk->filePath(u"light.png"_s)) != QImage(m_desk->filePath(u"dark.png"_s)));
+    QCOMPARE(m_desk->stop(), 0);
+    // The same from the command line, which ends by itself.
+    const QString file = m_desk->filePath(u"option.png"_s);
+    m_desk->launch(WithWindow + m_desk->ownOptions() + QStringList{u"--screenshot"_s, file});
+    QVERIFY(m_desk->waitForEnd());
+    QCOMPARE(m_desk->process().exitCode(), 0);
+    QVERIFY(QFileInfo(file).size() > 1000);
+}
+
+QTEST_GUILESS_MAIN(TestWindowOffscreen)
+#include "tst_window_offscreen.moc"
