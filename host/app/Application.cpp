@@ -294,6 +294,8 @@ void Application::quit()
         return;
     m_ending = true;
     qInfo() << "[Application] ending";
+    // Clients are answered no more: the models go.
+    m_server->dispatcher().setBusy([] { return true; });
     m_registry->shutDown();
     if (m_simulated)
         m_simulated->persist();

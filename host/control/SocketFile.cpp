@@ -94,7 +94,8 @@ int openFolder(const QString& folder, QString* error)
         *error = u"the folder of the control socket cannot be opened: %1: %2"_s.arg(folder, systemError());
         return -1;
     }
-    if (status.st_mode & (S_IWGRP | S_IWOTH)) {
+    // In a sticky folder, such as /tmp, others may add files but neither take away nor replace the user's.
+    if (status.st_mode & (S_IWGRP | S_IWOTH) && !(status.st_mode & S_ISVTX)) {
         *error = u"the folder of the control socket may be written by other users, which is not safe: %1 "
                  u"(use one of "
                  "mode 0700)"_s.arg(folder);

@@ -72,10 +72,15 @@ struct LuMonitorRegistry::Private
             Q_EMIT q->monitorsChanged();
             chooseCurrent();
         }
-        if (!q->isBusy()) {
-            LuHostOptions::instance().launching = false;
-            Q_EMIT q->settled();
-        }
+        settle();
+    }
+
+    void settle()
+    {
+        if (q->isBusy())
+            return;
+        LuHostOptions::instance().launching = false;
+        Q_EMIT q->settled();
     }
 
     /// Without a choice of the user: the first supported monitor, else the first external one, else the
@@ -183,6 +188,8 @@ bool LuMonitorRegistry::removeMonitor(const QString& id)
         delete gone.model;
     }
     qInfo().noquote() << "[LuMonitorRegistry] monitor" << id << "is gone";
+    if (!gone.model)
+        d->settle();
     return true;
 }
 

@@ -15,7 +15,7 @@ class LUSHARED_EXPORT LuActionInterface : public QObject
 
 public:
     /// Topic of an action. The numbers are stored and never change.
-    enum ActionTitle {
+    enum ActionTitle : int {
         NoTitle = 0,
         Input = 1,
         ColorMode = 2,

@@ -12,7 +12,7 @@ class LUSHARED_EXPORT LuDataCollection : public QObject
 
 public:
     /// What an event is about. The numbers are stored and never change.
-    enum Action {
+    enum Action : int {
         ACT_DUAL_VIEW = 4,
         ACT_PARTITION = 5,
         ACT_AUTO_PIVOT = 6,
@@ -51,7 +51,7 @@ public:
     Q_ENUM(Action)
 
     /// Who caused an event.
-    enum TriggerSource {
+    enum TriggerSource : int {
         SOURCE_USER = 0,           ///< The user, in a panel, a popup or through a shortcut.
         SOURCE_SYNC = 1,           ///< The monitor reported another value.
         SOURCE_EXIT = 2,           ///< The application ends.

@@ -15,7 +15,7 @@ class LUSHARED_EXPORT LuKvm : public QObject
 
 public:
     /// Which way of sharing the driver serves.
-    enum KvmType {
+    enum KvmType : int {
         NoKvm = 0,
         SmartKvm = 1,     ///< With a driver on both computers.
         SmartKvmBasic = 2 ///< The monitor's USB hub follows the pointer; no driver.
@@ -23,7 +23,7 @@ public:
     Q_ENUM(KvmType)
 
     /// Side of the monitor on which this computer's picture lies.
-    enum KvmDeviceLocation { LeftLocation = 0, RightLocation = 1, TopLocation = 2, BottomLocation = 3 };
+    enum KvmDeviceLocation : int { LeftLocation = 0, RightLocation = 1, TopLocation = 2, BottomLocation = 3 };
     Q_ENUM(KvmDeviceLocation)
 
     static LuKvm* instance();

@@ -24,7 +24,7 @@ class LUSHARED_EXPORT LuPlatform
 {
 public:
     /// How setResolution() chooses where the system offers a size both with and without HiDPI.
-    enum HidpiMatchMode {
+    enum HidpiMatchMode : int {
         AnyHidpi = 0, ///< The first mode of that size, whatever its HiDPI state.
         PreferSameHidpi =
             1, ///< The mode with the present HiDPI state; one of the other state if there is none.

@@ -21,7 +21,7 @@ class LUSHARED_EXPORT LuShortcutAction : public LuActionInterface
 
 public:
     /// Name of an action. The numbers are stored and never change; the part in front of "_" is the topic.
-    enum ActionName {
+    enum ActionName : int {
         Input_SwitchtoUSBC = 0,
         Input_SwitchtoDisplayport = 1,
         Input_SwitchtoHDMI = 2,

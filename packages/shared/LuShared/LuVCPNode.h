@@ -41,7 +41,7 @@ class LUSHARED_EXPORT LuVCPNode : public VCPNode
 
 public:
     /// Gamma curves; the code of VCP 0x72 is chosen where the value is written.
-    enum Gamma {
+    enum Gamma : int {
         Gamma_16,
         Gamma_18,
         Gamma_20,
@@ -53,7 +53,7 @@ public:
     };
     Q_ENUM(Gamma)
 
-    enum Gamut {
+    enum Gamut : int {
         Gamut_Native,
         Gamut_sRGB,
         Gamut_Rec709,
@@ -63,7 +63,7 @@ public:
     };
     Q_ENUM(Gamut)
 
-    enum ColorTemperature {
+    enum ColorTemperature : int {
         ColorTemperature_5000,
         ColorTemperature_6500,
         ColorTemperature_9300,

@@ -19,7 +19,7 @@ class PANELCORE_EXPORT VCPNode : public QObject
 
 public:
     /// What a node says of a function.
-    enum FunctionEnable {
+    enum FunctionEnable : int {
         FunctionOff = 0,       ///< Written as "off".
         FunctionOn = 1,        ///< Written as "on".
         FunctionUndefined = 2, ///< Not written.

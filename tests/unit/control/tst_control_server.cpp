@@ -48,6 +48,7 @@ private Q_SLOTS:
     void cleanup();
     void theSocketIsForTheUserAlone();
     void aFolderThatOthersMayWriteIsRefused();
+    void aStickyFolderIsTaken();
     void aPathThatCannotBeServedIsRefused_data();
     void aPathThatCannotBeServedIsRefused();
     void theLongestPathWorksAndOneByteMoreIsRefused();
@@ -127,7 +128,7 @@ void TestControlServer::theSocketIsForTheUserAlone()
 
 void TestControlServer::aFolderThatOthersMayWriteIsRefused()
 {
-    for (const int mode : {0770, 0707, 0777, 01777}) {
+    for (const int mode : {0770, 0707, 0777}) {
         const QString folder = m_directory->filePath(u"open%1"_s.arg(mode));
         QVERIFY(QDir().mkpath(folder));
         QCOMPARE(::chmod(QFile::encodeName(folder).constData(), mode_t(mode)), 0);
@@ -136,6 +137,16 @@ void TestControlServer::aFolderThatOthersMayWriteIsRefused()
         QVERIFY2(other.errorString().contains(folder), qPrintable(other.errorString()));
         QVERIFY(!QFileInfo::exists(folder + u"/c.sock"_s));
     }
+}
+
+void TestControlServer::aStickyFolderIsTaken()
+{
+    const QString folder = m_directory->filePath(u"sticky"_s);
+    QVERIFY(QDir().mkpath(folder));
+    QCOMPARE(::chmod(QFile::encodeName(folder).constData(), mode_t(01777)), 0);
+    Server other;
+    QCOMPARE(other.listen(folder + u"/c.sock"_s), Server::Result::Listening);
+    QCOMPARE(modeOf(folder + u"/c.sock"_s), 0600);
 }
 
 void TestControlServer::aPathThatCannotBeServedIsRefused_data()

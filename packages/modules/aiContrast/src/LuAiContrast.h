@@ -21,7 +21,7 @@ class LuAiContrast : public LuModelModuleInterface
 
 public:
     /// Name under which the panel shows the feature.
-    enum AiContrastDisplayNameType {
+    enum AiContrastDisplayNameType : int {
         NameAiContrast = 1,
         NameLocalContrast = 2,
     };

@@ -20,7 +20,7 @@ class LuAutoPivot : public LuModelModuleInterface
 
 public:
     /// What the sensor reports. It never reports 180 degrees: that rotation is only the user's choice.
-    enum PivotStatus {
+    enum PivotStatus : int {
         PivotHorizontal = 1,
         PivotVertical = 2,
         PivotReverseVertical = 3,
