@@ -19,6 +19,9 @@ test_packages=(
   umockdev libumockdev-dev ddcutil i2c-tools
 )
 
+# To run the fuzzers.
+fuzz_packages=(clang libclang-rt-dev)
+
 # Installs what is missing of the packages that it is given. Needs root or sudo only if something is missing.
 ensure_packages() {
   local missing=() package
