@@ -64,9 +64,11 @@ std::string accessAdvice(const std::string& path, const AccessFacts& facts)
                     ? ", or add your account to the group " + facts.group + " and log in again."
                     : ".");
     if (joinable && !facts.inGroup)
-        return what + "The udev rule is installed, but this session has no seat at this computer: add your account" +
+        return what +
+               "The udev rule is installed, but this session has no seat at this computer: add your account" +
                " to the group " + facts.group + " and log in again.";
-    return what + "The udev rule is installed but not in force: run \"udevadm trigger --subsystem-match=i2c-dev\"" +
+    return what +
+           "The udev rule is installed but not in force: run \"udevadm trigger --subsystem-match=i2c-dev\"" +
            " as root or restart the computer.";
 }
 
@@ -77,8 +79,10 @@ std::string accessAdvice(const std::string& path)
 
 std::string missingModuleAdvice()
 {
-    return "The system shows no I2C device files, so external monitors cannot be controlled. Load the kernel module"
-           " i2c-dev: run \"modprobe i2c-dev\" as root, or install modules-load.d/lumen-desk.conf of this program and"
+    return "The system shows no I2C device files, so external monitors cannot be controlled. Load the kernel "
+           "module"
+           " i2c-dev: run \"modprobe i2c-dev\" as root, or install modules-load.d/lumen-desk.conf of this "
+           "program and"
            " restart the computer.";
 }
 

@@ -9,10 +9,10 @@ namespace ddci2c {
 /// What the system says about a bus that may not be opened.
 struct AccessFacts
 {
-    bool hasRule = false;         ///< The udev rule of this program is installed.
-    std::string group;            ///< Group of the device file; empty or "root": none that a person could join.
-    bool inGroup = false;         ///< This process has that group.
-    bool accountInGroup = false;  ///< The account was added to it, maybe after the session began.
+    bool hasRule = false; ///< The udev rule of this program is installed.
+    std::string group;    ///< Group of the device file; empty or "root": none that a person could join.
+    bool inGroup = false; ///< This process has that group.
+    bool accountInGroup = false; ///< The account was added to it, maybe after the session began.
 };
 
 /// Why @p path may not be opened and what to do, in one plain English sentence or two.

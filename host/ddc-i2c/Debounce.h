@@ -7,8 +7,8 @@
 
 namespace ddci2c {
 
-/// Tells when a burst of events is over: after a while without any, and at the latest after a while with many. It keeps
-/// no clock: its caller tells the time.
+/// Tells when a burst of events is over: after a while without any, and at the latest after a while with
+/// many. It keeps no clock: its caller tells the time.
 class Debounce
 {
 public:
@@ -16,7 +16,8 @@ public:
     using Ms = std::chrono::milliseconds;
 
     static constexpr Ms Quiet{300};
-    static constexpr Ms Longest{3000}; ///< A connector with a loose contact must not hold up the others for ever.
+    static constexpr Ms Longest{
+        3000}; ///< A connector with a loose contact must not hold up the others for ever.
 
     explicit Debounce(Ms quiet = Quiet, Ms longest = Longest) : m_quiet(quiet), m_longest(longest) {}
 

@@ -9,8 +9,8 @@
 
 namespace ddci2c {
 
-/// What a transport asks of the system: one function per system call, so that tests can put a system of their own in
-/// its place. Every function returns 0 or more for success and -errno for failure. Any thread.
+/// What a transport asks of the system: one function per system call, so that tests can put a system of their
+/// own in its place. Every function returns 0 or more for success and -errno for failure. Any thread.
 class DeviceCalls
 {
 public:

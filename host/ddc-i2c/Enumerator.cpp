@@ -65,8 +65,8 @@ bool sameBase(std::span<const std::uint8_t> a, std::span<const std::uint8_t> b)
            std::equal(a.begin(), a.begin() + ddc::EdidBlockSize, b.begin());
 }
 
-/// The EDID of whoever is on a bus; empty with a reason if no sound one was read. A damaged one counts if it reads the
-/// same twice: then the monitor has it so.
+/// The EDID of whoever is on a bus; empty with a reason if no sound one was read. A damaged one counts if it
+/// reads the same twice: then the monitor has it so.
 std::vector<std::uint8_t> readFrom(I2cBus& bus, std::string& problem)
 {
     std::vector<std::uint8_t> before;
@@ -136,9 +136,10 @@ Enumeration Enumerator::scan(const BusAnswers& answers) const
             buses.all.push_back({*number, realPath(adapters / name)});
     }
     const auto deviceFiles = entriesOf(below("dev"));
-    result.lacksDeviceFiles =
-        !buses.all.empty() && std::none_of(deviceFiles.begin(), deviceFiles.end(),
-                                           [](const std::string& name) { return busNumber(name).has_value(); });
+    result.lacksDeviceFiles = !buses.all.empty() && std::none_of(deviceFiles.begin(), deviceFiles.end(),
+                                                                 [](const std::string& name) {
+                                                                     return busNumber(name).has_value();
+                                                                 });
 
     std::vector<Card> cards;
     const fs::path drm = below("sys/class/drm");
@@ -168,6 +169,7 @@ void Enumerator::scanConnector(const std::string& name, const Card& card, const 
     FoundMonitor found;
     found.connector = name;
     found.connectorPath = folder;
+    found.sleepIsKnown = card.sleepIsKnown;
     found.asleep = card.sleepIsKnown && isAsleep(folder);
     found.edid = readBytes(folder / "edid");
     const bool readable = bool(ddc::parseEdid(found.edid));
@@ -201,8 +203,10 @@ void Enumerator::scanConnector(const std::string& name, const Card& card, const 
         return;
     }
     // A sleeping display is left alone: it is asked when it wakes.
-    if (found.asleep)
+    if (found.asleep) {
+        result.sleepers.push_back(folder);
         return skip("it sleeps and has not told yet who it is");
+    }
     result.questions.push_back(question);
     if (answer != answers.end() && answer->second.question == question)
         skip(answer->second.problem);
@@ -215,7 +219,8 @@ std::vector<int> Enumerator::candidates(const fs::path& connector, const Card& c
     std::vector<int> numbers;
     const auto add = [&](const std::string& name) {
         const auto number = busNumber(name);
-        if (number && buses.has(*number) && std::find(numbers.begin(), numbers.end(), *number) == numbers.end())
+        if (number && buses.has(*number) &&
+            std::find(numbers.begin(), numbers.end(), *number) == numbers.end())
             numbers.push_back(*number);
     };
     // A DisplayPort's own channel, also one behind an MST hub or a dock, is a child of the connector.
@@ -237,8 +242,7 @@ std::vector<int> Enumerator::candidates(const fs::path& connector, const Card& c
             claimed.insert(*number);
     }
     for (const Buses::Bus& bus : buses.all) {
-        const bool ofConnector = bus.path.string().find("-", bus.path.string().find("/drm/card")) != std::string::npos &&
-                                 bus.path.string().find("/drm/card") != std::string::npos;
+        const bool ofConnector = isBelow(bus.path, card.device / "drm");
         if (isBelow(bus.path, card.device) && !ofConnector && !claimed.contains(bus.number))
             numbers.push_back(bus.number);
     }

@@ -16,14 +16,15 @@ namespace ddci2c {
 /// A monitor as the kernel shows it.
 struct FoundMonitor
 {
-    std::string connector;               ///< Of the kernel, such as "card0-DP-1"; "i2c-4" where it names none.
-    std::optional<int> bus;              ///< N of /dev/i2c-N; nothing for built-in panels and where none leads to it.
+    std::string connector;  ///< Of the kernel, such as "card0-DP-1"; "i2c-4" where it names none.
+    std::optional<int> bus; ///< N of /dev/i2c-N; nothing for built-in panels and where none leads to it.
     std::vector<std::uint8_t> edid;      ///< At least 128 bytes; may be empty for a built-in panel.
     std::filesystem::path connectorEdid; ///< The kernel's file of it; empty where the bus was asked instead.
     std::filesystem::path connectorPath; ///< Folder of the connector; empty where the kernel names none.
     bool builtIn = false;
     std::filesystem::path backlight; ///< Folder of a built-in panel's back-light; empty if there is none.
     bool asleep = false;             ///< The display is switched off by power management.
+    bool sleepIsKnown = true;        ///< The driver tells the kernel which displays sleep.
 
     bool operator==(const FoundMonitor&) const = default;
 };
@@ -65,18 +66,22 @@ struct Enumeration
     std::vector<FoundMonitor> monitors; ///< In natural order of their connectors.
     std::vector<SkippedConnector> skipped;
     std::vector<BusQuestion> questions; ///< All that only the buses can tell, also what has been answered.
-    bool lacksDeviceFiles = false;      ///< There are adapters but no /dev/i2c-N: the module i2c-dev is not loaded.
+    std::vector<std::filesystem::path>
+        sleepers; ///< Folders of skipped connectors that tell more when they wake.
+    bool lacksDeviceFiles =
+        false; ///< There are adapters but no /dev/i2c-N: the module i2c-dev is not loaded.
 };
 
-/// Finds monitors: outputs of graphics cards with docks and MST hubs behind them, built-in panels, and buses of
-/// drivers that show no outputs.
+/// Finds monitors: outputs of graphics cards with docks and MST hubs behind them, built-in panels, and buses
+/// of drivers that show no outputs.
 ///
-/// The scan reads the kernel's files only, which takes a few milliseconds and disturbs no monitor; ask() transfers on
-/// buses and may take as long as an adapter takes. Any thread; an object keeps no state.
+/// The scan reads the kernel's files only, which takes a few milliseconds and disturbs no monitor; ask()
+/// transfers on buses and may take as long as an adapter takes. Any thread; an object keeps no state.
 class Enumerator
 {
 public:
-    /// @p root stands for "/", so that tests can have a system of their own. @p calls null: those of the system.
+    /// @p root stands for "/", so that tests can have a system of their own. @p calls null: those of the
+    /// system.
     explicit Enumerator(std::filesystem::path root = "/", std::shared_ptr<DeviceCalls> calls = {});
 
     Enumeration scan(const BusAnswers& answers = {}) const;
@@ -93,11 +98,12 @@ private:
     struct Buses;
 
     std::filesystem::path below(const char* path) const { return m_root / path; }
-    void scanConnector(const std::string& name, const Card& card, const Buses& buses, const BusAnswers& answers,
-                       Enumeration& result) const;
+    void scanConnector(const std::string& name, const Card& card, const Buses& buses,
+                       const BusAnswers& answers, Enumeration& result) const;
     void scanNakedBuses(const Buses& buses, const std::vector<Card>& cards, const BusAnswers& answers,
                         Enumeration& result) const;
-    std::vector<int> candidates(const std::filesystem::path& connector, const Card& card, const Buses& buses) const;
+    std::vector<int> candidates(const std::filesystem::path& connector, const Card& card,
+                                const Buses& buses) const;
     std::filesystem::path backlightOf(const std::filesystem::path& connector, const Card& card) const;
 
     const std::filesystem::path m_root;

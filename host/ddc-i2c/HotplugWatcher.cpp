@@ -33,8 +33,8 @@ bool matters(udev_device* device)
     const char* action = udev_device_get_action(device);
     if (!subsystem || !action)
         return false;
-    // Each step of a back-light's brightness is a "change".
-    return std::string_view(subsystem) == "drm" || std::string_view(action) != "change";
+    // Each step of a back-light's brightness is a "change"; one of a bus may mean that it may be opened now.
+    return std::string_view(subsystem) != "backlight" || std::string_view(action) != "change";
 }
 
 } // namespace

@@ -25,8 +25,8 @@ public:
     /// Readable when events wait; -1 if not open.
     int descriptor() const;
 
-    /// Takes all waiting events; true if monitors may have come, gone or changed places. After a loss of events
-    /// too.
+    /// Takes all waiting events; true if monitors may have come, gone or changed places. After a loss of
+    /// events too.
     bool readEvents();
 
 private:

@@ -19,14 +19,14 @@ namespace {
 
 constexpr int EdidTries = 3;
 
-enum class Match
-{
+enum class Match {
     Same,
     Other,
     Unknown, ///< The bytes are no sound EDID: they tell nothing.
 };
 
-/// Timings in an EDID may change with the input's settings, so another monitor is one that names itself differently.
+/// Timings in an EDID may change with the input's settings, so another monitor is one that names itself
+/// differently.
 Match compare(std::span<const std::uint8_t> expected, std::span<const std::uint8_t> seen)
 {
     if (seen.size() < ddc::EdidBlockSize)

@@ -19,8 +19,8 @@ namespace ddci2c {
 /// What a bus and its owner tell each other while transfers run. Any thread.
 struct BusLink
 {
-    /// The owner counts up when monitors may have changed places: the bus then looks again who is there before it
-    /// sends anything more.
+    /// The owner counts up when monitors may have changed places: the bus then looks again who is there
+    /// before it sends anything more.
     std::atomic<unsigned> generation{0};
     /// The bus or its monitor was found to be gone, or another monitor in its place.
     std::atomic<bool> lost{false};
@@ -30,20 +30,22 @@ struct BusLink
 
 /// The way to one monitor through /dev/i2c-N.
 ///
-/// It is opened with the first transfer, and again with the next one after it was gone. Before the first message to
-/// DDC/CI after each opening and after each BusLink::generation the EDID is looked at: with another monitor than the
-/// expected one on the bus nothing is sent, and the transfer says Gone. Bus numbers change when adapters come and go,
-/// so a name alone never proves where a write ends up.
+/// It is opened with the first transfer, and again with the next one after it was gone. Before the first
+/// message to DDC/CI after each opening and after each BusLink::generation the EDID is looked at: with
+/// another monitor than the expected one on the bus nothing is sent, and the transfer says Gone. Bus numbers
+/// change when adapters come and go, so a name alone never proves where a write ends up.
 class I2cBus final : public ddc::Bus
 {
 public:
     struct Options
     {
-        std::string path;                    ///< "/dev/i2c-4".
-        std::vector<std::uint8_t> edid;      ///< Of the expected monitor; empty: whoever is there.
-        std::filesystem::path connectorEdid; ///< What the kernel says where 0x50 does not answer; may be empty.
-        std::shared_ptr<BusLink> link;       ///< Null: none.
-        /// Told in plain words what keeps the bus from working, once per cause; on the thread of the transfer.
+        std::string path;               ///< "/dev/i2c-4".
+        std::vector<std::uint8_t> edid; ///< Of the expected monitor; empty: whoever is there.
+        std::filesystem::path
+            connectorEdid;             ///< What the kernel says where 0x50 does not answer; may be empty.
+        std::shared_ptr<BusLink> link; ///< Null: none.
+        /// Told in plain words what keeps the bus from working, once per cause; on the thread of the
+        /// transfer.
         std::function<void(const std::string&)> report;
         std::shared_ptr<DeviceCalls> calls; ///< Null: those of the system.
     };

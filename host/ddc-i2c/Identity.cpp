@@ -41,7 +41,8 @@ Names namesOf(const FoundMonitor& found)
     names.serial = edid.identitySerial();
     names.model = edid.name;
     if (names.model.empty())
-        names.model = (edid.manufacturer.empty() ? std::string("Monitor") : edid.manufacturer) + '-' + productCode(edid);
+        names.model = (edid.manufacturer.empty() ? std::string("Monitor") : edid.manufacturer) + '-' +
+                      productCode(edid);
     names.key = edid.manufacturer + '|' + productCode(edid) + '|' + names.serial + '|' + edid.name;
     return names;
 }
@@ -60,7 +61,8 @@ std::string IdentityBook::freeId(const std::string& base) const
 {
     std::string id = base;
     const auto taken = [&] {
-        return std::any_of(m_entries.begin(), m_entries.end(), [&id](const Entry& entry) { return entry.id == id; });
+        return std::any_of(m_entries.begin(), m_entries.end(),
+                           [&id](const Entry& entry) { return entry.id == id; });
     };
     for (int number = 2; taken(); ++number)
         id = base + '#' + std::to_string(number);
@@ -87,7 +89,9 @@ std::vector<IdentifiedMonitor> IdentityBook::identify(const std::vector<FoundMon
 
     // Who is where it was before keeps its id.
     std::vector<std::string> used;
-    const auto isUsed = [&used](const std::string& id) { return std::find(used.begin(), used.end(), id) != used.end(); };
+    const auto isUsed = [&used](const std::string& id) {
+        return std::find(used.begin(), used.end(), id) != used.end();
+    };
     for (Row& row : rows) {
         if (const Entry* entry = known(row.key, row.monitor.found.connector)) {
             row.monitor.id = entry->id;
@@ -129,11 +133,12 @@ std::vector<IdentifiedMonitor> IdentityBook::identify(const std::vector<FoundMon
     std::vector<IdentifiedMonitor> result;
     for (Row& row : rows) {
         if (present[row.key] > 1 && row.monitor.note.empty())
-            row.monitor.note = (row.monitor.serial.empty()
-                                    ? std::to_string(present[row.key]) + " equal monitors give no serial number"
-                                    : std::to_string(present[row.key]) + " monitors give the serial number " +
-                                          row.monitor.serial) +
-                               ": this one is known by its connector " + row.monitor.found.connector;
+            row.monitor.note =
+                (row.monitor.serial.empty()
+                     ? std::to_string(present[row.key]) + " equal monitors give no serial number"
+                     : std::to_string(present[row.key]) + " monitors give the serial number " +
+                           row.monitor.serial) +
+                ": this one is known by its connector " + row.monitor.found.connector;
         result.push_back(std::move(row.monitor));
     }
     return result;
@@ -156,7 +161,8 @@ std::vector<IdentityBook::Entry> IdentityBook::twins() const
 Changes difference(const std::vector<IdentifiedMonitor>& before, const std::vector<IdentifiedMonitor>& after)
 {
     const auto in = [](const std::vector<IdentifiedMonitor>& list, const std::string& id) {
-        const auto found = std::find_if(list.begin(), list.end(), [&id](const auto& each) { return each.id == id; });
+        const auto found =
+            std::find_if(list.begin(), list.end(), [&id](const auto& each) { return each.id == id; });
         return found == list.end() ? nullptr : &*found;
     };
     Changes changes;

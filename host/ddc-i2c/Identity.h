@@ -18,7 +18,8 @@ struct IdentifiedMonitor
     std::string note;   ///< What a person should know about how it was told from its twins; mostly empty.
 };
 
-/// Gives monitors ids that stay theirs: by manufacturer, product and serial, and by the connector where these are equal.
+/// Gives monitors ids that stay theirs: by manufacturer, product and serial, and by the connector where these
+/// are equal.
 ///
 /// Within the life of a book an id never changes its owner silently. Not thread safe.
 class IdentityBook

@@ -10,8 +10,8 @@
 
 namespace ddci2c {
 
-// Readers of small kernel files. A file or folder that cannot be read gives an empty result: it may vanish at any
-// moment. Any thread.
+// Readers of small kernel files. A file or folder that cannot be read gives an empty result: it may vanish at
+// any moment. Any thread.
 
 std::vector<std::uint8_t> readBytes(const std::filesystem::path& file);
 

@@ -1,0 +1,376 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "RealMonitors.h"
+
+#include "ScreenMatch.h"
+
+#include <ZrCore/ZrDispatch.h>
+#include <ddc-i2c/Access.h>
+#include <lushared/LuMonitorRegistry.h>
+#include <lushared/LuSettings.h>
+#include <panelcore/MonitorLink.h>
+
+#include <QDebug>
+#include <QGuiApplication>
+#include <QScreen>
+#include <QSocketNotifier>
+
+#include <algorithm>
+#include <mutex>
+
+using ddci2c::IdentifiedMonitor;
+
+namespace {
+
+/// How often the power state of the displays is looked up: kernels do not report it as an event.
+constexpr int PollMs = 2000;
+/// A lost monitor is tried again after 1, 2, 4 ... polls, at most these.
+constexpr int LongestLostPause = 30;
+constexpr QLatin1String TwinsKey("monitors/twins");
+
+ddci2c::Debounce::TimePoint now()
+{
+    return std::chrono::steady_clock::now();
+}
+
+QString text(const std::string& bytes)
+{
+    return QString::fromStdString(bytes);
+}
+
+QString path(const std::filesystem::path& name)
+{
+    return QString::fromStdString(name.string());
+}
+
+std::vector<ddci2c::IdentityBook::Entry> keptTwins()
+{
+    std::vector<ddci2c::IdentityBook::Entry> entries;
+    const QStringList lines = LuSettings::instance().value(TwinsKey).toStringList();
+    for (const QString& line : lines) {
+        const QStringList fields = line.split(QLatin1Char('\t'));
+        if (fields.size() == 3 && !fields.at(0).isEmpty())
+            entries.push_back(
+                {fields.at(0).toStdString(), fields.at(1).toStdString(), fields.at(2).toStdString()});
+    }
+    return entries;
+}
+
+QString screenOf(const IdentifiedMonitor& monitor)
+{
+    QList<ScreenFacts> facts;
+    const QList<QScreen*> screens = QGuiApplication::screens();
+    for (const QScreen* screen : screens)
+        facts.append({screen->name(), screen->model(), screen->serialNumber()});
+    return screenFor(text(monitor.found.connector), text(monitor.model), text(monitor.serial), facts);
+}
+
+} // namespace
+
+struct RealMonitors::Mailbox
+{
+    std::mutex mutex;
+    RealMonitors* owner = nullptr;
+
+    void tell(const std::string& message)
+    {
+        const std::lock_guard lock(mutex);
+        if (!owner)
+            return;
+        ZrDispatch::main()->post(owner, [to = owner, message = text(message)] { to->tell(message); });
+    }
+};
+
+RealMonitors::RealMonitors(LuMonitorRegistry& registry, const std::filesystem::path& root)
+    : m_registry(registry), m_enumerator(root), m_book(keptTwins()),
+      m_scanQueue(std::make_unique<ZrDispatch>(QStringLiteral("monitors"))),
+      m_askQueue(std::make_unique<ZrDispatch>(QStringLiteral("monitor buses"))),
+      m_mailbox(std::make_shared<Mailbox>())
+{
+    m_mailbox->owner = this;
+    m_settleTimer.setSingleShot(true);
+    m_settleTimer.setTimerType(Qt::PreciseTimer);
+    connect(&m_settleTimer, &QTimer::timeout, this, &RealMonitors::settle);
+    m_pollTimer.setInterval(PollMs);
+    connect(&m_pollTimer, &QTimer::timeout, this, &RealMonitors::poll);
+    connect(qGuiApp, &QGuiApplication::screenAdded, this, &RealMonitors::assignScreens);
+    connect(qGuiApp, &QGuiApplication::screenRemoved, this, &RealMonitors::assignScreens);
+}
+
+RealMonitors::~RealMonitors()
+{
+    m_scanQueue->close();
+    m_askQueue->close();
+    const std::lock_guard lock(m_mailbox->mutex);
+    m_mailbox->owner = nullptr;
+}
+
+void RealMonitors::start()
+{
+    if (m_watcher.isOpen()) {
+        m_notifier = std::make_unique<QSocketNotifier>(m_watcher.descriptor(), QSocketNotifier::Read);
+        connect(m_notifier.get(), &QSocketNotifier::activated, this, &RealMonitors::readEvents);
+    } else {
+        qWarning().noquote() << "[RealMonitors] monitors that come and go are not noticed:"
+                             << text(m_watcher.problem());
+    }
+    m_pollTimer.start();
+    scan(true);
+}
+
+void RealMonitors::refresh()
+{
+    for (const Plugged& each : std::as_const(m_plugged))
+        ++each.link->generation;
+    m_hotplug = true;
+    scan(true);
+}
+
+void RealMonitors::readEvents()
+{
+    if (!m_watcher.readEvents())
+        return;
+    // From now on no bus trusts its monitor to be the one of before.
+    for (const Plugged& each : std::as_const(m_plugged))
+        ++each.link->generation;
+    m_debounce.note(now());
+    m_settleTimer.start(*m_debounce.remaining(now()));
+}
+
+void RealMonitors::settle()
+{
+    if (m_debounce.take(now())) {
+        m_hotplug = true;
+        scan(true);
+    } else if (const auto left = m_debounce.remaining(now())) {
+        m_settleTimer.start(*left);
+    }
+}
+
+void RealMonitors::scan(bool askAgain)
+{
+    if (m_scanning) {
+        m_scanAgain = true;
+        m_scanAgainAsks = m_scanAgainAsks || askAgain;
+        return;
+    }
+    m_scanning = true;
+    // The destructor closes the queue before anything of this object goes.
+    m_scanQueue->post(nullptr, [this, askAgain, answers = m_answers] {
+        const auto found = std::make_shared<ddci2c::Enumeration>(m_enumerator.scan(answers));
+        ZrDispatch::main()->post(this, [this, askAgain, found] { finishScan(*found, askAgain); });
+    });
+}
+
+void RealMonitors::finishScan(const ddci2c::Enumeration& found, bool askAgain)
+{
+    m_scanning = false;
+    if (std::exchange(m_scanAgain, false)) {
+        scan(std::exchange(m_scanAgainAsks, false) || askAgain);
+        return;
+    }
+    if (found.lacksDeviceFiles)
+        tell(text(ddci2c::missingModuleAdvice()));
+    std::vector<ddci2c::BusQuestion> open;
+    for (const ddci2c::BusQuestion& question : found.questions) {
+        const auto answer = m_answers.find(question.connector);
+        if (askAgain || answer == m_answers.end() || answer->second.question != question)
+            open.push_back(question);
+    }
+    m_sleepers = found.sleepers;
+    apply(found.monitors);
+    noteSkipped(found);
+    if (!open.empty())
+        ask(open);
+    if (!m_discovered && open.empty()) {
+        m_discovered = true;
+        Q_EMIT discovered();
+    }
+}
+
+void RealMonitors::ask(const std::vector<ddci2c::BusQuestion>& questions)
+{
+    m_askQueue->post(nullptr, [this, questions] {
+        const auto answers = std::make_shared<ddci2c::BusAnswers>();
+        for (const ddci2c::BusQuestion& question : questions)
+            answers->emplace(question.connector, m_enumerator.ask(question));
+        ZrDispatch::main()->post(this, [this, answers] {
+            for (auto& [connector, answer] : *answers)
+                m_answers[connector] = answer;
+            scan(false);
+        });
+    });
+}
+
+void RealMonitors::apply(const std::vector<ddci2c::FoundMonitor>& found)
+{
+    const std::vector<IdentifiedMonitor> after = m_book.identify(found);
+    keepTwins();
+    std::vector<IdentifiedMonitor> before;
+    for (const Plugged& each : std::as_const(m_plugged))
+        before.push_back(each.monitor);
+    const ddci2c::Changes changes = ddci2c::difference(before, after);
+    for (const IdentifiedMonitor& monitor : changes.vanished) {
+        unplug(text(monitor.id));
+        m_lostPause.remove(text(monitor.id));
+    }
+    for (const IdentifiedMonitor& monitor : changes.moved) {
+        qInfo().noquote() << "[RealMonitors]" << text(monitor.id) << "is at" << text(monitor.found.connector)
+                          << "now";
+        unplug(text(monitor.id));
+    }
+    const bool hotplug = std::exchange(m_hotplug, false);
+    m_waiting.clear();
+    for (const IdentifiedMonitor& monitor : after) {
+        const QString id = text(monitor.id);
+        auto plugged = m_plugged.find(id);
+        if (plugged != m_plugged.end()) {
+            // Its bus gave up, but here it is: a fresh start.
+            const bool due = hotplug || m_lostPolls.value(id, 0) < 0;
+            if (plugged->link->lost && due)
+                unplug(id);
+            else
+                continue;
+        }
+        if (monitor.found.asleep && !monitor.found.builtIn) {
+            qInfo().noquote() << "[RealMonitors]" << id << "sleeps; it is asked nothing until it wakes";
+            m_waiting.push_back(monitor);
+            continue;
+        }
+        plug(monitor);
+    }
+}
+
+void RealMonitors::plug(const IdentifiedMonitor& monitor)
+{
+    const QString id = text(monitor.id);
+    MonitorDescription description;
+    description.id = id;
+    description.modelName = text(monitor.model);
+    description.serialNumber = text(monitor.serial);
+    description.builtIn = monitor.found.builtIn;
+    description.screenName = screenOf(monitor);
+    description.nativeHandle = description.screenName;
+    Plugged plugged;
+    plugged.monitor = monitor;
+    plugged.link = std::make_shared<ddci2c::BusLink>();
+    plugged.asleep = monitor.found.asleep;
+    std::unique_ptr<ddci2c::I2cBus> bus;
+    if (monitor.found.bus) {
+        ddci2c::I2cBus::Options options;
+        options.path = ddci2c::Enumerator::devicePath(*monitor.found.bus);
+        options.edid = monitor.found.edid;
+        options.connectorEdid = monitor.found.connectorEdid;
+        options.link = plugged.link;
+        options.report = [mailbox = m_mailbox](const std::string& message) { mailbox->tell(message); };
+        bus = std::make_unique<ddci2c::I2cBus>(std::move(options));
+    }
+    plugged.info = MonitorLink::create(description, std::move(bus), MonitorLink::Waits::Real);
+    qInfo().noquote() << "[RealMonitors]" << id << "at" << text(monitor.found.connector)
+                      << (monitor.found.bus ? QStringLiteral("on i2c-%1").arg(*monitor.found.bus)
+                                            : QStringLiteral("built in"));
+    if (!monitor.note.empty())
+        qWarning().noquote() << "[RealMonitors]" << id + QLatin1Char(':') << text(monitor.note);
+    m_plugged.insert(id, plugged);
+    m_registry.addMonitor(plugged.info);
+}
+
+void RealMonitors::unplug(const QString& id)
+{
+    m_plugged.remove(id);
+    m_lostPolls.remove(id);
+    m_registry.removeMonitor(id);
+}
+
+void RealMonitors::poll()
+{
+    bool changed = pollLost();
+    for (auto it = m_plugged.begin(); it != m_plugged.end(); ++it) {
+        const bool asleep = m_enumerator.isAsleep(it->monitor.found.connectorPath);
+        if (asleep == it->asleep || !it->monitor.found.sleepIsKnown)
+            continue;
+        it->asleep = asleep;
+        // Whoever wakes up may have been exchanged in the meantime.
+        ++it->link->generation;
+        changed = changed || !asleep;
+        qInfo().noquote() << "[RealMonitors]" << it.key() << (asleep ? "sleeps" : "is awake");
+        Q_EMIT sleepChanged(it.key(), asleep);
+    }
+    changed =
+        changed || std::any_of(m_waiting.begin(), m_waiting.end(), [this](const IdentifiedMonitor& monitor) {
+            return !m_enumerator.isAsleep(monitor.found.connectorPath);
+        });
+    changed = changed || std::any_of(m_sleepers.begin(), m_sleepers.end(), [this](const auto& connector) {
+                  return !m_enumerator.isAsleep(connector);
+              });
+    if (changed)
+        scan(false);
+}
+
+bool RealMonitors::pollLost()
+{
+    bool due = false;
+    for (auto it = m_plugged.begin(); it != m_plugged.end(); ++it) {
+        if (!it->link->lost) {
+            m_lostPolls.remove(it.key());
+            continue;
+        }
+        if (!m_lostPolls.contains(it.key())) {
+            int& pause = m_lostPause[it.key()];
+            m_lostPolls[it.key()] = pause;
+            pause = std::clamp(pause * 2, 1, LongestLostPause);
+        }
+        due = --m_lostPolls[it.key()] < 0 || due;
+    }
+    return due;
+}
+
+void RealMonitors::assignScreens()
+{
+    for (const Plugged& each : std::as_const(m_plugged))
+        MonitorLink::of(*each.info).setScreenName(screenOf(each.monitor));
+}
+
+void RealMonitors::tell(const QString& message)
+{
+    if (m_told.contains(message))
+        return;
+    m_told.insert(message);
+    qWarning().noquote() << "[RealMonitors]" << message;
+    Q_EMIT trouble(message);
+}
+
+void RealMonitors::noteSkipped(const ddci2c::Enumeration& found)
+{
+    for (const ddci2c::SkippedConnector& each : found.skipped)
+        qInfo().noquote() << "[RealMonitors] no monitor at" << text(each.connector) + QLatin1Char(':')
+                          << text(each.reason);
+}
+
+void RealMonitors::keepTwins()
+{
+    QStringList lines;
+    for (const ddci2c::IdentityBook::Entry& entry : m_book.twins())
+        lines.append(
+            QStringList{text(entry.id), text(entry.key), text(entry.connector)}.join(QLatin1Char('\t')));
+    LuSettings& settings = LuSettings::instance();
+    if (settings.value(TwinsKey).toStringList() != lines)
+        settings.setValue(TwinsKey, lines);
+}
+
+bool RealMonitors::isAsleep(const QString& id) const
+{
+    const auto found = m_plugged.constFind(id);
+    return found != m_plugged.cend() && found->asleep;
+}
+
+QString RealMonitors::backlightOf(const QString& id) const
+{
+    const auto found = m_plugged.constFind(id);
+    return found == m_plugged.cend() ? QString() : path(found->monitor.found.backlight);
+}
+
+QString RealMonitors::connectorOf(const QString& id) const
+{
+    const auto found = m_plugged.constFind(id);
+    return found == m_plugged.cend() ? QString() : text(found->monitor.found.connector);
+}
