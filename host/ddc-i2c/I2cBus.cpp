@@ -6,9 +6,10 @@
 
 #include <ddc/Edid.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
-#include <cstring>
+#include <tuple>
 #include <utility>
 
 namespace ddci2c {
@@ -27,15 +28,17 @@ enum class Match {
 
 /// Timings in an EDID may change with the input's settings, so another monitor is one that names itself
 /// differently.
-Match compare(std::span<const std::uint8_t> expected, std::span<const std::uint8_t> seen)
+/// @param again whether these bytes were read before: a damaged block that reads the same twice is how the
+/// monitor is.
+Match compare(std::span<const std::uint8_t> expected, std::span<const std::uint8_t> seen, bool again)
 {
     if (seen.size() < ddc::EdidBlockSize)
         return Match::Unknown;
-    if (std::memcmp(expected.data(), seen.data(), ddc::EdidBlockSize) == 0)
+    if (std::equal(seen.begin(), seen.begin() + ddc::EdidBlockSize, expected.begin()))
         return Match::Same;
     const ddc::Result<ddc::Edid> now = ddc::parseEdid(seen);
     const ddc::Result<ddc::Edid> then = ddc::parseEdid(expected);
-    if (!now || !now.value.checksumOk)
+    if (!now || (!now.value.checksumOk && !again))
         return Match::Unknown;
     const auto key = [](const ddc::Edid& edid) {
         return std::tuple(edid.manufacturer, edid.product, edid.serialNumber, edid.serialText, edid.name);
@@ -151,17 +154,19 @@ BusStatus I2cBus::ensureExpected()
     }
     Match match = Match::Unknown;
     BusStatus status = BusStatus::Ok;
+    std::array<std::uint8_t, ddc::EdidBlockSize> before{};
     for (int i = 0; i < EdidTries && match == Match::Unknown && status == BusStatus::Ok; ++i) {
         std::array<std::uint8_t, ddc::EdidBlockSize> block{};
         status = readEdid(block);
         if (status == BusStatus::Ok)
-            match = compare(m_options.edid, block);
+            match = compare(m_options.edid, block, block == before);
+        before = block;
     }
     if (status == BusStatus::Busy || status == BusStatus::Gone || status == BusStatus::NoAccess)
         return status;
     // Some adapters carry DDC/CI but not the EDID; then the kernel's word has to do.
-    if (match == Match::Unknown && !m_options.connectorEdid.empty())
-        match = compare(m_options.edid, readBytes(m_options.connectorEdid));
+    if (status == BusStatus::Nack && !m_options.connectorEdid.empty())
+        match = compare(m_options.edid, readBytes(m_options.connectorEdid), true);
     if (match == Match::Other)
         return refuse(name() + " leads to another monitor now; nothing was sent to it");
     if (match == Match::Unknown)
