@@ -7,6 +7,7 @@
 #include <LuShared/LuSyncTasks.h>
 #include <ZrCore/ZrShared.h>
 
+#include <QDebug>
 #include <QHash>
 #include <QKeyCombination>
 #include <QObject>
@@ -168,12 +169,52 @@ protected:
     /// Whether a job of @p key runs at this moment; a job that only waits is dropped.
     bool isChanging(const QString& key);
 
+    /// The job of a setter: tells the change as "@p text value", stores the member, lets @p write reach the
+    /// monitor, keeps the setting, and emits @p changed where the member was another. Queue.
+    template <class T, class Module, class Write>
+    void takeAsked(ZrShared<T>& member, const std::type_identity_t<T>& value, const QString& setting,
+                   const char* text, void (Module::*changed)(), Write write)
+    {
+        qInfo() << text << value;
+        const bool differs = member.set(value);
+        write();
+        setModuleSetting(setting, storable(value));
+        if (differs)
+            (static_cast<Module*>(this)->*changed)();
+    }
+
+    /// What a read-back found: where it differs from the member, stores it, keeps the setting (none if
+    /// @p setting is empty), tells it as "@p text value" and emits @p changed. Returns whether it differed.
+    /// Queue.
+    template <class T, class Module>
+    bool takeReported(ZrShared<T>& member, const std::type_identity_t<T>& value, const QString& setting,
+                      const char* text, void (Module::*changed)())
+    {
+        if (!member.set(value))
+            return false;
+        if (!setting.isEmpty())
+            setModuleSetting(setting, storable(value));
+        qInfo() << text << value;
+        (static_cast<Module*>(this)->*changed)();
+        return true;
+    }
+
     /// The current colour mode allows a function: there is a mode and @p accessor of its node says
     /// FunctionOn.
     template <class Accessor>
     bool colorModeAllows(Accessor accessor) const;
 
 private:
+    /// Enumerations are stored as their numbers.
+    template <class T>
+    static QVariant storable(const T& value)
+    {
+        if constexpr (std::is_enum_v<T>)
+            return QVariant(int(value));
+        else
+            return QVariant(value);
+    }
+
     friend class LuMonitorModel;
     friend class LuModelHost;
     void markSkipped(bool skip);

@@ -40,35 +40,36 @@ class LUSHARED_EXPORT LuVCPNode : public VCPNode
     Q_PROPERTY(bool isHdr READ isHdr CONSTANT)
 
 public:
-    /// Gamma curves; the code of VCP 0x72 is chosen where the value is written.
+    // The numbers of these enumerations are stored and never change; LuBrightness knows their VCP values.
+
     enum Gamma : int {
-        Gamma_16,
-        Gamma_18,
-        Gamma_20,
-        Gamma_22,
-        Gamma_24,
-        Gamma_26,
-        Gamma_BT1886,
-        Gamma_sRGB,
+        Gamma_18 = 0,
+        Gamma_20 = 1,
+        Gamma_sRGB = 2,
+        Gamma_22 = 3,
+        Gamma_24 = 4,
+        Gamma_26 = 5,
+        Gamma_16 = 6,
+        Gamma_BT1886 = 7,
     };
     Q_ENUM(Gamma)
 
     enum Gamut : int {
-        Gamut_Native,
-        Gamut_sRGB,
-        Gamut_Rec709,
-        Gamut_DCIP3,
-        Gamut_AdobeRGB,
-        Gamut_Rec2020,
+        Gamut_sRGB = 0,
+        Gamut_AdobeRGB = 1,
+        Gamut_Native = 2,
+        Gamut_DCIP3 = 3,
+        Gamut_Rec709 = 4,
+        Gamut_Rec2020 = 5,
     };
     Q_ENUM(Gamut)
 
     enum ColorTemperature : int {
-        ColorTemperature_5000,
-        ColorTemperature_6500,
-        ColorTemperature_9300,
-        ColorTemperature_DCI,
-        ColorTemperature_UserDefine,
+        ColorTemperature_5000 = 0,
+        ColorTemperature_6500 = 1,
+        ColorTemperature_9300 = 2,
+        ColorTemperature_UserDefine = 3,
+        ColorTemperature_DCI = 4,
     };
     Q_ENUM(ColorTemperature)
 
