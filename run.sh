@@ -7,11 +7,11 @@ source tools/setup/packages.sh
 
 ensure_packages "${run_packages[@]}"
 
-echo "Building (build/release) ..."
-[ -f build/release/build.ninja ] || cmake --preset release -DLUMEN_WERROR=OFF -DLUMEN_PROGRAM_ONLY=ON >/dev/null
-cmake --build --preset release
+echo "Building (build/run) ..."
+cmake --preset run >/dev/null
+cmake --build --preset run
 
-program=build/release/bin/lumen-desk
+program=build/run/bin/lumen-desk
 if [ $# -gt 0 ]; then
   exec "$program" "$@"
 fi
@@ -20,7 +20,7 @@ fi
 session=(--simulate TK30Z)
 if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
   echo "Starting on a simulated TK30Z. Change the monitor from another terminal, for instance:"
-  echo "  build/release/bin/lumen-deskctl sim set 0xF3 1"
+  echo "  build/run/bin/lumen-deskctl sim set 0xF3 1"
   exec "$program" "${session[@]}"
 fi
 
@@ -31,7 +31,7 @@ trap 'rm -rf "$work"' EXIT
 socket=$work/run/control.sock
 "$program" "${session[@]}" --control "$socket" --config-dir "$work/config" --data-dir "$work/data" 2>"$work/log" &
 pid=$!
-ctl() { build/release/bin/lumen-deskctl --control "$socket" "$@"; }
+ctl() { build/run/bin/lumen-deskctl --control "$socket" "$@"; }
 for _ in $(seq 100); do
   ctl monitors >/dev/null 2>&1 && break
   kill -0 "$pid" 2>/dev/null || { cat "$work/log" >&2; exit 1; }

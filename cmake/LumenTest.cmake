@@ -1,6 +1,18 @@
 # SPDX-License-Identifier: Apache-2.0
 enable_testing()
 
+# One precompiled header for all tests: each is one file that mostly reads Qt's headers.
+function(lumen_test_pch)
+  if(TARGET lumen_test_pch)
+    return()
+  endif()
+  file(CONFIGURE OUTPUT ${PROJECT_BINARY_DIR}/lumen_test_pch.cpp CONTENT "int main() { return 0; }\n")
+  add_executable(lumen_test_pch EXCLUDE_FROM_ALL ${PROJECT_BINARY_DIR}/lumen_test_pch.cpp)
+  set_target_properties(lumen_test_pch PROPERTIES AUTOMOC OFF)
+  target_link_libraries(lumen_test_pch PRIVATE Qt6::Core Qt6::Test lumen_flags)
+  target_precompile_headers(lumen_test_pch PRIVATE <QtCore> <QtTest> <functional> <memory>)
+endfunction()
+
 # lumen_test(NAME tst_x SOURCES <file>... LINKS <target>... [LABELS <label>...] [TIMEOUT s] [ENVIRONMENT A=B...]
 #            [RUN_SERIAL])
 # A Qt Test program. It runs off-screen, with a home of its own, and any QML warning or critical message is its own
@@ -10,6 +22,8 @@ function(lumen_test)
   add_executable(${T_NAME} ${T_SOURCES})
   target_link_libraries(${T_NAME} PRIVATE ${T_LINKS} Qt6::Test lumen_flags)
   target_include_directories(${T_NAME} PRIVATE ${PROJECT_SOURCE_DIR}/tests/support ${PROJECT_SOURCE_DIR}/host)
+  lumen_test_pch()
+  target_precompile_headers(${T_NAME} REUSE_FROM lumen_test_pch)
   if(NOT T_TIMEOUT)
     set(T_TIMEOUT 60)
   endif()

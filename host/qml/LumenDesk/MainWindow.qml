@@ -27,7 +27,7 @@ Window {
     objectName: "mainWindow"
     title: qsTr("Lumen Desk")
     width: LuStyle.windowWidth
-    height: Math.max(200, Math.min(free.height - 2 * LuStyle.spaceWide, header.implicitHeight + body.contentHeight))
+    height: Math.max(120, Math.min(free.height - 2 * LuStyle.spaceWide, header.implicitHeight + body.contentHeight))
     flags: Qt.Window | Qt.FramelessWindowHint
     color: LuContext.translucentWindows ? "transparent" : LuStyle.background
     visible: false
