@@ -134,6 +134,7 @@ void RealMonitors::readEvents()
         ++each.link->generation;
     m_debounce.note(now());
     m_settleTimer.start(*m_debounce.remaining(now()));
+    Q_EMIT disturbed();
 }
 
 void RealMonitors::settle()

@@ -59,6 +59,8 @@ public:
 Q_SIGNALS:
     /// Once: see isDiscovered(). Without monitors too.
     void discovered();
+    /// Something changed at the outputs; what it was is known when things have settled.
+    void disturbed();
     /// Rounds of that monitor pause while it sleeps.
     void sleepChanged(const QString& id, bool asleep);
     /// Something that only a person can mend keeps monitors from being controlled; in plain words, once each.

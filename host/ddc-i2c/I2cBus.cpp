@@ -215,6 +215,9 @@ BusStatus I2cBus::failed(int error)
         m_link->lost = true;
         drop();
     }
+    // A plug that is being moved shows itself by silence first.
+    if (status == BusStatus::Nack)
+        m_expected = false;
     return status;
 }
 

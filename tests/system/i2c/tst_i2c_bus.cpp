@@ -178,6 +178,17 @@ private Q_SLOTS:
         QCOMPARE(alpha.writes.size(), std::size_t(2));
     }
 
+    void afterSilenceTheMonitorIsLookedAtAgain()
+    {
+        I2cBus bus(options());
+        QCOMPARE(set(bus), BusStatus::Ok);
+        node().monitor = nullptr;
+        QCOMPARE(set(bus), BusStatus::Nack);
+        node().monitor = &beta;
+        QCOMPARE(set(bus), BusStatus::Gone);
+        QVERIFY(beta.writes.empty());
+    }
+
     void anotherMonitorWithADamagedEdidGetsNothing()
     {
         beta.edid = makeEdid({.serial = "SN-2", .badChecksum = true});

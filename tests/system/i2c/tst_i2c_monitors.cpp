@@ -1,0 +1,297 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "MockBed.h"
+#include "SimulatedBed.h"
+
+#include <LuShared/LuMonitorModel.h>
+#include <PanelCore/MonitorInfo.h>
+#include <app/RealMonitors.h>
+#include <app/ScreenMatch.h>
+#include <lushared/LuHostOptions.h>
+#include <lushared/LuMonitorRegistry.h>
+#include <lushared/LuSettings.h>
+#include <panelcore/MonitorLink.h>
+
+#include <QSignalSpy>
+#include <QTest>
+
+Q_DECLARE_METATYPE(QList<ScreenFacts>)
+
+namespace {
+
+constexpr int Brightness = 0x10;
+/// Debounce, enumeration and the first question to a monitor, with room for a slow machine.
+constexpr int LimitMs = 20'000;
+
+std::unique_ptr<sim::Monitor> makeMonitor(const char* name)
+{
+    sim::Options options;
+    options.strictTiming = true;
+    return std::make_unique<sim::Monitor>(*sim::Identity::parse(QString::fromLatin1(name)), options);
+}
+
+} // namespace
+
+/// Monitors on mocked device files as the program has them: in the registry, with models of the package.
+class TestMonitors : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<sim::Monitor> alpha;
+    std::unique_ptr<sim::Monitor> beta;
+    std::unique_ptr<MockBed> bed;
+    MockBed::Port* first = nullptr;
+    MockBed::Port* second = nullptr;
+    MockBed::Port* third = nullptr;
+    std::unique_ptr<LuMonitorRegistry> registry;
+    std::unique_ptr<RealMonitors> monitors;
+
+    void start()
+    {
+        monitors = std::make_unique<RealMonitors>(*registry);
+        QSignalSpy discovered(monitors.get(), &RealMonitors::discovered);
+        monitors->start();
+        QTRY_COMPARE_WITH_TIMEOUT(discovered.size(), 1, LimitMs);
+        QTRY_VERIFY_WITH_TIMEOUT(!registry->isBusy(), LimitMs);
+    }
+    QStringList ids() const
+    {
+        QStringList result;
+        const QList<LuMonitorModel*> models = registry->monitors();
+        for (const LuMonitorModel* model : models)
+            result.append(model->id());
+        result.sort();
+        return result;
+    }
+    bool write(const char* id, int value)
+    {
+        const LuMonitorModel* model = registry->find(QString::fromLatin1(id));
+        return model && MonitorLink::of(*model->info()).setVCP(Brightness, value);
+    }
+
+private Q_SLOTS:
+    void initTestCase() { TestBed::instance(); }
+
+    void init()
+    {
+        LuSettings::instance().remove(QStringLiteral("monitors/twins"));
+        alpha = makeMonitor("Alpha27Q@SN-A");
+        beta = makeMonitor("Beta32U@SN-B");
+        bed = std::make_unique<MockBed>();
+        first = &bed->addPort(4, QStringLiteral("DP-1"));
+        second = &bed->addPort(5, QStringLiteral("DP-2"));
+        third = &bed->addPort(6, QStringLiteral("HDMI-A-1"));
+        registry = std::make_unique<LuMonitorRegistry>();
+        registry->addPackage(TestBed::instance().package());
+    }
+
+    void cleanup()
+    {
+        registry->shutDown();
+        monitors.reset();
+        registry.reset();
+        QCOMPARE(alpha->violations().total(), quint64(0));
+        QCOMPARE(beta->violations().total(), quint64(0));
+        bed.reset();
+    }
+
+    void withoutMonitorsTheSearchEndsToo()
+    {
+        start();
+        QVERIFY(monitors->isDiscovered());
+        QVERIFY(registry->monitors().isEmpty());
+    }
+
+    void whatIsThereIsPluggedIn()
+    {
+        bed->plug(*first, *alpha);
+        bed->plug(*third, *beta);
+        bed->addPanel(QStringLiteral("eDP-1"), makeMonitor("Panel@1")->edid());
+        start();
+        QCOMPARE(ids(), (QStringList{QStringLiteral("Alpha27Q@SN-A"), QStringLiteral("Beta32U@SN-B"),
+                                     QStringLiteral("Panel@1")}));
+        QVERIFY(registry->find(QStringLiteral("Panel@1"))->isModelBuiltIn());
+        QVERIFY(monitors->backlightOf(QStringLiteral("Panel@1")).endsWith(QLatin1String("/intel_backlight")));
+        QCOMPARE(monitors->connectorOf(QStringLiteral("Beta32U@SN-B")), QStringLiteral("card0-HDMI-A-1"));
+        QVERIFY(write("Alpha27Q@SN-A", 11));
+        QVERIFY(write("Beta32U@SN-B", 22));
+        QVERIFY(alpha->value(Brightness) == 11);
+        QVERIFY(beta->value(Brightness) == 22);
+    }
+
+    void aMonitorOfTheSeriesIsDrivenByItsModules()
+    {
+        const auto series = makeMonitor("TK30Z@SERIES-1");
+        bed->plug(*first, *series);
+        start();
+        LuMonitorModel* model = registry->find(QStringLiteral("TK30Z@SERIES-1"));
+        QVERIFY(model && model->isModelSupported());
+        LuModelModuleInterface* module = model->moduleByClassName(QStringLiteral("LuAiContrast"));
+        QVERIFY(module);
+        QVERIFY(waitForRest());
+        const bool before = module->property("state").toBool();
+        const auto raw = series->value(0xF3);
+        QVERIFY(module->setProperty("state", !before));
+        QVERIFY(waitForRest());
+        QCOMPARE(module->property("state").toBool(), !before);
+        QVERIFY(series->value(0xF3) != raw);
+        QCOMPARE(series->violations().total(), quint64(0));
+        bed->unplug(*first);
+        registry->removeMonitor(model->id());
+    }
+
+    void aMonitorThatComesGoesAndChangesPlacesIsFollowed()
+    {
+        start();
+        bed->plug(*first, *alpha);
+        bed->sendEvent();
+        QTRY_COMPARE_WITH_TIMEOUT(ids(), QStringList{QStringLiteral("Alpha27Q@SN-A")}, LimitMs);
+        bed->unplug(*first);
+        bed->plug(*third, *alpha);
+        bed->sendEvent();
+        QTRY_COMPARE_WITH_TIMEOUT(monitors->connectorOf(QStringLiteral("Alpha27Q@SN-A")),
+                                  QStringLiteral("card0-HDMI-A-1"), LimitMs);
+        QTRY_COMPARE_WITH_TIMEOUT(ids(), QStringList{QStringLiteral("Alpha27Q@SN-A")}, LimitMs);
+        QVERIFY(write("Alpha27Q@SN-A", 17));
+        QVERIFY(alpha->value(Brightness) == 17);
+        bed->unplug(*third);
+        bed->sendEvent();
+        QTRY_VERIFY_WITH_TIMEOUT(ids().isEmpty(), LimitMs);
+    }
+
+    void swappedMonitorsKeepTheirValuesApart()
+    {
+        bed->plug(*first, *alpha);
+        bed->plug(*second, *beta);
+        start();
+        QVERIFY(write("Alpha27Q@SN-A", 11));
+        QVERIFY(write("Beta32U@SN-B", 22));
+        bed->plug(*first, *beta);
+        bed->plug(*second, *alpha);
+        bed->sendEvent();
+        QTRY_COMPARE_WITH_TIMEOUT(monitors->connectorOf(QStringLiteral("Alpha27Q@SN-A")),
+                                  QStringLiteral("card0-DP-2"), LimitMs);
+        QTRY_COMPARE_WITH_TIMEOUT(ids().size(), 2, LimitMs);
+        QVERIFY(write("Alpha27Q@SN-A", 33));
+        QVERIFY(alpha->value(Brightness) == 33);
+        QVERIFY(beta->value(Brightness) == 22);
+    }
+
+    void aMonitorThatWasAwayForAMomentWorksAgain()
+    {
+        bed->plug(*first, *alpha);
+        start();
+        // Another one in its place and back, faster than the events settle.
+        bed->plug(*first, *beta);
+        QSignalSpy disturbed(monitors.get(), &RealMonitors::disturbed);
+        bed->sendEvent();
+        QTRY_VERIFY_WITH_TIMEOUT(!disturbed.isEmpty(), LimitMs);
+        const auto untouched = beta->value(Brightness);
+        QVERIFY(!write("Alpha27Q@SN-A", 44));
+        QVERIFY(beta->value(Brightness) == untouched);
+        bed->plug(*first, *alpha);
+        bed->sendEvent();
+        QTRY_VERIFY_WITH_TIMEOUT(write("Alpha27Q@SN-A", 45), LimitMs);
+        QVERIFY(alpha->value(Brightness) == 45);
+    }
+
+    void twinsWithoutSerialsKeepTheirNames()
+    {
+        const auto one = makeMonitor("Twin24@");
+        const auto two = makeMonitor("Twin24@");
+        bed->plug(*first, *one);
+        bed->plug(*second, *two);
+        start();
+        QCOMPARE(ids(), (QStringList{QStringLiteral("Twin24"), QStringLiteral("Twin24#2")}));
+        QVERIFY(write("Twin24#2", 7));
+        QVERIFY(two->value(Brightness) == 7);
+        QVERIFY(one->value(Brightness) != 7);
+        bed->unplug(*first);
+        bed->sendEvent();
+        QTRY_COMPARE_WITH_TIMEOUT(ids(), QStringList{QStringLiteral("Twin24#2")}, LimitMs);
+        // The next start knows it too.
+        registry->shutDown();
+        monitors.reset();
+        start();
+        QCOMPARE(ids(), QStringList{QStringLiteral("Twin24#2")});
+        bed->unplug(*second);
+        registry->shutDown();
+    }
+
+    void aSleepingDisplayIsAskedNothing()
+    {
+        alpha->setRawLogEnabled(true);
+        bed->plug(*first, *alpha);
+        bed->plug(*second, *beta);
+        bed->setPower(*first, "Off");
+        start();
+        QCOMPARE(ids(), QStringList{QStringLiteral("Beta32U@SN-B")});
+        QVERIFY(alpha->rawLog().isEmpty());
+        bed->setPower(*first, "On");
+        QTRY_COMPARE_WITH_TIMEOUT(ids().size(), 2, LimitMs);
+        QVERIFY(!monitors->isAsleep(QStringLiteral("Alpha27Q@SN-A")));
+        QSignalSpy slept(monitors.get(), &RealMonitors::sleepChanged);
+        bed->setPower(*first, "Off");
+        QTRY_COMPARE_WITH_TIMEOUT(slept.size(), 1, LimitMs);
+        QCOMPARE(slept.at(0), (QVariantList{QStringLiteral("Alpha27Q@SN-A"), true}));
+        QVERIFY(monitors->isAsleep(QStringLiteral("Alpha27Q@SN-A")));
+        QCOMPARE(ids().size(), 2);
+        bed->setPower(*first, "On");
+        QTRY_VERIFY_WITH_TIMEOUT(!monitors->isAsleep(QStringLiteral("Alpha27Q@SN-A")), LimitMs);
+        QVERIFY(write("Alpha27Q@SN-A", 5));
+    }
+
+    void aSilentMonitorHoldsUpNoOther()
+    {
+        sim::Fault fault;
+        fault.kind = sim::FaultKind::Timeout;
+        fault.blocks = std::chrono::seconds(10);
+        alpha->armFault(fault);
+        bed->plug(*first, *alpha);
+        bed->plug(*second, *beta);
+        monitors = std::make_unique<RealMonitors>(*registry);
+        monitors->start();
+        QTRY_COMPARE_WITH_TIMEOUT(ids(), QStringList{QStringLiteral("Beta32U@SN-B")}, 5000);
+        QVERIFY(bed->isTransferring(*first));
+        alpha->unplug();
+        QTRY_COMPARE_WITH_TIMEOUT(ids().size(), 2, LimitMs);
+    }
+
+    void aScreenIsFoundByWhatItTellsOrItsName_data()
+    {
+        QTest::addColumn<QString>("connector");
+        QTest::addColumn<QList<ScreenFacts>>("screens");
+        QTest::addColumn<QString>("screen");
+        const auto row = [](const char* name, const char* connector,
+                            const QList<std::array<const char*, 3>>& screens, const char* screen) {
+            QList<ScreenFacts> facts;
+            for (const auto& each : screens)
+                facts.append({QString::fromLatin1(each[0]), QString::fromLatin1(each[1]),
+                              QString::fromLatin1(each[2])});
+            QTest::newRow(name) << QString::fromLatin1(connector) << facts << QString::fromLatin1(screen);
+        };
+        row("X11", "card0-HDMI-A-1", {{"DP-1", "", ""}, {"HDMI-1", "", ""}}, "HDMI-1");
+        row("X11, Intel's driver", "card0-DP-2", {{"DP1", "", ""}, {"DP2", "", ""}}, "DP2");
+        row("X11, a driver that counts from 0", "card0-DP-2",
+            {{"DisplayPort-0", "", ""}, {"DisplayPort-1", "", ""}, {"HDMI-A-0", "", ""}}, "DisplayPort-1");
+        row("Wayland", "card0-HDMI-A-2", {{"HDMI-A-1", "", ""}, {"HDMI-A-2", "", ""}}, "HDMI-A-2");
+        row("panel", "card1-eDP-1", {{"eDP-1", "", ""}, {"DP-1", "", ""}}, "eDP-1");
+        row("by its EDID, against the names", "card0-DP-1", {{"DP-1", "Other", "9"}, {"DP-3", "Alpha", "S"}},
+            "DP-3");
+        row("twins by their names", "card0-DP-2", {{"DP-1", "Alpha", "S"}, {"DP-2", "Alpha", "S"}}, "DP-2");
+        row("a name that belongs to another model", "card0-DP-1", {{"DP-1", "Other", "9"}}, "");
+        row("none", "card0-DP-1", {}, "");
+        row("nothing in common", "card0-DP-1", {{"offscreen", "", ""}}, "");
+    }
+
+    void aScreenIsFoundByWhatItTellsOrItsName()
+    {
+        QFETCH(QString, connector);
+        QFETCH(QList<ScreenFacts>, screens);
+        QFETCH(QString, screen);
+        QCOMPARE(screenFor(connector, QStringLiteral("Alpha"), QStringLiteral("S"), screens), screen);
+    }
+};
+
+QTEST_MAIN(TestMonitors)
+#include "tst_i2c_monitors.moc"
