@@ -9,8 +9,9 @@ function(lumen_test_pch)
   file(CONFIGURE OUTPUT ${PROJECT_BINARY_DIR}/lumen_test_pch.cpp CONTENT "int main() { return 0; }\n")
   add_executable(lumen_test_pch EXCLUDE_FROM_ALL ${PROJECT_BINARY_DIR}/lumen_test_pch.cpp)
   set_target_properties(lumen_test_pch PROPERTIES AUTOMOC OFF)
-  target_link_libraries(lumen_test_pch PRIVATE Qt6::Core Qt6::Test lumen_flags)
-  target_precompile_headers(lumen_test_pch PRIVATE <QtCore> <QtTest> <functional> <memory>)
+  # Without QtTest: it is compiled with the name of each test's own folder.
+  target_link_libraries(lumen_test_pch PRIVATE Qt6::Core lumen_flags)
+  target_precompile_headers(lumen_test_pch PRIVATE <QtCore> <functional> <memory>)
 endfunction()
 
 # lumen_test(NAME tst_x SOURCES <file>... LINKS <target>... [LABELS <label>...] [TIMEOUT s] [ENVIRONMENT A=B...]

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Application.h"
 
+#include "RealMonitors.h"
 #include "SimulatedMonitors.h"
 #include "adapters/ClockMethods.h"
 #include "adapters/ServiceMethods.h"
@@ -51,6 +52,7 @@ Application::~Application()
         lumenQmlRelease();
     }
     m_server.reset();
+    m_real.reset();
     m_registry.reset();
     m_simulated.reset();
     m_services.reset();
@@ -121,6 +123,8 @@ Application::Start Application::start()
             &control::Dispatcher::resume);
     if (m_simulated)
         m_simulated->plugAll();
+    else
+        findRealMonitors();
     if (!m_options.headless)
         openWindow();
     if (!m_options.screenshotFile.isEmpty()) {
@@ -130,6 +134,16 @@ Application::Start Application::start()
             ZrDispatch::main()->post(this, [this] { takePicture(); });
     }
     return Start::Running;
+}
+
+void Application::findRealMonitors()
+{
+    m_real = std::make_unique<RealMonitors>(*m_registry);
+    control::Dispatcher& dispatcher = m_server->dispatcher();
+    // Requests wait for the monitors that are there at the start.
+    dispatcher.setBusy([this] { return m_ending || !m_real->isDiscovered() || m_registry->isBusy(); });
+    connect(m_real.get(), &RealMonitors::discovered, &dispatcher, &control::Dispatcher::resume, Qt::QueuedConnection);
+    m_real->start();
 }
 
 void Application::installServices()
@@ -296,6 +310,7 @@ void Application::quit()
     qInfo() << "[Application] ending";
     // Clients are answered no more: the models go.
     m_server->dispatcher().setBusy([] { return true; });
+    m_real.reset();
     m_registry->shutDown();
     if (m_simulated)
         m_simulated->persist();

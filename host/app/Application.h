@@ -14,6 +14,7 @@ class LuMonitorRegistry;
 class LuMonitorModel;
 class LuWindowBridge;
 class QQmlApplicationEngine;
+class RealMonitors;
 class SimulatedMonitors;
 
 namespace control {
@@ -44,6 +45,7 @@ public:
 
 private:
     bool loadState();
+    void findRealMonitors();
     void installServices();
     void openWindow();
     void fillWindow();
@@ -58,6 +60,7 @@ private:
     std::unique_ptr<services::SimulatedServices> m_services;
     std::unique_ptr<LuMonitorRegistry> m_registry;
     std::unique_ptr<SimulatedMonitors> m_simulated;
+    std::unique_ptr<RealMonitors> m_real;
     std::unique_ptr<control::Server> m_server;
     std::unique_ptr<QQmlApplicationEngine> m_engine;
     std::unique_ptr<LuWindowBridge> m_bridge;
