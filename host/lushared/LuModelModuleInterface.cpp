@@ -302,6 +302,18 @@ void LuModelModuleInterface::loadVCPFunctionsOnOffByCategory(const QByteArray& s
     });
 }
 
+QList<QString> LuModelModuleInterface::loadVCPFunctionTypesByCategory(const QByteArray& schema,
+                                                                      const QString& category)
+{
+    QList<QString> result;
+    (void)LuSchemaReader::forEachEntry(schema, [&](const QXmlStreamAttributes& attributes) {
+        if (attributes.value(CategoryAttribute) == category && attributes.value(ValueAttribute) == OnValue)
+            result.append(attributes.value(TypeAttribute).toString());
+        return true;
+    });
+    return result;
+}
+
 bool LuModelModuleInterface::loadVCPFunctionStringByCategory(const QByteArray& schema,
                                                              const QString& category, QString& result)
 {

@@ -153,6 +153,8 @@ protected:
     bool loadVCPFunctionOnOffByCategory(const QByteArray& schema, const QString& category);
     void loadVCPFunctionsOnOffByCategory(const QByteArray& schema, const QString& category,
                                          QHash<QString, bool>& result);
+    /// The types of the entries of the category that are on, in schema order.
+    QList<QString> loadVCPFunctionTypesByCategory(const QByteArray& schema, const QString& category);
     bool loadVCPFunctionStringByCategory(const QByteArray& schema, const QString& category, QString& result);
     bool loadVCPFunctionValueByCategory(const QByteArray& schema, const QString& category, int& result);
 

@@ -24,14 +24,21 @@ QVariant anotherValue(const QMetaProperty& property, const QVariant& present)
         const QMetaEnum names = property.enumerator();
         return names.value(0) == present.toInt() ? names.value(1) : names.value(0);
     }
+    const QLatin1String name(property.name());
+    const auto oneOf = [&present](const QVariant& a, const QVariant& b) { return present == a ? b : a; };
     switch (property.metaType().id()) {
     case QMetaType::Bool:
         return !present.toBool();
     case QMetaType::Int:
-        if (QLatin1String(property.name()) == QLatin1String("currentPivot"))
-            return present.toInt() == 90 ? 270 : 90;
-        return present.toInt() == 3 ? 4 : 3;
+        if (name == QLatin1String("currentPivot"))
+            return oneOf(90, 270);
+        // Below 31 several values look the same and read back as the highest of them.
+        if (name == QLatin1String("displayBrightness"))
+            return oneOf(60, 70);
+        return oneOf(3, 4);
     case QMetaType::QString:
+        if (name == QLatin1String("colorModeName"))
+            return oneOf(QStringLiteral("Cinema"), QStringLiteral("Game"));
         return present.toString() + QStringLiteral("x");
     default:
         return {};
@@ -48,6 +55,29 @@ bool isTransient(const QMetaProperty& property)
 /// tests.
 bool survivesRestart(const QString& module, const QMetaProperty& property)
 {
+    // The panel decides these two anew; the others belong to no colour mode of the series.
+    static const QStringList brightnessExceptions{
+        QStringLiteral("hardwareBrightnessEnable"),
+        QStringLiteral("backlightControlEnabled"),
+        QStringLiteral("displayGamut"),
+        QStringLiteral("displayUniformity"),
+        QStringLiteral("displayHue"),
+        QStringLiteral("displayHueR"),
+        QStringLiteral("displayHueY"),
+        QStringLiteral("displayHueG"),
+        QStringLiteral("displayHueC"),
+        QStringLiteral("displayHueB"),
+        QStringLiteral("displayHueM"),
+        QStringLiteral("displaySaturationR"),
+        QStringLiteral("displaySaturationY"),
+        QStringLiteral("displaySaturationG"),
+        QStringLiteral("displaySaturationC"),
+        QStringLiteral("displaySaturationB"),
+        QStringLiteral("displaySaturationM"),
+    };
+    if (module == QLatin1String("LuBrightness") &&
+        brightnessExceptions.contains(QLatin1String(property.name())))
+        return false;
     // The monitor holds the state of local contrast: see its own test.
     return !isTransient(property) && module != QLatin1String("LuAiContrast");
 }
@@ -149,7 +179,11 @@ void TestProperties::survivesARestart()
     QVERIFY(bed.idle());
     bed.relaunch();
     LuModelModuleInterface* again = bed.module(qPrintable(module));
-    QCOMPARE(valueOf(property, again), value);
+    // An object is another one after the restart.
+    if (!(property.metaType().flags() & QMetaType::PointerToQObject))
+        QCOMPARE(valueOf(property, again), value);
+    else
+        QVERIFY(property.read(again).value<QObject*>());
     QVERIFY(bed.idle());
 }
 
