@@ -674,8 +674,9 @@ void TestBrightness::launchWritesInOrder()
     QCOMPARE(bed.wire().filter(QStringLiteral("set")).mid(1, 6),
              (QStringList{sets("10", 61), sets("12", 62), sets("87", 5), sets("14", 5), sets("8A", 5),
                           sets("72", 120)}));
-    QCOMPARE(bed.events().filter(QLatin1String(Module)), (QStringList{QStringLiteral("LuBrightness 35  3 [61]"),
-                                                       QStringLiteral("LuBrightness 24 off 3 []")}));
+    QCOMPARE(
+        bed.events().filter(QLatin1String(Module)),
+        (QStringList{QStringLiteral("LuBrightness 35  3 [61]"), QStringLiteral("LuBrightness 24 off 3 []")}));
     const QStringList log = bed.log();
     for (const char* line : {"apply hardware brightness: 61", "apply contrast: 62", "apply sharpness: 5",
                              "apply color temperature: 1", "apply saturation: 5", "apply gamma: 3"})
