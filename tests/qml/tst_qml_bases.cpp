@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Shell.h"
 
+#include <LuShared/LuVCPNode.h>
+
 #include <QQmlListReference>
 #include <QQuickItem>
 #include <QTest>
@@ -140,18 +142,18 @@ void TestBases::thePackageSpeaksAsItsMonitorsMenu_data()
     QTest::addColumn<int>("mode");
     QTest::addColumn<QString>("package");
     QTest::addColumn<QString>("base");
-    QTest::newRow("5000 K") << false << int(FakeMode::ColorTemperature_5000) << u"Reddish"_s << u"5000 K"_s;
-    QTest::newRow("6500 K") << false << int(FakeMode::ColorTemperature_6500) << u"Normal"_s << u"6500 K"_s;
-    QTest::newRow("9300 K") << false << int(FakeMode::ColorTemperature_9300) << u"Bluish"_s << u"9300 K"_s;
-    QTest::newRow("user") << false << int(FakeMode::ColorTemperature_UserDefine) << u"User defined"_s
+    QTest::newRow("5000 K") << false << int(LuVCPNode::ColorTemperature_5000) << u"Reddish"_s << u"5000 K"_s;
+    QTest::newRow("6500 K") << false << int(LuVCPNode::ColorTemperature_6500) << u"Normal"_s << u"6500 K"_s;
+    QTest::newRow("9300 K") << false << int(LuVCPNode::ColorTemperature_9300) << u"Bluish"_s << u"9300 K"_s;
+    QTest::newRow("user") << false << int(LuVCPNode::ColorTemperature_UserDefine) << u"User defined"_s
                           << u"User defined"_s;
-    QTest::newRow("gamma 1.6") << true << int(FakeMode::Gamma_16) << u"1.6"_s << u"1.6"_s;
-    QTest::newRow("gamma 1.8") << true << int(FakeMode::Gamma_18) << u"1"_s << u"1.8"_s;
-    QTest::newRow("gamma 2.0") << true << int(FakeMode::Gamma_20) << u"2"_s << u"2.0"_s;
-    QTest::newRow("gamma 2.2") << true << int(FakeMode::Gamma_22) << u"3"_s << u"2.2"_s;
-    QTest::newRow("gamma 2.4") << true << int(FakeMode::Gamma_24) << u"4"_s << u"2.4"_s;
-    QTest::newRow("gamma 2.6") << true << int(FakeMode::Gamma_26) << u"5"_s << u"2.6"_s;
-    QTest::newRow("gamma sRGB") << true << int(FakeMode::Gamma_sRGB) << u"sRGB"_s << u"sRGB"_s;
+    QTest::newRow("gamma 1.6") << true << int(LuVCPNode::Gamma_16) << u"1.6"_s << u"1.6"_s;
+    QTest::newRow("gamma 1.8") << true << int(LuVCPNode::Gamma_18) << u"1"_s << u"1.8"_s;
+    QTest::newRow("gamma 2.0") << true << int(LuVCPNode::Gamma_20) << u"2"_s << u"2.0"_s;
+    QTest::newRow("gamma 2.2") << true << int(LuVCPNode::Gamma_22) << u"3"_s << u"2.2"_s;
+    QTest::newRow("gamma 2.4") << true << int(LuVCPNode::Gamma_24) << u"4"_s << u"2.4"_s;
+    QTest::newRow("gamma 2.6") << true << int(LuVCPNode::Gamma_26) << u"5"_s << u"2.6"_s;
+    QTest::newRow("gamma sRGB") << true << int(LuVCPNode::Gamma_sRGB) << u"sRGB"_s << u"sRGB"_s;
 }
 
 void TestBases::thePackageSpeaksAsItsMonitorsMenu()
