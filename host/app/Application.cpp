@@ -128,10 +128,10 @@ Application::Start Application::start()
     if (!m_options.headless)
         openWindow();
     if (!m_options.screenshotFile.isEmpty()) {
-        if (m_registry->isBusy())
-            connect(m_registry.get(), &LuMonitorRegistry::settled, this, &Application::takePicture);
-        else
-            ZrDispatch::main()->post(this, [this] { takePicture(); });
+        connect(m_registry.get(), &LuMonitorRegistry::settled, this, &Application::takePicture);
+        if (m_real)
+            connect(m_real.get(), &RealMonitors::discovered, this, &Application::takePicture);
+        ZrDispatch::main()->post(this, [this] { takePicture(); });
     }
     return Start::Running;
 }
@@ -141,9 +141,14 @@ void Application::findRealMonitors()
     m_real = std::make_unique<RealMonitors>(*m_registry);
     control::Dispatcher& dispatcher = m_server->dispatcher();
     // Requests wait for the monitors that are there at the start.
-    dispatcher.setBusy([this] { return m_ending || !m_real->isDiscovered() || m_registry->isBusy(); });
+    dispatcher.setBusy([this] { return isDiscovering(); });
     connect(m_real.get(), &RealMonitors::discovered, &dispatcher, &control::Dispatcher::resume, Qt::QueuedConnection);
     m_real->start();
+}
+
+bool Application::isDiscovering() const
+{
+    return m_registry->isBusy() || (m_real && !m_real->isDiscovered());
 }
 
 void Application::installServices()
@@ -291,6 +296,9 @@ void Application::fillWindow()
 
 void Application::takePicture()
 {
+    if (isDiscovering() || m_pictureTaken)
+        return;
+    m_pictureTaken = true;
     // Everything that the window is to show has been read by then.
     ZrIdle::notify({}, this, [this] {
         const LuWindowBridge::Result result = m_bridge->screenshot(m_options.screenshotFile, m_options.page);
@@ -310,8 +318,8 @@ void Application::quit()
     qInfo() << "[Application] ending";
     // Clients are answered no more: the models go.
     m_server->dispatcher().setBusy([] { return true; });
-    m_real.reset();
     m_registry->shutDown();
+    m_real.reset();
     if (m_simulated)
         m_simulated->persist();
     m_server->close();

@@ -46,6 +46,8 @@ public:
 private:
     bool loadState();
     void findRealMonitors();
+    /// Monitors that are there at the start have no model yet.
+    bool isDiscovering() const;
     void installServices();
     void openWindow();
     void fillWindow();
@@ -65,5 +67,6 @@ private:
     std::unique_ptr<QQmlApplicationEngine> m_engine;
     std::unique_ptr<LuWindowBridge> m_bridge;
     UnixSignals m_signals;
+    bool m_pictureTaken = false;
     bool m_ending = false;
 };
