@@ -16,10 +16,33 @@ if [ $# -gt 0 ]; then
   exec "$program" "$@"
 fi
 
-# Real monitors come with their own transport; until a supported one is found the session is simulated.
+# Whether a monitor that a package serves is connected: asked of the program itself, which only reads.
+has_supported_monitor() {
+  compgen -G '/dev/i2c-*' >/dev/null || return 1
+  local work pid monitors found=1
+  work=$(mktemp -d)
+  "$program" --headless --control "$work/run/c.sock" --config-dir "$work/config" --data-dir "$work/data" 2>/dev/null &
+  pid=$!
+  for _ in $(seq 50); do
+    if monitors=$(build/run/bin/lumen-deskctl --control "$work/run/c.sock" --json monitors 2>/dev/null); then
+      grep -Eq '"supported": ?true' <<<"$monitors" && found=0
+      break
+    fi
+    sleep 0.1
+  done
+  kill -TERM "$pid" 2>/dev/null
+  wait "$pid" || true
+  rm -rf "$work"
+  return $found
+}
+
 session=(--simulate TK30Z)
 if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
-  echo "Starting on a simulated TK30Z. Change the monitor from another terminal, for instance:"
+  if has_supported_monitor; then
+    echo "Starting on the connected monitors."
+    exec "$program"
+  fi
+  echo "No supported monitor is connected: starting on a simulated TK30Z. Change it from another terminal, for instance:"
   echo "  build/run/bin/lumen-deskctl sim set 0xF3 1"
   exec "$program" "${session[@]}"
 fi

@@ -337,9 +337,10 @@ void LuMonitorModel::fireHdrChangedEvent(bool state, LuDataCollection::TriggerSo
 
 void LuMonitorModel::readModuleSchemaExt()
 {
-    if (!d->supported)
-        return;
-    const LuSchemaReader::Result schema = LuSchemaReader::readFile(d->schemaPath(QStringLiteral("_ext")));
+    // A monitor without a schema has no features but those that need none: its modules decide on an empty one.
+    LuSchemaReader::Result schema;
+    if (d->supported)
+        schema = LuSchemaReader::readFile(d->schemaPath(QStringLiteral("_ext")));
     if (!schema.problem.isEmpty())
         qWarning().noquote() << "[LuMonitorModel] features behind the damage are absent:" << schema.problem;
     for (LuModelModuleInterface* module : std::as_const(d->modules))

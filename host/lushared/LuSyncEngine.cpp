@@ -27,11 +27,12 @@ void LuSyncEngine::post(Count count, std::function<void()> job)
 
 void LuSyncEngine::postSteps(LuModelModuleInterface* module, Count count)
 {
-    const std::unique_ptr<LuSyncTasks> tasks(module->syncPeriodically());
+    const std::shared_ptr<LuSyncTasks> tasks(module->syncPeriodically());
     if (!tasks)
         return;
+    // A step may add sub-tasks to the list it came from, so the list lives as long as its steps.
     for (std::function<void()>& step : tasks->takeTasks())
-        post(count, [this, count, step = std::move(step)] { runStep(step, count); });
+        post(count, [this, count, tasks, step = std::move(step)] { runStep(step, count); });
 }
 
 void LuSyncEngine::runStep(const std::function<void()>& step, Count count)

@@ -16,6 +16,28 @@ namespace {
 
 constexpr const char* Contrast = "LuAiContrast";
 
+/// A module whose step adds a sub-task to the list that it stands in.
+class NestingModule : public LuModelModuleInterface
+{
+public:
+    using LuModelModuleInterface::LuModelModuleInterface;
+
+    void readSchema(const QByteArray&) override {}
+    LuSyncTasks* syncPeriodically() override
+    {
+        auto* tasks = new LuSyncTasks(QStringLiteral("NestingModule"));
+        tasks->addTask([this, tasks] {
+            QStringList seen{QStringLiteral("step")};
+            tasks->addSubTask([&seen] { seen.append(QStringLiteral("sub")); });
+            seen.append(QStringLiteral("after"));
+            order = seen;
+        });
+        return tasks;
+    }
+
+    ZrShared<QStringList> order;
+};
+
 } // namespace
 
 /// When a monitor is read back, and when it is left alone.
@@ -32,6 +54,7 @@ private Q_SLOTS:
     void colorModeIsReadWithItsOwnSwitch();
     void stepsStandBehindWhatWaits();
     void subTaskHasRunWhenItReturns();
+    void subTasksOfAModulesStepRunInPlace();
     void listHandsItsStepsOver();
     void requestsToReadAtOnceAreOne();
     void silentMonitorIsAskedMoreAndMoreRarely();
@@ -150,6 +173,16 @@ void TestSync::subTaskHasRunWhenItReturns()
         step();
     QCOMPARE(order, (QStringList{QStringLiteral("step"), QStringLiteral("first"), QStringLiteral("second"),
                                  QStringLiteral("11")}));
+}
+
+void TestSync::subTasksOfAModulesStepRunInPlace()
+{
+    SimulatedBed bed;
+    auto* module = new NestingModule(&bed.launch());
+    QVERIFY(bed.idle());
+    LuModelHost::sync(&bed.model(), module, [] {});
+    QVERIFY(bed.idle());
+    QCOMPARE(module->order.get(), (QStringList{QStringLiteral("step"), QStringLiteral("sub"), QStringLiteral("after")}));
 }
 
 void TestSync::listHandsItsStepsOver()
