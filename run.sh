@@ -66,7 +66,7 @@ echo "A click on the tile \"Local Contrast\" ..."
 ctl ui press "Local Contrast"
 ctl raw idle '{}' >/dev/null
 echo "... went over the wire as:"
-ctl sim traffic | tail -n 3
+ctl sim traffic | awk 'NR == 1 || $3 == 243' # VCP 0xF3
 echo "The monitor's own menu switches it off again; the tile follows:"
 ctl sim set 0xF3 0
 ctl sync

@@ -35,6 +35,10 @@ target_compile_options(lumen_flags INTERFACE -Wall -Wextra -Wpedantic -Wshadow -
 if(LUMEN_WERROR)
   target_compile_options(lumen_flags INTERFACE -Werror)
 endif()
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+  # gcc 12 sees uninitialised std::optional values where it optimises or a sanitizer has added calls.
+  target_compile_options(lumen_flags INTERFACE -Wno-maybe-uninitialized)
+endif()
 target_compile_definitions(lumen_flags INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_FOREACH
                                                  QT_NO_KEYWORDS_CONFLICT QT_MESSAGELOGCONTEXT)
 target_include_directories(lumen_flags INTERFACE ${PROJECT_SOURCE_DIR}/packages/shared)
@@ -44,10 +48,6 @@ if(LUMEN_SANITIZE STREQUAL "address")
   target_link_options(lumen_flags INTERFACE -fsanitize=address,undefined)
 elseif(LUMEN_SANITIZE STREQUAL "thread")
   target_compile_options(lumen_flags INTERFACE -fsanitize=thread -fno-omit-frame-pointer)
-  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-    # gcc 12 sees uninitialised std::optional values where the sanitizer has added calls.
-    target_compile_options(lumen_flags INTERFACE -Wno-maybe-uninitialized)
-  endif()
   target_link_options(lumen_flags INTERFACE -fsanitize=thread)
 elseif(LUMEN_SANITIZE)
   message(FATAL_ERROR "LUMEN_SANITIZE is address, thread or empty, not ${LUMEN_SANITIZE}")

@@ -27,7 +27,9 @@ Window {
     objectName: "mainWindow"
     title: qsTr("Lumen Desk")
     width: LuStyle.windowWidth
-    height: Math.max(120, Math.min(free.height - 2 * LuStyle.spaceWide, header.implicitHeight + body.contentHeight))
+    // Whole pixels, rounded up: a fraction less than the content would make it scroll.
+    height: Math.max(120, Math.min(free.height - 2 * LuStyle.spaceWide,
+                                   Math.ceil(header.implicitHeight + body.contentHeight)))
     flags: Qt.Window | Qt.FramelessWindowHint
     color: LuContext.translucentWindows ? "transparent" : LuStyle.background
     visible: false
