@@ -17,28 +17,28 @@ const QString RoundKey = QStringLiteral("syncRound");
 
 } // namespace
 
-void LuSyncEngine::post(Count count, std::function<void()> job)
+void LuSyncEngine::post(Reason reason, std::function<void()> job)
 {
-    if (count == Count::Foreground)
+    if (reason != Reason::Periodic)
         m_model.dispatch->post(m_model.q, std::move(job));
     else
         m_model.dispatch->postBackground(m_model.q, QStringLiteral("syncStep"), std::move(job));
 }
 
-void LuSyncEngine::postSteps(LuModelModuleInterface* module, Count count)
+void LuSyncEngine::postSteps(LuModelModuleInterface* module, Reason reason)
 {
     const std::shared_ptr<LuSyncTasks> tasks(module->syncPeriodically());
     if (!tasks)
         return;
     // A step may add sub-tasks to the list it came from, so the list lives as long as its steps.
     for (std::function<void()>& step : tasks->takeTasks())
-        post(count, [this, count, tasks, step = std::move(step)] { runStep(step, count); });
+        post(reason, [this, reason, tasks, step = std::move(step)] { runStep(step, reason); });
 }
 
-void LuSyncEngine::runStep(const std::function<void()>& step, Count count)
+void LuSyncEngine::runStep(const std::function<void()>& step, Reason reason)
 {
     // A round that finds the monitor silent is over; what somebody asked for is tried all the same.
-    if (count == Count::Background && m_model.link().isSilent())
+    if (reason != Reason::Asked && m_model.link().isSilent())
         return;
     step();
 }
@@ -47,8 +47,8 @@ void LuSyncEngine::start()
 {
     m_started = true;
     for (LuModelModuleInterface* module : std::as_const(m_model.modules))
-        postSteps(module, Count::Foreground);
-    post(Count::Foreground, [this] { endRound(); });
+        postSteps(module, Reason::FirstRound);
+    post(Reason::FirstRound, [this] { endRound(); });
 }
 
 void LuSyncEngine::runRound()
@@ -66,9 +66,9 @@ void LuSyncEngine::runRound()
         m_model.syncColorMode();
     if (!m_model.link().isSilent() || !withColorMode) {
         for (LuModelModuleInterface* module : std::as_const(visible))
-            postSteps(module, Count::Background);
+            postSteps(module, Reason::Periodic);
     }
-    post(Count::Background, [this] { endRound(); });
+    post(Reason::Periodic, [this] { endRound(); });
 }
 
 void LuSyncEngine::endRound()
@@ -101,19 +101,19 @@ void LuSyncEngine::noteUserAction()
 void LuSyncEngine::force(LuModelModuleInterface* module)
 {
     m_model.dispatch->postUnique(module, QStringLiteral("forceSync"),
-                                 [this, module] { postSteps(module, Count::Foreground); });
+                                 [this, module] { postSteps(module, Reason::Asked); });
 }
 
 void LuSyncEngine::readBack(LuModelModuleInterface* module, std::function<void()> done)
 {
     m_model.dispatch->post(m_model.q, [this, module, done = std::move(done)]() mutable {
         if (module) {
-            postSteps(module, Count::Foreground);
+            postSteps(module, Reason::Asked);
         } else {
             m_model.syncColorMode();
             for (LuModelModuleInterface* each : std::as_const(m_model.modules))
-                postSteps(each, Count::Foreground);
+                postSteps(each, Reason::Asked);
         }
-        post(Count::Foreground, std::move(done));
+        post(Reason::Asked, std::move(done));
     });
 }

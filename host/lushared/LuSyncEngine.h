@@ -40,14 +40,16 @@ public:
     void readBack(LuModelModuleInterface* module, std::function<void()> done);
 
 private:
-    enum class Count {
-        Foreground, ///< Counts for idleness.
-        Background,
+    /// Why a step runs.
+    enum class Reason {
+        Asked, ///< Somebody wants to know: it is tried even on a silent monitor, and counts for idleness.
+        FirstRound, ///< Counts for idleness; given up on a silent monitor.
+        Periodic,   ///< Does not count for idleness; given up on a silent monitor.
     };
-    void post(Count count, std::function<void()> job);
+    void post(Reason reason, std::function<void()> job);
     /// Asks a module for its steps and posts them.
-    void postSteps(LuModelModuleInterface* module, Count count);
-    void runStep(const std::function<void()>& step, Count count);
+    void postSteps(LuModelModuleInterface* module, Reason reason);
+    void runStep(const std::function<void()>& step, Reason reason);
     void runRound();
     void endRound();
     void scheduleRound(qint64 ms);

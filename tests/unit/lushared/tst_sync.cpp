@@ -57,6 +57,7 @@ private Q_SLOTS:
     void subTasksOfAModulesStepRunInPlace();
     void listHandsItsStepsOver();
     void requestsToReadAtOnceAreOne();
+    void firstRoundGivesASilentMonitorUp();
     void silentMonitorIsAskedMoreAndMoreRarely();
     void userActionTriesASilentMonitorAgain();
     void answeringMonitorIsReadAtTheUsualPaceAgain();
@@ -212,6 +213,28 @@ void TestSync::requestsToReadAtOnceAreOne()
     go = true;
     QVERIFY(bed.idle());
     QCOMPARE(bed.wire(), QStringList{QStringLiteral("get 0xF3 0")});
+}
+
+void TestSync::firstRoundGivesASilentMonitorUp()
+{
+    SimulatedBed bed;
+    bed.launch();
+    QVERIFY(bed.idle());
+    bed.forget();
+    bed.hotplug();
+    QVERIFY(bed.idle());
+    QSet<QString> answered;
+    for (const QString& line : bed.wire())
+        answered.insert(line.section(QLatin1Char(' '), 0, 1));
+    sim::Fault fault;
+    bed.monitor().armFault(fault);
+    bed.hotplug();
+    QVERIFY(bed.idle());
+    QSet<QString> asked;
+    for (const QString& line : bed.wire())
+        asked.insert(line.section(QLatin1Char(' '), 0, 1));
+    // The colour mode and two more: then it is clear that nobody answers.
+    QVERIFY2(answered.size() > 3 && asked.size() <= 3, qPrintable(QStringList(asked.values()).join(QLatin1Char(','))));
 }
 
 void TestSync::silentMonitorIsAskedMoreAndMoreRarely()
