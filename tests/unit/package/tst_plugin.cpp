@@ -173,7 +173,10 @@ void TestPlugin::resourcesStandInTheirFolders_data()
           ":/TKPackage/schema/Resolutions.xml", ":/TKPackage/qml/TKPackage/qmldir",
           ":/TKPackage/images/packages/btn_aicontrast.svg",
           ":/TKPackage/images/packages/btn_aicontrast_active.svg",
-          ":/TKPackage/images/packages/+dark/btn_aicontrast.svg"})
+          ":/TKPackage/images/packages/+dark/btn_aicontrast.svg",
+          ":/lottieAnimation/intro_tk01_glow_a_ok.json", ":/lottieAnimation/intro_tk01_glow_b_loop_ok.json",
+          ":/lottieAnimation/intro_tk02_night_v2_ok.json", ":/NanoShape/NanoShader.vert.qsb",
+          ":/NanoShape/NanoShader.frag.qsb"})
         QTest::newRow(path) << QString::fromLatin1(path);
     for (const char* language : {"cs", "de", "en", "es", "fr", "hr", "hu", "it", "ja", "ko", "nl", "pl", "pt",
                                  "ro", "ru", "sv", "zh", "zh_TW"})
