@@ -88,7 +88,6 @@ bool LuMonitorModel::isFirstTimeConnected() const
 void LuMonitorModel::setFirstTimeConnected(bool firstTime)
 {
     d->firstTime = firstTime;
-    d->attached = true;
 }
 
 LuVCPNode* LuMonitorModel::colorMode() const

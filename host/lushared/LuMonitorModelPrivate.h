@@ -52,14 +52,12 @@ public:
     LuForceSync forceSync;
     LuSyncEngine engine;
     QString nickName;
-    QString packageVersion;
     bool supported = false;
     bool current = false;
     bool firstTime = false;
     bool metBefore = false;
     ZrShared<bool> syncCurrentColorMode{false};
     ZrShared<bool> ecoLockingPaused{false};
-    ZrShared<bool> attached{false}; ///< The steps of construction are over.
 
     /// Names of widget files by package name, filled by the registry before the first model.
     static QHash<QString, QStringList>& packageWidgets();
