@@ -27,6 +27,7 @@
 #include <qml/LumenQml.h>
 #include <services/native/Session.h>
 #include <services/simulated/SimulatedServices.h>
+#include <services/sun/SunForecast.h>
 
 #include <QDebug>
 #include <QDir>
@@ -153,6 +154,7 @@ bool Application::isDiscovering() const
 
 void Application::installServices()
 {
+    services::answerSunForecasts();
     const bool native =
         m_options.nativeServices.value_or(m_hasDisplay && !(m_options.headless && m_options.simulate));
     if (native) {

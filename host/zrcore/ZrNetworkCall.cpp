@@ -7,6 +7,7 @@
 #include <QNetworkReply>
 #include <QNetworkRequest>
 #include <QPointer>
+#include <QThread>
 #include <QTimer>
 #include <QUrlQuery>
 
@@ -188,7 +189,8 @@ void ZrNetworkCall::Private::judgeReply()
     const int status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
     // A status of 400 and above is an error to Qt, but its body is the server's answer all the same.
     if (reply->error() != QNetworkReply::NoError && status < 400)
-        return fail(ConnectionError, reply->errorString());
+        return fail(reply->error() == QNetworkReply::SslHandshakeFailedError ? TlsError : ConnectionError,
+                    reply->errorString());
     QJsonParseError parseError;
     const QJsonDocument document = QJsonDocument::fromJson(body, &parseError);
     if (document.isObject())
@@ -215,8 +217,12 @@ void ZrNetworkCall::Private::finishLater(int code, const QString& text, const QJ
 }
 
 ZrNetworkCall::ZrNetworkCall(const QUrl& url, const QString& method, QObject* parent)
-    : QObject(parent), d(std::make_unique<Private>(this))
+    : QObject(parent && parent->thread() == QThread::currentThread() ? parent : nullptr),
+      d(std::make_unique<Private>(this))
 {
+    // A queue's job has no event loop: the request runs where its parent lives.
+    if (parent && parent->thread() != thread())
+        moveToThread(parent->thread());
     d->url = url;
     d->method = method.trimmed().toUpper();
     connect(&d->timer, &QTimer::timeout, this,
@@ -257,6 +263,11 @@ void ZrNetworkCall::setLocalResponder(const QString& scheme, LocalResponder resp
 
 void ZrNetworkCall::execute(Callback callback)
 {
+    if (QThread::currentThread() != thread()) {
+        QMetaObject::invokeMethod(
+            this, [this, callback = std::move(callback)] { execute(callback); }, Qt::QueuedConnection);
+        return;
+    }
     if (d->running) {
         QTimer::singleShot(0, this, [callback = std::move(callback)] {
             if (callback)

@@ -18,7 +18,9 @@ class QNetworkRequest;
 ///
 /// Options become query items of a "GET" and the JSON body of any other method. The request ends after 30 s,
 /// follows at most 5 redirects, none from https to http, and takes a reply of at most 1 MiB. It lives on a
-/// thread with an event loop, and all of it happens there.
+/// thread with an event loop, and all of it happens there: on the thread of its parent, wherever it was
+/// made, and on that of its maker without one. With a parent on another thread than the maker's it belongs
+/// to the maker.
 class ZRCORE_EXPORT ZrNetworkCall : public QObject
 {
     Q_OBJECT
@@ -40,6 +42,7 @@ public:
         NotJson = 7,     ///< A successful reply that is no JSON object.
         Busy = 8,        ///< execute() while the request runs.
         Canceled = 9,    ///< onNetworkRequest() refused.
+        TlsError = 10,   ///< The server could not prove who it is, or there is no safe connection to it.
     };
 
     /// Cancels a running request; its callback is not called.
@@ -49,8 +52,8 @@ public:
     /// place.
     void setOption(const QString& key, const QJsonValue& value);
 
-    /// Sends the request. The callback is called later, never from within execute(), on the object's thread,
-    /// and not after the object is gone; it may destroy the object.
+    /// Sends the request; any thread. The callback is called later, never from within execute(), on the
+    /// object's thread, and not after the object is gone; it may destroy the object.
     void execute(Callback callback);
 
     /// Limits other than the usual ones, for tests. 0 or less keeps the present one.
