@@ -3,12 +3,12 @@
 
 #include <QEvent>
 #include <QFile>
-#include <QQmlContext>
-#include <QQmlEngine>
 #include <QFontInfo>
 #include <QGuiApplication>
 #include <QLoggingCategory>
 #include <QPalette>
+#include <QQmlContext>
+#include <QQmlEngine>
 #include <QScreen>
 
 #include <algorithm>
@@ -147,6 +147,14 @@ void LuContext::setMultiMonitorSyncControl(QObject* control)
         return;
     m_multiMonitorSyncControl = control;
     Q_EMIT multiMonitorSyncControlChanged();
+}
+
+void LuContext::setBrightnessSync(QObject* sync)
+{
+    if (sync == m_brightnessSync)
+        return;
+    m_brightnessSync = sync;
+    Q_EMIT brightnessSyncChanged();
 }
 
 bool LuContext::isWindows() const

@@ -33,6 +33,8 @@ class LuContext : public QObject
     Q_PROPERTY(QQuickWindow* mainWindow READ mainWindow WRITE setMainWindow NOTIFY mainWindowChanged)
     Q_PROPERTY(QObject* multiMonitorSyncControl READ multiMonitorSyncControl WRITE setMultiMonitorSyncControl
                    NOTIFY multiMonitorSyncControlChanged)
+    Q_PROPERTY(
+        QObject* brightnessSync READ brightnessSync WRITE setBrightnessSync NOTIFY brightnessSyncChanged)
     Q_PROPERTY(bool isWindows READ isWindows CONSTANT)
     Q_PROPERTY(bool isMacOS READ isMacOS CONSTANT)
     Q_PROPERTY(bool isLinux READ isLinux CONSTANT)
@@ -74,6 +76,9 @@ public:
     void setMainWindow(QQuickWindow* window);
     QObject* multiMonitorSyncControl() const { return m_multiMonitorSyncControl; }
     void setMultiMonitorSyncControl(QObject* control);
+    /// Keeps the brightness of several monitors alike; null until the program has set it.
+    QObject* brightnessSync() const { return m_brightnessSync; }
+    void setBrightnessSync(QObject* sync);
 
     bool isWindows() const;
     bool isMacOS() const;
@@ -130,6 +135,7 @@ Q_SIGNALS:
     void widgetUrlsChanged();
     void mainWindowChanged();
     void multiMonitorSyncControlChanged();
+    void brightnessSyncChanged();
     void translucentWindowsChanged();
     void themeChanged();
     void colorSchemeChanged();
@@ -157,6 +163,7 @@ private:
     std::function<QScreen*(QObject*)> m_screenSource;
     QPointer<QQuickWindow> m_mainWindow;
     QPointer<QObject> m_multiMonitorSyncControl;
+    QPointer<QObject> m_brightnessSync;
     QString m_theme;
     QString m_colorScheme;
     bool m_translucentWindows = true;

@@ -9,6 +9,20 @@ set(TKPACKAGE_QML_FILES
   Popups/qmldir
   Settings/Advanced/qmldir
   Widgets/qmldir
+  Widgets/picture/AxisControls.qml
+  Widgets/picture/BrightnessPage.qml
+  Widgets/picture/BrightnessSliders.qml
+  Widgets/picture/ColorModeChoice.qml
+  Widgets/picture/ColorTemperatureControls.qml
+  Widgets/picture/FollowingChoice.qml
+  Widgets/picture/FollowingSlider.qml
+  Widgets/picture/LabeledSlider.qml
   Widgets/LuAiContrastWidget.qml
   Widgets/LuAutoPivotWidget.qml
+  Widgets/LuBrightnessWidget.qml
+  Widgets/LuBuiltInBrightnessWidget.qml
+  Widgets/LuColorWeaknessWidget.qml
+  Widgets/LuHDRWidget.qml
+  Widgets/picture/ModeBundleHint.qml
+  Widgets/picture/PictureRules.qml
   Widgets/LuPivotWidget.qml)

@@ -9,7 +9,7 @@ T.ComboBox {
 
     property string text
 
-    implicitWidth: Math.max(72, metrics.width + leftPadding + rightPadding + 1)
+    implicitWidth: Math.max(72, Math.ceil(metrics.advanceWidth) + leftPadding + rightPadding + 1)
     implicitHeight: LuStyle.controlHeight
     leftPadding: mirrored ? 26 : LuStyle.space + 2
     rightPadding: mirrored ? LuStyle.space + 2 : 26

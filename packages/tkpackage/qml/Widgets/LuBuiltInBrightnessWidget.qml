@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import LumenDesk
+import LumenDesk.Controls
+import LumenDesk.Style
+import LumenDesk.Widgets
+import ".."
+import "picture"
+
+// The brightness of the notebook's own panel, beside that of a monitor of the series.
+LuWidget {
+    id: _self
+
+    readonly property var builtInMonitor: Array.from(LuContext.monitors).find(other => other?.isModelBuiltIn) ?? null
+    readonly property var brightness: builtInMonitor?.brightness ?? null
+
+    text: qsTr("Built-in brightness")
+    functionSupported: (monitor?.isModelSupported ?? false) && brightness !== null
+
+    bindings: [
+        Component {
+            LuBinding {
+                target: _self.brightness
+                property: "syncEnable"
+                value: _self.isCurrentModel && _self.mainWindow?.visible || false
+                defaultValue: false
+            }
+        }
+    ]
+
+    Image {
+        id: icon
+        anchors.left: parent.left
+        anchors.verticalCenter: parent.verticalCenter
+        width: 20
+        height: 20
+        sourceSize.width: 40
+        sourceSize.height: 40
+        source: LuContext.resolvedResourceUrl("qrc:/images/packages/ic_builtin.svg", _self, LuStyle.colorScheme)
+        Accessible.ignored: true
+    }
+    FollowingSlider {
+        id: slider
+        objectName: "builtInBrightnessSlider"
+        anchors.left: icon.right
+        anchors.leftMargin: LuStyle.spaceWide
+        anchors.right: number.left
+        anchors.rightMargin: LuStyle.space
+        anchors.verticalCenter: parent.verticalCenter
+        text: _self.text
+        from: 0
+        to: 100
+        confirmed: _self.brightness?.displayBrightness
+        onChosen: value => _self.brightness.displayBrightness = value
+    }
+    LuLabel {
+        id: number
+        anchors.right: parent.right
+        anchors.verticalCenter: parent.verticalCenter
+        width: Math.max(24, implicitWidth)
+        horizontalAlignment: Text.AlignRight
+        kind: LuLabel.Value
+        repeatsName: true
+        text: Math.round(slider.value)
+    }
+}
