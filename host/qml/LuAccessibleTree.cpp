@@ -31,6 +31,7 @@ constexpr RoleName RoleNames[] = {
     {QAccessible::List, "list"_L1},           {QAccessible::ListItem, "listItem"_L1},
     {QAccessible::StaticText, "label"_L1},    {QAccessible::Graphic, "image"_L1},
     {QAccessible::Link, "link"_L1},           {QAccessible::Grouping, "group"_L1},
+    {QAccessible::SpinBox, "slider"_L1},      {QAccessible::PageTab, "button"_L1},
 };
 
 QQuickItem* itemOf(QAccessibleInterface* interface)

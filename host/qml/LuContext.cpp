@@ -281,11 +281,18 @@ void LuContext::setPackages(const QStringList& names)
     m_packages = names;
 }
 
-QStringList LuContext::imageFolders(const QObject* item) const
+QString LuContext::packageOf(QObject* item) const
 {
-    // A panel's own package goes before the others: its files stand below the package's name.
+    // A package's files stand below its name.
     const QQmlContext* context = item ? qmlContext(item) : nullptr;
-    const QString own = context ? context->baseUrl().path().section(u'/', 1, 1) : QString();
+    const QString name = context ? context->baseUrl().path().section(u'/', 1, 1) : QString();
+    return m_packages.contains(name) ? name : QString();
+}
+
+QStringList LuContext::imageFolders(QObject* item) const
+{
+    // A panel's own package goes before the others.
+    const QString own = packageOf(item);
     QStringList names = m_packages;
     if (names.removeOne(own))
         names.prepend(own);

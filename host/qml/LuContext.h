@@ -118,6 +118,8 @@ public:
     /// @param item an item of the package that asks. A file that is missing gives an empty URL and one
     /// warning.
     Q_INVOKABLE QUrl resolvedResourceUrl(const QUrl& url, QObject* item, const QString& colorScheme) const;
+    /// Name of the package whose file made @p item, or an empty text for an item of the shell.
+    Q_INVOKABLE QString packageOf(QObject* item) const;
     Q_INVOKABLE QVariant env(const QString& key, const QVariant& fallback = {}) const;
     Q_INVOKABLE QVariant envDeviceChoice(const QString& key, const QVariant& fallback = {}) const;
     /// Whether the file of a "qrc:" or "file:" URL is there.
@@ -152,7 +154,7 @@ protected:
 
 private:
     explicit LuContext(QObject* parent);
-    QStringList imageFolders(const QObject* item) const;
+    QStringList imageFolders(QObject* item) const;
     void updateColorScheme();
     void updateWidgetUrls();
 

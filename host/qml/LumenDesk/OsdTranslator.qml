@@ -43,4 +43,43 @@ QtObject {
         }
         return ""
     }
+
+    function gamut(mode: int): string {
+        switch (mode) {
+        case LuVCPNode.Gamut_Native:
+            return qsTr("Native")
+        case LuVCPNode.Gamut_sRGB:
+            return "sRGB"
+        case LuVCPNode.Gamut_Rec709:
+            return "Rec. 709"
+        case LuVCPNode.Gamut_DCIP3:
+            return "DCI-P3"
+        case LuVCPNode.Gamut_AdobeRGB:
+            return "Adobe RGB"
+        case LuVCPNode.Gamut_Rec2020:
+            return "Rec. 2020"
+        }
+        return ""
+    }
+
+    // An audio mode that has no words of its own is called as the monitor calls it.
+    function audioMode(name: string): string {
+        switch (name) {
+        case "Standard":
+            return qsTr("Standard")
+        case "Dialogue":
+            return qsTr("Dialogue")
+        case "Music":
+            return qsTr("Music")
+        case "Cinema":
+            return qsTr("Cinema")
+        case "Game":
+            return qsTr("Game")
+        case "Studio":
+            return qsTr("Studio")
+        case "User":
+            return qsTr("User")
+        }
+        return name
+    }
 }

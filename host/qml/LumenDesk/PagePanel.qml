@@ -54,12 +54,19 @@ FocusScope {
             id: heading
             anchors.left: parent.left
             anchors.leftMargin: LuStyle.spaceLarge
-            anchors.right: back.left
+            anchors.right: control.item ? control.left : back.left
             anchors.rightMargin: LuStyle.space
             anchors.verticalCenter: parent.verticalCenter
             kind: LuLabel.Title
             wrapMode: Text.WordWrap
             text: panel.title
+        }
+        Loader {
+            id: control
+            anchors.right: back.left
+            anchors.rightMargin: LuStyle.space
+            anchors.verticalCenter: parent.verticalCenter
+            sourceComponent: panel.content?.titleControl ?? null
         }
         LuIconButton {
             id: back

@@ -80,6 +80,7 @@ Window {
             stepSize: 1
             value: 62
             confirmedValue: window.confirmed
+            onSettled: window.note("settled " + value)
             onMoved: window.note("moved " + value)
             onReleased: window.note("released " + value)
         }

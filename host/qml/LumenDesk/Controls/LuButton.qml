@@ -30,7 +30,7 @@ T.Button {
     verticalPadding: LuStyle.spaceHalf
     focusPolicy: Qt.StrongFocus
     hoverEnabled: true
-    opacity: enabled ? 1 : LuStyle.disabledOpacity
+    opacity: LuStyle.dim(control)
 
     Accessible.role: kind === LuButton.Link ? Accessible.Link : Accessible.Button
     Accessible.name: text

@@ -17,7 +17,7 @@ T.CheckBox {
     focusPolicy: Qt.StrongFocus
     checked: confirmed ?? false
     hoverEnabled: true
-    opacity: enabled ? 1 : LuStyle.disabledOpacity
+    opacity: LuStyle.dim(control)
 
     Accessible.role: Accessible.CheckBox
     Accessible.name: text
@@ -28,8 +28,10 @@ T.CheckBox {
 
     // What a click does, for the return key, assistive software and scripts.
     function assistivePress(): void {
-        toggle()
-        toggled()
+        if (checkable) {
+            toggle()
+            toggled()
+        }
         clicked()
     }
 

@@ -4,10 +4,19 @@ import QtQuick.Templates as T
 import LumenDesk.Style
 
 // A choice from a list that opens below. `text` names it for assistive software.
+//
+// Bind `confirmedIndex` to what the monitor holds (-1 for nothing of the list): a choice shows at once and falls back if
+// the monitor does not follow. `textOf` gives an entry's text from the entry, where the model's own texts are not meant
+// for people; `enabledOf` says whether an entry may be chosen.
 T.ComboBox {
     id: control
 
     property string text
+    property string placeholder
+    property var confirmedIndex
+    property var textOf
+    property var enabledOf
+    readonly property bool opened: popup.visible
 
     implicitWidth: Math.max(72, Math.ceil(metrics.advanceWidth) + leftPadding + rightPadding + 1)
     implicitHeight: LuStyle.controlHeight
@@ -17,31 +26,67 @@ T.ComboBox {
     hoverEnabled: true
     font.family: LuStyle.fontFamily
     font.pixelSize: LuStyle.fontBody
-    opacity: enabled ? 1 : LuStyle.disabledOpacity
+    opacity: LuStyle.dim(control)
+    displayText: labelAt(currentIndex)
+    // A new list puts the template's index back to its start.
+    onModelChanged: follow()
+    Component.onCompleted: follow()
 
     Accessible.role: Accessible.ComboBox
     Accessible.name: text
+    Accessible.description: displayText
     Accessible.onPressAction: control.popup.open()
 
-    // Chooses the entry of that text, as a click on it does. False if there is none.
-    function assistiveSet(wanted: var): bool {
-        const index = find(String(wanted))
-        if (index < 0)
-            return false
-        currentIndex = index
-        activated(index)
-        return true
+    function follow(): void {
+        if (confirmedIndex !== undefined)
+            currentIndex = Qt.binding(() => control.confirmedIndex ?? -1)
     }
 
+    // The entry itself: an element of the list, or a row's text.
+    function entryAt(index: int): var {
+        if (index < 0 || index >= count)
+            return undefined
+        return Array.isArray(model) || (model?.length !== undefined && typeof model !== "string") ? model[index] : textAt(index)
+    }
+
+    function labelAt(index: int): string {
+        if (index < 0 || index >= count)
+            return ""
+        const translate = textOf
+        return translate ? String(translate(entryAt(index)) ?? "") : textAt(index)
+    }
+
+    function choosable(index: int): bool {
+        const allow = enabledOf
+        return !allow || allow(entryAt(index)) === true
+    }
+
+    // Chooses the entry of that text, as a click on it does. False if there is none or it may not be chosen.
+    function assistiveSet(wanted: var): bool {
+        for (let index = 0; index < count; ++index) {
+            if (labelAt(index) === String(wanted) && choosable(index)) {
+                currentIndex = index
+                activated(index)
+                return true
+            }
+        }
+        return false
+    }
+
+    Timer {
+        interval: 2500
+        running: control.confirmedIndex !== undefined && control.currentIndex !== control.confirmedIndex
+        onTriggered: control.follow()
+    }
     TextMetrics {
         id: metrics
         font: control.font
-        text: control.displayText
+        text: control.displayText || control.placeholder
     }
 
     background: Rectangle {
         radius: LuStyle.radiusSmall
-        color: control.hovered || control.down ? LuStyle.fieldHover : LuStyle.field
+        color: control.down ? LuStyle.fieldPress : control.hovered ? LuStyle.fieldHover : LuStyle.field
         border.width: LuStyle.highContrast ? 1 : 0
         border.color: LuStyle.outline
         Behavior on color {
@@ -53,7 +98,8 @@ T.ComboBox {
     }
     contentItem: LuLabel {
         repeatsName: true
-        text: control.displayText
+        text: control.displayText || control.placeholder
+        color: control.displayText ? LuStyle.text : LuStyle.textDim
         verticalAlignment: Text.AlignVCenter
     }
     indicator: LuIcon {
@@ -62,52 +108,76 @@ T.ComboBox {
         name: "down"
         size: 14
         color: LuStyle.textDim
+        rotation: control.opened ? 180 : 0
+        Behavior on rotation {
+            NumberAnimation { duration: LuStyle.motion }
+        }
     }
     delegate: T.ItemDelegate {
         id: entry
 
         required property int index
+        readonly property bool chosen: control.currentIndex === index
 
         width: ListView.view ? ListView.view.width : implicitWidth
-        implicitWidth: entryLabel.implicitWidth + leftPadding + rightPadding
         implicitHeight: LuStyle.controlHeight
         horizontalPadding: LuStyle.space
-        text: control.textAt(index)
+        text: control.labelAt(index)
+        enabled: control.choosable(index)
         highlighted: control.highlightedIndex === index
         hoverEnabled: true
+        opacity: LuStyle.dim(entry)
         Accessible.role: Accessible.ListItem
         Accessible.name: text
+        Accessible.selected: chosen
         background: Rectangle {
-            radius: 6
-            color: entry.highlighted ? LuStyle.hover : "transparent"
+            radius: LuStyle.radiusSmall - 1
+            color: entry.down ? LuStyle.press : entry.highlighted && entry.enabled ? LuStyle.hover : "transparent"
+            border.width: LuStyle.highContrast && entry.highlighted ? 1 : 0
+            border.color: LuStyle.outline
         }
         contentItem: LuLabel {
-            id: entryLabel
+            rightPadding: control.mirrored ? 0 : 20
+            leftPadding: control.mirrored ? 20 : 0
             repeatsName: true
             text: entry.text
             verticalAlignment: Text.AlignVCenter
-            font.weight: control.currentIndex === entry.index ? LuStyle.weightStrong : Font.Normal
-            color: control.currentIndex === entry.index ? LuStyle.accentText : LuStyle.text
+            font.weight: entry.chosen ? LuStyle.weightStrong : Font.Normal
+            color: entry.chosen ? LuStyle.accentText : LuStyle.text
+        }
+        LuIcon {
+            x: control.mirrored ? LuStyle.space - 2 : entry.width - width - LuStyle.space + 2
+            y: (entry.height - height) / 2
+            name: "check"
+            size: 16
+            color: LuStyle.accentText
+            visible: entry.chosen
         }
     }
     popup: T.Popup {
+        id: list
+
+        readonly property real widest: {
+            let wide = 0
+            for (let i = 0; i < control.count; ++i)
+                wide = Math.max(wide, measure.advanceWidth(control.labelAt(i)))
+            return wide + 2 * LuStyle.space + 20 + 2 * padding + 4
+        }
+
         y: control.height + LuStyle.spaceHalf
-        width: Math.max(control.width, 120)
+        x: control.mirrored ? 0 : Math.min(0, control.width - width)
+        width: Math.max(control.width, 96, opened ? Math.min(300, widest) : 0)
         height: Math.min(contentItem.implicitHeight + 2 * padding, 280)
         padding: LuStyle.spaceHalf
         margins: LuStyle.space
-        background: Rectangle {
-            radius: LuStyle.radius
-            color: LuStyle.raised
-            border.width: 1
-            border.color: LuStyle.line
-        }
+        background: LuSurface { }
         contentItem: ListView {
             clip: true
             implicitHeight: contentHeight
             model: control.delegateModel
             currentIndex: control.highlightedIndex
             highlightMoveDuration: 0
+            boundsBehavior: Flickable.StopAtBounds
             T.ScrollBar.vertical: LuScrollBar { }
         }
         enter: Transition {
@@ -115,6 +185,10 @@ T.ComboBox {
         }
         exit: Transition {
             NumberAnimation { property: "opacity"; from: 1; to: 0; duration: LuStyle.motion }
+        }
+        FontMetrics {
+            id: measure
+            font: control.font
         }
     }
 }

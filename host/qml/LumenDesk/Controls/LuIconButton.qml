@@ -14,7 +14,7 @@ T.Button {
     padding: 4
     focusPolicy: Qt.StrongFocus
     hoverEnabled: true
-    opacity: enabled ? 1 : LuStyle.disabledOpacity
+    opacity: LuStyle.dim(control)
 
     Accessible.role: Accessible.Button
     Accessible.name: text

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
 import QtQuick.Templates as T
-import QtQuick.Window
 import LumenDesk.Style
 
-// One choice of several, shown as a picture. `text` says what it chooses.
+// One choice of several, shown as a picture. `text` says what it chooses. Without a `checkedImage` the chosen one keeps
+// its picture in a tinted box.
 T.RadioButton {
     id: control
 
@@ -14,6 +14,9 @@ T.RadioButton {
     property url checkedImage
     property int imageSize: 28
     property bool showText: true
+    // Counts new contents of the same file.
+    property int imageRevision: -1
+    readonly property bool tinted: !String(checkedImage)
     readonly property url image: checked && String(checkedImage) ? checkedImage : normalImage
 
     implicitWidth: Math.max(48, label.implicitWidth)
@@ -22,7 +25,7 @@ T.RadioButton {
     focusPolicy: Qt.StrongFocus
     checked: confirmed ?? false
     hoverEnabled: true
-    opacity: enabled ? 1 : LuStyle.disabledOpacity
+    opacity: LuStyle.dim(control)
 
     Accessible.role: Accessible.RadioButton
     Accessible.name: text
@@ -33,7 +36,7 @@ T.RadioButton {
 
     // What a click does, for the return key, assistive software and scripts.
     function assistivePress(): void {
-        if (!checked) {
+        if (!checked && checkable) {
             toggle()
             toggled()
         }
@@ -45,9 +48,13 @@ T.RadioButton {
         implicitWidth: 48
         implicitHeight: 48
         radius: LuStyle.radius
-        color: control.checked ? LuStyle.accent : control.hovered ? LuStyle.glyphFillHover : LuStyle.glyphFill
-        border.width: LuStyle.highContrast ? 1 : 0
-        border.color: LuStyle.outline
+        color: {
+            if (control.checked)
+                return control.tinted ? LuStyle.accentSoft : control.hovered ? LuStyle.accentHover : LuStyle.accent
+            return control.hovered ? LuStyle.glyphFillHover : LuStyle.glyphFill
+        }
+        border.width: control.checked && control.tinted ? 2 : LuStyle.highContrast ? 1 : 0
+        border.color: control.checked && control.tinted ? LuStyle.accentText : LuStyle.outline
         scale: control.down ? 0.96 : 1
         Behavior on color {
             ColorAnimation { duration: LuStyle.motion }
@@ -55,13 +62,11 @@ T.RadioButton {
         Behavior on scale {
             NumberAnimation { duration: LuStyle.motion }
         }
-        Image {
+        LuImage {
             anchors.centerIn: parent
-            width: control.imageSize
-            height: control.imageSize
-            sourceSize.width: Math.round(control.imageSize * Screen.devicePixelRatio)
-            sourceSize.height: Math.round(control.imageSize * Screen.devicePixelRatio)
-            source: control.image
+            size: control.imageSize
+            revision: control.imageRevision
+            drawing: control.image
         }
         LuFocusRing {
             control: control
@@ -75,6 +80,8 @@ T.RadioButton {
             anchors.bottom: parent.bottom
             visible: control.showText
             repeatsName: true
+            width: Math.min(implicitWidth, control.width + 8)
+            horizontalAlignment: Text.AlignHCenter
             kind: LuLabel.Caption
             color: control.checked ? LuStyle.text : LuStyle.textDim
             text: control.text

@@ -6,27 +6,43 @@ import LumenDesk.Style
 Text {
     id: label
 
-    enum Kind { Body, Caption, Title, Strong, Value }
+    enum Kind { Body, Caption, Title, Strong, Value, Notice, Display }
 
     property int kind: LuLabel.Body
     property bool repeatsName: false
 
-    color: kind === LuLabel.Caption || kind === LuLabel.Value ? LuStyle.textDim : LuStyle.text
+    color: {
+        switch (kind) {
+        case LuLabel.Caption:
+        case LuLabel.Value:
+            return LuStyle.textDim
+        case LuLabel.Notice:
+            return LuStyle.notice
+        default:
+            return LuStyle.text
+        }
+    }
     font.family: LuStyle.fontFamily
     font.pixelSize: {
         switch (kind) {
         case LuLabel.Caption:
+        case LuLabel.Notice:
             return LuStyle.fontCaption
         case LuLabel.Title:
             return LuStyle.fontTitle
+        case LuLabel.Display:
+            return LuStyle.fontDisplay
         default:
             return LuStyle.fontBody
         }
     }
-    font.weight: kind === LuLabel.Title || kind === LuLabel.Strong ? LuStyle.weightStrong : Font.Normal
+    font.weight: kind === LuLabel.Title || kind === LuLabel.Strong || kind === LuLabel.Display ? LuStyle.weightStrong
+                                                                                               : Font.Normal
     textFormat: Text.PlainText
     elide: Text.ElideRight
-    lineHeight: kind === LuLabel.Caption ? 1.15 : 1
+    horizontalAlignment: Text.AlignLeft
+    lineHeight: kind === LuLabel.Caption || kind === LuLabel.Notice ? 1.15 : 1
+    opacity: LuStyle.dim(label)
 
     Accessible.role: Accessible.StaticText
     Accessible.name: text

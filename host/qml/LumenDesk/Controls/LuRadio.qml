@@ -17,7 +17,7 @@ T.RadioButton {
     focusPolicy: Qt.StrongFocus
     checked: confirmed ?? false
     hoverEnabled: true
-    opacity: enabled ? 1 : LuStyle.disabledOpacity
+    opacity: LuStyle.dim(control)
 
     Accessible.role: Accessible.RadioButton
     Accessible.name: text
@@ -28,7 +28,7 @@ T.RadioButton {
 
     // What a click does, for the return key, assistive software and scripts.
     function assistivePress(): void {
-        if (!checked) {
+        if (!checked && checkable) {
             toggle()
             toggled()
         }

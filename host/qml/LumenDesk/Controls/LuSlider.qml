@@ -3,41 +3,86 @@ import QtQuick
 import QtQuick.Templates as T
 import LumenDesk.Style
 
-// A value on a line. `confirmedValue` is what the monitor holds: while it differs from the value that is on its way, a
-// tick shows it. NaN shows none. Listen to moved() for what the user does and to released for its end.
+// A value on a line, lying or upright.
+//
+// Bind `confirmedValue`, not `value`, to what the monitor holds: the handle follows it, except while the user moves it
+// and until the monitor has taken that value; a tick shows the confirmed value meanwhile. Without it (NaN) the handle
+// stays where it is put. moved() tells of each step of the user, released() of the end of a drag or a key, settled() of
+// an end that left another value than there was before.
 T.Slider {
     id: control
 
     property real confirmedValue: NaN
     property string text
+    property color color: LuStyle.accent
+    // Milliseconds for each step while the monitor itself moves the value; 0 jumps.
+    property int glideInterval: 0
+    // The user's value is on its way.
+    readonly property bool waiting: wait.running
+    property real valueBefore: NaN
     signal released()
+    signal settled()
 
-    implicitWidth: 160
-    implicitHeight: 20
+    implicitWidth: horizontal ? 160 : 20
+    implicitHeight: horizontal ? 20 : 120
     padding: 0
     focusPolicy: Qt.StrongFocus
     hoverEnabled: true
     live: true
     snapMode: stepSize > 0 ? T.Slider.SnapAlways : T.Slider.NoSnap
-    opacity: enabled ? 1 : LuStyle.disabledOpacity
+    opacity: LuStyle.dim(control)
     onPressedChanged: {
-        if (!pressed)
-            released()
+        if (pressed) {
+            valueBefore = value
+            return
+        }
+        released()
+        if (value !== valueBefore)
+            settled()
+        follow()
     }
+    onMoved: {
+        glide.stop()
+        wait.restart()
+    }
+    onConfirmedValueChanged: follow()
+    onFromChanged: follow()
+    onToChanged: follow()
+    Component.onCompleted: follow()
 
     Accessible.role: Accessible.Slider
     Accessible.name: text
-    Accessible.onIncreaseAction: control.assistiveSet(control.value + step())
-    Accessible.onDecreaseAction: control.assistiveSet(control.value - step())
+    Accessible.onIncreaseAction: control.assistiveStep(1)
+    Accessible.onDecreaseAction: control.assistiveStep(-1)
 
     function step(): real {
         return stepSize > 0 ? stepSize : (to - from) / 10
     }
 
+    // Takes the monitor's value, unless the user's is on its way.
+    function follow(): void {
+        if (isNaN(confirmedValue))
+            return
+        const target = Math.max(Math.min(from, to), Math.min(Math.max(from, to), confirmedValue))
+        if (Math.abs(target - value) < 1e-9)
+            wait.stop()
+        if (pressed || wait.running)
+            return
+        const distance = Math.abs(target - value)
+        if (glideInterval > 0 && distance > step() && LuStyle.motion > 0) {
+            glide.to = target
+            glide.duration = distance / step() * glideInterval
+            glide.restart()
+        } else {
+            glide.stop()
+            value = target
+        }
+    }
+
     // A drag and its release, for assistive software and scripts. False if the value lies outside the range.
     function assistiveSet(wanted: var): bool {
         const number = Number(wanted)
-        if (isNaN(number) || number < from || number > to)
+        if (isNaN(number) || number < Math.min(from, to) || number > Math.max(from, to))
             return false
         pressed = true
         value = stepSize > 0 ? from + Math.round((number - from) / stepSize) * stepSize : number
@@ -46,53 +91,75 @@ T.Slider {
         return true
     }
 
+    function assistiveStep(by: real): void {
+        assistiveSet(Math.max(Math.min(from, to), Math.min(Math.max(from, to), value + by * step())))
+    }
+
+    NumberAnimation {
+        id: glide
+        target: control
+        property: "value"
+    }
+    Timer {
+        id: wait
+        interval: 2500
+        onTriggered: control.follow()
+    }
     WheelHandler {
-        onWheel: event => {
-            const wanted = control.value + (event.angleDelta.y > 0 ? 1 : -1) * control.step()
-            control.assistiveSet(Math.max(control.from, Math.min(control.to, wanted)))
-        }
+        enabled: control.enabled
+        onWheel: event => control.assistiveStep(event.angleDelta.y + event.angleDelta.x > 0 ? 1 : -1)
     }
 
     background: Item {
-        implicitHeight: 20
+        id: groove
+
+        readonly property real handleAt: control.horizontal ? control.handle.x + control.handle.width / 2
+                                                            : control.handle.y + control.handle.height / 2
+        readonly property real confirmedPosition: (control.confirmedValue - control.from) / (control.to - control.from)
+        readonly property real confirmedAt: {
+            const run = (control.horizontal ? width : height) - 16
+            const fromStart = control.horizontal ? control.mirrored : true
+            return 8 + run * (fromStart ? 1 - confirmedPosition : confirmedPosition)
+        }
+
         Rectangle {
-            y: 8
-            width: parent.width
-            height: 4
+            x: control.horizontal ? 0 : (groove.width - width) / 2
+            y: control.horizontal ? (groove.height - height) / 2 : 0
+            width: control.horizontal ? groove.width : 4
+            height: control.horizontal ? 4 : groove.height
             radius: 2
             color: LuStyle.track
             border.width: LuStyle.highContrast ? 1 : 0
             border.color: LuStyle.outline
         }
         Rectangle {
-            readonly property real extent: control.handle.x + control.handle.width / 2
-            x: control.mirrored ? extent : 0
-            y: 8
-            width: control.mirrored ? parent.width - extent : extent
-            height: 4
+            x: !control.horizontal ? (groove.width - width) / 2 : control.mirrored ? groove.handleAt : 0
+            y: control.horizontal ? (groove.height - height) / 2 : groove.handleAt
+            width: !control.horizontal ? 4 : control.mirrored ? groove.width - groove.handleAt : groove.handleAt
+            height: control.horizontal ? 4 : groove.height - groove.handleAt
             radius: 2
-            color: LuStyle.accent
+            color: control.color
         }
         Rectangle {
-            readonly property real position: (control.confirmedValue - control.from) / (control.to - control.from)
-            visible: !isNaN(position) && Math.abs(control.confirmedValue - control.value) > 0.5 * control.step()
-            x: 8 + (parent.width - 16) * (control.mirrored ? 1 - position : position) - 1
-            y: 5
-            width: 2
-            height: 10
+            visible: !isNaN(groove.confirmedPosition)
+                     && Math.abs(control.confirmedValue - control.value) > 0.5 * (control.stepSize > 0 ? control.stepSize : 0.01)
+            x: (control.horizontal ? groove.confirmedAt : groove.width / 2) - width / 2
+            y: (control.horizontal ? groove.height / 2 : groove.confirmedAt) - height / 2
+            width: control.horizontal ? 2 : 10
+            height: control.horizontal ? 10 : 2
             radius: 1
             color: LuStyle.accentText
         }
     }
     handle: Rectangle {
-        x: control.visualPosition * (control.availableWidth - width)
-        y: (control.availableHeight - height) / 2
+        x: control.horizontal ? control.visualPosition * (control.availableWidth - width) : (control.availableWidth - width) / 2
+        y: control.horizontal ? (control.availableHeight - height) / 2 : control.visualPosition * (control.availableHeight - height)
         implicitWidth: 16
         implicitHeight: 16
         radius: 8
         color: LuStyle.thumb
         border.width: 1
-        border.color: LuStyle.outline
+        border.color: control.pressed || control.visualFocus ? control.color : LuStyle.outline
         scale: control.pressed ? 1.15 : control.hovered ? 1.06 : 1
         Behavior on scale {
             NumberAnimation { duration: LuStyle.motion }

@@ -16,7 +16,7 @@ T.Switch {
     focusPolicy: Qt.StrongFocus
     checked: confirmed ?? false
     hoverEnabled: true
-    opacity: enabled ? 1 : LuStyle.disabledOpacity
+    opacity: LuStyle.dim(control)
 
     Accessible.role: Accessible.CheckBox
     Accessible.name: text
@@ -27,8 +27,10 @@ T.Switch {
 
     // What a click does, for the return key, assistive software and scripts.
     function assistivePress(): void {
-        toggle()
-        toggled()
+        if (checkable) {
+            toggle()
+            toggled()
+        }
         clicked()
     }
 

@@ -24,7 +24,7 @@ T.TextField {
     placeholderTextColor: LuStyle.textDim
     font.family: LuStyle.fontFamily
     font.pixelSize: LuStyle.fontBody
-    opacity: enabled ? 1 : LuStyle.disabledOpacity
+    opacity: LuStyle.dim(control)
 
     Accessible.role: Accessible.EditableText
     Accessible.name: name

@@ -17,11 +17,9 @@ T.ToolTip {
     delay: 600
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent | T.Popup.CloseOnReleaseOutsideParent
 
-    background: Rectangle {
+    background: LuSurface {
         radius: LuStyle.radiusSmall
-        color: LuStyle.raised
-        border.width: 1
-        border.color: LuStyle.line
+        reach: 6
     }
     contentItem: LuLabel {
         repeatsName: true

@@ -19,9 +19,12 @@ QtObject {
     readonly property color line: pick("#E4E7EC", "#343A44", "#000000", "#FFFFFF")
     readonly property color field: pick("#EEF1F5", "#323842", "#FFFFFF", "#000000")
     readonly property color fieldHover: pick("#E5E9EF", "#3A414C", "#FFFFFF", "#000000")
+    readonly property color fieldPress: pick("#DADFE7", "#434B57", "#E6E6E6", "#333333")
     readonly property color hover: pick("#0D000000", "#12FFFFFF", "#1A000000", "#26FFFFFF")
     readonly property color press: pick("#1A000000", "#1FFFFFFF", "#33000000", "#40FFFFFF")
     readonly property color scrim: pick("#52101620", "#8A000000", "#99000000", "#B3000000")
+    // The third surface: behind the zones of a desktop, under everything else.
+    readonly property color backdrop: pick("#E3E7ED", "#14171B", "#FFFFFF", "#000000")
 
     // Text and glyphs
     readonly property color text: pick("#16191D", "#F1F3F6", "#000000", "#FFFFFF")
@@ -42,12 +45,18 @@ QtObject {
     readonly property color cautionFill: pick("#C42B1C", "#B3261E", "#A80000", "#FF9C94")
     readonly property color cautionFillHover: pick("#A82418", "#C63A31", "#8A0000", "#FFB3AD")
 
+    // What a person should notice: pink for a state that keeps a feature from working, yellow for a clash.
+    readonly property color notice: pick("#BE1E5C", "#FF8FB8", "#A0003C", "#FF9CC2")
+    readonly property color warningFill: pick("#FFD84D", "#F2C230", "#FFE066", "#FFE066")
+    readonly property color warningInk: pick("#3A2E00", "#2A2100", "#000000", "#000000")
+
     // Control parts
     readonly property color track: pick("#DFE3E9", "#3D444F", "#FFFFFF", "#000000")
     readonly property color outline: pick("#868F9C", "#7E8896", "#000000", "#FFFFFF")
     readonly property color thumb: pick("#FFFFFF", "#FFFFFF", "#FFFFFF", "#FFFFFF")
     readonly property color focus: pick("#0660C6", "#8CC4FF", "#000000", "#FFFF00")
-    readonly property real disabledOpacity: highContrast ? 0.6 : 0.42
+    readonly property color shadow: pick("#FF14233B", "#FF000000", "#00000000", "#00000000")
+    readonly property real disabledOpacity: 0.3
 
     // Space: an 8 px grid with a half step.
     readonly property int spaceHalf: 4
@@ -61,12 +70,18 @@ QtObject {
     readonly property int radiusSmall: 7
     readonly property int focusWidth: 2
 
+    // Elevation: how far the shadow of what lies above the window reaches.
+    readonly property int elevationPopup: 12
+    readonly property int elevationDialog: 20
+
     // Type
     readonly property string fontFamily: LuContext.fontFamily
     readonly property real fontScale: LuContext.fontScale
+    readonly property int fontSmall: Math.round(10 * fontScale)
     readonly property int fontCaption: Math.round(11 * fontScale)
     readonly property int fontBody: Math.round(13 * fontScale)
     readonly property int fontTitle: Math.round(15 * fontScale)
+    readonly property int fontDisplay: Math.round(20 * fontScale)
     readonly property int weightStrong: Font.DemiBold
 
     // Sizes
@@ -79,10 +94,23 @@ QtObject {
 
     // Motion
     readonly property int motion: LuContext.reducedMotion ? 0 : 150
+    readonly property int motionSlow: LuContext.reducedMotion ? 0 : 250
 
     function pick(light: color, darkColor: color, lightContrast: color, darkContrast: color): color {
         if (highContrast)
             return dark ? darkContrast : lightContrast
         return dark ? darkColor : light
+    }
+
+    // The opacity of an item by itself: full, or faded where it is disabled and nothing that it lies in is faded yet.
+    // So a disabled group is faded once, whether the group does it or its items do.
+    function dim(item: Item): real {
+        if (item.enabled)
+            return 1
+        for (let above = item.parent; above && !above.enabled; above = above.parent) {
+            if (above.opacity < 1)
+                return 1
+        }
+        return disabledOpacity
     }
 }

@@ -3,11 +3,23 @@ import QtQuick
 import LumenDesk.Style
 
 // The details of a widget: a column below a title. The shell draws the title, the surface and the way out.
+//
+// `module` makes one event of one visit: what the page changed is told of when it goes.
 Column {
     id: page
 
     property string title
     property int pageWidth: LuStyle.pageWidth
+    // Stands in the line of the title: the feature's switch, a help button.
+    property Component titleControl: null
+    property var module: null
+    property var snapshotOf: null
 
     spacing: LuStyle.spaceWide
+
+    Component.onCompleted: {
+        snapshotOf = module
+        snapshotOf?.takePropertySnapshot()
+    }
+    Component.onDestruction: snapshotOf?.fireUpdateSettingEvent()
 }

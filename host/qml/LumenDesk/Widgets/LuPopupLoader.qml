@@ -3,6 +3,8 @@ import QtQuick
 import LumenDesk
 
 // Makes a popup over the main window when it is opened, and removes it when it has closed.
+//
+// A popup is an item or a window with open() and the signal closed().
 QtObject {
     id: loader
 
@@ -12,18 +14,30 @@ QtObject {
     readonly property bool opened: item !== null
 
     function open(): void {
+        openWith({})
+    }
+
+    // @param properties first values of the popup's properties, such as a title.
+    function openWith(properties: var): void {
         if (item)
             return
         const window = LuContext.mainWindow
         if (!window || !sourceComponent)
             return
-        item = sourceComponent.createObject(window.contentItem)
+        item = sourceComponent.createObject(window.contentItem, properties)
         if (!item) {
             console.warn("popup cannot be made:", sourceComponent.errorString())
             return
         }
         item.closed.connect(close)
         item.open()
+    }
+
+    function toggle(): void {
+        if (item)
+            close()
+        else
+            open()
     }
 
     function close(): void {

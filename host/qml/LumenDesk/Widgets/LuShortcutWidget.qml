@@ -8,8 +8,9 @@ LuTile {
     readonly property LuWidgetImage imageSource: LuWidgetImage { }
     signal clicked()
 
+    checkable: false
     widgetImage.normal: imageSource.normal
-    widgetImage.checked: imageSource.hovered
+    widgetImage.hovered: imageSource.hovered
 
     function trigger(): void {
         if (popupWindow)

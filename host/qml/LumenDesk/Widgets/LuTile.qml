@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
 import QtQuick.Templates as T
-import QtQuick.Window
 import LumenDesk.Controls
 import LumenDesk.Style
 
@@ -10,12 +9,18 @@ LuWidgetBase {
     id: tile
 
     readonly property LuWidgetImage widgetImage: LuWidgetImage { }
+    // Whether the button tells of an on and off.
+    property bool checkable: true
 
     placement: "tile"
-    currentImage: active && String(widgetImage.checked) ? widgetImage.checked : widgetImage.normal
+    currentImage: {
+        if (active && String(widgetImage.checked))
+            return widgetImage.checked
+        return button.hovered && String(widgetImage.hovered) ? widgetImage.hovered : widgetImage.normal
+    }
     implicitWidth: 72
     implicitHeight: LuStyle.tile + LuStyle.spaceHalf + 2 + label.implicitHeight
-    opacity: enabled ? 1 : LuStyle.disabledOpacity
+    opacity: LuStyle.dim(tile)
 
     T.AbstractButton {
         id: button
@@ -38,38 +43,20 @@ LuWidgetBase {
 
         Accessible.role: Accessible.Button
         Accessible.name: tile.text
-        Accessible.checkable: true
+        Accessible.checkable: tile.checkable
         Accessible.checked: tile.active
         Accessible.onPressAction: button.assistivePress()
 
         contentItem: Item {
-            Rectangle {
+            LuTileDisc {
                 id: disc
-                readonly property bool lit: button.hovered || button.down
                 anchors.horizontalCenter: parent.horizontalCenter
-                width: LuStyle.tile
-                height: LuStyle.tile
-                radius: LuStyle.tile / 2
-                color: tile.active ? (lit ? LuStyle.accentHover : LuStyle.accent) : (lit ? LuStyle.glyphFillHover : LuStyle.glyphFill)
-                border.width: LuStyle.highContrast ? 1 : 0
-                border.color: LuStyle.outline
-                scale: button.down ? 0.94 : 1
-                Behavior on color {
-                    ColorAnimation { duration: LuStyle.motion }
-                }
-                Behavior on scale {
-                    NumberAnimation { duration: LuStyle.motion; easing.type: Easing.OutCubic }
-                }
+                images: tile.widgetImage
+                image: tile.currentImage
+                active: tile.active
+                hovered: button.hovered
+                pressed: button.down
 
-                Image {
-                    readonly property int pixels: Math.round(LuStyle.glyphSize * Screen.devicePixelRatio)
-                    anchors.centerIn: parent
-                    width: LuStyle.glyphSize
-                    height: LuStyle.glyphSize
-                    sourceSize.width: pixels
-                    sourceSize.height: pixels
-                    source: tile.currentImage
-                }
                 LuFocusRing {
                     control: button
                     innerRadius: LuStyle.tile / 2

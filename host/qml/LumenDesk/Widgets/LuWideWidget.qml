@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
 import QtQuick.Templates as T
-import QtQuick.Window
 import LumenDesk.Controls
 import LumenDesk.Style
 
@@ -16,7 +15,7 @@ LuWidgetBase {
     placement: "wide"
     currentImage: active && String(widgetImage.checked) ? widgetImage.checked : widgetImage.normal
     implicitHeight: LuStyle.tile + 2 * LuStyle.space
-    opacity: enabled ? 1 : LuStyle.disabledOpacity
+    opacity: LuStyle.dim(wide)
 
     T.AbstractButton {
         id: button
@@ -35,6 +34,7 @@ LuWidgetBase {
         }
 
         Keys.onReturnPressed: button.assistivePress()
+        Keys.onEnterPressed: button.assistivePress()
         Accessible.role: Accessible.Button
         Accessible.name: wide.text
         Accessible.onPressAction: button.assistivePress()
@@ -56,23 +56,14 @@ LuWidgetBase {
             }
         }
         contentItem: Item {
-            Rectangle {
+            LuTileDisc {
                 id: disc
-                x: LuStyle.spaceWide
+                anchors.left: parent.left
+                anchors.leftMargin: LuStyle.spaceWide
                 anchors.verticalCenter: parent.verticalCenter
-                width: LuStyle.tile
-                height: LuStyle.tile
-                radius: LuStyle.tile / 2
-                color: wide.active ? LuStyle.accent : LuStyle.glyphFill
-                Image {
-                    readonly property int pixels: Math.round(LuStyle.glyphSize * Screen.devicePixelRatio)
-                    anchors.centerIn: parent
-                    width: LuStyle.glyphSize
-                    height: LuStyle.glyphSize
-                    sourceSize.width: pixels
-                    sourceSize.height: pixels
-                    source: wide.currentImage
-                }
+                images: wide.widgetImage
+                image: wide.currentImage
+                active: wide.active
             }
             Column {
                 anchors.left: disc.right

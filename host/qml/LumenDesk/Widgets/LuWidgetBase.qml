@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
 import QtQuick.Window
+import LumenDesk
 import LumenDesk.Style
 import LumenDesk.Tools
 
@@ -15,6 +16,8 @@ Item {
     property var monitor: null
     property Window mainWindow: null
     readonly property bool isCurrentModel: monitor?.isCurrentModel ?? false
+    // The program's own window holds this widget, and not a settings page: shared things are this widget's to change.
+    readonly property bool inMainWindow: mainWindow !== null && mainWindow === LuContext.mainWindow
     property string widgetName
     property string text
     property bool functionSupported: true
@@ -22,11 +25,15 @@ Item {
     // LuBinding elements, live as long as the widget.
     property list<Component> bindings
     property QtObject controlPalette: LuStyle
+    // The words of the monitor's values, as its package calls them.
+    readonly property PackageStringsBase translator: LuTranslators.of(widget)
     // Details; a click opens them.
     property Component page: null
     property Component settingsInnerPage: null
+    // False: the colour mode forbids the function, and a click tells so.
+    property bool colorModeAllowed: true
     // Not null: a click opens this LuPopupLoader in place of everything else.
-    property var popupWindow: null
+    property var popupWindow: colorModeAllowed ? null : forbidden
     property bool imageButtonOpenPage: true
     property bool widgetHidable: true
     // The feature is switched off when the user takes the widget out of the window.
@@ -61,6 +68,11 @@ Item {
             setActive(false)
     }
 
+    property LuPopupLoader forbidden: LuPopupLoader {
+        LuWarningWindow {
+            text: widget.text
+        }
+    }
     property LuBindingHost bindingHost: LuBindingHost {
         owner: widget
         components: widget.bindings

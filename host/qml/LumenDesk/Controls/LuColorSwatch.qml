@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import QtQuick.Templates as T
+import LumenDesk.Style
+
+// One colour of several to choose from. `text` is the colour's name.
+T.RadioButton {
+    id: control
+
+    property var confirmed
+    property color swatch
+
+    implicitWidth: 28
+    implicitHeight: 28
+    padding: 0
+    checked: confirmed ?? false
+    focusPolicy: Qt.StrongFocus
+    hoverEnabled: true
+    opacity: LuStyle.dim(control)
+
+    Accessible.role: Accessible.RadioButton
+    Accessible.name: text
+    Accessible.checkable: true
+    Accessible.checked: checked
+    Accessible.onPressAction: control.assistivePress()
+    Accessible.onToggleAction: control.assistivePress()
+
+    // What a click does, for the return key, assistive software and scripts.
+    function assistivePress(): void {
+        if (!checked) {
+            toggle()
+            toggled()
+        }
+        clicked()
+    }
+
+    indicator: Rectangle {
+        x: (control.width - width) / 2
+        y: (control.height - height) / 2
+        width: 28
+        height: 28
+        radius: 14
+        color: "transparent"
+        border.width: control.checked ? 2 : 0
+        border.color: LuStyle.text
+        Rectangle {
+            anchors.centerIn: parent
+            width: control.checked ? 20 : control.hovered ? 26 : 24
+            height: width
+            radius: width / 2
+            color: control.swatch
+            border.width: 1
+            border.color: LuStyle.outline
+            Behavior on width {
+                NumberAnimation { duration: LuStyle.motion }
+            }
+        }
+        LuFocusRing {
+            control: control
+            innerRadius: 14
+        }
+    }
+    contentItem: null
+    LuToolTip {
+        visible: control.hovered && !control.down
+        text: control.text
+    }
+    LuConfirmedState {
+        control: control
+    }
+}

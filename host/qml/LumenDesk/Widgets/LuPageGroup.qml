@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import LumenDesk.Style
+
+// Controls of a page that are off together: disabled and faded as one.
+Column {
+    id: group
+
+    property real fadedOpacity: LuStyle.disabledOpacity
+
+    width: parent ? parent.width : implicitWidth
+    spacing: LuStyle.spaceWide
+    opacity: enabled ? 1 : fadedOpacity
+}
