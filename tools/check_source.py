@@ -22,7 +22,7 @@ LAYERS = {
     "host/ddc-i2c": ["host/ddc-i2c", "host/ddc"],
     "host/panelcore": ["packages/shared/ZrCore", "packages/shared/PanelCore", "host/panelcore", "host/ddc"],
     "host/services/api": ["packages/shared", "host/services/api"],
-    "host/services/simulated": ["packages/shared", "host/services", "host/lushared"],
+    "host/services": ["packages/shared", "host/services", "host/lushared"],
     "host/lushared": ["packages/shared", "host/lushared", "host/panelcore", "host/services/api"],
     "host/control": ["packages/shared", "host/control", "host/lushared", "host/panelcore", "host/services/api"],
     "host/qml": ["packages/shared", "host/qml", "host/lushared"],

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Application.h"
 
+#include "ActionKeys.h"
 #include "RealMonitors.h"
 #include "SimulatedMonitors.h"
 #include "adapters/ClockMethods.h"
@@ -25,6 +26,8 @@
 #include <qml/LuContext.h>
 #include <qml/LuWindowBridge.h>
 #include <qml/LumenQml.h>
+#include <services/api/DesktopEvents.h>
+#include <services/native/NativeServices.h>
 #include <services/native/Session.h>
 #include <services/simulated/SimulatedServices.h>
 #include <services/sun/SunForecast.h>
@@ -54,9 +57,14 @@ Application::~Application()
     }
     m_server.reset();
     m_real.reset();
+    m_actionKeys.reset();
+    // Nothing of the desktop reaches models that go.
+    if (const auto events = services::Registry::current().events)
+        events->stop();
     m_registry.reset();
     m_simulated.reset();
     m_services.reset();
+    services::Registry::install({});
 }
 
 Application::Start Application::start()
@@ -143,7 +151,8 @@ void Application::findRealMonitors()
     control::Dispatcher& dispatcher = m_server->dispatcher();
     // Requests wait for the monitors that are there at the start.
     dispatcher.setBusy([this] { return isDiscovering(); });
-    connect(m_real.get(), &RealMonitors::discovered, &dispatcher, &control::Dispatcher::resume, Qt::QueuedConnection);
+    connect(m_real.get(), &RealMonitors::discovered, &dispatcher, &control::Dispatcher::resume,
+            Qt::QueuedConnection);
     m_real->start();
 }
 
@@ -158,7 +167,7 @@ void Application::installServices()
     const bool native =
         m_options.nativeServices.value_or(m_hasDisplay && !(m_options.headless && m_options.simulate));
     if (native) {
-        qInfo().noquote() << "[Application] session" << services::Registry::sessionName();
+        installNativeServices();
         return;
     }
     m_services = std::make_unique<services::SimulatedServices>();
@@ -188,6 +197,31 @@ void Application::installServices()
             }
         },
     });
+}
+
+void Application::installNativeServices()
+{
+    const services::ServiceSet set = services::nativeServices();
+    services::Registry::install(set);
+    if (!set.events)
+        return;
+    LuMonitorRegistry* registry = m_registry.get();
+    set.events->setKeyHandler([registry](Qt::KeyboardModifiers modifiers, Qt::Key key, bool repeated) {
+        LuMonitorModel* current = registry->current();
+        return current && LuModelHost::handleKey(current, modifiers, key, repeated);
+    });
+    const std::weak_ptr<services::DesktopEvents> events = set.events;
+    m_actionKeys = std::make_unique<ActionKeys>(*registry, [events](const QSet<QKeyCombination>& keys) {
+        if (const auto session = events.lock())
+            session->setActionKeys(keys);
+    });
+    connect(
+        registry, &LuMonitorRegistry::monitorAdded, this,
+        [events] {
+            if (const auto session = events.lock())
+                session->start();
+        },
+        Qt::SingleShotConnection);
 }
 
 bool Application::loadState()
@@ -320,6 +354,8 @@ void Application::quit()
     qInfo() << "[Application] ending";
     // Clients are answered no more: the models go.
     m_server->dispatcher().setBusy([] { return true; });
+    if (const auto events = services::Registry::current().events)
+        events->stop();
     m_registry->shutDown();
     m_real.reset();
     if (m_simulated)

@@ -9,6 +9,7 @@
 
 #include <memory>
 
+class ActionKeys;
 class LuContext;
 class LuMonitorRegistry;
 class LuMonitorModel;
@@ -49,6 +50,7 @@ private:
     /// Monitors that are there at the start have no model yet.
     bool isDiscovering() const;
     void installServices();
+    void installNativeServices();
     void openWindow();
     void fillWindow();
     void takePicture();
@@ -61,6 +63,7 @@ private:
     PackageLoader m_packages;
     std::unique_ptr<services::SimulatedServices> m_services;
     std::unique_ptr<LuMonitorRegistry> m_registry;
+    std::unique_ptr<ActionKeys> m_actionKeys;
     std::unique_ptr<SimulatedMonitors> m_simulated;
     std::unique_ptr<RealMonitors> m_real;
     std::unique_ptr<control::Server> m_server;

@@ -16,6 +16,7 @@ class DesktopEvents;
 class DisplayService;
 class KvmService;
 class LocationService;
+class PointerService;
 class ProgramService;
 class WindowService;
 
@@ -32,6 +33,7 @@ struct ServiceSet
     std::shared_ptr<KvmService> kvm;
     std::shared_ptr<WindowService> windows;
     std::shared_ptr<ClipboardKeysService> clipboardKeys;
+    std::shared_ptr<PointerService> pointer;
 };
 
 /// Holds the services that the fronts of LuShared ask.

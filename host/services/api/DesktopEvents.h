@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <QKeyCombination>
+#include <QSet>
 #include <Qt>
 
 #include <functional>
@@ -21,6 +23,11 @@ public:
     /// Called once by the application, before start(). Every key goes to the handler and then out as
     /// activeKeyEvent(), whatever the handler answers.
     virtual void setKeyHandler(KeyHandler handler) = 0;
+
+    /// Key combinations that set off an action now. Where the session can keep them from the application with
+    /// the focus it does; the key handler gets them as before. Called whenever they change, before start()
+    /// too.
+    virtual void setActionKeys(const QSet<QKeyCombination>& keys) { Q_UNUSED(keys) }
 
     /// Called once when the first model exists, and once as the program ends. Nothing is raised outside of
     /// the two by itself.

@@ -27,7 +27,15 @@ public:
     virtual QString displayName(const QString& appId) const = 0;
     virtual QUrl url(const QString& appId) const = 0;
 
-    /// Starts a program by its path without waiting for it; false if it did not start.
+    /// Name in the icon theme, or path, of an application's icon; empty if it is not known.
+    virtual QString icon(const QString& appId) const
+    {
+        Q_UNUSED(appId)
+        return {};
+    }
+
+    /// Starts a program by its path or its desktop entry, or opens a document or an address with the
+    /// application for it. Never through a shell, and without waiting; false if nothing was started.
     virtual bool open(const QString& path) = 0;
 
     /// Moves and sizes a process's main window, in desktop coordinates. The rectangle is valid.

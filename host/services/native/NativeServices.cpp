@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "NativeServices.h"
+
+#include "services/x11/X11Services.h"
+
+#include <QDebug>
+
+services::ServiceSet services::nativeServices()
+{
+    ServiceSet set;
+    set.name = Registry::sessionName();
+    qInfo().noquote() << "[Services] session" << set.name;
+
+    if (set.name == QLatin1String("x11"))
+        x11::addServices(&set);
+    return set;
+}

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Connection.h"
+#include "services/api/WindowService.h"
+
+#include <QObject>
+
+namespace services::x11 {
+
+/// Layer and desktops of the program's own windows through EWMH. Qt itself makes a window with
+/// Qt::WindowTransparentForInput let the pointer through.
+class Windows : public QObject, public WindowService
+{
+public:
+    explicit Windows(std::shared_ptr<Connection> connection) : m_connection(std::move(connection)) {}
+
+    void setLayer(QQuickWindow* window, int layer) override;
+    void setJoinActiveSpaces(QQuickWindow* window, bool join) override;
+
+    /// A window gets its marks anew each time that it is shown: the window manager takes them off a window
+    /// that is hidden, and Qt writes its own.
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+private:
+    void mark(QQuickWindow* window);
+    void tell(QQuickWindow* window);
+
+    const std::shared_ptr<Connection> m_connection;
+};
+
+} // namespace services::x11
