@@ -21,6 +21,7 @@ LAYERS = {
     "host/ddc": ["host/ddc"],
     "host/ddc-i2c": ["host/ddc-i2c", "host/ddc"],
     "host/panelcore": ["packages/shared/ZrCore", "packages/shared/PanelCore", "host/panelcore", "host/ddc"],
+    "host/services": ["packages/shared", "host/services", "host/lushared", "host/panelcore"],
     "host/services/api": ["packages/shared", "host/services/api"],
     "host/services": ["packages/shared", "host/services", "host/lushared"],
     "host/lushared": ["packages/shared", "host/lushared", "host/panelcore", "host/services/api"],

@@ -5,6 +5,8 @@
 #include "services/Singleton.h"
 #include "services/api/LocationService.h"
 
+#include <QMetaMethod>
+
 namespace {
 
 services::LocationService::Location where()
@@ -19,6 +21,21 @@ LuServerLocation* LuServerLocation::instance()
 {
     static LuServerLocation* const self = services::onGuiThread(new LuServerLocation);
     return self;
+}
+
+void LuServerLocation::connectNotify(const QMetaMethod& signal)
+{
+    static const QMetaMethod report = QMetaMethod::fromSignal(&LuServerLocation::locationStatusChanged);
+    if (signal != report)
+        return;
+    // Also called on a queue's thread, where a module may connect.
+    QMetaObject::invokeMethod(
+        this,
+        [] {
+            if (const auto service = services::Registry::current().location)
+                service->listenerAdded();
+        },
+        Qt::QueuedConnection);
 }
 
 double LuServerLocation::latitude() const

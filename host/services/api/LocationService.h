@@ -17,6 +17,10 @@ public:
 
     virtual ~LocationService() = default;
     virtual Location location() const = 0;
+
+    /// Somebody began to listen to locationStatusChanged(). A service that has found the place before tells
+    /// it once more, later, since whoever comes late waits for the first report.
+    virtual void listenerAdded() {}
 };
 
 } // namespace services

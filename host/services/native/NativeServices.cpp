@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "NativeServices.h"
 
+#include "services/linux/Backlight.h"
+#include "services/linux/Location.h"
+#include "services/pulse/PulseAudio.h"
 #include "services/x11/X11Services.h"
 
 #include <QDebug>
@@ -11,6 +14,10 @@ services::ServiceSet services::nativeServices()
     set.name = Registry::sessionName();
     qInfo().noquote() << "[Services] session" << set.name;
 
+    // The computer's, whatever the display system.
+    set.audio = makePulseAudio();
+    set.backlight = makeLinuxBacklight();
+    set.location = makeLinuxLocation();
     if (set.name == QLatin1String("x11"))
         x11::addServices(&set);
     return set;

@@ -11,7 +11,7 @@
 #include "services/api/LocationService.h"
 #include "services/api/ProgramService.h"
 #include "services/api/WindowService.h"
-#include "services/simulated/AudioDevices.h"
+#include "services/audiodevice/MadeAudioDevice.h"
 
 #include <QClipboard>
 #include <QFileInfo>
@@ -251,7 +251,7 @@ public:
         const QJsonArray outputs = m_world->value(path::audioOutputs).toArray();
         for (const QJsonValue& output : outputs) {
             const QString id = output[u"id"].toString();
-            devices.append(simulatedAudioDevice(id, output[u"name"].toString(), id == defaultId));
+            devices.append(madeAudioDevice(id, output[u"name"].toString(), id == defaultId));
         }
         return devices;
     }

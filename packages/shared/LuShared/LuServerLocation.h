@@ -32,7 +32,12 @@ public:
     int status() const;
 
 Q_SIGNALS:
+    /// The place or the status changed. A session's location service also raises it for those who began to
+    /// listen after it had found the place.
     void locationStatusChanged();
+
+protected:
+    void connectNotify(const QMetaMethod& signal) override;
 
 private:
     LuServerLocation() = default;

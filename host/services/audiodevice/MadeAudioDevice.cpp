@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "services/simulated/AudioDevices.h"
+#include "services/audiodevice/MadeAudioDevice.h"
 
 #include <QByteArray>
 #include <QLoggingCategory>
@@ -105,11 +105,11 @@ Layout findLayout()
 
 } // namespace
 
-QAudioDevice simulatedAudioDevice(const QString& id, const QString& name, bool isDefault)
+QAudioDevice madeAudioDevice(const QString& id, const QString& name, bool isDefault)
 {
     static const Layout layout = findLayout();
     if (!layout.isKnown()) {
-        qWarning("Simulated audio outputs do not work with this version of Qt");
+        qWarning("Audio outputs cannot be told with this version of Qt");
         return {};
     }
     // Equal devices share a block, so that the number of blocks is that of the devices ever named.
