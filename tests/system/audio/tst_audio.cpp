@@ -6,6 +6,7 @@
 #include "services/api/AudioService.h"
 #include "services/pulse/PulseAudio.h"
 
+#include <QFile>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -54,14 +55,17 @@ class PipeWireServer : public SoundServer
 public:
     QString start() override
     {
-        const auto always = [] { return true; };
-        for (const auto& [server, name] :
-             {std::pair(&m_pipeWire, u"pipewire"_s), std::pair(&m_pulse, u"pipewire-pulse"_s),
-              std::pair(&m_manager, u"wireplumber"_s)}) {
-            const QString problem = server->start(name, {}, always);
-            if (!problem.isEmpty())
-                return problem;
-        }
+        // Each looks for the one before it as it starts, once.
+        const auto hasSocket = [](const QString& name) {
+            return [name] { return QFile::exists(qEnvironmentVariable("XDG_RUNTIME_DIR") + u'/' + name); };
+        };
+        QString problem = m_pipeWire.start(u"pipewire"_s, {}, hasSocket(u"pipewire-0"_s));
+        if (problem.isEmpty())
+            problem = m_pulse.start(u"pipewire-pulse"_s, {}, hasSocket(u"pulse/native"_s));
+        if (problem.isEmpty())
+            problem = m_manager.start(u"wireplumber"_s, {}, [] { return true; });
+        if (!problem.isEmpty())
+            return problem;
         // The session manager has a default only once it runs.
         const auto ready = [] {
             QString output;
@@ -84,6 +88,9 @@ public:
         m_manager.stop();
         m_pulse.stop();
         m_pipeWire.stop();
+        // A socket that was left behind would pass for a server.
+        QFile::remove(qEnvironmentVariable("XDG_RUNTIME_DIR") + u"/pipewire-0"_s);
+        QFile::remove(qEnvironmentVariable("XDG_RUNTIME_DIR") + u"/pulse/native"_s);
     }
 
 private:
