@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "MonitorLink.h"
 
+#include "HardwareBrightness.h"
 #include "MonitorInfoPrivate.h"
 
 #include <ZrCore/ZrShared.h>
@@ -62,6 +63,7 @@ struct MonitorLink::Private
     ZrShared<QString> screenName;
     std::function<void()> screenObserver;
     std::function<void()> callObserver;
+    std::unique_ptr<HardwareBrightness> brightness; ///< Last: its queue uses the others.
 
     bool note(ddc::Error error)
     {
@@ -77,6 +79,7 @@ struct MonitorLink::Private
 
 MonitorLink::MonitorLink(std::unique_ptr<ddc::Bus> bus, Waits waits) : d(new Private)
 {
+    d->brightness = std::make_unique<HardwareBrightness>(*this);
     if (!bus)
         return;
     d->transactor = std::make_unique<ddc::Transactor>(
@@ -128,6 +131,11 @@ bool MonitorLink::setVCPWithin(int code, int value, int limitMs)
         d->transactor->setVcpWithin(std::uint8_t(code), std::uint16_t(value), ddc::Transactor::Ms(limitMs));
     // A bus that somebody else holds says nothing about the monitor.
     return error != ddc::Error::Busy && d->note(error);
+}
+
+HardwareBrightness& MonitorLink::brightness()
+{
+    return *d->brightness;
 }
 
 void MonitorLink::setCallObserver(std::function<void()> observer)

@@ -17,6 +17,7 @@
 namespace ddc {
 class Bus;
 }
+class HardwareBrightness;
 
 /// Who a monitor is, as the host found it.
 struct MonitorDescription
@@ -49,6 +50,9 @@ public:
     bool setVCP(int code, int value);
     /// A write on a caller's thread that gives up if the bus is not free within @p limitMs.
     bool setVCPWithin(int code, int value, int limitMs);
+
+    /// The monitor's own brightness, for monitors that no package knows.
+    HardwareBrightness& brightness();
 
     /// Called after every transfer with all its tries, on the thread of the caller: a simulated device counts
     /// faults by it. Set before the handle is in use.

@@ -2,6 +2,9 @@
 #include <LuShared/LuPlatform.h>
 
 #include <PanelCore/MonitorInfo.h>
+#include <ZrCore/ZrDispatch.h>
+#include <panelcore/HardwareBrightness.h>
+#include <panelcore/MonitorLink.h>
 
 #include "services/ServiceRegistry.h"
 #include "services/api/BacklightService.h"
@@ -26,6 +29,14 @@ std::shared_ptr<services::BacklightService> backlightFor(const QSharedPointer<Mo
     return monitor && monitor->isBuiltIn() ? Registry::current().backlight : nullptr;
 }
 
+constexpr double UnknownBrightness = -1;
+
+// There a bus is never waited for.
+bool isGuiThread()
+{
+    return ZrDispatch::main()->isCurrentThread();
+}
+
 } // namespace
 
 // A tool window stays out of task bars and window switchers.
@@ -47,14 +58,26 @@ void LuPlatform::setMonitorPivot(const QSharedPointer<MonitorInfo>& monitor, int
 
 double LuPlatform::getMonitorBrightness(const QSharedPointer<MonitorInfo>& monitor)
 {
+    if (monitor && !monitor->isBuiltIn()) {
+        HardwareBrightness& hardware = MonitorLink::of(*monitor).brightness();
+        return (isGuiThread() ? hardware.known() : hardware.read()).value_or(UnknownBrightness);
+    }
     const auto backlight = backlightFor(monitor);
     return backlight ? backlight->brightness(*monitor) : 0;
 }
 
 void LuPlatform::setMonitorBrightness(const QSharedPointer<MonitorInfo>& monitor, double brightness)
 {
-    if (std::isnan(brightness))
+    if (std::isnan(brightness) || !monitor)
         return;
+    if (!monitor->isBuiltIn()) {
+        HardwareBrightness& hardware = MonitorLink::of(*monitor).brightness();
+        if (isGuiThread())
+            hardware.writeLater(brightness);
+        else
+            hardware.write(brightness);
+        return;
+    }
     if (const auto backlight = backlightFor(monitor))
         backlight->setBrightness(*monitor, qBound(0.0, brightness, 1.0));
 }

@@ -40,7 +40,12 @@ public:
     static int getMonitorPivot(const QSharedPointer<MonitorInfo>& monitor);
     static void setMonitorPivot(const QSharedPointer<MonitorInfo>& monitor, int degrees);
 
-    /// The system's brightness of a built-in panel, 0 to 1; 0 for any other monitor.
+    /// The system's brightness of a built-in panel, 0 to 1; of any other monitor its own brightness as a
+    /// fraction of its maximum.
+    ///
+    /// Another monitor is asked over its bus, which takes as long as it takes; on the GUI thread the getter
+    /// tells what is known already, and the setter returns at once. The getter gives a negative number where
+    /// nothing is known.
     static double getMonitorBrightness(const QSharedPointer<MonitorInfo>& monitor);
     static void setMonitorBrightness(const QSharedPointer<MonitorInfo>& monitor, double brightness);
 

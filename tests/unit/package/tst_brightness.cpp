@@ -138,6 +138,7 @@ private Q_SLOTS:
     void shortcutsSnapToTheGrid();
     void heldShortcutLosesNoStep();
     void unsupportedMonitorKeepsItsValueApart();
+    void unsupportedMonitorTellsItsBrightness();
     void builtInPanelUsesTheSystem();
     void builtInPanelFollowsTheSystem_data();
     void builtInPanelFollowsTheSystem();
@@ -378,15 +379,33 @@ void TestBrightness::unsupportedMonitorKeepsItsValueApart()
     bed.set(Module, "displayContrast", 40);
     bed.set(Module, "displayUniformity", true);
     QVERIFY(bed.idle());
-    QCOMPARE(bed.wire(), QStringList());
+    QCOMPARE(bed.wire(), QStringList{sets("10", 30)});
     QCOMPARE(bed.stored("Unsupported/displayBrightness").toInt(), 30);
     QVERIFY(bed.log().contains(QStringLiteral("[LuBrightness] set system brightness: 30")));
     bed.relaunch();
     QVERIFY(bed.idle());
     QCOMPARE(bed.number("displayBrightness"), 30);
-    QCOMPARE(bed.wire().filter(QStringLiteral("set")), QStringList());
+    QCOMPARE(bed.wire().filter(QStringLiteral("set")), QStringList{sets("10", 30)});
     QVERIFY(bed.events().contains(QStringLiteral("LuBrightness 35  3 [30]")));
     QVERIFY(!bed.get(Module, "brightnessSyncEnable").toBool());
+}
+
+void TestBrightness::unsupportedMonitorTellsItsBrightness()
+{
+    SimulatedBed bed(QStringLiteral("Other"));
+    bed.monitor().setByMenu(0x10, 62);
+    bed.launch();
+    QVERIFY(bed.idle());
+    QCOMPARE(bed.get(Module, "displayBrightness").toInt(), 62);
+    QCOMPARE(bed.wire().filter(QStringLiteral("set")), QStringList());
+    bed.destroy();
+    sim::Fault silent;
+    bed.monitor().setByMenu(0x10, 10);
+    bed.monitor().armFault(silent);
+    bed.hotplug();
+    QVERIFY(bed.idle());
+    QCOMPARE(bed.get(Module, "displayBrightness").toInt(), 62);
+    QCOMPARE(bed.setting(QStringLiteral("LuBrightness/Unsupported/displayBrightness")).toInt(), 62);
 }
 
 void TestBrightness::builtInPanelUsesTheSystem()

@@ -411,7 +411,7 @@ private Q_SLOTS:
     void onlyABuiltInPanelHasASystemBrightness()
     {
         QCOMPARE(LuPlatform::getMonitorBrightness(m_panel), 0.5);
-        QCOMPARE(LuPlatform::getMonitorBrightness(m_monitor), 0.0);
+        QVERIFY(LuPlatform::getMonitorBrightness(m_monitor) < 0);
         LuPlatform::setMonitorBrightness(m_monitor, 1);
         QCOMPARE(m_session->get(QStringLiteral("systemBrightness")).toDouble(), 0.5);
         LuPlatform::setMonitorBrightness(m_panel, 7);

@@ -21,6 +21,7 @@ constexpr double ShortcutStep = 5.0;
 constexpr const char* BrightnessName = "displayBrightness";
 
 const QString SetBrightness = QStringLiteral("setDisplayBrightness");
+const QString SyncSystemBrightness = QStringLiteral("syncSystemBrightness");
 const QString DimmingKey = QStringLiteral("softwareDimming");
 const QString OldDimmingKey = QStringLiteral("SoftwareDimming/state");
 const QString BaselineKey = QStringLiteral("syncBaseline");
@@ -196,6 +197,8 @@ void LuBrightness::onInitialSync()
 {
     if (model()->isModelBuiltIn())
         syncSystemBrightness();
+    else if (!model()->isModelSupported())
+        dispatch()->postUnique(this, SyncSystemBrightness, [this] { syncSystemBrightness(); });
     if (model()->isFirstTimeConnected() && m_softwareDimming->active())
         fireOnOffEvent(LuDataCollection::ACT_SOFTWARE_DIMMING, true, LuDataCollection::SOURCE_FIRST_CONNECT,
                        {});
@@ -204,6 +207,8 @@ void LuBrightness::onInitialSync()
 void LuBrightness::syncSystemBrightness()
 {
     const double fraction = LuPlatform::getMonitorBrightness(handler());
+    if (fraction < 0) // a monitor that tells nothing
+        return;
     const int value = qBound(Lowest, int(std::lround(fraction * Highest)), Highest);
     m_brightnessKnown = true;
     takeReported(m_brightness, value, modeKey(BrightnessName),
