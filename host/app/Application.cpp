@@ -153,6 +153,8 @@ void Application::findRealMonitors()
     dispatcher.setBusy([this] { return isDiscovering(); });
     connect(m_real.get(), &RealMonitors::discovered, &dispatcher, &control::Dispatcher::resume,
             Qt::QueuedConnection);
+    connect(m_real.get(), &RealMonitors::troublesChanged, this,
+            [this] { LuContext::instance()->setNotices(m_real->troubles()); });
     m_real->start();
 }
 

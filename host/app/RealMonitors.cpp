@@ -16,6 +16,7 @@
 
 #include <algorithm>
 #include <mutex>
+#include <thread>
 
 using ddci2c::IdentifiedMonitor;
 
@@ -25,6 +26,7 @@ namespace {
 constexpr int PollMs = 2000;
 /// A lost monitor is tried again after 1, 2, 4 ... polls, at most these.
 constexpr int LongestLostPause = 30;
+constexpr std::chrono::milliseconds RestAfterWrite(50);
 constexpr QLatin1String TwinsKey("monitors/twins");
 
 ddci2c::Debounce::TimePoint now()
@@ -71,12 +73,12 @@ struct RealMonitors::Mailbox
     std::mutex mutex;
     RealMonitors* owner = nullptr;
 
-    void tell(const std::string& message)
+    void tell(const QString& id, const std::string& message)
     {
         const std::lock_guard lock(mutex);
         if (!owner)
             return;
-        ZrDispatch::main()->post(owner, [to = owner, message = text(message)] { to->tell(message); });
+        ZrDispatch::main()->post(owner, [to = owner, id, message = text(message)] { to->tell(id, message); });
     }
 };
 
@@ -100,6 +102,8 @@ RealMonitors::~RealMonitors()
 {
     m_scanQueue->close();
     m_askQueue->close();
+    // Whoever uses the monitors next, such as the next start of this program, does not know what was sent.
+    std::this_thread::sleep_until(ddci2c::I2cBus::lastWrite() + RestAfterWrite);
     const std::lock_guard lock(m_mailbox->mutex);
     m_mailbox->owner = nullptr;
 }
@@ -170,7 +174,9 @@ void RealMonitors::finishScan(const ddci2c::Enumeration& found, bool askAgain)
         return;
     }
     if (found.lacksDeviceFiles)
-        tell(text(ddci2c::missingModuleAdvice()));
+        tell({}, text(ddci2c::missingModuleAdvice()));
+    else
+        endTrouble({});
     std::vector<ddci2c::BusQuestion> open;
     for (const ddci2c::BusQuestion& question : found.questions) {
         const auto answer = m_answers.find(question.connector);
@@ -227,7 +233,7 @@ void RealMonitors::apply(const std::vector<ddci2c::FoundMonitor>& found)
         if (plugged != m_plugged.end()) {
             // Its bus gave up, but here it is: a fresh start.
             const bool due = hotplug || m_lostPolls.value(id, 0) < 0;
-            if (plugged->link->lost && due)
+            if ((plugged->link->lost && due) || (plugged->link->noAccess && hotplug))
                 unplug(id);
             else
                 continue;
@@ -262,7 +268,9 @@ void RealMonitors::plug(const IdentifiedMonitor& monitor)
         options.edid = monitor.found.edid;
         options.connectorEdid = monitor.found.connectorEdid;
         options.link = plugged.link;
-        options.report = [mailbox = m_mailbox](const std::string& message) { mailbox->tell(message); };
+        options.report = [mailbox = m_mailbox, id](const std::string& message) {
+            mailbox->tell(id, message);
+        };
         bus = std::make_unique<ddci2c::I2cBus>(std::move(options));
     }
     plugged.info = MonitorLink::create(description, std::move(bus), MonitorLink::Waits::Real);
@@ -279,6 +287,7 @@ void RealMonitors::unplug(const QString& id)
 {
     m_plugged.remove(id);
     m_lostPolls.remove(id);
+    endTrouble(id);
     m_registry.removeMonitor(id);
 }
 
@@ -286,6 +295,8 @@ void RealMonitors::poll()
 {
     bool changed = pollLost();
     for (auto it = m_plugged.begin(); it != m_plugged.end(); ++it) {
+        if (!it->link->noAccess && !it->link->lost)
+            endTrouble(it.key());
         const bool asleep = m_enumerator.isAsleep(it->monitor.found.connectorPath);
         if (asleep == it->asleep || !it->monitor.found.sleepIsKnown)
             continue;
@@ -331,13 +342,29 @@ void RealMonitors::assignScreens()
         MonitorLink::of(*each.info).setScreenName(screenOf(each.monitor));
 }
 
-void RealMonitors::tell(const QString& message)
+void RealMonitors::tell(const QString& id, const QString& message)
 {
-    if (m_told.contains(message))
+    if (m_troubles.value(id) == message)
         return;
-    m_told.insert(message);
     qWarning().noquote() << "[RealMonitors]" << message;
-    Q_EMIT trouble(message);
+    // A transfer of a monitor that has gone meanwhile is nobody's trouble any more.
+    if (!id.isEmpty() && !m_plugged.contains(id))
+        return;
+    m_troubles.insert(id, message);
+    Q_EMIT troublesChanged();
+}
+
+void RealMonitors::endTrouble(const QString& id)
+{
+    if (m_troubles.remove(id) > 0)
+        Q_EMIT troublesChanged();
+}
+
+QStringList RealMonitors::troubles() const
+{
+    QStringList list = m_troubles.values();
+    list.removeDuplicates();
+    return list;
 }
 
 void RealMonitors::noteSkipped(const ddci2c::Enumeration& found)

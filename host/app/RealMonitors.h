@@ -9,10 +9,11 @@
 
 #include <QHash>
 #include <QList>
+#include <QMap>
 #include <QObject>
-#include <QSet>
 #include <QSharedPointer>
 #include <QString>
+#include <QStringList>
 #include <QTimer>
 
 #include <filesystem>
@@ -53,6 +54,9 @@ public:
     /// others.
     QString backlightOf(const QString& id) const;
 
+    /// What keeps monitors from being controlled and only a person can mend, at this moment, in plain words.
+    QStringList troubles() const;
+
     /// The kernel's name of the monitor's connector, such as "card0-DP-1"; empty for an unknown id.
     QString connectorOf(const QString& id) const;
 
@@ -63,8 +67,8 @@ Q_SIGNALS:
     void disturbed();
     /// Rounds of that monitor pause while it sleeps.
     void sleepChanged(const QString& id, bool asleep);
-    /// Something that only a person can mend keeps monitors from being controlled; in plain words, once each.
-    void trouble(const QString& text);
+    /// troubles() is another list now.
+    void troublesChanged();
 
 private:
     /// A monitor that the registry knows.
@@ -89,7 +93,8 @@ private:
     void poll();
     bool pollLost();
     void assignScreens();
-    void tell(const QString& text);
+    void tell(const QString& id, const QString& text);
+    void endTrouble(const QString& id);
     void noteSkipped(const ddci2c::Enumeration& found);
     void keepTwins();
 
@@ -110,9 +115,9 @@ private:
     std::vector<std::filesystem::path>
         m_sleepers; ///< Connectors that are to be asked who is there when they wake.
     ddci2c::BusAnswers m_answers;
-    QHash<QString, int> m_lostPolls; ///< Polls until a lost monitor is tried again, and
-    QHash<QString, int> m_lostPause; ///< how many these were the last time.
-    QSet<QString> m_told;
+    QHash<QString, int> m_lostPolls;   ///< Polls until a lost monitor is tried again, and
+    QHash<QString, int> m_lostPause;   ///< how many these were the last time.
+    QMap<QString, QString> m_troubles; ///< By monitor; that of the whole system has an empty key.
     bool m_scanning = false;
     bool m_scanAgain = false;
     bool m_scanAgainAsks = false;

@@ -18,6 +18,8 @@ using ddc::BusStatus;
 
 namespace {
 
+std::atomic<std::chrono::steady_clock::rep> lastWriteTicks{0};
+
 constexpr int EdidTries = 3;
 
 enum class Match {
@@ -99,7 +101,9 @@ BusStatus I2cBus::write(std::uint8_t address, std::span<const std::uint8_t> byte
     }
     // The kernel's interface has one structure for both directions; a write leaves the bytes alone.
     DeviceCalls::Message message{address, false, const_cast<std::uint8_t*>(bytes.data()), bytes.size()};
-    return transfer({&message, 1});
+    const BusStatus status = transfer({&message, 1});
+    lastWriteTicks = std::chrono::steady_clock::now().time_since_epoch().count();
+    return status;
 }
 
 BusStatus I2cBus::read(std::uint8_t address, std::span<std::uint8_t> bytes)
@@ -110,6 +114,12 @@ BusStatus I2cBus::read(std::uint8_t address, std::span<std::uint8_t> bytes)
     }
     DeviceCalls::Message message{address, true, bytes.data(), bytes.size()};
     return transfer({&message, 1});
+}
+
+std::chrono::steady_clock::time_point I2cBus::lastWrite()
+{
+    using Clock = std::chrono::steady_clock;
+    return Clock::time_point(Clock::duration(lastWriteTicks));
 }
 
 BusStatus I2cBus::readEdid(std::span<std::uint8_t> block)
@@ -128,10 +138,15 @@ BusStatus I2cBus::ensureOpen()
     if (result < 0) {
         // A node whose adapter has just gone answers ENXIO to open().
         const int error = result == -ENXIO ? ENODEV : -result;
-        if (error == EACCES || error == EPERM)
+        if (error == EACCES || error == EPERM) {
+            m_link->noAccess = true;
             say(accessAdvice(m_options.path));
+        }
         return failed(error);
     }
+    // What was in the way may come back, and is told again then.
+    if (m_link->noAccess.exchange(false))
+        m_said.clear();
     m_descriptor = result;
     m_expected = false;
     m_plain = m_calls->hasMessages(m_descriptor) == 0;

@@ -6,6 +6,7 @@
 #include <ddc/Bus.h>
 
 #include <atomic>
+#include <chrono>
 #include <cstdint>
 #include <filesystem>
 #include <functional>
@@ -24,6 +25,8 @@ struct BusLink
     std::atomic<unsigned> generation{0};
     /// The bus or its monitor was found to be gone, or another monitor in its place.
     std::atomic<bool> lost{false};
+    /// The device file may not be opened.
+    std::atomic<bool> noAccess{false};
     /// The errno of the last transfer that failed, 0 if none did.
     std::atomic<int> lastErrno{0};
 };
@@ -59,6 +62,9 @@ public:
 
     /// Reads the 128 bytes of the EDID's base block in one combined transfer, without asking who is there.
     ddc::BusStatus readEdid(std::span<std::uint8_t> block);
+
+    /// When this process last sent a monitor something; its next user should give it the protocol's time.
+    static std::chrono::steady_clock::time_point lastWrite();
 
     /// What an errno of a transfer means; 0 is Ok. Unknown ones are Nack.
     static ddc::BusStatus statusOf(int error);

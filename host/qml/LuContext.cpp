@@ -193,6 +193,14 @@ void LuContext::setTranslucentWindows(bool on)
     Q_EMIT translucentWindowsChanged();
 }
 
+void LuContext::setNotices(const QStringList& notices)
+{
+    if (notices == m_notices)
+        return;
+    m_notices = notices;
+    Q_EMIT noticesChanged();
+}
+
 void LuContext::setTheme(const QString& theme)
 {
     if (theme == m_theme)

@@ -47,6 +47,7 @@ class LuContext : public QObject
     Q_PROPERTY(bool highContrast READ highContrast WRITE setHighContrast NOTIFY highContrastChanged)
     Q_PROPERTY(bool reducedMotion READ reducedMotion WRITE setReducedMotion NOTIFY reducedMotionChanged)
     Q_PROPERTY(double fontScale READ fontScale WRITE setFontScale NOTIFY fontScaleChanged)
+    Q_PROPERTY(QStringList notices READ notices NOTIFY noticesChanged)
     Q_PROPERTY(QString fontFamily READ fontFamily CONSTANT)
 
 public:
@@ -104,6 +105,10 @@ public:
     double fontScale() const { return m_fontScale; }
     void setFontScale(double scale);
 
+    /// What keeps monitors from being controlled until the user does something about it, in plain words.
+    QStringList notices() const { return m_notices; }
+    void setNotices(const QStringList& notices);
+
     /// The family that the window is drawn in: Inter where it is installed, else the desktop's.
     QString fontFamily() const;
 
@@ -135,6 +140,7 @@ Q_SIGNALS:
     void currentMonitorChanged();
     void monitorsChanged();
     void widgetUrlsChanged();
+    void noticesChanged();
     void mainWindowChanged();
     void multiMonitorSyncControlChanged();
     void brightnessSyncChanged();
@@ -166,6 +172,7 @@ private:
     QPointer<QQuickWindow> m_mainWindow;
     QPointer<QObject> m_multiMonitorSyncControl;
     QPointer<QObject> m_brightnessSync;
+    QStringList m_notices;
     QString m_theme;
     QString m_colorScheme;
     bool m_translucentWindows = true;
