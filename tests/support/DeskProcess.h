@@ -8,6 +8,7 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
+#include <functional>
 #include <memory>
 
 /// A running lumen-desk with folders of its own, for tests. It ends with the object.
@@ -30,6 +31,9 @@ public:
     QString filePath(const QString& name) const { return m_directory.filePath(name); }
     QString socketPath() const { return m_directory.filePath(QStringLiteral("run/c.sock")); }
 
+    /// Run in the program's process before it begins, such as to take rights from it.
+    void setChildModifier(std::function<void()> modifier) { m_modifier = std::move(modifier); }
+
     /// Starts the program and connects to it. False if its socket does not come; errors() tells why.
     bool start(const QStringList& options = usualOptions(), int timeoutMs = 30'000)
     {
@@ -50,6 +54,8 @@ public:
     {
         m_client.reset();
         m_process = std::make_unique<QProcess>();
+        if (m_modifier)
+            m_process->setChildProcessModifier(m_modifier);
         m_process->start(QStringLiteral(LUMEN_DESK), arguments);
     }
 
@@ -102,6 +108,7 @@ public:
 
 private:
     QTemporaryDir m_directory;
+    std::function<void()> m_modifier;
     std::unique_ptr<QProcess> m_process;
     std::unique_ptr<ControlClient> m_client;
     QString m_errors;

@@ -15,6 +15,7 @@
 #include <condition_variable>
 #include <cstring>
 #include <deque>
+#include <filesystem>
 #include <functional>
 #include <mutex>
 #include <thread>
@@ -64,14 +65,17 @@ struct MockBed::Port
     Private* bed = nullptr;
     int number = 0;
     std::string connector;
+    std::string device; ///< Of its device file in /sys.
     UMockdevIoctlBase* handler = nullptr;
 
-    std::mutex mutex;
+    mutable std::mutex mutex;
     std::condition_variable wake;
     std::deque<std::function<void()>> jobs;
     bool ends = false;
     std::shared_ptr<ddc::Bus> bus; ///< Null: nobody there.
     int nackErrno = ENXIO;
+    int failErrno = 0;
+    int failures = 0;              ///< So many transfers fail with failErrno.
     std::atomic<bool> busy{false}; ///< A message is on the wire.
     std::thread adapter;
 
@@ -117,6 +121,10 @@ struct MockBed::Port
         std::shared_ptr<ddc::Bus> target;
         {
             const std::lock_guard lock(mutex);
+            if (failures > 0) {
+                --failures;
+                return failErrno;
+            }
             target = bus;
         }
         if (!target)
@@ -389,10 +397,10 @@ MockBed::Port& MockBed::addPort(int bus, const QString& output)
     const std::string adapter = d->device("i2c", d->pci, "i2c-" + number, {"name", name}, {});
     umockdev_testbed_set_attribute_link(d->testbed, adapter.c_str(), "device", "../../0000:00:02.0");
     const std::string node = "/dev/i2c-" + number;
-    const std::string device =
+    port.device =
         d->device("i2c-dev", adapter, "i2c-dev/i2c-" + number, {"name", name, "dev", "89:" + number + '\n'},
                   {"MAJOR", "89", "MINOR", number, "DEVNAME", node});
-    umockdev_testbed_set_attribute_link(d->testbed, device.c_str(), "device",
+    umockdev_testbed_set_attribute_link(d->testbed, port.device.c_str(), "device",
                                         ("../../../i2c-" + number).c_str());
     d->touch(node);
 
@@ -451,6 +459,30 @@ void MockBed::setNackErrno(Port& port, int error)
 {
     const std::lock_guard lock(port.mutex);
     port.nackErrno = error;
+}
+
+void MockBed::failTransfers(Port& port, int error, int count)
+{
+    const std::lock_guard lock(port.mutex);
+    port.failErrno = error;
+    port.failures = count;
+}
+
+int MockBed::failuresLeft(const Port& port) const
+{
+    const std::lock_guard lock(port.mutex);
+    return port.failures;
+}
+
+void MockBed::setAccess(Port& port, bool allowed)
+{
+    const std::string file = d->root + "/dev/i2c-" + std::to_string(port.number);
+    std::filesystem::permissions(file, std::filesystem::perms(allowed ? 0600 : 0));
+}
+
+void MockBed::sendBusEvent(Port& port)
+{
+    umockdev_testbed_uevent(d->testbed, port.device.c_str(), "change");
 }
 
 void MockBed::setHasMessages(bool has)

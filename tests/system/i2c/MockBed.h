@@ -37,6 +37,14 @@ public:
 
     /// The errno of a message that nobody acknowledges: drivers differ.
     void setNackErrno(Port& port, int error);
+    /// Lets the next @p count transfers of a bus end in @p error before anything reaches the monitor.
+    void failTransfers(Port& port, int error, int count);
+    /// How many of these are left.
+    int failuresLeft(const Port& port) const;
+    /// Whether the owner of the bus's device file may open it. A process with all of root's rights still may.
+    void setAccess(Port& port, bool allowed);
+    /// The event of a device file whose rights have changed.
+    void sendBusEvent(Port& port);
     /// Whether the adapters offer I2C_RDWR (they do unless told otherwise). Before the bus is opened.
     void setHasMessages(bool has);
     /// Whether a message is on the wire at this moment.
