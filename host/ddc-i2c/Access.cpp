@@ -15,7 +15,8 @@ namespace ddci2c {
 namespace {
 
 constexpr const char* RuleFile = "60-lumen-desk-i2c.rules";
-constexpr const char* RuleFolders[] = {"/etc/udev/rules.d", "/run/udev/rules.d", "/usr/lib/udev/rules.d",
+constexpr const char* RuleFolders[] = {"/etc/udev/rules.d", "/run/udev/rules.d",
+                                       "/usr/local/lib/udev/rules.d", "/usr/lib/udev/rules.d",
                                        "/lib/udev/rules.d"};
 
 AccessFacts factsOf(const std::string& path)
