@@ -30,13 +30,19 @@ QList<QRect> relaidOut(QList<QRect> screens, qsizetype changed, const QSize& siz
     }
     screens[changed].setSize(size);
 
-    // Mirrored screens lay over each other before and still may; others that now would go to the right end.
+    // Mirrored screens lay over each other before and still may; one that now would goes to the right end.
     for (qsizetype i = 0; i < screens.size(); ++i) {
+        bool isInTheWay = false;
+        int end = 0;
         for (qsizetype other = 0; other < screens.size(); ++other) {
-            if (i != changed && i != other && screens[i].intersects(screens[other]) &&
-                !before[i].intersects(before[other]))
-                screens[i].moveLeft(unitedAll(screens).right() + 1);
+            if (other == i)
+                continue;
+            isInTheWay =
+                isInTheWay || (screens[i].intersects(screens[other]) && !before[i].intersects(before[other]));
+            end = qMax(end, screens[other].right() + 1);
         }
+        if (isInTheWay && i != changed)
+            screens[i].moveLeft(end);
     }
     const QPoint origin = unitedAll(screens).topLeft();
     for (QRect& screen : screens)
