@@ -9,6 +9,7 @@
 #include <QFileInfo>
 #include <QImage>
 #include <QMimeData>
+#include <QSet>
 #include <QUrl>
 
 namespace {
@@ -22,6 +23,48 @@ const LuMonitorModel* modelOf(const QObject* object)
         object = object->parent();
     }
     return nullptr;
+}
+
+/// A picture without loss in a form that Qt makes of every image by itself. A screen shot is offered in a
+/// dozen of them, and each would cost its owner an encoding and this program its transfer.
+bool isOfferedAnyway(const QString& format)
+{
+    static const QSet<QString> formats{QStringLiteral("image/bmp"),
+                                       QStringLiteral("image/x-bmp"),
+                                       QStringLiteral("image/x-MS-bmp"),
+                                       QStringLiteral("image/cur"),
+                                       QStringLiteral("image/tiff"),
+                                       QStringLiteral("image/vnd.microsoft.icon"),
+                                       QStringLiteral("image/ico"),
+                                       QStringLiteral("image/x-ico"),
+                                       QStringLiteral("image/x-portable-bitmap"),
+                                       QStringLiteral("image/x-xbitmap"),
+                                       QStringLiteral("image/x-portable-graymap"),
+                                       QStringLiteral("image/x-portable-pixmap"),
+                                       QStringLiteral("image/x-xpixmap")};
+    return formats.contains(format);
+}
+
+/// Copies one format: as the value that QMimeData keeps and converts on demand where it is one of those,
+/// since its bytes alone would not be taken for an image or a colour again, else as bytes.
+void copyFormat(const QMimeData& source, const QString& format, QMimeData* copy)
+{
+    if (format == QLatin1String("application/x-qt-image") && source.hasImage()) {
+        const QVariant value = source.imageData();
+        // The pixels of a clipboard's image may be somebody else's memory.
+        const QImage image = value.canConvert<QImage>() ? value.value<QImage>().copy() : QImage();
+        copy->setImageData(image.isNull() ? value : QVariant(image));
+    } else if (format == QLatin1String("application/x-color") && source.hasColor()) {
+        copy->setColorData(source.colorData());
+    } else if (format == QLatin1String("text/uri-list") && source.hasUrls()) {
+        copy->setUrls(source.urls());
+    } else if (format == QLatin1String("text/plain") && source.hasText()) {
+        copy->setText(source.text());
+    } else if (format == QLatin1String("text/html") && source.hasHtml()) {
+        copy->setHtml(source.html());
+    } else {
+        copy->setData(format, source.data(format));
+    }
 }
 
 } // namespace
@@ -53,20 +96,12 @@ QMimeData* LuUtils::copyMimeData(const QMimeData* source)
     if (!source)
         return nullptr;
     auto* copy = new QMimeData;
+    // In the source's order, which is its order of preference, and none that it does not offer.
     const QStringList formats = source->formats();
-    for (const QString& format : formats)
-        copy->setData(format, source->data(format));
-    // Formats that QMimeData keeps as values and converts on demand.
-    if (source->hasText())
-        copy->setText(source->text());
-    if (source->hasHtml())
-        copy->setHtml(source->html());
-    if (source->hasUrls())
-        copy->setUrls(source->urls());
-    if (source->hasImage())
-        copy->setImageData(source->imageData());
-    if (source->hasColor())
-        copy->setColorData(source->colorData());
+    for (const QString& format : formats) {
+        if (!source->hasImage() || !isOfferedAnyway(format))
+            copyFormat(*source, format, copy);
+    }
     return copy;
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "ZrCore/ZrCoreLineShape.h"
 
+#include "NanoShape.h"
+
 #include <QMatrix4x4>
 #include <QQuickWindow>
 #include <QSGRectangleNode>
@@ -104,6 +106,48 @@ void ZrCoreLineShape::geometryChange(const QRectF& newGeometry, const QRectF& ol
     Q_EMIT lineChanged();
 }
 
+namespace {
+
+// With the shaders: a stroke with soft edges at any angle.
+QSGNode* updateNanoLine(QSGNode* old, const QLineF& line, qreal width, const QColor& color, qreal pixelRatio)
+{
+    auto* node = dynamic_cast<zr::NanoShapeNode*>(old);
+    if (!node) {
+        delete old;
+        node = new zr::NanoShapeNode;
+    }
+    const QPointF along = (line.p2() - line.p1()) / line.length();
+    const QPointF side = QPointF(along.y(), -along.x()) * width / 2.0;
+    node->begin(pixelRatio);
+    node->addFill({line.p1() + side, line.p2() + side, line.p2() - side, line.p1() - side}, color);
+    node->end();
+    return node;
+}
+
+// Without them: a rectangle along the x axis, turned about the start, which every renderer draws.
+QSGNode* updatePlainLine(QSGNode* old, QQuickWindow* window, const QLineF& line, qreal width,
+                         const QColor& color)
+{
+    auto* turn = dynamic_cast<QSGTransformNode*>(old);
+    if (!turn) {
+        delete old;
+        turn = new QSGTransformNode;
+        QSGRectangleNode* created = window->createRectangleNode();
+        created->setFlag(QSGNode::OwnedByParent);
+        turn->appendChildNode(created);
+    }
+    auto* stroke = static_cast<QSGRectangleNode*>(turn->firstChild());
+    stroke->setRect(QRectF(0, -width / 2.0, line.length(), width));
+    stroke->setColor(color);
+    QMatrix4x4 matrix;
+    matrix.translate(static_cast<float>(line.x1()), static_cast<float>(line.y1()));
+    matrix.rotate(static_cast<float>(-line.angle()), 0, 0, 1);
+    turn->setMatrix(matrix);
+    return turn;
+}
+
+} // namespace
+
 QSGNode* ZrCoreLineShape::updatePaintNode(QSGNode* old, UpdatePaintNodeData*)
 {
     const QLineF own = line().translated(-position());
@@ -111,20 +155,8 @@ QSGNode* ZrCoreLineShape::updatePaintNode(QSGNode* old, UpdatePaintNodeData*)
         delete old;
         return nullptr;
     }
-    // A rectangle along the x axis, turned about the start: every renderer draws that.
-    auto* turn = static_cast<QSGTransformNode*>(old);
-    if (!turn) {
-        turn = new QSGTransformNode;
-        QSGRectangleNode* created = window()->createRectangleNode();
-        created->setFlag(QSGNode::OwnedByParent);
-        turn->appendChildNode(created);
-    }
-    auto* stroke = static_cast<QSGRectangleNode*>(turn->firstChild());
-    stroke->setRect(QRectF(0, -d->strokeWidth / 2.0, own.length(), d->strokeWidth));
-    stroke->setColor(d->strokeColor);
-    QMatrix4x4 matrix;
-    matrix.translate(static_cast<float>(own.x1()), static_cast<float>(own.y1()));
-    matrix.rotate(static_cast<float>(-own.angle()), 0, 0, 1);
-    turn->setMatrix(matrix);
-    return turn;
+    if (zr::drawsNanoShapes(window()))
+        return updateNanoLine(old, own, d->strokeWidth, d->strokeColor,
+                              window()->effectiveDevicePixelRatio());
+    return updatePlainLine(old, window(), own, d->strokeWidth, d->strokeColor);
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "ZrCore/ZrCoreRectShape.h"
 
+#include "NanoShape.h"
+
 #include <QImage>
 #include <QPainter>
 #include <QQuickWindow>
@@ -113,29 +115,102 @@ void ZrCoreRectShape::setJoinStyle(Qt::PenJoinStyle style)
     Q_EMIT joinStyleChanged();
 }
 
-QSGNode* ZrCoreRectShape::updatePaintNode(QSGNode* old, UpdatePaintNodeData*)
+namespace {
+
+/// What a shape looks like, on its way to the scene graph.
+struct RectLook
+{
+    QSizeF size;
+    qreal line = 0; ///< Width of the border.
+    QColor fill;
+    QColor stroke;
+    Qt::PenJoinStyle joinStyle = Qt::MiterJoin;
+
+    QRectF inner() const { return QRectF(QPointF(), size).adjusted(line, line, -line, -line); }
+    bool hasBorder() const { return line > 0.0 && stroke.alpha() > 0; }
+};
+
+QList<QPointF> cornersOf(const QRectF& rect)
+{
+    return {rect.topLeft(), rect.topRight(), rect.bottomRight(), rect.bottomLeft()};
+}
+
+// The outline of the border, and for each of its points the corner of the inside that belongs to it.
+void appendBorder(zr::NanoShapeNode* node, const RectLook& look)
+{
+    const QList<QPointF> innerCorners = cornersOf(look.inner());
+    if (look.joinStyle == Qt::MiterJoin) {
+        node->addRing(cornersOf(QRectF(QPointF(), look.size)), innerCorners, look.stroke);
+        return;
+    }
+    // A cut corner is an arc of one step.
+    const int steps = look.joinStyle == Qt::BevelJoin ? 1 : 4 + int(look.line);
+    QList<QPointF> outer;
+    QList<QPointF> inner;
+    for (int corner = 0; corner < 4; ++corner) {
+        for (int step = 0; step <= steps; ++step) {
+            const qreal angle = (corner - 2 + qreal(step) / steps) * M_PI / 2;
+            outer.append(innerCorners[corner] + look.line * QPointF(std::cos(angle), std::sin(angle)));
+            inner.append(innerCorners[corner]);
+        }
+    }
+    node->addRing(outer, inner, look.stroke);
+}
+
+// With the shaders: one node, whose edges are soft where they do not lie on a pixel's border.
+QSGNode* updateNanoShape(QSGNode* old, const RectLook& look, qreal pixelRatio)
+{
+    auto* node = dynamic_cast<zr::NanoShapeNode*>(old);
+    if (!node) {
+        delete old;
+        node = new zr::NanoShapeNode;
+    }
+    node->begin(pixelRatio);
+    if (look.hasBorder()) {
+        node->addHardFill(cornersOf(look.inner()), look.fill);
+        appendBorder(node, look);
+    } else {
+        node->addFill(cornersOf(look.inner()), look.fill);
+    }
+    node->end();
+    return node;
+}
+
+// Without them: rectangles, which every renderer draws.
+QSGNode* makePlainShape(QQuickWindow* window, const RectLook& look)
 {
     // A handful of nodes that change rarely: made anew each time.
-    delete old;
-    if (width() <= 0.0 || height() <= 0.0)
-        return nullptr;
     auto* root = new QSGNode;
-    const QSizeF size(width(), height());
-    const qreal line = std::min(d->border->width(), std::min(size.width(), size.height()) / 2.0);
-    const QRectF inner(line, line, size.width() - 2.0 * line, size.height() - 2.0 * line);
-    appendRectangle(window(), root, inner, color());
-    const QColor stroke = d->border->color();
-    if (line <= 0.0 || stroke.alpha() == 0)
+    const QRectF inner = look.inner();
+    appendRectangle(window, root, inner, look.fill);
+    if (!look.hasBorder())
         return root;
-    const bool square = d->joinStyle == Qt::MiterJoin;
+    const qreal line = look.line;
+    const QSizeF size = look.size;
+    const bool square = look.joinStyle == Qt::MiterJoin;
     const qreal left = square ? 0.0 : line;
-    appendRectangle(window(), root, QRectF(left, 0, size.width() - 2.0 * left, line), stroke);
-    appendRectangle(window(), root, QRectF(left, size.height() - line, size.width() - 2.0 * left, line),
-                    stroke);
-    appendRectangle(window(), root, QRectF(0, line, line, inner.height()), stroke);
-    appendRectangle(window(), root, QRectF(size.width() - line, line, line, inner.height()), stroke);
+    for (const qreal y : {0.0, size.height() - line})
+        appendRectangle(window, root, QRectF(left, y, size.width() - 2.0 * left, line), look.stroke);
+    for (const qreal x : {0.0, size.width() - line})
+        appendRectangle(window, root, QRectF(x, line, line, inner.height()), look.stroke);
     if (!square)
-        appendCorners(window(), root, size, line,
-                      cornerImage(line, window()->effectiveDevicePixelRatio(), d->joinStyle, stroke));
+        appendCorners(window, root, size, line,
+                      cornerImage(line, window->effectiveDevicePixelRatio(), look.joinStyle, look.stroke));
     return root;
+}
+
+} // namespace
+
+QSGNode* ZrCoreRectShape::updatePaintNode(QSGNode* old, UpdatePaintNodeData*)
+{
+    if (width() <= 0.0 || height() <= 0.0) {
+        delete old;
+        return nullptr;
+    }
+    const qreal line = std::min(d->border->width(), std::min(width(), height()) / 2.0);
+    const RectLook look{size(), line, color(), d->border->color(), d->joinStyle};
+    if (zr::drawsNanoShapes(window()))
+        return updateNanoShape(old, look, window()->effectiveDevicePixelRatio());
+    delete old;
+    return makePlainShape(window(), look);
 }

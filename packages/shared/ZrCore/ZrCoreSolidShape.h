@@ -10,8 +10,9 @@
 
 /// Base of the vector shapes that are filled with one colour.
 ///
-/// The shapes are put together from rectangle nodes of the scene graph, which every renderer of Qt Quick
-/// draws, the software renderer too.
+/// With a renderer on a graphics processor the shapes are drawn by the NanoShape shaders of a package, with
+/// soft edges. With the software renderer, and without those shaders, they are put together from rectangle
+/// nodes of the scene graph, which every renderer draws.
 class ZRCORE_EXPORT ZrCoreSolidShape : public QQuickItem
 {
     Q_OBJECT

@@ -9,13 +9,17 @@
 #include <QTest>
 
 #include <memory>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
-// Drawn with the software renderer, the poorest of Qt Quick's.
+/// Drawn with the software renderer, the poorest of Qt Quick's; with the argument "--gpu" by the shaders.
 class tst_shapes : public QObject
 {
     Q_OBJECT
+
+public:
+    bool gpu = false;
 
 private Q_SLOTS:
     void init();
@@ -30,6 +34,10 @@ private Q_SLOTS:
     void movingTheItemMovesTheLine();
     void lineIsDrawnCentred();
     void obliqueLineIsDrawn();
+    void edgesOffThePixelsAreSoft();
+    void hairlinesAreSeen();
+    void opacityCounts();
+    void manyShapesKeepTheirOrder();
 
 private:
     QImage grab()
@@ -222,11 +230,85 @@ void tst_shapes::obliqueLineIsDrawn()
     QCOMPARE(image.pixelColor(55, 55), QColor(Qt::white));
 }
 
+// On a graphics processor that is the shaders' work: without them an edge covers a pixel or leaves it.
+void tst_shapes::edgesOffThePixelsAreSoft()
+{
+    ZrCoreRectShape rect(m_window->contentItem());
+    rect.setPosition({10.5, 20.5});
+    rect.setSize({50, 40});
+    rect.setColor(Qt::black);
+    ZrCoreRectShape framed(m_window->contentItem());
+    framed.setPosition({70.5, 20});
+    framed.setSize({20, 40});
+    framed.setColor(Qt::black);
+    framed.border()->setColor(Qt::black);
+    framed.border()->setWidth(4);
+    const QImage image = grab();
+    QCOMPARE(image.pixelColor(30, 40), QColor(Qt::black));
+    QCOMPARE(image.pixelColor(9, 40), QColor(Qt::white));
+    QCOMPARE(image.pixelColor(61, 40), QColor(Qt::white));
+    for (const QPoint point :
+         {QPoint(10, 40), QPoint(60, 40), QPoint(30, 20), QPoint(30, 60), QPoint(70, 40)}) {
+        const int level = image.pixelColor(point).red();
+        QVERIFY2(qAbs(level - 128) <= 2, qPrintable(QString::number(level)));
+    }
+    // No seam between the fill and the border, wherever their common edge lies; where each is a rectangle of
+    // its own a seam shows.
+    for (int x = 71; gpu && x < 90; ++x)
+        QCOMPARE(image.pixelColor(x, 40), QColor(Qt::black));
+}
+
+void tst_shapes::hairlinesAreSeen()
+{
+    ZrCoreLineShape line(m_window->contentItem());
+    line.setLine({10.5, 10}, {10.5, 90});
+    line.setStrokeColor(Qt::black);
+    line.setStrokeWidth(1);
+    QCOMPARE(grab().pixelColor(10, 50), QColor(Qt::black));
+    line.setStrokeWidth(0.5);
+    const int level = grab().pixelColor(10, 50).red();
+    QVERIFY2(level < 160, qPrintable(QString::number(level)));
+}
+
+void tst_shapes::opacityCounts()
+{
+    ZrCoreRectShape rect(m_window->contentItem());
+    rect.setSize({100, 100});
+    rect.setColor(QColor(0, 0, 0, 128));
+    rect.setOpacity(0.5);
+    QVERIFY(qAbs(grab().pixelColor(50, 50).red() - 191) <= 2);
+    rect.setOpacity(1);
+    QVERIFY(qAbs(grab().pixelColor(50, 50).red() - 127) <= 2);
+}
+
+// Shapes of one material are drawn at once, and still one over the other.
+void tst_shapes::manyShapesKeepTheirOrder()
+{
+    std::vector<std::unique_ptr<ZrCoreRectShape>> shapes;
+    for (int i = 0; i < 30; ++i) {
+        shapes.push_back(std::make_unique<ZrCoreRectShape>(m_window->contentItem()));
+        shapes.back()->setPosition(QPointF(i, i));
+        shapes.back()->setSize({60, 60});
+        shapes.back()->setColor(QColor::fromHsv(i * 12, 255, 255));
+    }
+    shapes[5]->setZ(100);
+    const QImage image = grab();
+    for (const int i : {0, 3, 4, 20, 28})
+        QCOMPARE(image.pixelColor(i, i), shapes[std::size_t(i < 5 ? i : 5)]->color().toRgb());
+    QCOMPARE(image.pixelColor(80, 80), shapes[29]->color().toRgb());
+    QCOMPARE(image.pixelColor(70, 80), shapes[29]->color().toRgb());
+}
+
 int main(int argc, char** argv)
 {
-    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    const bool gpu = arguments.removeAll(u"--gpu"_s) > 0;
+    QQuickWindow::setGraphicsApi(gpu ? QSGRendererInterface::OpenGL : QSGRendererInterface::Software);
     QGuiApplication application(argc, argv);
     tst_shapes test;
-    return QTest::qExec(&test, argc, argv);
+    test.gpu = gpu;
+    return QTest::qExec(&test, arguments);
 }
 #include "tst_shapes.moc"
