@@ -16,6 +16,7 @@
 #include <ZrCore/ZrS.h>
 #include <control/MonitorAccess.h>
 #include <control/Server.h>
+#include <lushared/LuBrightnessSync.h>
 #include <lushared/LuEventLog.h>
 #include <lushared/LuHostOptions.h>
 #include <lushared/LuModelHost.h>
@@ -61,6 +62,7 @@ Application::~Application()
     // Nothing of the desktop reaches models that go.
     if (const auto events = services::Registry::current().events)
         events->stop();
+    m_brightnessSync.reset();
     m_registry.reset();
     m_simulated.reset();
     m_services.reset();
@@ -109,6 +111,8 @@ Application::Start Application::start()
     }
 
     m_registry = std::make_unique<LuMonitorRegistry>();
+    m_brightnessSync = std::make_unique<LuBrightnessSync>(m_registry.get());
+    LuContext::instance()->setBrightnessSync(m_brightnessSync.get());
     installServices();
     m_packages.load(PackageLoader::defaultFolders());
     const QList<LuPackagesInterface*> packages = m_packages.packages();

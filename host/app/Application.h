@@ -10,6 +10,7 @@
 #include <memory>
 
 class ActionKeys;
+class LuBrightnessSync;
 class LuContext;
 class LuMonitorRegistry;
 class LuMonitorModel;
@@ -64,6 +65,7 @@ private:
     std::unique_ptr<services::SimulatedServices> m_services;
     std::unique_ptr<LuMonitorRegistry> m_registry;
     std::unique_ptr<ActionKeys> m_actionKeys;
+    std::unique_ptr<LuBrightnessSync> m_brightnessSync;
     std::unique_ptr<SimulatedMonitors> m_simulated;
     std::unique_ptr<RealMonitors> m_real;
     std::unique_ptr<control::Server> m_server;

@@ -218,18 +218,29 @@ void LuMonitorModel::setEcoLockingPaused(bool paused)
 
 bool LuMonitorModel::isHDR() const
 {
-    return false;
+    const LuVCPNode* node = d->currentNode;
+    return node && node->isHdr();
 }
 
 void LuMonitorModel::setIsHDR(bool on)
 {
-    if (on)
-        qWarning() << "[LuMonitorModel] this desktop offers no high dynamic range";
+    if (!isHDREnable()) {
+        if (on)
+            qWarning().noquote() << "[LuMonitorModel] no high dynamic range to switch to:" << id();
+        return;
+    }
+    LuVCPNode* present = d->currentNode;
+    if (on == isHDR())
+        setColorMode(present); // Drops a switch that still waits.
+    else if (on)
+        setColorMode(d->firstNode(true));
+    else
+        setColorMode(d->lastSdrNode ? d->lastSdrNode.get() : d->firstNode(false));
 }
 
 bool LuMonitorModel::isHDREnable() const
 {
-    return false;
+    return d->firstNode(true) && d->firstNode(false);
 }
 
 bool LuMonitorModel::isMirrored() const
@@ -336,7 +347,8 @@ void LuMonitorModel::fireHdrChangedEvent(bool state, LuDataCollection::TriggerSo
 
 void LuMonitorModel::readModuleSchemaExt()
 {
-    // A monitor without a schema has no features but those that need none: its modules decide on an empty one.
+    // A monitor without a schema has no features but those that need none: its modules decide on an empty
+    // one.
     LuSchemaReader::Result schema;
     if (d->supported)
         schema = LuSchemaReader::readFile(d->schemaPath(QStringLiteral("_ext")));

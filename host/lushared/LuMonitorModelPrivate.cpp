@@ -102,7 +102,7 @@ void LuMonitorModelPrivate::learnColorMode()
         return;
     if (!link().probedColorMode())
         link().probeColorMode();
-    currentNode = nodeOfCode(link().probedColorMode().value_or(-1));
+    takeNode(nodeOfCode(link().probedColorMode().value_or(-1)));
 }
 
 void LuMonitorModelPrivate::syncColorMode()
@@ -114,10 +114,27 @@ void LuMonitorModelPrivate::syncColorMode()
 
 void LuMonitorModelPrivate::makeCurrent(LuVCPNode* node)
 {
-    if (!currentNode.set(node))
+    const bool wasHdr = q->isHDR();
+    if (!takeNode(node))
         return;
     qInfo() << "[LuMonitorModel] color mode changed:" << (node ? node->displayName() : QString());
     Q_EMIT q->colorModeChanged();
+    if (q->isHDR() != wasHdr)
+        Q_EMIT q->isHDRChanged();
+}
+
+bool LuMonitorModelPrivate::takeNode(LuVCPNode* node)
+{
+    if (node && !node->isHdr())
+        lastSdrNode = node;
+    return currentNode.set(node);
+}
+
+LuVCPNode* LuMonitorModelPrivate::firstNode(bool hdr) const
+{
+    const auto found = std::find_if(nodes.begin(), nodes.end(),
+                                    [hdr](const LuVCPNode* node) { return node->isHdr() == hdr; });
+    return found == nodes.end() ? nullptr : *found;
 }
 
 LuVCPNode* LuMonitorModelPrivate::nodeOfCode(int code) const

@@ -31,6 +31,10 @@ public:
     void syncColorMode();
     void makeCurrent(LuVCPNode* node);
     LuVCPNode* nodeOfCode(int code) const;
+    /// The first mode with or without a high dynamic range, or null.
+    LuVCPNode* firstNode(bool hdr) const;
+    /// Takes a node as the present one; true if it is another.
+    bool takeNode(LuVCPNode* node);
     QList<LuShortcutAction*> actionsWithKey(QKeyCombination keys) const;
     void refreshDuplicates();
     /// The stored values are to be applied before anything is read.
@@ -46,6 +50,7 @@ public:
     QString section;
     QList<LuVCPNode*> nodes;
     ZrShared<LuVCPNode*> currentNode{nullptr};
+    ZrShared<LuVCPNode*> lastSdrNode{nullptr}; ///< Where the end of a high dynamic range leads back to.
     QList<LuModelModuleInterface*> modules;
     QList<LuShortcutAction*> shortcutActions;
     QList<LuFlowAction*> flowActions;

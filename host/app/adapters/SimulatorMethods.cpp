@@ -9,9 +9,13 @@
 #include <lushared/LuMonitorRegistry.h>
 #include <simulator/Monitor.h>
 
+#include <QGuiApplication>
 #include <QJsonArray>
 #include <QPointer>
+#include <QQuickWindow>
+#include <QScreen>
 
+#include <cmath>
 #include <limits>
 
 using namespace Qt::StringLiterals;
@@ -171,6 +175,32 @@ QJsonValue unplug(const Simulator& simulator, const Request& request, Dispatcher
     return QJsonObject();
 }
 
+/// The overlay that darkens a monitor's screen; it names its monitor.
+QQuickWindow* overlayOf(const QString& monitor)
+{
+    const QWindowList windows = QGuiApplication::topLevelWindows();
+    for (QWindow* window : windows) {
+        if (window->objectName() == "dimmingOverlay"_L1 && window->property("monitor").toString() == monitor)
+            return qobject_cast<QQuickWindow*>(window);
+    }
+    return nullptr;
+}
+
+QJsonValue overlay(const Simulator& simulator, const Request& request)
+{
+    (void)simulator.plugged();
+    const QString monitor = simulator.id(request);
+    const QQuickWindow* window = overlayOf(monitor);
+    if (!window)
+        throw RequestError(NoSuchPath, u"\"%1\" has no dimming overlay"_s.arg(monitor));
+    // A colour holds 16 bits: the digits behind them are not the program's.
+    constexpr double Digits = 10000;
+    return QJsonObject{{u"visible"_s, window->isVisible()},
+                       {u"alpha"_s, std::round(double(window->color().alphaF()) * Digits) / Digits},
+                       {u"screen"_s, window->screen() ? window->screen()->name() : QString()},
+                       {u"flags"_s, int(window->flags())}};
+}
+
 } // namespace
 
 void addSimulatorMethods(Server* server, MonitorAccess* access, SimulatedWorld* world)
@@ -192,6 +222,8 @@ void addSimulatorMethods(Server* server, MonitorAccess* access, SimulatedWorld* 
     dispatcher.addMethod(u"sim.unplug"_s, {monitor}, [simulator, &dispatcher](const Request& request) {
         return unplug(simulator, request, &dispatcher);
     });
+    dispatcher.addMethod(u"sim.overlay"_s, {monitor},
+                         [simulator](const Request& request) { return overlay(simulator, request); });
     dispatcher.addMethod(u"sim.reset"_s, {monitor}, [simulator](const Request& request) {
         simulator.device(request).reset();
         return QJsonValue(QJsonObject());

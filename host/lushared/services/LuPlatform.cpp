@@ -156,6 +156,12 @@ void LuPlatform::setWindowJoinActiveSpaces(QQuickWindow* window, bool join)
         windows->setJoinActiveSpaces(window, join);
 }
 
+bool LuPlatform::windowsBlend()
+{
+    const auto windows = Registry::current().windows;
+    return !windows || windows->blends();
+}
+
 void LuPlatform::simulateCopy()
 {
     if (const auto keys = Registry::current().clipboardKeys)

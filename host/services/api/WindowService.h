@@ -17,6 +17,9 @@ public:
 
     /// Whether the window shows on every virtual desktop.
     virtual void setJoinActiveSpaces(QQuickWindow* window, bool join) = 0;
+
+    /// False where nothing composes the desktop: a translucent window is opaque there.
+    virtual bool blends() const { return true; }
 };
 
 } // namespace services

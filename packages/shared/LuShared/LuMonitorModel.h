@@ -44,9 +44,10 @@ class LUSHARED_EXPORT LuMonitorModel : public MonitorModel
                    syncCurrentColorModeChanged)
     Q_PROPERTY(
         bool ecoLockingPaused READ ecoLockingPaused WRITE setEcoLockingPaused NOTIFY ecoLockingPausedChanged)
-    /// High dynamic range of the desktop on this monitor; false and not changeable where the platform has
-    /// none.
+    /// The monitor shows a colour mode of high dynamic range. Setting it selects the first mode of that kind,
+    /// or leads back to the mode before; nothing happens on a monitor that lacks one of the two.
     Q_PROPERTY(bool isHDR READ isHDR WRITE setIsHDR NOTIFY isHDRChanged)
+    /// The monitor has modes of both kinds.
     Q_PROPERTY(bool isHDREnable READ isHDREnable NOTIFY isHDREnableChanged)
     Q_PROPERTY(bool isMirrored READ isMirrored NOTIFY isMirroredChanged)
     /// Parts that a package may lack: null then.

@@ -85,6 +85,9 @@ public:
     /// Whether a window shows on every virtual desktop.
     static void setWindowJoinActiveSpaces(QQuickWindow* window, bool join);
 
+    /// Whether the session lets what lies below a translucent window show through.
+    static bool windowsBlend();
+
     /// Sends the system's key stroke for copy or paste to the application in the foreground.
     static void simulateCopy();
     static void simulatePaste();

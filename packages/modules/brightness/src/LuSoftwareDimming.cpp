@@ -24,6 +24,8 @@ LuSoftwareDimming::LuSoftwareDimming(LuBrightness* owner, LuMonitorModel* model)
       m_window(new LuQuickWindow)
 {
     m_window->setObjectName(QStringLiteral("dimmingOverlay"));
+    // Overlays of several monitors are told apart by it.
+    m_window->setProperty("monitor", model->id());
     m_window->setColor(QColor(0, 0, 0, 0));
     m_window->setWindowFlags(LuPlatform::windowFlags | Qt::WindowTransparentForInput |
                              Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
@@ -48,7 +50,8 @@ void LuSoftwareDimming::moveToScreen()
 
 void LuSoftwareDimming::showOrClose()
 {
-    if (active() && m_shown > 0 && m_model->screen())
+    // Where nothing blends windows the overlay would be black altogether.
+    if (active() && m_shown > 0 && m_model->screen() && LuPlatform::windowsBlend())
         m_window->enterFullScreen(true);
     else if (m_window->isVisible())
         m_window->close();
