@@ -14,9 +14,6 @@ set(TKPACKAGE_QML_FILES
   Widgets/picture/BrightnessSliders.qml
   Widgets/picture/ColorModeChoice.qml
   Widgets/picture/ColorTemperatureControls.qml
-  Widgets/picture/FollowingChoice.qml
-  Widgets/picture/FollowingSlider.qml
-  Widgets/picture/LabeledSlider.qml
   Widgets/LuAiContrastWidget.qml
   Widgets/LuAutoPivotWidget.qml
   Widgets/LuBrightnessWidget.qml
@@ -24,5 +21,6 @@ set(TKPACKAGE_QML_FILES
   Widgets/LuColorWeaknessWidget.qml
   Widgets/LuHDRWidget.qml
   Widgets/picture/ModeBundleHint.qml
+  Widgets/picture/NumberChoice.qml
   Widgets/picture/PictureRules.qml
   Widgets/LuPivotWidget.qml)

@@ -15,6 +15,8 @@ T.Slider {
     property real confirmedValue: NaN
     property string text
     property color color: LuStyle.accent
+    // Where the filled part begins on a lying slider: the start of the line, or a middle between two sides.
+    property real origin: from
     // Milliseconds for each step while the monitor itself moves the value; 0 jumps.
     property int glideInterval: 0
     // The user's value is on its way.
@@ -115,6 +117,12 @@ T.Slider {
 
         readonly property real handleAt: control.horizontal ? control.handle.x + control.handle.width / 2
                                                             : control.handle.y + control.handle.height / 2
+        readonly property real originAt: {
+            if (control.origin === control.from)
+                return control.mirrored ? width : 0
+            const part = (control.origin - control.from) / (control.to - control.from)
+            return 8 + (width - 16) * (control.mirrored ? 1 - part : part)
+        }
         readonly property real confirmedPosition: (control.confirmedValue - control.from) / (control.to - control.from)
         readonly property real confirmedAt: {
             const run = (control.horizontal ? width : height) - 16
@@ -133,9 +141,9 @@ T.Slider {
             border.color: LuStyle.outline
         }
         Rectangle {
-            x: !control.horizontal ? (groove.width - width) / 2 : control.mirrored ? groove.handleAt : 0
+            x: !control.horizontal ? (groove.width - width) / 2 : Math.min(groove.originAt, groove.handleAt)
             y: control.horizontal ? (groove.height - height) / 2 : groove.handleAt
-            width: !control.horizontal ? 4 : control.mirrored ? groove.width - groove.handleAt : groove.handleAt
+            width: !control.horizontal ? 4 : Math.abs(groove.handleAt - groove.originAt)
             height: control.horizontal ? 4 : groove.height - groove.handleAt
             radius: 2
             color: control.color

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
 import QtQuick.Templates as T
-import LumenDesk
 import LumenDesk.BrightnessSync
 import LumenDesk.Controls
 import LumenDesk.Style
 import LumenDesk.Widgets
-import ".."
 import "picture"
 
 LuWidget {
@@ -24,11 +22,9 @@ LuWidget {
 
     bindings: [
         Component {
-            LuBinding {
-                target: _self.brightness
-                property: "syncEnable"
-                value: _self.isCurrentModel && _self.mainWindow?.visible || false
-                defaultValue: false
+            LuSyncBinding {
+                widget: _self
+                module: _self.brightness
             }
         },
         Component {
@@ -109,13 +105,9 @@ LuWidget {
                         x: LuStyle.spaceHalf
                         height: parent.height
                         spacing: LuStyle.space
-                        Image {
+                        LuIcon {
                             anchors.verticalCenter: parent.verticalCenter
-                            width: 20
-                            height: 20
-                            sourceSize.width: 40
-                            sourceSize.height: 40
-                            source: LuContext.resolvedResourceUrl("qrc:/images/packages/ic_brightness.svg", _self, LuStyle.colorScheme)
+                            name: "sun"
                         }
                         LuLabel {
                             anchors.verticalCenter: parent.verticalCenter
@@ -134,7 +126,6 @@ LuWidget {
                 width: Math.min(implicitWidth, parent.width - _head.implicitWidth - LuStyle.spaceLarge)
                 visible: _self.supported && count > 0
                 monitor: _self.monitor
-                onChosen: mode => _self.monitor.colorMode = mode
             }
         }
         BrightnessSliders {

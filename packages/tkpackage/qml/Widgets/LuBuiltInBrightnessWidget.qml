@@ -4,8 +4,6 @@ import LumenDesk
 import LumenDesk.Controls
 import LumenDesk.Style
 import LumenDesk.Widgets
-import ".."
-import "picture"
 
 // The brightness of the notebook's own panel, beside that of a monitor of the series.
 LuWidget {
@@ -19,27 +17,20 @@ LuWidget {
 
     bindings: [
         Component {
-            LuBinding {
-                target: _self.brightness
-                property: "syncEnable"
-                value: _self.isCurrentModel && _self.mainWindow?.visible || false
-                defaultValue: false
+            LuSyncBinding {
+                widget: _self
+                module: _self.brightness
             }
         }
     ]
 
-    Image {
+    LuIcon {
         id: icon
         anchors.left: parent.left
         anchors.verticalCenter: parent.verticalCenter
-        width: 20
-        height: 20
-        sourceSize.width: 40
-        sourceSize.height: 40
-        source: LuContext.resolvedResourceUrl("qrc:/images/packages/ic_builtin.svg", _self, LuStyle.colorScheme)
-        Accessible.ignored: true
+        name: "notebook"
     }
-    FollowingSlider {
+    LuSlider {
         id: slider
         objectName: "builtInBrightnessSlider"
         anchors.left: icon.right
@@ -50,8 +41,9 @@ LuWidget {
         text: _self.text
         from: 0
         to: 100
-        confirmed: _self.brightness?.displayBrightness
-        onChosen: value => _self.brightness.displayBrightness = value
+        stepSize: 1
+        confirmedValue: _self.brightness?.displayBrightness ?? NaN
+        onMoved: _self.brightness.displayBrightness = Math.round(value)
     }
     LuLabel {
         id: number

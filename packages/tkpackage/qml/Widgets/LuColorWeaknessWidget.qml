@@ -5,7 +5,6 @@ import LumenDesk.Controls
 import LumenDesk.Style
 import LumenDesk.Widgets
 import ".."
-import "picture"
 
 LuAdvancedWidget {
     id: _self
@@ -33,11 +32,9 @@ LuAdvancedWidget {
 
     bindings: [
         Component {
-            LuBinding {
-                target: _self.colorWeakness
-                property: "syncEnable"
-                value: _self.isCurrentModel && _self.mainWindow?.visible || false
-                defaultValue: false
+            LuSyncBinding {
+                widget: _self
+                module: _self.colorWeakness
             }
         }
     ]
@@ -59,12 +56,8 @@ LuAdvancedWidget {
 
     page: Component {
         LuPage {
-            id: _page
-
             title: qsTr("Color Weakness")
-
-            Component.onCompleted: _self.colorWeakness?.takePropertySnapshot()
-            Component.onDestruction: _self?.colorWeakness?.fireUpdateSettingEvent()
+            module: _self.colorWeakness
 
             Item {
                 width: parent.width
@@ -79,15 +72,17 @@ LuAdvancedWidget {
                     text: qsTr("Green: %1").arg(Math.max(0, _slider.value))
                 }
             }
-            FollowingSlider {
+            LuSlider {
                 id: _slider
                 objectName: "colorWeaknessSlider"
                 width: parent.width
                 text: _self.text
                 from: -10
                 to: 10
-                confirmed: _self.level
-                onChosen: value => _self.setLevel(value)
+                stepSize: 1
+                origin: 0
+                confirmedValue: _self.level
+                onMoved: _self.setLevel(Math.round(value))
             }
         }
     }

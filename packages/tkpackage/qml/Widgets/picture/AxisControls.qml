@@ -2,7 +2,6 @@
 import QtQuick
 import LumenDesk.Controls
 import LumenDesk.Style
-import "../.."
 
 // Hue or saturation: one slider for the whole picture, or one for each of six colours where the monitor has them.
 Column {
@@ -19,13 +18,13 @@ Column {
     width: parent ? parent.width : implicitWidth
     spacing: LuStyle.space
 
-    LabeledSlider {
+    LuLabeledSlider {
         visible: !controls.sixAxes
         text: controls.text
         from: controls.from
         to: controls.to
-        confirmed: controls.brightness?.[controls.property]
-        onChosen: value => controls.brightness[controls.property] = value
+        confirmedValue: controls.brightness?.[controls.property] ?? NaN
+        onMoved: value => controls.brightness[controls.property] = value
     }
     LuLabel {
         visible: controls.sixAxes
@@ -41,14 +40,14 @@ Column {
             { "letter": "B", "name": qsTr("Blue"), "color": "#3E8BFF" },
             { "letter": "M", "name": qsTr("Magenta"), "color": "#D6409F" }
         ] : []
-        LabeledSlider {
+        LuLabeledSlider {
             required property var modelData
             text: qsTr("%1: %2").arg(controls.text).arg(modelData.name)
-            spot: modelData.color
+            color: modelData.color
             from: controls.from
             to: controls.to
-            confirmed: controls.brightness?.[controls.property + modelData.letter]
-            onChosen: value => controls.brightness[controls.property + modelData.letter] = value
+            confirmedValue: controls.brightness?.[controls.property + modelData.letter] ?? NaN
+            onMoved: value => controls.brightness[controls.property + modelData.letter] = value
         }
     }
 }

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
-import LumenDesk
 import LumenDesk.BrightnessSync
 import LumenDesk.Controls
 import LumenDesk.Style
@@ -20,8 +19,7 @@ LuPage {
 
     title: qsTr("Color Mode / Brightness")
 
-    Component.onCompleted: brightness?.takePropertySnapshot()
-    Component.onDestruction: page?.brightness?.fireUpdateSettingEvent()
+    module: brightness
 
     LuPageRow {
         text: qsTr("Color Mode")
@@ -29,7 +27,6 @@ LuPage {
             objectName: "pageColorMode"
             width: Math.min(implicitWidth, 150)
             monitor: page.monitor
-            onChosen: mode => page.monitor.colorMode = mode
         }
     }
     Column {
@@ -70,22 +67,22 @@ LuPage {
             onToggled: LuBrightnessSyncManager.toggle(checked)
         }
     }
-    LabeledSlider {
+    LuLabeledSlider {
         visible: page.rules.contrastShown
         enabled: page.rules.contrastEnabled
         text: qsTr("Contrast")
         from: 0
         to: 100
-        confirmed: page.brightness?.displayContrast
-        onChosen: value => page.brightness.displayContrast = value
+        confirmedValue: page.brightness?.displayContrast ?? NaN
+        onMoved: value => page.brightness.displayContrast = value
     }
-    LabeledSlider {
+    LuLabeledSlider {
         visible: page.rules.allows("sharpnessEnable")
         text: qsTr("Sharpness")
         from: 1
         to: 10
-        confirmed: page.brightness?.displaySharpness
-        onChosen: value => page.brightness.displaySharpness = value
+        confirmedValue: page.brightness?.displaySharpness ?? NaN
+        onMoved: value => page.brightness.displaySharpness = value
     }
     ColorTemperatureControls {
         visible: page.rules.presetTemperature || page.rules.customTemperature
@@ -110,11 +107,12 @@ LuPage {
     LuPageRow {
         visible: page.rules.allows("gammaEnable") && gammas.count > 0
         text: qsTr("Gamma")
-        FollowingChoice {
+        NumberChoice {
             id: gammas
             objectName: "gammaChoice"
             text: qsTr("Gamma")
-            entries: (page.brightness?.supportedGamma ?? []).map(gamma => ({ "text": strings.gamma(gamma), "value": gamma }))
+            model: Array.from(page.brightness?.supportedGamma ?? [])
+            textOf: gamma => strings.gamma(gamma)
             confirmed: page.brightness?.displayGamma
             onChosen: gamma => page.brightness.displayGamma = gamma
         }
@@ -122,11 +120,12 @@ LuPage {
     LuPageRow {
         visible: page.rules.allows("gamutEnable") && gamuts.count > 0
         text: qsTr("Color Gamut")
-        FollowingChoice {
+        NumberChoice {
             id: gamuts
             objectName: "gamutChoice"
             text: qsTr("Color Gamut")
-            entries: (page.brightness?.supportedGamut ?? []).map(gamut => ({ "text": page.gamutText(gamut), "value": gamut }))
+            model: Array.from(page.brightness?.supportedGamut ?? [])
+            textOf: gamut => strings.gamut(gamut)
             confirmed: page.brightness?.displayGamut
             onChosen: gamut => page.brightness.displayGamut = gamut
         }
@@ -153,22 +152,5 @@ LuPage {
 
     PackageStrings {
         id: strings
-    }
-
-    function gamutText(gamut: int): string {
-        switch (gamut) {
-        case LuVCPNode.Gamut_AdobeRGB:
-            return "Adobe RGB"
-        case LuVCPNode.Gamut_Native:
-            return qsTr("Native")
-        case LuVCPNode.Gamut_DCIP3:
-            return "DCI-P3"
-        case LuVCPNode.Gamut_Rec709:
-            return "Rec. 709"
-        case LuVCPNode.Gamut_Rec2020:
-            return "Rec. 2020"
-        default:
-            return "sRGB"
-        }
     }
 }

@@ -18,20 +18,14 @@ Item {
     // Up to here the back-light is at its minimum.
     readonly property int dimmingEnd: 30
 
+    function take(value: real): void {
+        if (brightness)
+            brightness.displayBrightness = Math.round(value)
+    }
+
     width: parent ? parent.width : implicitWidth
     implicitWidth: 220
     implicitHeight: Math.max(20, number.implicitHeight)
-
-    component Glyph: Image {
-        required property string name
-        width: 16
-        height: 16
-        sourceSize.width: 32
-        sourceSize.height: 32
-        anchors.verticalCenter: parent.verticalCenter
-        source: LuContext.resolvedResourceUrl("qrc:/images/packages/%1.svg".arg(name), sliders.owner, LuStyle.colorScheme)
-        Accessible.ignored: true
-    }
 
     Row {
         id: line
@@ -46,26 +40,34 @@ Item {
             visible: sliders.dimming
             spacing: LuStyle.spaceHalf
             rightPadding: LuStyle.spaceWide
-            Glyph {
-                name: "ic_dimming"
+            LuImage {
+                size: 16
+                anchors.verticalCenter: parent.verticalCenter
+                drawing: LuContext.resolvedResourceUrl("qrc:/images/packages/ic_dimming.svg", sliders.owner, LuStyle.colorScheme)
             }
-            FollowingSlider {
+            LuSlider {
+                id: dim
                 objectName: "dimmingSlider"
                 width: Math.round(line.room * 0.36)
                 text: qsTr("Software Dimming")
                 from: 0
                 to: sliders.dimmingEnd
-                confirmed: sliders.brightness?.displayBrightness
-                onChosen: value => main.take(value)
+                stepSize: 1
+                // Above its range it stands at its end.
+                confirmedValue: Math.min(to, sliders.brightness?.displayBrightness ?? NaN)
+                onMoved: sliders.take(value)
             }
         }
         Row {
             spacing: LuStyle.spaceHalf
-            Glyph {
-                name: "ic_brightness"
+            LuIcon {
+                name: "sun"
+                size: 16
+                anchors.verticalCenter: parent.verticalCenter
                 visible: sliders.dimming
+                color: LuStyle.textDim
             }
-            FollowingSlider {
+            LuSlider {
                 id: main
                 objectName: "brightnessSlider"
                 width: sliders.dimming ? line.room - Math.round(line.room * 0.36) : line.room
@@ -73,14 +75,10 @@ Item {
                 from: 0
                 to: 100
                 enabled: sliders.rules.brightnessEnabled
-                stepInterval: sliders.rules.sensorStepInterval
-                confirmed: sliders.brightness?.displayBrightness
-                onChosen: value => take(value)
-
-                function take(value: int): void {
-                    if (sliders.brightness)
-                        sliders.brightness.displayBrightness = value
-                }
+                stepSize: 1
+                glideInterval: sliders.rules.sensorStepInterval
+                confirmedValue: sliders.brightness?.displayBrightness ?? NaN
+                onMoved: sliders.take(value)
             }
         }
     }
@@ -92,7 +90,7 @@ Item {
         horizontalAlignment: Text.AlignRight
         kind: LuLabel.Value
         repeatsName: true
-        text: Math.round(main.pressed ? main.value : sliders.brightness?.displayBrightness ?? 0)
+        text: Math.round(dim.visible && (dim.pressed || dim.waiting) ? dim.value : main.value)
     }
     TextMetrics {
         id: metrics

@@ -1,18 +1,19 @@
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
+import LumenDesk.Controls
+import "../.."
 
 // The colour modes of a monitor, in the order of its menu.
-FollowingChoice {
+LuComboBox {
     id: choice
 
     property var monitor: null
 
     text: qsTr("Color Mode")
-    entries: (monitor?.colorModeList ?? []).map(mode => ({ "text": modeText(mode.displayName), "value": mode }))
-    confirmed: monitor?.colorMode ?? null
+    model: Array.from(monitor?.colorModeList ?? [])
+    textOf: mode => strings.colorMode(mode)
+    confirmedIndex: model.indexOf(monitor?.colorMode ?? null)
+    onActivated: index => monitor.colorMode = model[index]
 
-    // The translated name of a mode; settings and shortcuts use the other one.
-    function modeText(name: string): string {
-        return qsTranslate("ColorModes", name)
-    }
+    readonly property PackageStrings strings: PackageStrings { }
 }

@@ -17,21 +17,16 @@ Column {
     width: parent ? parent.width : implicitWidth
     spacing: LuStyle.spaceWide
 
-    // Presets where the mode has them, and the user's own where it has that.
-    function entries(): var {
-        const numbers = rules.presetTemperature ? Array.from(brightness?.supportedPresetColorTemp ?? []) : []
-        if (rules.customTemperature)
-            numbers.push(LuVCPNode.ColorTemperature_UserDefine)
-        return numbers.map(number => ({ "text": strings.colorTemperature(number), "value": number }))
-    }
-
     LuPageRow {
         text: qsTr("Color Temperature")
-        FollowingChoice {
+        NumberChoice {
             objectName: "temperatureChoice"
             text: qsTr("Color Temperature")
             enabled: controls.custom ? controls.rules.customTemperatureEnabled : controls.rules.presetTemperatureEnabled
-            entries: controls.entries()
+            // Presets where the mode has them, and the user's own where it has that.
+            model: (controls.rules.presetTemperature ? Array.from(controls.brightness?.supportedPresetColorTemp ?? []) : [])
+                   .concat(controls.rules.customTemperature ? [LuVCPNode.ColorTemperature_UserDefine] : [])
+            textOf: temperature => strings.colorTemperature(temperature)
             confirmed: controls.brightness?.displayColorTemperature
             onChosen: temperature => controls.brightness.displayColorTemperature = temperature
         }
@@ -43,16 +38,16 @@ Column {
             { "name": qsTr("Green"), "property": "displayColorTemperatureG", "color": "#30A46C" },
             { "name": qsTr("Blue"), "property": "displayColorTemperatureB", "color": "#3E8BFF" }
         ]
-        LabeledSlider {
+        LuLabeledSlider {
             required property var modelData
             visible: controls.custom && controls.rules.customTemperature
             enabled: controls.rules.customTemperatureEnabled
             text: modelData.name
-            spot: modelData.color
+            color: modelData.color
             from: 0
             to: 100
-            confirmed: controls.brightness?.[modelData.property]
-            onChosen: value => controls.brightness[modelData.property] = value
+            confirmedValue: controls.brightness?.[modelData.property] ?? NaN
+            onMoved: value => controls.brightness[modelData.property] = value
         }
     }
 
