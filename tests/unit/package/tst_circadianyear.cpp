@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "weather_bed.h"
 
+#include <QLoggingCategory>
+
 #include <cmath>
 #include <mutex>
 
@@ -48,14 +50,29 @@ std::optional<int> curveLevel(const QDateTime& now, const std::pair<QDateTime, Q
     return pick(ByNight, 5.0 * double(sun.second.secsTo(now)) / night, night);
 }
 
-/// What the monitor must be told at a moment: the table of a day rules until a day after its sunrise.
-std::optional<int> levelAt(const QDateTime& now, double latitude, double longitude)
+/// The suns of a place's days.
+class Almanac
 {
-    QDate day = now.date();
-    if (now < sunOf(day.addDays(-1), latitude, longitude).first.addSecs(86400 + 3))
-        day = day.addDays(-1);
-    return curveLevel(now, sunOf(day, latitude, longitude), sunOf(day.addDays(-1), latitude, longitude));
-}
+public:
+    Almanac(QDate first, int days, double latitude, double longitude) : m_first(first)
+    {
+        for (int day = 0; day < days; ++day)
+            m_suns.append(sunOf(first.addDays(day), latitude, longitude));
+    }
+
+    /// What the monitor must be told at a moment: the table of a day rules until a day after its sunrise.
+    std::optional<int> levelAt(const QDateTime& now) const
+    {
+        qsizetype day = m_first.daysTo(now.date());
+        if (now < m_suns[day - 1].first.addSecs(86400 + 3))
+            --day;
+        return curveLevel(now, m_suns[day], m_suns[day - 1]);
+    }
+
+private:
+    QDate m_first;
+    QList<std::pair<QDateTime, QDateTime>> m_suns;
+};
 
 } // namespace
 
@@ -140,6 +157,7 @@ void TestCircadianYear::levelEqualsTheCurveThroughAYear()
         programClock().advance(DayMs);
     QVERIFY(bed.idle());
 
+    const Almanac almanac(begin.date().addDays(-3), 370, latitude, longitude);
     int wrong = 0;
     int compared = 0;
     qsizetype row = 0;
@@ -147,7 +165,7 @@ void TestCircadianYear::levelEqualsTheCurveThroughAYear()
     for (QDateTime now = begin.addSecs(30); now < begin.addDays(365); now = now.addSecs(60)) {
         while (row + 1 < told.size() && told[row + 1].time <= now)
             ++row;
-        const std::optional<int> expected = levelAt(now, latitude, longitude);
+        const std::optional<int> expected = almanac.levelAt(now);
         if (!expected)
             continue;
         ++compared;
@@ -165,6 +183,8 @@ int main(int argc, char** argv)
     qputenv("TZ", "Europe/Berlin");
     tzset();
     QGuiApplication application(argc, argv);
+    // Ten years of log lines tell nothing here.
+    QLoggingCategory::setFilterRules(u"*.info=false"_s);
     TestCircadianYear test;
     return QTest::qExec(&test, argc, argv);
 }
