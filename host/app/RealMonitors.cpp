@@ -57,13 +57,13 @@ std::vector<ddci2c::IdentityBook::Entry> keptTwins()
     return entries;
 }
 
-QString screenOf(const IdentifiedMonitor& monitor)
+QList<ScreenFacts> screenFacts()
 {
     QList<ScreenFacts> facts;
     const QList<QScreen*> screens = QGuiApplication::screens();
     for (const QScreen* screen : screens)
         facts.append({screen->name(), screen->model(), screen->serialNumber()});
-    return screenFor(text(monitor.found.connector), text(monitor.model), text(monitor.serial), facts);
+    return facts;
 }
 
 } // namespace
@@ -212,6 +212,8 @@ void RealMonitors::apply(const std::vector<ddci2c::FoundMonitor>& found)
 {
     const std::vector<IdentifiedMonitor> after = m_book.identify(found);
     keepTwins();
+    m_present = after;
+    assignScreens();
     std::vector<IdentifiedMonitor> before;
     for (const Plugged& each : std::as_const(m_plugged))
         before.push_back(each.monitor);
@@ -255,8 +257,7 @@ void RealMonitors::plug(const IdentifiedMonitor& monitor)
     description.modelName = text(monitor.model);
     description.serialNumber = text(monitor.serial);
     description.builtIn = monitor.found.builtIn;
-    description.screenName = screenOf(monitor);
-    description.nativeHandle = description.screenName;
+    description.screenName = m_screens.value(id);
     Plugged plugged;
     plugged.monitor = monitor;
     plugged.link = std::make_shared<ddci2c::BusLink>();
@@ -338,8 +339,16 @@ bool RealMonitors::pollLost()
 
 void RealMonitors::assignScreens()
 {
-    for (const Plugged& each : std::as_const(m_plugged))
-        MonitorLink::of(*each.info).setScreenName(screenOf(each.monitor));
+    // All at once, those asleep too: what one of them has is not another's.
+    QList<MonitorFacts> facts;
+    for (const IdentifiedMonitor& monitor : m_present)
+        facts.append({text(monitor.found.connector), text(monitor.model), text(monitor.serial)});
+    const QStringList names = screensFor(facts, screenFacts());
+    m_screens.clear();
+    for (std::size_t i = 0; i < m_present.size(); ++i)
+        m_screens.insert(text(m_present[i].id), names[qsizetype(i)]);
+    for (auto it = m_plugged.cbegin(); it != m_plugged.cend(); ++it)
+        MonitorLink::of(*it->info).setScreenName(m_screens.value(it.key()));
 }
 
 void RealMonitors::tell(const QString& id, const QString& message)

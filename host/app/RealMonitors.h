@@ -110,6 +110,8 @@ private:
     std::unique_ptr<ZrDispatch> m_askQueue;
     const std::shared_ptr<Mailbox> m_mailbox;
 
+    std::vector<ddci2c::IdentifiedMonitor> m_present; ///< Of the last search.
+    QHash<QString, QString> m_screens;                ///< Names of their screens, by id.
     QHash<QString, Plugged> m_plugged;
     std::vector<ddci2c::IdentifiedMonitor> m_waiting; ///< Asleep since they were found.
     std::vector<std::filesystem::path>

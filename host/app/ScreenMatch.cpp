@@ -4,6 +4,7 @@
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <functional>
 #include <optional>
 #include <utility>
 
@@ -11,9 +12,8 @@ namespace {
 
 using Output = std::pair<QString, int>; ///< Type and number.
 
-std::optional<Output> parseOutput(const QString& name)
+std::optional<Output> parsed(const QRegularExpression& pattern, const QString& name)
 {
-    static const QRegularExpression pattern(QStringLiteral("^([A-Za-z]+(?:-[A-Za-z]+)?)-?([0-9]+)$"));
     const QRegularExpressionMatch match = pattern.match(name);
     if (!match.hasMatch())
         return std::nullopt;
@@ -25,39 +25,98 @@ std::optional<Output> parseOutput(const QString& name)
     return Output(type, match.captured(2).toInt());
 }
 
+std::optional<Output> parseOutput(const QString& name)
+{
+    static const QRegularExpression pattern(QStringLiteral("^([A-Za-z]+(?:-[A-Za-z]+)?)-?([0-9]+)$"));
+    return parsed(pattern, name);
+}
+
+/// X11's name of an output at a second card, which has the card's number before its own.
+std::optional<Output> parseSecondCard(const QString& name)
+{
+    static const QRegularExpression pattern(QStringLiteral("^([A-Za-z]+(?:-[A-Za-z]+)?)-[0-9]+-([0-9]+)$"));
+    return parsed(pattern, name);
+}
+
+QString outputOf(const MonitorFacts& monitor)
+{
+    return monitor.connector.section(QLatin1Char('-'), 1);
+}
+
+bool contradict(const MonitorFacts& monitor, const ScreenFacts& screen)
+{
+    return !screen.model.isEmpty() &&
+           (screen.model != monitor.model || (!screen.serial.isEmpty() && screen.serial != monitor.serial));
+}
+
+bool tellTheSame(const MonitorFacts& monitor, const ScreenFacts& screen)
+{
+    return !monitor.serial.isEmpty() && !screen.model.isEmpty() && screen.model == monitor.model &&
+           screen.serial == monitor.serial;
+}
+
+using Rule = std::function<bool(const MonitorFacts& monitor, const ScreenFacts& screen)>;
+
+/// Makes a pair of every monitor and screen that fit each other and nobody else of those that are left.
+void pairUp(const QList<MonitorFacts>& monitors, const QList<ScreenFacts>& screens, const Rule& rule,
+            QStringList& names)
+{
+    const QStringList before = names;
+    const auto fits = [&](qsizetype monitor, qsizetype screen) {
+        return before[monitor].isEmpty() && !before.contains(screens[screen].name) &&
+               !contradict(monitors[monitor], screens[screen]) && rule(monitors[monitor], screens[screen]);
+    };
+    for (qsizetype screen = 0; screen < screens.size(); ++screen) {
+        qsizetype found = -1;
+        bool only = true;
+        for (qsizetype monitor = 0; monitor < monitors.size(); ++monitor) {
+            if (!fits(monitor, screen))
+                continue;
+            only = found < 0;
+            found = monitor;
+            for (qsizetype other = 0; other < screens.size() && only; ++other)
+                only = other == screen || !fits(monitor, other);
+            if (!only)
+                break;
+        }
+        if (found >= 0 && only)
+            names[found] = screens[screen].name;
+    }
+}
+
 } // namespace
 
-QString screenFor(const QString& connector, const QString& model, const QString& serial,
-                  const QList<ScreenFacts>& screens)
+QStringList screensFor(const QList<MonitorFacts>& monitors, const QList<ScreenFacts>& screens)
 {
-    const auto isIt = [&](const ScreenFacts& screen) {
-        return !model.isEmpty() && screen.model == model && screen.serial == serial;
-    };
-    if (!serial.isEmpty() && std::count_if(screens.begin(), screens.end(), isIt) == 1)
-        return std::find_if(screens.begin(), screens.end(), isIt)->name;
-
-    const QString output = connector.section(QLatin1Char('-'), 1);
-    const auto contradicts = [&](const ScreenFacts& screen) {
-        return (!screen.model.isEmpty() && screen.model != model) ||
-               (!screen.model.isEmpty() && !screen.serial.isEmpty() && screen.serial != serial);
-    };
-    for (const ScreenFacts& screen : screens) {
-        if (screen.name == output && !contradicts(screen))
-            return screen.name;
-    }
-    const std::optional<Output> wanted = parseOutput(output);
+    QStringList names(monitors.size());
     const int first = std::any_of(screens.begin(), screens.end(),
                                   [](const ScreenFacts& screen) {
-                                      const std::optional<Output> parsed = parseOutput(screen.name);
-                                      return parsed && parsed->second == 0;
+                                      const std::optional<Output> output = parseOutput(screen.name);
+                                      return output && output->second == 0;
                                   })
                           ? 0
                           : 1;
-    for (const ScreenFacts& screen : screens) {
-        const std::optional<Output> parsed = parseOutput(screen.name);
-        if (wanted && parsed && parsed->first == wanted->first &&
-            parsed->second + 1 - first == wanted->second && !contradicts(screen))
-            return screen.name;
-    }
-    return {};
+    const Rule rules[] = {
+        tellTheSame,
+        [](const MonitorFacts& monitor, const ScreenFacts& screen) {
+            return screen.name == outputOf(monitor);
+        },
+        [first](const MonitorFacts& monitor, const ScreenFacts& screen) {
+            const std::optional<Output> wanted = parseOutput(outputOf(monitor));
+            const std::optional<Output> output = parseOutput(screen.name);
+            return wanted && output && output->first == wanted->first &&
+                   output->second + 1 - first == wanted->second;
+        },
+        [](const MonitorFacts& monitor, const ScreenFacts& screen) {
+            const std::optional<Output> wanted = parseOutput(outputOf(monitor));
+            return wanted && parseSecondCard(screen.name) == wanted;
+        },
+        // Whatever contradicts is out already.
+        [](const MonitorFacts& monitor, const ScreenFacts& screen) {
+            return !screen.model.isEmpty() && screen.model == monitor.model;
+        },
+    };
+    for (const Rule& rule : rules)
+        pairUp(monitors, screens, rule, names);
+    return names;
 }

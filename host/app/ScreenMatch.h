@@ -3,6 +3,7 @@
 
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 /// What the display system says about a screen.
 struct ScreenFacts
@@ -12,11 +13,19 @@ struct ScreenFacts
     QString serial; ///< QScreen::serialNumber(), as above.
 };
 
-/// The name of the screen that shows on a monitor; empty if none can be told.
+/// What the kernel and the EDID say about a monitor.
+struct MonitorFacts
+{
+    QString connector; ///< Of the kernel, such as "card0-DP-1".
+    QString model;
+    QString serial; ///< Empty where the monitor has none.
+};
+
+/// The names of the screens that show on the monitors, in their order; empty where none can be told.
 ///
-/// A screen that tells the monitor's own model and serial number, as no other does, is it. Else the names
-/// decide, unless the models contradict: the kernel's "card0-HDMI-A-1" is "HDMI-A-1" on Wayland, "HDMI-1" or
-/// "HDMI1" on X11, and "HDMI-A-0" with a driver that counts from 0.
-/// @param connector of the kernel, such as "card0-DP-1".
-QString screenFor(const QString& connector, const QString& model, const QString& serial,
-                  const QList<ScreenFacts>& screens);
+/// A pair is made only where nothing else would do as well, so that no screen is given to two monitors and
+/// none to a twin by chance. These decide, one after the other: the model and serial number that both tell;
+/// the name (the kernel's "card0-HDMI-A-1" is "HDMI-A-1" on Wayland, "HDMI-1" or "HDMI1" on X11, "HDMI-A-0"
+/// with a driver that counts from 0, "HDMI-1-1" at a second card), unless the models contradict; and the
+/// model alone, where it is the last one left, as behind docks, whose outputs have names of X11's own.
+QStringList screensFor(const QList<MonitorFacts>& monitors, const QList<ScreenFacts>& screens);

@@ -39,5 +39,7 @@ QString MonitorInfo::screenName() const
 
 QString MonitorInfo::nativeHandle() const
 {
-    return d->description().nativeHandle;
+    // A screen may come after its monitor.
+    const QString& given = d->description().nativeHandle;
+    return given.isEmpty() ? d->link().screenName() : given;
 }

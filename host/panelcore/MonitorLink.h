@@ -26,7 +26,7 @@ struct MonitorDescription
     QString modelName;
     QString serialNumber;
     QString screenName;
-    QString nativeHandle;
+    QString nativeHandle; ///< Empty: the name of the screen that shows on it, at any time.
     bool builtIn = false;
     bool simulated = false;
 };

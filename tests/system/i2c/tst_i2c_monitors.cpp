@@ -289,7 +289,63 @@ private Q_SLOTS:
         QFETCH(QString, connector);
         QFETCH(QList<ScreenFacts>, screens);
         QFETCH(QString, screen);
-        QCOMPARE(screenFor(connector, QStringLiteral("Alpha"), QStringLiteral("S"), screens), screen);
+        QCOMPARE(screensFor({{connector, QStringLiteral("Alpha"), QStringLiteral("S")}}, screens),
+                 QStringList{screen});
+    }
+
+    void noScreenIsGivenByChance_data()
+    {
+        QTest::addColumn<QStringList>("found");
+        QTest::addColumn<QStringList>("screens");
+        QTest::addColumn<QStringList>("expected");
+        const auto row = [](const char* name, const char* found, const char* screens, const char* expected) {
+            const auto list = [](const char* text) {
+                return QString::fromLatin1(text).split(QLatin1Char(' '));
+            };
+            QTest::newRow(name) << list(found) << list(screens) << list(expected);
+        };
+        // A connector or screen, its model, its serial; "-" for none.
+        row("twins without a serial", "card0-DP-1/A/ card0-DP-2/A/", "DP-2/A/ DP-1/A/", "DP-1 DP-2");
+        row("twins with one serial on X11", "card0-HDMI-A-1/A/S card0-HDMI-A-2/A/S", "HDMI-1/A/S HDMI-2/A/S",
+            "HDMI-1 HDMI-2");
+        row("twins with serials of their own, names crossed", "card0-DP-1/A/1 card0-DP-2/A/2",
+            "DP-1/A/2 DP-2/A/1", "DP-2 DP-1");
+        row("a second card with the same output", "card0-HDMI-A-1/A/1 card1-HDMI-A-1/B/2",
+            "HDMI-1/A/1 HDMI-1-1/B/2", "HDMI-1 HDMI-1-1");
+        row("a second card, models unknown to the screens", "card0-HDMI-A-1/A/1 card1-HDMI-A-2/B/2",
+            "HDMI-1// HDMI-1-2//", "HDMI-1 HDMI-1-2");
+        row("equal outputs of two cards, nothing else known", "card0-HDMI-A-1/A/ card1-HDMI-A-1/A/",
+            "HDMI-1// HDMI-1-1//", "- -");
+        row("behind a dock, by the model that is left", "card0-DP-1/A/ card0-DP-5/B/", "DP-1/A/ DP-2-8/B/",
+            "DP-1 DP-2-8");
+        row("twins, one of them behind a dock", "card0-DP-1/A/ card0-DP-5/A/", "DP-1/A/ DP-2-8/A/",
+            "DP-1 DP-2-8");
+        row("twins, both behind a dock", "card0-DP-5/A/ card0-DP-6/A/", "DP-2-8/A/ DP-2-1/A/", "- -");
+        row("twins behind a dock with serials", "card0-DP-5/A/1 card0-DP-6/A/2", "DP-2-8/A/2 DP-2-1/A/1",
+            "DP-2-1 DP-2-8");
+        row("one of two is dark", "card0-DP-1/A/ card0-DP-2/A/", "DP-2/A/", "- DP-2");
+        row("panel beside a twin of the other card", "card1-eDP-1/P/ card0-DP-1/A/", "eDP-1/P/ DP-1/A/",
+            "eDP-1 DP-1");
+    }
+
+    void noScreenIsGivenByChance()
+    {
+        QFETCH(QStringList, found);
+        QFETCH(QStringList, screens);
+        QFETCH(QStringList, expected);
+        QList<MonitorFacts> monitorFacts;
+        QList<ScreenFacts> screenFacts;
+        for (const QString& each : std::as_const(found)) {
+            const QStringList parts = each.split(QLatin1Char('/'));
+            monitorFacts.append({parts.at(0), parts.at(1), parts.at(2)});
+        }
+        for (const QString& each : std::as_const(screens)) {
+            const QStringList parts = each.split(QLatin1Char('/'));
+            screenFacts.append({parts.at(0), parts.at(1), parts.at(2)});
+        }
+        for (QString& each : expected)
+            each = each == QLatin1String("-") ? QString() : each;
+        QCOMPARE(screensFor(monitorFacts, screenFacts), expected);
     }
 };
 
