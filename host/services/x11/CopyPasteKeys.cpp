@@ -50,6 +50,9 @@ void CopyPasteKeys::stroke(Qt::Key key)
     const QList<xcb_keycode_t> held = heldModifiers();
     for (const xcb_keycode_t code : held)
         fake(code, false);
+    // What was pressed for the person at an earlier stroke is still down for XTEST, whose next press of it
+    // would be dropped as a repetition.
+    fake(control.first(), false);
     fake(control.first(), true);
     fake(codes.first(), true);
     fake(codes.first(), false);

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "DesktopTest.h"
+
+#include <QRect>
+
+/// A window of another application, with what it was told.
+class Client
+{
+public:
+    /// Shows it; false if it does not come to the screen.
+    bool start(const QString& name, const QRect& rect)
+    {
+        if (!m_beside.start(QStringLiteral(DESKTOP_CLIENT),
+                            {name, QString::number(rect.x()), QString::number(rect.y()),
+                             QString::number(rect.width()), QString::number(rect.height())}))
+            return false;
+        return QTest::qWaitFor([this] { return window() != 0; }, 30'000);
+    }
+    void stop() { m_beside.stop(); }
+
+    unsigned long pid() { return static_cast<unsigned long>(m_beside.process().processId()); }
+
+    /// X id of its window; 0 while it is not on the screen.
+    quint32 window()
+    {
+        for (const QString& line : lines()) {
+            if (line.startsWith(QStringLiteral("window ")))
+                return line.section(u' ', 1).toUInt();
+        }
+        return 0;
+    }
+
+    /// Everything that it has been told so far, or since forget().
+    const QStringList& lines()
+    {
+        m_beside.process().waitForReadyRead(0);
+        m_rest += QString::fromUtf8(m_beside.process().readAllStandardOutput());
+        for (qsizetype end; (end = m_rest.indexOf(u'\n')) >= 0; m_rest.remove(0, end + 1))
+            m_lines.append(m_rest.left(end));
+        return m_lines;
+    }
+    void forget()
+    {
+        lines();
+        m_lines.clear();
+    }
+
+    /// Presses and releases of keys: "press CODE STATE".
+    QStringList keys() { return lines().filter(QRegularExpression(QStringLiteral("^(press|release) "))); }
+
+private:
+    Beside m_beside;
+    QString m_rest;
+    QStringList m_lines;
+};
