@@ -7,6 +7,7 @@ set(TKPACKAGE_QML_FILES
   Helpers/PackageStrings.qml
   Helpers/Walkthrough.qml
   Popups/qmldir
+  Popups/LuPopupLowBlueLightAction.qml
   Settings/Advanced/qmldir
   Widgets/qmldir
   Widgets/picture/AxisControls.qml
@@ -20,6 +21,9 @@ set(TKPACKAGE_QML_FILES
   Widgets/LuBuiltInBrightnessWidget.qml
   Widgets/LuColorWeaknessWidget.qml
   Widgets/LuHDRWidget.qml
+  Widgets/LuLowBlueLightWidget.qml
+  Widgets/eyecare/CircadianControls.qml
+  Widgets/eyecare/CircadianPlot.qml
   Widgets/picture/ModeBundleHint.qml
   Widgets/picture/NumberChoice.qml
   Widgets/picture/PictureRules.qml

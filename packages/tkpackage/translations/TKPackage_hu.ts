@@ -35,4 +35,104 @@
         <translation>Képernyő elforgatása</translation>
     </message>
 </context>
+<context>
+    <name>LuLowBlueLightWidget</name>
+    <message>
+        <source>Low Blue Light Plus</source>
+        <translation>Kékfényszűrő Plus</translation>
+    </message>
+    <message>
+        <source>Low Blue Light</source>
+        <translation>Kékfényszűrő</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Szint</translation>
+    </message>
+</context>
+<context>
+    <name>CircadianControls</name>
+    <message>
+        <source>Out of Range</source>
+        <translation>Tartományon kívül</translation>
+    </message>
+    <message>
+        <source>Set the sunrise time range from 00:00 to 11:59 and the sunset time range from 12:00 to 23:59.</source>
+        <translation>A napkeltét 00:00 és 11:59, a napnyugtát 12:00 és 23:59 közé állítsa.</translation>
+    </message>
+    <message>
+        <source>Circadian Mode</source>
+        <translation>Cirkadián mód</translation>
+    </message>
+    <message>
+        <source>Sunrise to Sunset</source>
+        <translation>Napkeltétől napnyugtáig</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>Kézi</translation>
+    </message>
+    <message>
+        <source>Sunrise</source>
+        <translation>Napkelte</translation>
+    </message>
+    <message>
+        <source>Sunset</source>
+        <translation>Napnyugta</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Alkalmaz</translation>
+    </message>
+    <message>
+        <source>The filter follows the sun where you are. Level %1 until %2.</source>
+        <translation>A szűrő az Ön helyének napjárását követi. %1. szint eddig: %2.</translation>
+    </message>
+    <message>
+        <source>Due to an unstable internet connection or other issues, the system failed to receive the sunset and sunrise times. Please switch to manual mode.</source>
+        <translation>Instabil internetkapcsolat vagy más hiba miatt a napkelte és napnyugta ideje nem érkezett meg. Váltson kézi módra.</translation>
+    </message>
+    <message>
+        <source>Weather data provided by</source>
+        <translation>Időjárási adatok:</translation>
+    </message>
+</context>
+<context>
+    <name>CircadianPlot</name>
+    <message>
+        <source>Level over the day</source>
+        <translation>Szint a nap folyamán</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupLowBlueLightAction</name>
+    <message>
+        <source>Low Blue Light Plus</source>
+        <translation>Kékfényszűrő Plus</translation>
+    </message>
+    <message>
+        <source>Low Blue Light</source>
+        <translation>Kékfényszűrő</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Szint</translation>
+    </message>
+    <message>
+        <source>Circadian Mode</source>
+        <translation>Cirkadián mód</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Mód</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>Kézi</translation>
+    </message>
+    <message>
+        <source>Sunrise to Sunset</source>
+        <translation>Napkeltétől napnyugtáig</translation>
+    </message>
+</context>
 </TS>

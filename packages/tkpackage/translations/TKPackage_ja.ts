@@ -35,4 +35,104 @@
         <translation>画面のピボット</translation>
     </message>
 </context>
+<context>
+    <name>LuLowBlueLightWidget</name>
+    <message>
+        <source>Low Blue Light Plus</source>
+        <translation>ブルーライト軽減 Plus</translation>
+    </message>
+    <message>
+        <source>Low Blue Light</source>
+        <translation>ブルーライト軽減</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>レベル</translation>
+    </message>
+</context>
+<context>
+    <name>CircadianControls</name>
+    <message>
+        <source>Out of Range</source>
+        <translation>範囲外</translation>
+    </message>
+    <message>
+        <source>Set the sunrise time range from 00:00 to 11:59 and the sunset time range from 12:00 to 23:59.</source>
+        <translation>日の出は00:00～11:59、日没は12:00～23:59の範囲で設定してください。</translation>
+    </message>
+    <message>
+        <source>Circadian Mode</source>
+        <translation>サーカディアンモード</translation>
+    </message>
+    <message>
+        <source>Sunrise to Sunset</source>
+        <translation>日の出から日没</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>手動</translation>
+    </message>
+    <message>
+        <source>Sunrise</source>
+        <translation>日の出</translation>
+    </message>
+    <message>
+        <source>Sunset</source>
+        <translation>日没</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>適用</translation>
+    </message>
+    <message>
+        <source>The filter follows the sun where you are. Level %1 until %2.</source>
+        <translation>フィルターは現在地の太陽に従います。%2までレベル%1。</translation>
+    </message>
+    <message>
+        <source>Due to an unstable internet connection or other issues, the system failed to receive the sunset and sunrise times. Please switch to manual mode.</source>
+        <translation>インターネット接続が不安定などの理由で、日の出・日没の時刻を取得できませんでした。手動モードに切り替えてください。</translation>
+    </message>
+    <message>
+        <source>Weather data provided by</source>
+        <translation>気象データ提供</translation>
+    </message>
+</context>
+<context>
+    <name>CircadianPlot</name>
+    <message>
+        <source>Level over the day</source>
+        <translation>1日のレベル</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupLowBlueLightAction</name>
+    <message>
+        <source>Low Blue Light Plus</source>
+        <translation>ブルーライト軽減 Plus</translation>
+    </message>
+    <message>
+        <source>Low Blue Light</source>
+        <translation>ブルーライト軽減</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>レベル</translation>
+    </message>
+    <message>
+        <source>Circadian Mode</source>
+        <translation>サーカディアンモード</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>モード</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>手動</translation>
+    </message>
+    <message>
+        <source>Sunrise to Sunset</source>
+        <translation>日の出から日没</translation>
+    </message>
+</context>
 </TS>

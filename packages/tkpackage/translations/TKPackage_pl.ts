@@ -35,4 +35,104 @@
         <translation>Obrót ekranu</translation>
     </message>
 </context>
+<context>
+    <name>LuLowBlueLightWidget</name>
+    <message>
+        <source>Low Blue Light Plus</source>
+        <translation>Redukcja niebieskiego światła Plus</translation>
+    </message>
+    <message>
+        <source>Low Blue Light</source>
+        <translation>Redukcja niebieskiego światła</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Poziom</translation>
+    </message>
+</context>
+<context>
+    <name>CircadianControls</name>
+    <message>
+        <source>Out of Range</source>
+        <translation>Poza zakresem</translation>
+    </message>
+    <message>
+        <source>Set the sunrise time range from 00:00 to 11:59 and the sunset time range from 12:00 to 23:59.</source>
+        <translation>Ustaw wschód słońca między 00:00 a 11:59, a zachód między 12:00 a 23:59.</translation>
+    </message>
+    <message>
+        <source>Circadian Mode</source>
+        <translation>Tryb dobowy</translation>
+    </message>
+    <message>
+        <source>Sunrise to Sunset</source>
+        <translation>Od wschodu do zachodu</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>Ręcznie</translation>
+    </message>
+    <message>
+        <source>Sunrise</source>
+        <translation>Wschód słońca</translation>
+    </message>
+    <message>
+        <source>Sunset</source>
+        <translation>Zachód słońca</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Zastosuj</translation>
+    </message>
+    <message>
+        <source>The filter follows the sun where you are. Level %1 until %2.</source>
+        <translation>Filtr podąża za słońcem w Twojej okolicy. Poziom %1 do %2.</translation>
+    </message>
+    <message>
+        <source>Due to an unstable internet connection or other issues, the system failed to receive the sunset and sunrise times. Please switch to manual mode.</source>
+        <translation>Z powodu niestabilnego połączenia lub innych problemów nie udało się pobrać godzin wschodu i zachodu słońca. Przełącz na tryb ręczny.</translation>
+    </message>
+    <message>
+        <source>Weather data provided by</source>
+        <translation>Dane pogodowe dostarcza</translation>
+    </message>
+</context>
+<context>
+    <name>CircadianPlot</name>
+    <message>
+        <source>Level over the day</source>
+        <translation>Poziom w ciągu dnia</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupLowBlueLightAction</name>
+    <message>
+        <source>Low Blue Light Plus</source>
+        <translation>Redukcja niebieskiego światła Plus</translation>
+    </message>
+    <message>
+        <source>Low Blue Light</source>
+        <translation>Redukcja niebieskiego światła</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Poziom</translation>
+    </message>
+    <message>
+        <source>Circadian Mode</source>
+        <translation>Tryb dobowy</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Tryb</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>Ręcznie</translation>
+    </message>
+    <message>
+        <source>Sunrise to Sunset</source>
+        <translation>Od wschodu do zachodu</translation>
+    </message>
+</context>
 </TS>

@@ -35,4 +35,104 @@
         <translation>Rotação do ecrã</translation>
     </message>
 </context>
+<context>
+    <name>LuLowBlueLightWidget</name>
+    <message>
+        <source>Low Blue Light Plus</source>
+        <translation>Luz azul reduzida Plus</translation>
+    </message>
+    <message>
+        <source>Low Blue Light</source>
+        <translation>Luz azul reduzida</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Nível</translation>
+    </message>
+</context>
+<context>
+    <name>CircadianControls</name>
+    <message>
+        <source>Out of Range</source>
+        <translation>Fora do intervalo</translation>
+    </message>
+    <message>
+        <source>Set the sunrise time range from 00:00 to 11:59 and the sunset time range from 12:00 to 23:59.</source>
+        <translation>Defina o nascer do sol entre 00:00 e 11:59 e o pôr do sol entre 12:00 e 23:59.</translation>
+    </message>
+    <message>
+        <source>Circadian Mode</source>
+        <translation>Modo circadiano</translation>
+    </message>
+    <message>
+        <source>Sunrise to Sunset</source>
+        <translation>Do nascer ao pôr do sol</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>Manual</translation>
+    </message>
+    <message>
+        <source>Sunrise</source>
+        <translation>Nascer do sol</translation>
+    </message>
+    <message>
+        <source>Sunset</source>
+        <translation>Pôr do sol</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Aplicar</translation>
+    </message>
+    <message>
+        <source>The filter follows the sun where you are. Level %1 until %2.</source>
+        <translation>O filtro segue o sol do seu local. Nível %1 até %2.</translation>
+    </message>
+    <message>
+        <source>Due to an unstable internet connection or other issues, the system failed to receive the sunset and sunrise times. Please switch to manual mode.</source>
+        <translation>Devido a uma ligação instável ou a outros problemas, não foi possível obter as horas do sol. Mude para o modo manual.</translation>
+    </message>
+    <message>
+        <source>Weather data provided by</source>
+        <translation>Dados meteorológicos de</translation>
+    </message>
+</context>
+<context>
+    <name>CircadianPlot</name>
+    <message>
+        <source>Level over the day</source>
+        <translation>Nível ao longo do dia</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupLowBlueLightAction</name>
+    <message>
+        <source>Low Blue Light Plus</source>
+        <translation>Luz azul reduzida Plus</translation>
+    </message>
+    <message>
+        <source>Low Blue Light</source>
+        <translation>Luz azul reduzida</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Nível</translation>
+    </message>
+    <message>
+        <source>Circadian Mode</source>
+        <translation>Modo circadiano</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Modo</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>Manual</translation>
+    </message>
+    <message>
+        <source>Sunrise to Sunset</source>
+        <translation>Do nascer ao pôr do sol</translation>
+    </message>
+</context>
 </TS>
