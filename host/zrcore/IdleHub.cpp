@@ -47,6 +47,8 @@ bool IdleHub::isAtRest(const Watcher& watcher, quint64* activity)
     *activity = 0;
     for (const auto& queue : queues) {
         // Without an application nothing runs what waits in the main queue.
+        if (watcher.group && !queue->group().isEmpty() && queue->group() != *watcher.group)
+            continue;
         if (queue.get() == watcher.left || (queue == mainJobs() && !hasApplication()))
             continue;
         if (!queue->isAtRest())
@@ -214,6 +216,17 @@ void IdleHub::notify(const Queues& queues, QObject* context, std::function<void(
 {
     Watcher watcher;
     watcher.queues = queues;
+    watcher.context = context;
+    watcher.done = std::move(done);
+    if (context)
+        watchContext(context, shared());
+    add(std::move(watcher));
+}
+
+void IdleHub::notifyGroup(const QString& group, QObject* context, std::function<void()> done)
+{
+    Watcher watcher;
+    watcher.group = group;
     watcher.context = context;
     watcher.done = std::move(done);
     if (context)

@@ -3,6 +3,7 @@
 
 #include "zrcore/ContextRegistry.h"
 
+#include <QString>
 #include <QtGlobal>
 
 #include <atomic>
@@ -11,6 +12,7 @@
 #include <list>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <vector>
 
 namespace zr {
@@ -37,6 +39,8 @@ public:
     bool wait(const Queues& queues, qint64 timeoutMs);
     /// As ZrIdle::notify().
     void notify(const Queues& queues, QObject* context, std::function<void()> done);
+    /// As ZrIdle::notifyGroup().
+    void notifyGroup(const QString& group, QObject* context, std::function<void()> done);
 
     /// Looks for those who wait; main thread.
     void look();
@@ -51,7 +55,8 @@ public:
 private:
     struct Watcher
     {
-        Queues queues; ///< Empty for all.
+        Queues queues;                ///< Empty for all.
+        std::optional<QString> group; ///< Only its queues and those of none.
         const JobQueue* left = nullptr;
         QObject* context = nullptr;
         std::function<void()> done; ///< Called on the main thread without locks.

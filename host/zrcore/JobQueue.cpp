@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "zrcore/JobQueue.h"
 
+#include "zrcore/Asker.h"
 #include "zrcore/IdleHub.h"
 #include "zrcore/MainQueue.h"
 
@@ -30,8 +31,8 @@ qint64 dueNs(Lane lane, qint64 due, const ClockReading& now)
 
 } // namespace
 
-JobQueue::JobQueue(QString name, std::function<void()> wakeHook)
-    : m_name(std::move(name)), m_wakeHook(std::move(wakeHook))
+JobQueue::JobQueue(QString name, std::function<void()> wakeHook, QString group)
+    : m_name(std::move(name)), m_group(std::move(group)), m_wakeHook(std::move(wakeHook))
 {
 }
 
@@ -87,6 +88,7 @@ void JobQueue::post(QueuedJob job, bool unique)
     const bool background = job.background;
     if (context)
         job.contextClass = context->metaObject()->className();
+    job.generationsAsked = generationsAsked();
     auto owned = std::make_unique<QueuedJob>(std::move(job));
     Dropped dropped;
     bool watch = false;
@@ -158,6 +160,31 @@ void JobQueue::close()
     }
     forgetListener(weak_from_this());
     changed();
+}
+
+void JobQueue::retire(std::function<void()> ended)
+{
+    Dropped dropped;
+    {
+        const std::lock_guard lock(m_mutex);
+        m_closed = true;
+        dropped = takeEverything();
+        m_contexts.clear();
+        if (m_running.job)
+            m_ended = std::exchange(ended, {});
+        m_condition.notify_all();
+    }
+    forgetListener(weak_from_this());
+    if (ended)
+        ended();
+    changed();
+}
+
+bool JobQueue::waitForEnd(qint64 timeoutMs) const
+{
+    std::unique_lock lock(m_mutex);
+    return m_condition.wait_for(lock, std::chrono::milliseconds(timeoutMs),
+                                [this] { return m_closed && !m_running.job; });
 }
 
 void JobQueue::drop()
@@ -266,16 +293,22 @@ bool JobQueue::runNext(std::unique_lock<std::mutex>& lock)
     m_running = Running{job.get(), std::this_thread::get_id(), false, std::nullopt};
     lock.unlock();
     JobQueue* const outer = std::exchange(t_current, this);
-    job->run();
-    job->run = nullptr; // what it holds ends before the job counts as ended
+    {
+        const RunningFor origin(job->generationsAsked);
+        job->run();
+        job->run = nullptr; // what it holds ends before the job counts as ended
+    }
     t_current = outer;
     lock.lock();
     m_running = Running{};
     ++m_finished;
     if (!job->background)
         ++m_activity;
+    const std::function<void()> ended = std::exchange(m_ended, {});
     m_condition.notify_all();
     lock.unlock();
+    if (ended)
+        ended();
     changed();
     lock.lock();
     return true;

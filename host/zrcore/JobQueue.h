@@ -45,6 +45,7 @@ struct QueuedJob
     qint64 due = 0;     ///< Monotonic ns, or ms since the epoch in Lane::Wall; 0 in the lanes.
     quint64 number = 0; ///< Order of posting, and of falling due.
     const char* contextClass = nullptr; ///< Static text of the meta-object.
+    int generationsAsked = 0;           ///< Above 0: a person asked for it; see Asker.h.
 };
 
 /// The jobs of one ZrDispatch, apart from the thread that runs them.
@@ -53,18 +54,22 @@ class JobQueue final : public ContextListener, public std::enable_shared_from_th
 public:
     /// @p wakeHook is called without locks when there may be something to do, besides the wake of the own
     /// thread.
-    explicit JobQueue(QString name, std::function<void()> wakeHook = {});
+    explicit JobQueue(QString name, std::function<void()> wakeHook = {}, QString group = {});
 
     /// @p job has its context, key, function, lane, background mark and due time.
     void post(QueuedJob job, bool unique);
     bool has(QObject* context, const QString& key) const;
     void remove(QObject* context, const QString& key, bool waitForRunning);
     void close();
+    /// See ZrDispatch::retire(); @p ended is called without locks, on whichever thread ends last.
+    void retire(std::function<void()> ended);
+    bool waitForEnd(qint64 timeoutMs) const;
     /// Drops what waits, and goes on.
     void drop();
     void contextGone(QObject* context) override;
     QList<ZrDispatch::Waiting> waiting() const;
     const QString& name() const { return m_name; }
+    const QString& group() const { return m_group; }
 
     /// Runs jobs until the queue is closed.
     void runThread();
@@ -119,9 +124,10 @@ private:
     void changed();
 
     const QString m_name;
+    const QString m_group;
     const std::function<void()> m_wakeHook;
     mutable std::mutex m_mutex;
-    std::condition_variable m_condition;
+    mutable std::condition_variable m_condition;
     std::array<Jobs, LaneCount> m_jobs;
     Index m_index;
     std::unordered_set<QObject*> m_contexts;
@@ -130,6 +136,7 @@ private:
     quint64 m_activity = 0;
     quint64 m_finished = 0;
     bool m_closed = false;
+    std::function<void()> m_ended; ///< To call when the running job is the last.
 };
 
 } // namespace zr

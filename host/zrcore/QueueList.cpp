@@ -31,6 +31,12 @@ void enlist(const std::shared_ptr<JobQueue>& queue)
     list().queues.push_back(queue);
 }
 
+void delist(const std::shared_ptr<JobQueue>& queue)
+{
+    const std::lock_guard lock(list().mutex);
+    std::erase_if(list().queues, [&queue](const auto& weak) { return weak.lock() == queue; });
+}
+
 std::vector<std::shared_ptr<JobQueue>> allQueues()
 {
     std::vector<std::shared_ptr<JobQueue>> queues;

@@ -51,9 +51,9 @@ void nameThread(const QString& name)
 
 ZrDispatch::ZrDispatch(std::unique_ptr<Private> dd) : d(std::move(dd)) {}
 
-ZrDispatch::ZrDispatch(const QString& name) : d(std::make_unique<Private>())
+ZrDispatch::ZrDispatch(const QString& name, const QString& group) : d(std::make_unique<Private>())
 {
-    d->queue = std::make_shared<zr::JobQueue>(name);
+    d->queue = std::make_shared<zr::JobQueue>(name, std::function<void()>(), group);
     zr::enlist(d->queue);
     d->thread = std::thread([queue = d->queue] {
         nameThread(queue->name());
@@ -166,6 +166,29 @@ void ZrDispatch::close()
         return;
     }
     d->queue->close();
+}
+
+void ZrDispatch::retire(Job&& ended)
+{
+    if (d->queue == zr::mainJobs()) {
+        qWarning() << "[ZrDispatch] the main queue cannot be retired";
+        return;
+    }
+    zr::delist(d->queue);
+    d->queue->retire([ended = std::move(ended)]() mutable {
+        if (ended)
+            main()->post(nullptr, std::move(ended));
+    });
+}
+
+bool ZrDispatch::hasEnded() const
+{
+    return d->queue->waitForEnd(0);
+}
+
+bool ZrDispatch::waitForEnd(qint64 timeoutMs) const
+{
+    return d->queue->waitForEnd(timeoutMs);
 }
 
 QList<ZrDispatch::Waiting> ZrDispatch::waiting() const

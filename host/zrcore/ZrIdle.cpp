@@ -24,6 +24,12 @@ bool ZrIdle::wait(qint64 timeoutMs)
     return zr::IdleHub::instance().wait({}, timeoutMs);
 }
 
+void ZrIdle::notifyGroup(const QString& group, QObject* context, std::function<void()> done)
+{
+    if (done)
+        zr::IdleHub::instance().notifyGroup(group, context, std::move(done));
+}
+
 void ZrIdle::notify(const QList<QSharedPointer<ZrDispatch>>& queues, QObject* context,
                     std::function<void()> done)
 {

@@ -38,8 +38,10 @@ public:
         std::optional<QDateTime> due; ///< Local time at which a timed job falls due.
     };
 
-    /// Starts a queue with a thread of its own. @p name is for logs and debuggers.
-    explicit ZrDispatch(const QString& name);
+    /// Starts a queue with a thread of its own. @p name is for logs and debuggers. @p group says what the
+    /// queue belongs to, such as the id of a monitor, for those who await the rest of that only
+    /// (ZrIdle::notifyGroup()); empty: everybody awaits it.
+    explicit ZrDispatch(const QString& name, const QString& group = {});
 
     /// As close(), then joins the thread. In one of the queue's own jobs the thread is left to end by itself.
     ~ZrDispatch();
@@ -88,6 +90,14 @@ public:
     /// Drops what waits, ends a pause of the running job, waits until that job has ended (unless called from
     /// it), and accepts nothing more: jobs posted later are dropped. The main queue refuses it.
     void close();
+    /// As close(), but returns at once, also while a job hangs. From then on nobody awaits the rest of this
+    /// queue. @p ended is posted to the main queue when no job of this queue runs any more; from then on
+    /// close() and the destructor do not wait either.
+    void retire(Job&& ended = {});
+    /// Closed, and no job runs any more.
+    bool hasEnded() const;
+    /// Blocks until hasEnded(), at most @p timeoutMs milliseconds of real time; the result of hasEnded().
+    bool waitForEnd(qint64 timeoutMs) const;
     /// The jobs that wait, in the order in which they will run as things stand, timed ones last.
     QList<Waiting> waiting() const;
 

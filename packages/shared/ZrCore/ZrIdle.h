@@ -9,6 +9,7 @@
 #include <functional>
 
 class QObject;
+class QString;
 class ZrDispatch;
 
 /// Tells when the program has come to rest.
@@ -29,6 +30,10 @@ public:
     static bool wait(const QList<QSharedPointer<ZrDispatch>>& queues, qint64 timeoutMs);
     /// As above, for all queues.
     static bool wait(qint64 timeoutMs);
+
+    /// As below, for the queues that belong to @p group and those that belong to no group: what another group
+    /// does, or where it hangs, is not awaited.
+    static void notifyGroup(const QString& group, QObject* context, std::function<void()> done);
 
     /// Calls @p done once on the main thread when @p queues (all where empty) are at rest, unless @p context
     /// is gone by then. Returns at once.
