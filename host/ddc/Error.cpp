@@ -26,6 +26,10 @@ const char* text(Error error)
         return "monitor gone";
     case Error::Cancelled:
         return "cancelled";
+    case Error::Refused:
+        return "refused after too many writes";
+    case Error::Asleep:
+        return "display asleep";
     }
     return "unknown error";
 }

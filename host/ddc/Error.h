@@ -20,9 +20,11 @@ enum class Error {
     NoAccess,    ///< The user may not use the bus.
     Gone,        ///< The bus or the monitor was unplugged.
     Cancelled,   ///< The call was given up by the program.
+    Refused,     ///< Not sent: the program by itself wrote this code too often (Breaker).
+    Asleep,      ///< Not sent: the display sleeps and is not to be woken.
 };
 
-inline constexpr std::size_t ErrorCount = std::size_t(Error::Cancelled) + 1;
+inline constexpr std::size_t ErrorCount = std::size_t(Error::Asleep) + 1;
 
 /// Result of taking a reply frame to pieces.
 enum class ParseResult {

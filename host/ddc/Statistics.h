@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Error.h"
+#include "Ledger.h"
 
 #include <array>
 #include <chrono>
@@ -14,11 +15,11 @@ namespace ddc {
 struct CodeWrites
 {
     std::uint8_t code = 0;
-    std::uint32_t total = 0; ///< Acknowledged writes since the start.
+    std::uint32_t total = 0; ///< Acknowledged writes, those of earlier runs that were restored among them.
     std::uint32_t today = 0; ///< Of these, on Statistics::day.
 };
 
-/// What went over one monitor's bus since the start.
+/// What went over one monitor's bus, in this run and in those that were restored.
 struct Statistics
 {
     std::uint64_t transfers = 0;    ///< I2C messages, in both directions, with whatever outcome.
@@ -37,6 +38,7 @@ struct Statistics
 
     std::int64_t day = 0;           ///< The day that CodeWrites::today speaks of.
     std::vector<CodeWrites> writes; ///< By code, ascending; codes never written are left out.
+    Ledger ledger;                  ///< The same by day.
 
     std::uint64_t errorsOf(Error error) const { return errors[std::size_t(error)]; }
 };

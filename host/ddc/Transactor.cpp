@@ -111,6 +111,15 @@ Error Transactor::setVcpWithin(std::uint8_t code, std::uint16_t value, Ms limit)
     return finish(error, &Statistics::sets);
 }
 
+Error Transactor::setVcpOnce(std::uint8_t code, std::uint16_t value)
+{
+    Call call(*this);
+    call.maxTries = 1;
+    const Turn turn(*this, call);
+    const Error error = turn.error() != Error::None ? turn.error() : setCode(call, code, value);
+    return finish(error, &Statistics::sets);
+}
+
 Error Transactor::saveSettings()
 {
     Call call(*this);

@@ -96,6 +96,9 @@ public:
     /// limit, or is known not to be. Nothing was written then.
     Error setVcpWithin(std::uint8_t code, std::uint16_t value, Ms limit);
 
+    /// As setVcp(), but sent once: a display that sleeps is not pressed.
+    Error setVcpOnce(std::uint8_t code, std::uint16_t value);
+
     /// Tells the monitor to keep its values over a loss of power.
     Error saveSettings();
 
@@ -120,6 +123,14 @@ public:
     void revive();
 
     Statistics statistics() const;
+
+    /// Goes on from the numbers of an earlier run: counters and ledger; waits come from setLearnt(). To be
+    /// called before the first transfer.
+    void restore(const Statistics& kept);
+
+    /// Books a call that was not made, for a reason that lies outside the bus (Error::Refused,
+    /// Error::Asleep).
+    void noteNotSent(Error reason);
 
     /// What the monitor was found to need beyond the protocol, for keeping; zero where nothing was learnt.
     ///
@@ -148,13 +159,6 @@ public:
 private:
     struct Call;
     class Turn;
-    struct DatedWrites
-    {
-        std::uint8_t code;
-        std::uint32_t total;
-        std::uint32_t today;
-        std::int64_t day;
-    };
     struct WriteDelay
     {
         std::uint8_t code;
@@ -201,8 +205,7 @@ private:
     bool m_proven = false;    ///< The monitor has answered at the present waits.
 
     mutable std::mutex m_mutex; ///< Guards what follows; never held during a transfer or a wait.
-    Statistics m_counters;      ///< Its waits are those in force; its ledger is m_writes.
-    std::vector<DatedWrites> m_writes;
+    Statistics m_counters;      ///< Its waits are those in force; its list of writes stays empty.
     std::vector<WriteDelay> m_delays;
     std::function<std::int64_t()> m_dayOf;
     std::shared_ptr<Observer> m_observer;

@@ -29,10 +29,27 @@ Statistics Transactor::statistics() const
     const std::lock_guard lock(m_mutex);
     Statistics copy = m_counters;
     copy.day = day;
-    copy.writes.reserve(m_writes.size());
-    for (const DatedWrites& each : m_writes)
-        copy.writes.push_back({each.code, each.total, each.day == day ? each.today : 0});
+    copy.ledger.trim(day);
+    copy.writes.reserve(copy.ledger.totals().size());
+    for (const auto& [code, total] : copy.ledger.totals())
+        copy.writes.push_back({code, total, copy.ledger.on(day, code)});
     return copy;
+}
+
+void Transactor::restore(const Statistics& kept)
+{
+    const std::lock_guard lock(m_mutex);
+    const Ms replyDelay = m_counters.replyDelay;
+    const Ms afterSet = m_counters.afterSet;
+    m_counters = kept;
+    m_counters.writes.clear();
+    m_counters.replyDelay = replyDelay;
+    m_counters.afterSet = afterSet;
+}
+
+void Transactor::noteNotSent(Error reason)
+{
+    finish(reason);
 }
 
 void Transactor::countParse(ParseResult result)
@@ -46,15 +63,7 @@ void Transactor::countWrite(std::uint8_t code)
 {
     const std::int64_t day = today();
     const std::lock_guard lock(m_mutex);
-    auto it = place(m_writes, code);
-    if (it == m_writes.end() || it->code != code)
-        it = m_writes.insert(it, {code, 0, 0, day});
-    if (it->day != day) {
-        it->day = day;
-        it->today = 0;
-    }
-    ++it->total;
-    ++it->today;
+    m_counters.ledger.book(code, day);
 }
 
 /// Books the end of a call.

@@ -4,14 +4,23 @@
 #include "HardwareBrightness.h"
 #include "MonitorInfoPrivate.h"
 
+#include "LinkStatistics.h"
+
+#include <ZrCore/ZrAsker.h>
+#include <ZrCore/ZrClock.h>
 #include <ZrCore/ZrShared.h>
+#include <ddc/Breaker.h>
 #include <ddc/Transactor.h>
 
-#include <QDate>
+#include <QDateTime>
+#include <QDebug>
 #include <QJsonArray>
 
 #include <algorithm>
 #include <atomic>
+#include <mutex>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -35,6 +44,8 @@ bool isNoAnswer(ddc::Error error)
     case ddc::Error::None:
     case ddc::Error::NullReply:
     case ddc::Error::Unsupported:
+    case ddc::Error::Refused:
+    case ddc::Error::Asleep:
         return false;
     }
     return false;
@@ -45,25 +56,66 @@ bool isByte(int code)
     return code >= 0 && code <= 0xFF;
 }
 
-QString hexCode(int code)
-{
-    return QStringLiteral("0x%1")
-        .arg(code, 2, 16, QLatin1Char('0'))
-        .toUpper()
-        .replace(QLatin1Char('X'), QLatin1Char('x'));
-}
-
 } // namespace
 
 struct MonitorLink::Private
 {
+    explicit Private(const QString& monitor) : id(monitor) {}
+
+    const QString id;
     std::unique_ptr<ddc::Transactor> transactor; ///< Null where there is no bus.
     std::atomic<int> silentCalls{0};
     std::atomic<int> probedMode{NotProbed};
     ZrShared<QString> screenName;
     std::function<void()> screenObserver;
     std::function<void()> callObserver;
+    std::atomic<bool> asleep{false};
+    ddc::Statistics before; ///< Of earlier runs.
+    std::mutex breakerMutex;
+    ddc::Breaker breaker;
     std::unique_ptr<HardwareBrightness> brightness; ///< Last: its queue uses the others.
+
+    bool passesBreaker(int code)
+    {
+        using Verdict = ddc::Breaker::Verdict;
+        Verdict verdict;
+        std::uint64_t refused = 0;
+        {
+            const std::lock_guard lock(breakerMutex);
+            verdict = breaker.admit(std::uint8_t(code), ZrClock::instance().monotonicMs());
+            refused = breaker.refusedOf(std::uint8_t(code));
+        }
+        if (verdict == Verdict::Pass)
+            return true;
+        if (verdict == Verdict::PassAgain) {
+            qInfo().noquote() << "[MonitorLink]" << id << "takes writes of" << LinkStatistics::hexCode(code)
+                              << "again;" << refused << "were refused";
+            return true;
+        }
+        if (verdict == Verdict::Trip)
+            qWarning().noquote() << "[MonitorLink]" << id << "code" << LinkStatistics::hexCode(code)
+                                 << "was written" << ddc::Breaker::Limit << "times in"
+                                 << ddc::Breaker::WindowMs / 1000
+                                 << "s without a person asking: a fault; it is not written for as long again";
+        transactor->noteNotSent(ddc::Error::Refused);
+        return false;
+    }
+
+    QJsonObject breakerState()
+    {
+        const std::int64_t now = ZrClock::instance().monotonicMs();
+        const std::lock_guard lock(breakerMutex);
+        QJsonArray closed;
+        for (const ddc::Breaker::Closed& code : breaker.closed(now))
+            closed.append(QJsonObject{{u"code"_s, LinkStatistics::hexCode(code.code)},
+                                      {u"opensInMs"_s, qint64(code.untilMs - now)},
+                                      {u"refused"_s, qint64(code.refused)}});
+        return {{u"limit"_s, ddc::Breaker::Limit},
+                {u"windowMs"_s, qint64(ddc::Breaker::WindowMs)},
+                {u"closed"_s, closed},
+                {u"trips"_s, qint64(breaker.trips())},
+                {u"refused"_s, qint64(breaker.refused())}};
+    }
 
     bool note(ddc::Error error)
     {
@@ -77,14 +129,14 @@ struct MonitorLink::Private
     }
 };
 
-MonitorLink::MonitorLink(std::unique_ptr<ddc::Bus> bus, Waits waits) : d(new Private)
+MonitorLink::MonitorLink(const QString& id, std::unique_ptr<ddc::Bus> bus, Waits waits) : d(new Private(id))
 {
     d->brightness = std::make_unique<HardwareBrightness>(*this);
     if (!bus)
         return;
     d->transactor = std::make_unique<ddc::Transactor>(
         std::move(bus), waits == Waits::Real ? ddc::Timing::real() : ddc::Timing::none());
-    d->transactor->setDayOf([] { return QDate::currentDate().toJulianDay(); });
+    d->transactor->setDayOf([] { return ZrClock::instance().now().date().toJulianDay(); });
 }
 
 MonitorLink::~MonitorLink() = default;
@@ -92,7 +144,7 @@ MonitorLink::~MonitorLink() = default;
 QSharedPointer<MonitorInfo> MonitorLink::create(const MonitorDescription& description,
                                                 std::unique_ptr<ddc::Bus> bus, Waits waits)
 {
-    std::unique_ptr<MonitorLink> link(new MonitorLink(std::move(bus), waits));
+    std::unique_ptr<MonitorLink> link(new MonitorLink(description.id, std::move(bus), waits));
     link->d->screenName = description.screenName;
     return QSharedPointer<MonitorInfo>::create(
         std::make_unique<MonitorInfoPrivate>(description, std::move(link)));
@@ -105,7 +157,7 @@ MonitorLink& MonitorLink::of(const MonitorInfo& info)
 
 bool MonitorLink::getVCP(int code, int& value, int* maximum)
 {
-    if (!d->transactor || !isByte(code))
+    if (!d->transactor || !isByte(code) || !mayAsk(false, code))
         return false;
     const ddc::Result<ddc::VcpValue> reply = d->transactor->getVcp(std::uint8_t(code));
     if (!d->note(reply.error))
@@ -118,14 +170,15 @@ bool MonitorLink::getVCP(int code, int& value, int* maximum)
 
 bool MonitorLink::setVCP(int code, int value)
 {
-    if (!d->transactor || !isByte(code) || value < 0 || value > 0xFFFF)
+    if (!d->transactor || !isByte(code) || value < 0 || value > 0xFFFF || !mayAsk(true, code))
         return false;
-    return d->note(d->transactor->setVcp(std::uint8_t(code), std::uint16_t(value)));
+    return d->note(d->asleep ? d->transactor->setVcpOnce(std::uint8_t(code), std::uint16_t(value))
+                             : d->transactor->setVcp(std::uint8_t(code), std::uint16_t(value)));
 }
 
 bool MonitorLink::setVCPWithin(int code, int value, int limitMs)
 {
-    if (!d->transactor || !isByte(code) || value < 0 || value > 0xFFFF)
+    if (!d->transactor || !isByte(code) || value < 0 || value > 0xFFFF || !mayAsk(true, code))
         return false;
     const ddc::Error error =
         d->transactor->setVcpWithin(std::uint8_t(code), std::uint16_t(value), ddc::Transactor::Ms(limitMs));
@@ -182,32 +235,59 @@ bool MonitorLink::isSilent() const
     return !d->transactor || d->silentCalls.load() >= SilentCalls;
 }
 
+void MonitorLink::setAsleep(bool asleep)
+{
+    d->asleep = asleep;
+}
+
+bool MonitorLink::isAsleep() const
+{
+    return d->asleep;
+}
+
+/// Whether a call may go to the wire; if not the refusal is booked.
+bool MonitorLink::mayAsk(bool isWrite, int code)
+{
+    if (ZrAsker::isAskedFor())
+        return true;
+    if (d->asleep) {
+        d->transactor->noteNotSent(ddc::Error::Asleep);
+        return false;
+    }
+    return !isWrite || d->passesBreaker(code);
+}
+
 QJsonObject MonitorLink::statistics() const
 {
     const ddc::Statistics counts = d->transactor ? d->transactor->statistics() : ddc::Statistics();
-    QJsonObject errors;
-    for (std::size_t i = 1; i < ddc::ErrorCount; ++i) {
-        if (counts.errors[i] > 0)
-            errors.insert(QString::fromLatin1(ddc::text(ddc::Error(i))), qint64(counts.errors[i]));
-    }
-    QJsonObject writes;
-    for (const ddc::CodeWrites& code : counts.writes)
-        writes.insert(hexCode(code.code), QJsonObject{{QStringLiteral("total"), qint64(code.total)},
-                                                      {QStringLiteral("today"), qint64(code.today)}});
     const ddc::LearntWaits learnt = d->transactor ? d->transactor->learnt() : ddc::LearntWaits();
-    return {
-        {QStringLiteral("bus"), d->transactor ? QString::fromStdString(d->transactor->busName()) : QString()},
-        {QStringLiteral("transfers"), qint64(counts.transfers)},
-        {QStringLiteral("gets"), qint64(counts.gets)},
-        {QStringLiteral("sets"), qint64(counts.sets)},
-        {QStringLiteral("retries"), qint64(counts.retries)},
-        {QStringLiteral("nullReplies"), qint64(counts.nullReplies)},
-        {QStringLiteral("checksumErrors"), qint64(counts.checksumErrors)},
-        {QStringLiteral("errors"), errors},
-        {QStringLiteral("learntWaits"),
-         QJsonObject{{QStringLiteral("replyMs"), qint64(learnt.replyDelay.count())},
-                     {QStringLiteral("afterSetMs"), qint64(learnt.afterSet.count())}}},
-        {QStringLiteral("writes"), writes}};
+    QJsonObject object = LinkStatistics::shown(counts, learnt);
+    object.insert(u"bus"_s, d->transactor ? QString::fromStdString(d->transactor->busName()) : QString());
+    object.insert(u"thisRun"_s, LinkStatistics::sinceThen(counts, d->before));
+    object.insert(u"asleep"_s, isAsleep());
+    object.insert(u"silent"_s, isSilent());
+    object.insert(u"breaker"_s, d->breakerState());
+    return object;
+}
+
+QJsonObject MonitorLink::toKeep() const
+{
+    if (!d->transactor)
+        return {};
+    return LinkStatistics::toKeep({d->transactor->statistics(), d->transactor->learnt()});
+}
+
+bool MonitorLink::restore(const QJsonObject& kept)
+{
+    const std::optional<LinkStatistics::Kept> read = LinkStatistics::fromKept(kept);
+    if (!read)
+        return false;
+    if (d->transactor) {
+        d->before = read->counts;
+        d->transactor->restore(read->counts);
+        d->transactor->setLearnt(read->learnt);
+    }
+    return true;
 }
 
 std::optional<int> MonitorLink::probedColorMode() const

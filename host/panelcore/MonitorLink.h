@@ -46,6 +46,9 @@ public:
     static MonitorLink& of(const MonitorInfo& info);
 
     /// Transfers; false if the monitor gave no usable answer. @p code 0 to 255.
+    ///
+    /// What the program writes by itself may be refused (ddc::Breaker), and so is what it asks of a display
+    /// that sleeps. A person is refused nothing; a display that sleeps gets their write once.
     bool getVCP(int code, int& value, int* maximum = nullptr);
     bool setVCP(int code, int value);
     /// A write on a caller's thread that gives up if the bus is not free within @p limitMs.
@@ -73,7 +76,18 @@ public:
     /// True while transfers fail because the monitor gives no answer at all.
     bool isSilent() const;
 
+    /// Power management has switched the display off: it is left alone until it wakes. Any thread.
+    void setAsleep(bool asleep);
+    bool isAsleep() const;
+
+    /// Counters of all runs, those of this one, waits, writes by code and day, the breaker. Any thread.
     QJsonObject statistics() const;
+
+    /// What is to be kept for the next run.
+    QJsonObject toKeep() const;
+    /// Goes on from what an earlier run kept; before the first transfer. False if @p kept is nothing of the
+    /// kind.
+    bool restore(const QJsonObject& kept);
 
     /// The value of 0xDC that was read before the model is constructed; unset if nobody has asked, -1 if the
     /// monitor gave no answer.
@@ -85,7 +99,8 @@ public:
 
 private:
     friend class MonitorInfoPrivate;
-    MonitorLink(std::unique_ptr<ddc::Bus> bus, Waits waits);
+    MonitorLink(const QString& id, std::unique_ptr<ddc::Bus> bus, Waits waits);
+    bool mayAsk(bool isWrite, int code);
     struct Private;
     std::unique_ptr<Private> d;
 };
