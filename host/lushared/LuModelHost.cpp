@@ -7,6 +7,7 @@
 #include "LuHostOptions.h"
 
 #include <LuShared/LuUtils.h>
+#include <ZrCore/ZrAsker.h>
 #include <panelcore/MonitorLink.h>
 
 #include <QKeyEvent>
@@ -18,6 +19,7 @@ void LuModelHost::launch(LuMonitorModel* model)
     LuMonitorModelPrivate& host = LuMonitorModelPrivate::of(model);
     if (!host.isRestoring())
         return;
+    const ZrAsker::Scope asker(ZrAsker::Program);
     // Registered before the job, so that nothing changes the choice of modules in between.
     const QStringList skipped = host.skippedModules();
     host.dispatch->post(model, [&host, model, skipped] {
@@ -37,6 +39,7 @@ void LuModelHost::launch(LuMonitorModel* model)
 void LuModelHost::apply(LuMonitorModel* model, std::function<void()> done)
 {
     LuMonitorModelPrivate& host = LuMonitorModelPrivate::of(model);
+    const ZrAsker::Scope asker(ZrAsker::Program);
     host.dispatch->post(model, [&host, done = std::move(done)]() mutable {
         for (LuModelModuleInterface* module : std::as_const(host.modules))
             module->applyValues();
@@ -59,6 +62,7 @@ QString LuModelHost::trigger(LuModelModuleInterface* module, const QVariantMap& 
             return QStringLiteral("%1 has no writable property %2").arg(LuUtils::className(module), it.key());
     }
     const LuMonitorModel::OtherFunctionScope scope(module);
+    const ZrAsker::Scope asker(ZrAsker::Program);
     for (auto it = properties.begin(); it != properties.end(); ++it) {
         if (!module->setProperty(it.key().toUtf8().constData(), it.value()))
             return QStringLiteral("%1.%2 takes no such value").arg(LuUtils::className(module), it.key());
@@ -92,6 +96,16 @@ QJsonObject LuModelHost::statistics(const LuMonitorModel* model)
     return LuMonitorModelPrivate::of(model).link().statistics();
 }
 
+void LuModelHost::setAsleep(LuMonitorModel* model, bool asleep)
+{
+    LuMonitorModelPrivate::of(model).engine.setAsleep(asleep);
+}
+
+void LuModelHost::noteDisturbance(LuMonitorModel* model)
+{
+    LuMonitorModelPrivate::of(model).engine.noteDisturbance();
+}
+
 QString LuModelHost::monitorSection(const LuMonitorModel* model)
 {
     return LuMonitorModelPrivate::of(model).section;
@@ -111,6 +125,8 @@ void LuModelHost::forgetFirstConnection(const LuMonitorModel* model)
 bool LuModelHost::handleKey(LuMonitorModel* model, Qt::KeyboardModifiers modifiers, Qt::Key key,
                             bool repeated)
 {
+    ZrAsker::noteInput();
+    const ZrAsker::Scope asker(ZrAsker::Person);
     const QKeyEvent event(QEvent::KeyPress, key, modifiers, QString(), repeated);
     bool handled = false;
     const QList<LuShortcutAction*> actions =

@@ -47,6 +47,12 @@ public:
     /// Transfers, retries, errors, learnt waits, writes per code and day.
     static QJsonObject statistics(const LuMonitorModel* model);
 
+    /// The display was switched off by power management, or on again: it is asked nothing while it sleeps,
+    /// and read when it wakes; nothing is applied.
+    static void setAsleep(LuMonitorModel* model, bool asleep);
+    /// Something happened at the outputs: a monitor that gave no answer is tried again now.
+    static void noteDisturbance(LuMonitorModel* model);
+
     /// Section of the monitor in the settings store, and of one module in it.
     static QString monitorSection(const LuMonitorModel* model);
     static QString moduleSection(const LuModelModuleInterface* module);

@@ -136,6 +136,11 @@ void LuMonitorModel::setSyncCurrentColorMode(bool enable)
     Q_EMIT syncCurrentColorModeChanged();
 }
 
+QVariantMap LuMonitorModel::statistics() const
+{
+    return d->link().statistics().toVariantMap();
+}
+
 QList<LuShortcutAction*> LuMonitorModel::shortcutActions() const
 {
     return d->shortcutActions;

@@ -33,8 +33,8 @@ QString sectionOf(const MonitorInfo& info)
 
 LuMonitorModelPrivate::LuMonitorModelPrivate(LuMonitorModel* model, LuMonitorModel::NodeFactory factory)
     : q(model), nodeFactory(std::move(factory)),
-      dispatch(QSharedPointer<ZrDispatch>::create(model->info()->id())), section(sectionOf(*model->info())),
-      engine(*this)
+      dispatch(QSharedPointer<ZrDispatch>::create(model->info()->id(), model->info()->id())),
+      section(sectionOf(*model->info())), engine(*this)
 {
     nickName = LuSettings::instance().value(sectionKey(QStringLiteral("nickName"))).toString();
 }

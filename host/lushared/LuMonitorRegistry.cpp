@@ -5,7 +5,9 @@
 #include "LuHostOptions.h"
 #include "LuModelHost.h"
 #include "LuMonitorModelPrivate.h"
+#include "LuRetirement.h"
 #include "LuSettings.h"
+#include "LuStatisticsStore.h"
 
 #include <ZrCore/ZrDispatch.h>
 #include <ZrCore/ZrIdle.h>
@@ -18,7 +20,8 @@
 
 namespace {
 
-constexpr qint64 EndLimitMs = 500; ///< How long waiting jobs may go on when the program ends.
+constexpr qint64 EndLimitMs = 500;      ///< How long waiting jobs may go on when the program ends, and
+constexpr qint64 LastJobLimitMs = 2000; ///< the one that runs then.
 
 } // namespace
 
@@ -30,6 +33,7 @@ struct LuMonitorRegistry::Private
         QSharedPointer<MonitorInfo> info;
         QSharedPointer<ZrDispatch> probe;
         LuMonitorModel* model = nullptr;
+        bool asleep = false; ///< Said before there was a model.
     };
 
     LuMonitorRegistry* q;
@@ -37,6 +41,7 @@ struct LuMonitorRegistry::Private
     std::vector<Entry> entries;
     LuMonitorModel* current = nullptr;
     bool chosen = false; ///< The user made a choice; appearing monitors do not change it.
+    LuRetirement retirement;
 
     auto entryOf(const QString& id)
     {
@@ -68,6 +73,7 @@ struct LuMonitorRegistry::Private
             qInfo().noquote() << "[LuMonitorRegistry] monitor" << id
                               << (entry->model->isModelSupported() ? "is supported" : "is not supported");
             LuModelHost::launch(entry->model);
+            LuModelHost::setAsleep(entry->model, entry->asleep);
             Q_EMIT q->monitorAdded(entry->model);
             Q_EMIT q->monitorsChanged();
             chooseCurrent();
@@ -113,7 +119,7 @@ struct LuMonitorRegistry::Private
 };
 
 LuMonitorRegistry::LuMonitorRegistry(QObject* parent)
-    : QObject(parent), d(new Private{this, {}, {}, nullptr, false})
+    : QObject(parent), d(new Private{this, {}, {}, nullptr, false, {}})
 {
 }
 
@@ -121,6 +127,7 @@ LuMonitorRegistry::~LuMonitorRegistry()
 {
     while (!d->entries.empty())
         removeMonitor(d->entries.back().info->id());
+    (void)d->retirement.end(LastJobLimitMs);
 }
 
 void LuMonitorRegistry::addPackage(LuPackagesInterface* package)
@@ -150,13 +157,14 @@ void LuMonitorRegistry::addMonitor(const QSharedPointer<MonitorInfo>& info)
         qWarning().noquote() << "[LuMonitorRegistry] monitor" << id << "is there already";
         return;
     }
+    LuStatisticsStore::instance().attach(info);
     d->entries.push_back({info, {}, nullptr});
     if (!LuHostOptions::instance().autoSync) {
         ZrDispatch::main()->post(this, [this, id] { d->construct(id); });
         return;
     }
     // The first question to the monitor may take long: a model is made when it is answered or given up.
-    const auto probe = QSharedPointer<ZrDispatch>::create(QStringLiteral("probe ") + id);
+    const auto probe = QSharedPointer<ZrDispatch>::create(QStringLiteral("probe ") + id, id);
     d->entries.back().probe = probe;
     probe->post(nullptr, [this, info, id] {
         MonitorLink::of(*info).probeColorMode();
@@ -172,8 +180,9 @@ bool LuMonitorRegistry::removeMonitor(const QString& id)
     MonitorLink::of(*entry->info).cancel();
     Private::Entry gone = std::move(*entry);
     d->entries.erase(entry);
+    LuStatisticsStore::instance().letGo(gone.info);
     if (gone.probe)
-        gone.probe->close();
+        d->retirement.add(gone.probe, gone.info, nullptr);
     if (gone.model) {
         if (d->current == gone.model) {
             d->chosen = false;
@@ -185,7 +194,7 @@ bool LuMonitorRegistry::removeMonitor(const QString& id)
         Q_EMIT monitorsChanged();
         if (!d->current)
             Q_EMIT currentChanged();
-        delete gone.model;
+        d->retirement.add(gone.model->dispatch(), gone.info, gone.model);
     }
     qInfo().noquote() << "[LuMonitorRegistry] monitor" << id << "is gone";
     if (!gone.model)
@@ -193,7 +202,24 @@ bool LuMonitorRegistry::removeMonitor(const QString& id)
     return true;
 }
 
-void LuMonitorRegistry::shutDown()
+void LuMonitorRegistry::setAsleep(const QString& id, bool asleep)
+{
+    const auto entry = d->entryOf(id);
+    if (entry == d->entries.end())
+        return;
+    entry->asleep = asleep;
+    if (entry->model)
+        LuModelHost::setAsleep(entry->model, asleep);
+}
+
+void LuMonitorRegistry::noteDisturbance()
+{
+    const QList<LuMonitorModel*> models = monitors();
+    for (LuMonitorModel* model : models)
+        LuModelHost::noteDisturbance(model);
+}
+
+bool LuMonitorRegistry::shutDown()
 {
     // What the user asked for last still reaches the monitors, unless one of them hangs.
     QList<QSharedPointer<ZrDispatch>> queues;
@@ -205,8 +231,11 @@ void LuMonitorRegistry::shutDown()
         LuModelHost::fireExitEvents(model);
     while (!d->entries.empty())
         removeMonitor(d->entries.back().info->id());
+    const bool ended = d->retirement.end(LastJobLimitMs);
+    LuStatisticsStore::instance().flush();
     LuEventLog::instance().flush();
     LuSettings::instance().flush();
+    return ended;
 }
 
 QList<LuMonitorModel*> LuMonitorRegistry::monitors() const

@@ -31,10 +31,18 @@ public:
 
     /// Learns the monitor's colour mode without blocking, then constructs and launches its model.
     void addMonitor(const QSharedPointer<MonitorInfo>& info);
-    /// Drains the monitor's queue and destroys its model. False if there is none of that id.
+    /// Takes the monitor out: its transfers are cancelled, what waits for it is dropped, and its model is
+    /// destroyed as soon as the job that runs has ended, which a bus that hangs may delay. Returns at once.
+    /// False if there is none of that id.
     bool removeMonitor(const QString& id);
-    /// Ends all models: exit events, queues drained, settings written.
-    void shutDown();
+    /// The display of that monitor fell asleep, or woke: see LuModelHost::setAsleep().
+    void setAsleep(const QString& id, bool asleep);
+    /// Something happened at the outputs: monitors that gave no answer are tried again now.
+    void noteDisturbance();
+    /// Ends all models: exit events, queues drained, settings and statistics written. Waits for a bus that
+    /// hangs at most two seconds; false if one hangs even then: what it holds is left to the end of the
+    /// process.
+    bool shutDown();
 
     /// Models in the order in which their monitors appeared.
     QList<LuMonitorModel*> monitors() const;

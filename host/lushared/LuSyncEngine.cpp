@@ -37,6 +37,8 @@ void LuSyncEngine::postSteps(LuModelModuleInterface* module, Reason reason)
 
 void LuSyncEngine::runStep(const std::function<void()>& step, Reason reason)
 {
+    if (isAsleep())
+        return;
     // A round that finds the monitor silent is over; what somebody asked for is tried all the same.
     if (reason != Reason::Asked && m_model.link().isSilent())
         return;
@@ -54,6 +56,8 @@ void LuSyncEngine::start()
 void LuSyncEngine::runRound()
 {
     m_roundWaits = false;
+    if (isAsleep())
+        return; // setAsleep() begins anew
     QList<LuModelModuleInterface*> visible;
     for (LuModelModuleInterface* module : std::as_const(m_model.modules)) {
         if (module->syncEnable())
@@ -73,6 +77,8 @@ void LuSyncEngine::runRound()
 
 void LuSyncEngine::endRound()
 {
+    if (isAsleep())
+        return;
     if (m_model.link().isSilent())
         m_backOffMs = std::clamp(m_backOffMs.get() * 2, FirstBackOffMs, LastBackOffMs);
     else
@@ -88,14 +94,36 @@ void LuSyncEngine::scheduleRound(qint64 ms)
 
 void LuSyncEngine::wake()
 {
-    if (m_started && (!m_roundWaits || m_backOffMs.get() == 0))
+    if (m_started && !isAsleep() && (!m_roundWaits || m_backOffMs.get() == 0))
         scheduleRound(0);
 }
 
 void LuSyncEngine::noteUserAction()
 {
-    if (m_started && m_backOffMs.exchange(0) > 0)
+    if (m_started && m_backOffMs.exchange(0) > 0 && !isAsleep())
         scheduleRound(0);
+}
+
+bool LuSyncEngine::isAsleep() const
+{
+    return m_model.link().isAsleep();
+}
+
+void LuSyncEngine::setAsleep(bool asleep)
+{
+    if (isAsleep() == asleep)
+        return;
+    m_model.link().setAsleep(asleep);
+    if (asleep || !m_started)
+        return;
+    // Whatever the monitor was asked in its sleep went unheard, and its values may have changed.
+    m_backOffMs = 0;
+    m_model.dispatch->post(m_model.q, [this] {
+        m_model.syncColorMode();
+        for (LuModelModuleInterface* module : std::as_const(m_model.modules))
+            postSteps(module, Reason::FirstRound);
+        post(Reason::FirstRound, [this] { endRound(); });
+    });
 }
 
 void LuSyncEngine::force(LuModelModuleInterface* module)
@@ -110,7 +138,8 @@ void LuSyncEngine::readBack(LuModelModuleInterface* module, std::function<void()
         if (module) {
             postSteps(module, Reason::Asked);
         } else {
-            m_model.syncColorMode();
+            if (!isAsleep())
+                m_model.syncColorMode();
             for (LuModelModuleInterface* each : std::as_const(m_model.modules))
                 postSteps(each, Reason::Asked);
         }

@@ -16,7 +16,7 @@ class LuMonitorModelPrivate;
 ///
 /// Every step is a job of its own behind what waits on the model's queue, so that a setter waits for one step
 /// at most. A monitor that gives no answer is asked again after 2, 4, 8 ... 60 s, or at once after a user's
-/// action.
+/// action. A display that sleeps is asked nothing; when it wakes, everything is read once.
 class LuSyncEngine
 {
 public:
@@ -31,6 +31,12 @@ public:
 
     /// The user did something: a monitor that gave no answer is tried again now. Any thread.
     void noteUserAction();
+
+    /// Something happened at the outputs: as noteUserAction(). Any thread.
+    void noteDisturbance() { noteUserAction(); }
+
+    /// The display fell asleep: rounds rest. It woke: everything is read once, and rounds go on. Any thread.
+    void setAsleep(bool asleep);
 
     /// Reads one module back as soon as what waits has run; requests that wait are one. Any thread.
     void force(LuModelModuleInterface* module);
@@ -53,6 +59,7 @@ private:
     void runRound();
     void endRound();
     void scheduleRound(qint64 ms);
+    bool isAsleep() const;
 
     LuMonitorModelPrivate& m_model;
     ZrShared<bool> m_started{false};

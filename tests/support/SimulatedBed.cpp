@@ -2,6 +2,7 @@
 #include "SimulatedBed.h"
 
 #include <LuShared/LuUtils.h>
+#include <ZrCore/ZrAsker.h>
 #include <ZrCore/ZrIdle.h>
 #include <ZrCore/ZrSequence.h>
 #include <lushared/LuHostOptions.h>
@@ -151,6 +152,7 @@ QVariant SimulatedBed::get(const char* className, const char* property)
 
 bool SimulatedBed::set(const char* className, const char* property, const QVariant& value)
 {
+    ZrAsker::noteInput(); // as a person does
     return module(className)->setProperty(property, value);
 }
 

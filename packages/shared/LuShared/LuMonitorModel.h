@@ -13,6 +13,7 @@
 #include <QMetaMethod>
 #include <QSharedPointer>
 #include <QString>
+#include <QVariantMap>
 #include <QXmlStreamAttributes>
 
 #include <functional>
@@ -55,6 +56,8 @@ class LUSHARED_EXPORT LuMonitorModel : public MonitorModel
     Q_PROPERTY(QObject* iccSync READ iccSync CONSTANT)
     Q_PROPERTY(QObject* smartKvm READ smartKvm CONSTANT)
     Q_PROPERTY(LuVCPNode* currentDualMode READ currentDualMode NOTIFY currentDualModeChanged)
+    /// What went over the monitor's bus; taken anew at each read, so nothing announces a change.
+    Q_PROPERTY(QVariantMap statistics READ statistics STORED false)
 
 public:
     using NodeFactory =
@@ -93,6 +96,9 @@ public:
 
     bool syncCurrentColorMode() const;
     void setSyncCurrentColorMode(bool enable);
+
+    /// Transfers, retries, errors, learnt waits, writes per code and day. Any thread.
+    QVariantMap statistics() const;
 
     /// The shortcut actions in the order of their registration.
     QList<LuShortcutAction*> shortcutActions() const;
