@@ -2,6 +2,7 @@
 #include "LumenQml.h"
 
 #include "LuContext.h"
+#include "LuDiagnostics.h"
 #include "LuIconProvider.h"
 
 #ifdef LUMEN_QML_SHARED_TYPES
@@ -37,6 +38,12 @@ void registerTypes()
                                             QJSEngine::setObjectOwnership(context, QJSEngine::CppOwnership);
                                             return context;
                                         });
+    qmlRegisterSingletonType<LuDiagnostics>(
+        "LumenDesk", 1, 0, "LuDiagnostics", [](QQmlEngine*, QJSEngine*) -> QObject* {
+            LuDiagnostics* diagnostics = LuDiagnostics::instance();
+            QJSEngine::setObjectOwnership(diagnostics, QJSEngine::CppOwnership);
+            return diagnostics;
+        });
 #ifdef LUMEN_QML_SHARED_TYPES
     const QString reason = u"Owned by the monitor"_s;
     qmlRegisterUncreatableType<LuMonitorModel>("LumenDesk", 1, 0, "LuMonitorModel", reason);

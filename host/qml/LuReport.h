@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QHash>
+#include <QJsonObject>
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+/// What is known of the monitors and of the way to them, for a person and for a bug ticket.
+struct LuDiagnosticFacts
+{
+    struct Monitor
+    {
+        QString id; ///< Never shown: it holds the serial number.
+        QString model;
+        QString serial;     ///< Never shown.
+        QString nickName;   ///< Never in a report.
+        QString connection; ///< Such as "card0-DP-1".
+        bool supported = false;
+        bool builtIn = false;
+        QJsonObject statistics;
+    };
+
+    QList<Monitor> monitors;
+    QStringList troubles; ///< Of finding monitors, in plain words.
+    QStringList versions; ///< Lines on the program and the system.
+    QStringList log;      ///< Lines of the log that speak of monitors and buses.
+};
+
+/// Turns facts into lines and into a report without personal data.
+class LuReport
+{
+public:
+    LuReport() = delete;
+
+    /// The report: versions, troubles, each monitor, the log. Serial numbers, names that people gave, the
+    /// user's name, the host's name and paths of the home folder do not stand in it.
+    static QString text(const LuDiagnosticFacts& facts);
+
+    /// @p text with what is personal in it replaced.
+    static QString cleaned(const QString& text, const LuDiagnosticFacts& facts);
+
+    /// A monitor's facts as pairs of a name and a value, in the order of showing. Untranslated.
+    static QList<QPair<QString, QString>> lines(const LuDiagnosticFacts::Monitor& monitor);
+
+    /// Whether a line of the log speaks of monitors and buses.
+    static bool isOfInterest(const QString& logLine);
+};
