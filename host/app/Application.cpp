@@ -2,6 +2,7 @@
 #include "Application.h"
 
 #include "ActionKeys.h"
+#include "InputNotice.h"
 #include "RealMonitors.h"
 #include "SimulatedMonitors.h"
 #include "adapters/ClockMethods.h"
@@ -19,12 +20,15 @@
 #include <lushared/LuBrightnessSync.h>
 #include <lushared/LuEventLog.h>
 #include <lushared/LuHostOptions.h>
+#include <lushared/LuLog.h>
 #include <lushared/LuModelHost.h>
 #include <lushared/LuMonitorRegistry.h>
 #include <lushared/LuSettings.h>
+#include <lushared/LuStatisticsStore.h>
 #include <lushared/services/ServiceRegistry.h>
 #include <panelcore/MonitorLink.h>
 #include <qml/LuContext.h>
+#include <qml/LuDiagnostics.h>
 #include <qml/LuWindowBridge.h>
 #include <qml/LumenQml.h>
 #include <services/api/DesktopEvents.h>
@@ -40,7 +44,15 @@
 #include <QJsonDocument>
 #include <QQmlApplicationEngine>
 #include <QStandardPaths>
+#include <QSysInfo>
 #include <QTranslator>
+
+namespace {
+
+/// How long the end waits for a search that hangs.
+constexpr qint64 HangLimitMs = 1000;
+
+} // namespace
 
 Application::Application(const Options& options, bool hasDisplay)
     : m_options(options), m_hasDisplay(hasDisplay), m_signals([this] { quit(); })
@@ -49,6 +61,7 @@ Application::Application(const Options& options, bool hasDisplay)
 
 Application::~Application()
 {
+    LuDiagnostics::instance()->setSource({});
     // The window goes first, since its bindings read the models; then the models, since they ask the
     // services.
     m_bridge.reset();
@@ -99,6 +112,7 @@ Application::Start Application::start()
                           : QDir(m_options.dataDirectory).absolutePath();
     ZrS::setDataPath(m_dataDirectory);
     LuEventLog::instance().open(m_dataDirectory);
+    LuStatisticsStore::instance().open(m_dataDirectory);
     const QString userEnvironment =
         QFileInfo(LuSettings::instance().fileName()).absolutePath() + QStringLiteral("/environment.json");
     QString problem;
@@ -113,6 +127,8 @@ Application::Start Application::start()
     m_registry = std::make_unique<LuMonitorRegistry>();
     m_brightnessSync = std::make_unique<LuBrightnessSync>(m_registry.get());
     LuContext::instance()->setBrightnessSync(m_brightnessSync.get());
+    qGuiApp->installEventFilter(new InputNotice(this));
+    LuDiagnostics::instance()->setSource([this] { return diagnosticFacts(); });
     installServices();
     m_packages.load(PackageLoader::defaultFolders());
     const QList<LuPackagesInterface*> packages = m_packages.packages();
@@ -159,6 +175,8 @@ void Application::findRealMonitors()
             Qt::QueuedConnection);
     connect(m_real.get(), &RealMonitors::troublesChanged, this,
             [this] { LuContext::instance()->setNotices(m_real->troubles()); });
+    connect(m_real.get(), &RealMonitors::sleepChanged, m_registry.get(), &LuMonitorRegistry::setAsleep);
+    connect(m_real.get(), &RealMonitors::disturbed, m_registry.get(), &LuMonitorRegistry::noteDisturbance);
     m_real->start();
 }
 
@@ -279,6 +297,38 @@ void Application::addControlMethods()
     addWindowMethods(m_server.get(), [this] { return m_bridge.get(); });
 }
 
+LuDiagnosticFacts Application::diagnosticFacts() const
+{
+    LuDiagnosticFacts facts;
+    const QList<LuMonitorModel*> models = m_registry->monitors();
+    for (const LuMonitorModel* model : models) {
+        LuDiagnosticFacts::Monitor monitor;
+        monitor.id = model->id();
+        monitor.model = model->modelName();
+        monitor.serial = model->info()->serialNumber();
+        monitor.nickName = model->nickName();
+        monitor.connection = m_real ? m_real->connectorOf(model->id()) : QString();
+        monitor.supported = model->isModelSupported();
+        monitor.builtIn = model->isModelBuiltIn();
+        monitor.statistics = LuModelHost::statistics(model);
+        facts.monitors.append(monitor);
+    }
+    if (m_real)
+        facts.troubles = m_real->troubles();
+    facts.versions = {QStringLiteral("Lumen Desk %1, package %2, Qt %3")
+                          .arg(QGuiApplication::applicationVersion(), m_packages.version(),
+                               QString::fromLatin1(qVersion())),
+                      QStringLiteral("%1, kernel %2, session %3")
+                          .arg(QSysInfo::prettyProductName(), QSysInfo::kernelVersion(),
+                               m_services ? QStringLiteral("simulated") : services::Registry::sessionName())};
+    const QList<LuLogLine> lines = LuLog::lines();
+    for (const LuLogLine& line : lines) {
+        if (LuReport::isOfInterest(line.text))
+            facts.log.append(line.text);
+    }
+    return facts;
+}
+
 void Application::openWindow()
 {
     m_engine = std::make_unique<QQmlApplicationEngine>();
@@ -347,9 +397,19 @@ void Application::takePicture()
         if (!result.ok())
             qCritical().noquote() << "[Application] --screenshot:" << result.message;
         m_ending = true;
-        m_registry->shutDown();
+        end();
         QGuiApplication::exit(result.ok() ? 0 : 1);
     });
+}
+
+void Application::end()
+{
+    m_hangs = !m_registry->shutDown();
+    if (m_real && !m_real->end(HangLimitMs)) {
+        m_hangs = true;
+        (void)m_real.release(); // its queues are in use
+    }
+    m_real.reset();
 }
 
 void Application::quit()
@@ -362,8 +422,7 @@ void Application::quit()
     m_server->dispatcher().setBusy([] { return true; });
     if (const auto events = services::Registry::current().events)
         events->stop();
-    m_registry->shutDown();
-    m_real.reset();
+    end();
     if (m_simulated)
         m_simulated->persist();
     m_server->close();

@@ -6,12 +6,14 @@
 #include "UnixSignals.h"
 
 #include <QObject>
+#include <QStringList>
 
 #include <memory>
 
 class ActionKeys;
 class LuBrightnessSync;
 class LuContext;
+struct LuDiagnosticFacts;
 class LuMonitorRegistry;
 class LuMonitorModel;
 class LuWindowBridge;
@@ -45,6 +47,10 @@ public:
 
     Start start();
 
+    /// After the end: a bus still holds one of the program's threads, which may wake up at any time. The
+    /// process is to end without taking apart what that thread uses.
+    bool hangs() const { return m_hangs; }
+
 private:
     bool loadState();
     void findRealMonitors();
@@ -52,11 +58,13 @@ private:
     bool isDiscovering() const;
     void installServices();
     void installNativeServices();
+    LuDiagnosticFacts diagnosticFacts() const;
     void openWindow();
     void fillWindow();
     void takePicture();
     void addControlMethods();
     void quit();
+    void end();
 
     const Options m_options;
     const bool m_hasDisplay;
@@ -74,4 +82,5 @@ private:
     UnixSignals m_signals;
     bool m_pictureTaken = false;
     bool m_ending = false;
+    bool m_hangs = false;
 };

@@ -10,6 +10,7 @@
 #include <panelcore/MonitorLink.h>
 
 #include <QDebug>
+#include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QScreen>
 #include <QSocketNotifier>
@@ -28,6 +29,8 @@ constexpr int PollMs = 2000;
 constexpr int LongestLostPause = 30;
 constexpr std::chrono::milliseconds RestAfterWrite(50);
 constexpr QLatin1String TwinsKey("monitors/twins");
+/// Nobody who awaits the rest of a monitor awaits the search for others.
+const QString SearchGroup = QStringLiteral("search");
 
 ddci2c::Debounce::TimePoint now()
 {
@@ -84,8 +87,8 @@ struct RealMonitors::Mailbox
 
 RealMonitors::RealMonitors(LuMonitorRegistry& registry, const std::filesystem::path& root)
     : m_registry(registry), m_enumerator(root), m_book(keptTwins()),
-      m_scanQueue(std::make_unique<ZrDispatch>(QStringLiteral("monitors"))),
-      m_askQueue(std::make_unique<ZrDispatch>(QStringLiteral("monitor buses"))),
+      m_scanQueue(std::make_unique<ZrDispatch>(QStringLiteral("monitors"), SearchGroup)),
+      m_askQueue(std::make_unique<ZrDispatch>(QStringLiteral("monitor buses"), SearchGroup)),
       m_mailbox(std::make_shared<Mailbox>())
 {
     m_mailbox->owner = this;
@@ -106,6 +109,18 @@ RealMonitors::~RealMonitors()
     std::this_thread::sleep_until(ddci2c::I2cBus::lastWrite() + RestAfterWrite);
     const std::lock_guard lock(m_mailbox->mutex);
     m_mailbox->owner = nullptr;
+}
+
+bool RealMonitors::end(qint64 limitMs)
+{
+    m_pollTimer.stop();
+    m_settleTimer.stop();
+    m_scanQueue->retire();
+    m_askQueue->retire();
+    QElapsedTimer elapsed;
+    elapsed.start();
+    return m_scanQueue->waitForEnd(limitMs) &&
+           m_askQueue->waitForEnd(std::max<qint64>(0, limitMs - elapsed.elapsed()));
 }
 
 void RealMonitors::start()

@@ -38,6 +38,10 @@ public:
     explicit RealMonitors(LuMonitorRegistry& registry, const std::filesystem::path& root = "/");
     ~RealMonitors() override;
 
+    /// Ends what goes on; waits for a bus that hangs at most @p limitMs. False if one hangs even then: this
+    /// object must stay.
+    bool end(qint64 limitMs);
+
     /// Finds what is there and begins to watch.
     void start();
 

@@ -9,6 +9,7 @@
 #include <QIcon>
 
 #include <cstdio>
+#include <cstdlib>
 
 namespace {
 
@@ -50,8 +51,12 @@ int main(int argc, char** argv)
 
     Application application(parsed.options, hasDisplay);
     switch (application.start()) {
-    case Application::Start::Running:
-        return QGuiApplication::exec();
+    case Application::Start::Running: {
+        const int code = QGuiApplication::exec();
+        if (application.hangs())
+            std::_Exit(code);
+        return code;
+    }
     case Application::Start::OtherInstance:
         return 0;
     case Application::Start::Failed:

@@ -5,6 +5,7 @@
 #include <LuShared/LuModelModuleInterface.h>
 #include <LuShared/LuMonitorModel.h>
 #include <LuShared/LuUtils.h>
+#include <ZrCore/ZrAsker.h>
 #include <ZrCore/ZrDispatch.h>
 #include <ZrCore/ZrIdle.h>
 
@@ -43,6 +44,7 @@ void addPropertyMethods(Dispatcher& dispatcher, MonitorAccess* access)
     dispatcher.addMethod(u"set"_s, {u"monitor"_s, u"path"_s, u"value"_s}, [access](const Request& request) {
         const QString path = pathOf(request);
         const QJsonValue value = request.parameters.value(u"value"_s);
+        ZrAsker::noteInput();
         access->objects(request, path).set(path, value);
         return nothing();
     });
@@ -50,6 +52,7 @@ void addPropertyMethods(Dispatcher& dispatcher, MonitorAccess* access)
         const QString path = pathOf(request);
         const QJsonArray arguments =
             request.parameters.contains(u"args"_s) ? request.parameters.array(u"args"_s) : QJsonArray();
+        ZrAsker::noteInput();
         return QJsonValue(QJsonObject{{u"value"_s, access->objects(request, path).call(path, arguments)}});
     });
 }
@@ -96,9 +99,8 @@ void addWaitingMethods(Dispatcher& dispatcher, MonitorAccess* access)
 {
     dispatcher.addAsyncMethod(u"idle"_s, {u"monitor"_s}, [access](const Request& request) {
         LuMonitorModel* const model = access->monitor(request);
-        const bool known = bool(access->backend().privateQueues);
-        const auto queues = known ? queuesOf(*access, model) : QList<QSharedPointer<ZrDispatch>>();
-        ZrIdle::notify(queues, access, [reply = request.reply] { reply.done(); });
+        // Not what other monitors have to do: one of them may hang.
+        ZrIdle::notifyGroup(model->id(), access, [reply = request.reply] { reply.done(); });
     });
     dispatcher.addAsyncMethod(u"sync"_s, {u"monitor"_s, u"module"_s}, [access](const Request& request) {
         LuMonitorModel* const model = access->monitor(request);

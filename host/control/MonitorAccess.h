@@ -26,8 +26,7 @@ struct Backend
     std::function<QObject*()> context;
     /// Version of the feature package, empty without one.
     std::function<QString()> packageVersion;
-    /// The queues beside that of the monitor that belong to its features. Empty: those are not known, and
-    /// rest is awaited on all queues of the program.
+    /// The queues beside that of the monitor that belong to its features, where they are known.
     std::function<QList<QSharedPointer<ZrDispatch>>(LuMonitorModel*)> privateQueues;
     /// Ends the program as the user's "Quit" does.
     std::function<void()> quit;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "ServiceMethods.h"
 
+#include <ZrCore/ZrAsker.h>
 #include <control/Server.h>
 #include <services/simulated/SimulatedServices.h>
 
@@ -33,6 +34,8 @@ QJsonValue getState(services::SimulatedServices* session, const Request& request
 QJsonValue setState(services::SimulatedServices* session, const Request& request)
 {
     services::Error error;
+    // The desktop changes by itself; a key press among the signals says so on its way.
+    const ZrAsker::Scope asker(ZrAsker::Program);
     needed(session).set(request.parameters.text(u"path"_s), request.parameters.value(u"value"_s), &error);
     check(error);
     return QJsonObject();
@@ -45,6 +48,7 @@ QJsonValue emitSignal(services::SimulatedServices* session, const Request& reque
     if (!arguments.isObject() && !arguments.isArray())
         throw RequestError(InvalidParameters, u"parameter \"args\" must be an object or a list"_s);
     services::Error error;
+    const ZrAsker::Scope asker(ZrAsker::Program);
     const QJsonObject answer =
         needed(session).emitSignal(request.parameters.text(u"signal"_s), arguments, &error);
     check(error);

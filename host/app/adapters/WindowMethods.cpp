@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "WindowMethods.h"
 
+#include <ZrCore/ZrAsker.h>
 #include <control/Server.h>
 #include <control/ValueReader.h>
 #include <qml/LuWindowBridge.h>
@@ -23,6 +24,13 @@ LuWindowBridge& needed(const Bridge& bridge)
     if (!windows)
         throw RequestError(NoWindow, u"the program runs without a window"_s);
     return *windows;
+}
+
+/// For a request that acts on a window as a person does.
+LuWindowBridge& acted(const Bridge& bridge)
+{
+    ZrAsker::noteInput();
+    return needed(bridge);
 }
 
 QJsonValue valueOf(const LuWindowBridge::Result& result)
@@ -99,20 +107,20 @@ void addControlMethods(Dispatcher& dispatcher, const Bridge& bridge)
     const QString within = u"within"_s;
     dispatcher.addMethod(
         u"ui.press"_s, {name, role, within}, [bridge, name, role, within](const Request& request) {
-            return valueOf(needed(bridge).press(request.parameters.text(name), optional(request, role),
-                                                optional(request, within)));
+            return valueOf(acted(bridge).press(request.parameters.text(name), optional(request, role),
+                                               optional(request, within)));
         });
     dispatcher.addMethod(
         u"ui.setValue"_s, {name, role, within, u"value"_s},
         [bridge, name, role, within](const Request& request) {
             const QVariant value = ValueReader::readAny(request.parameters.value(u"value"_s));
-            return valueOf(needed(bridge).setValue(request.parameters.text(name), value,
-                                                   optional(request, role), optional(request, within)));
+            return valueOf(acted(bridge).setValue(request.parameters.text(name), value,
+                                                  optional(request, role), optional(request, within)));
         });
     dispatcher.addMethod(
         u"ui.key"_s, {name, role, within, u"key"_s}, [bridge, name, role, within](const Request& request) {
-            return valueOf(needed(bridge).key(optional(request, name), request.parameters.text(u"key"_s),
-                                              optional(request, role), optional(request, within)));
+            return valueOf(acted(bridge).key(optional(request, name), request.parameters.text(u"key"_s),
+                                             optional(request, role), optional(request, within)));
         });
 }
 
@@ -134,7 +142,7 @@ void addWindowMethods(Server* server, Bridge bridge)
             return valueOf(needed(bridge).close(request.parameters.text(targetKind(request))));
         });
     dispatcher.addMethod(u"ui.mouse"_s, {u"window"_s, u"kind"_s, u"x"_s, u"y"_s},
-                         [bridge](const Request& request) { return mouse(needed(bridge), request); });
+                         [bridge](const Request& request) { return mouse(acted(bridge), request); });
     addViewMethods(dispatcher, bridge);
     addControlMethods(dispatcher, bridge);
 }
