@@ -289,6 +289,7 @@ void Application::addControlMethods()
     backend.registry = m_registry.get();
     backend.context = []() -> QObject* { return LuContext::instance(); };
     backend.packageVersion = [this] { return m_packages.version(); };
+    backend.report = [] { return LuDiagnostics::instance()->report(); };
     backend.quit = [this] { quit(); };
     control::MonitorAccess* access = control::addAllMethods(m_server.get(), backend);
     addClockMethods(m_server.get(), m_services != nullptr);

@@ -28,6 +28,8 @@ struct Backend
     std::function<QString()> packageVersion;
     /// The queues beside that of the monitor that belong to its features, where they are known.
     std::function<QList<QSharedPointer<ZrDispatch>>(LuMonitorModel*)> privateQueues;
+    /// The report on monitors for a bug ticket, without personal data. Empty: there is none.
+    std::function<QString()> report;
     /// Ends the program as the user's "Quit" does.
     std::function<void()> quit;
 };

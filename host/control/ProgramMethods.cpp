@@ -94,6 +94,13 @@ void addProgramMethods(Server* server, MonitorAccess* access)
         return QJsonValue(QJsonObject());
     });
     dispatcher.addMethod(
+        u"report"_s, {},
+        [access](const Request&) {
+            const auto& report = access->backend().report;
+            return QJsonValue(QJsonObject{{u"text"_s, report ? report() : QString()}});
+        },
+        Dispatcher::When::Always);
+    dispatcher.addMethod(
         u"log"_s, {u"since"_s},
         [](const Request& request) {
             return QJsonValue(

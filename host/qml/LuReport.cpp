@@ -19,8 +19,8 @@ constexpr std::array Sources{
     "[LuMonitorModel]"_L1, "[LuRetirement]"_L1, "[LuStatisticsStore]"_L1,
 };
 
-/// A shorter word may be part of any other.
-constexpr int ShortestSecret = 3;
+/// A shorter one is replaced only where it stands by itself, since it may be part of any other word.
+constexpr int ShortestPart = 4;
 
 QString wholeNumber(const QJsonObject& object, QLatin1String name)
 {
@@ -84,7 +84,7 @@ QString condition(const QJsonObject& statistics)
 void addSecret(QHash<QString, QString>& secrets, const QString& text, const QString& instead)
 {
     const QString word = text.trimmed();
-    if (word.size() >= ShortestSecret)
+    if (!word.isEmpty())
         secrets.insert(word, instead);
 }
 
@@ -146,8 +146,14 @@ QString LuReport::cleaned(const QString& text, const LuDiagnosticFacts& facts)
     std::sort(words.begin(), words.end(),
               [](const QString& a, const QString& b) { return a.size() > b.size(); });
     QString result = text;
-    for (const QString& word : std::as_const(words))
-        result.replace(word, secrets.value(word), Qt::CaseInsensitive);
+    for (const QString& word : std::as_const(words)) {
+        QString pattern = QRegularExpression::escape(word);
+        if (word.size() < ShortestPart)
+            pattern = u"(?<![\\p{L}\\p{N}])%1(?![\\p{L}\\p{N}])"_s.arg(pattern);
+        result.replace(QRegularExpression(pattern, QRegularExpression::CaseInsensitiveOption |
+                                                       QRegularExpression::UseUnicodePropertiesOption),
+                       secrets.value(word));
+    }
     // Monitors that have gone are known to nobody any more, but their ids have one form.
     static const QRegularExpression id(u"@[^\\s\"',;:)]+"_s);
     result.replace(id, u"@(serial)"_s);

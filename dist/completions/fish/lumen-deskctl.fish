@@ -2,7 +2,7 @@
 # Completion of lumen-deskctl for fish.
 
 set -l commands monitors select get set call watch describe events idle sync apply settings snapshot fireUpdate model \
-    stats actions trigger flowActions queue forgetFirstConnection version package log quit sim services clock ui raw
+    stats actions trigger flowActions queue forgetFirstConnection version package report log quit sim services clock ui raw
 
 function __lumen_deskctl_monitors
     lumen-deskctl --timeout 500 --json monitors 2>/dev/null | string match -rga '"id":"([^"]*)"'
@@ -35,7 +35,7 @@ complete -c lumen-deskctl -n "not __fish_seen_subcommand_from $commands" -a even
 complete -c lumen-deskctl -n "not __fish_seen_subcommand_from $commands" -a sync -d 'Read the monitor back'
 complete -c lumen-deskctl -n "not __fish_seen_subcommand_from $commands" -a settings -d 'List, set or remove settings'
 complete -c lumen-deskctl -n "not __fish_seen_subcommand_from $commands" -a "idle apply snapshot fireUpdate model stats \
-    actions trigger flowActions queue forgetFirstConnection version package log quit"
+    actions trigger flowActions queue forgetFirstConnection version package report log quit"
 complete -c lumen-deskctl -n "not __fish_seen_subcommand_from $commands" -a sim -d 'Simulated monitors'
 complete -c lumen-deskctl -n "not __fish_seen_subcommand_from $commands" -a services -d 'The simulated session'
 complete -c lumen-deskctl -n "not __fish_seen_subcommand_from $commands" -a clock -d 'The clock of the program'

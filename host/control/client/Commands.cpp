@@ -38,6 +38,7 @@ constexpr Command Table[] = {
     {"forgetFirstConnection", "forgetFirstConnection", "", true, "meet the monitor anew at the next launch"},
     {"version", "version", "", false, "print the versions of the running program"},
     {"package", "package", "", false, "list the feature packages"},
+    {"report", "report", "", false, "print a report for a bug ticket, without personal data"},
     {"log", "log", "since:json?", false, "print the log"},
     {"quit", "quit", "", false, "end the program"},
     {"sim get", "sim.get", "code:json window:json?", true, "read a value at the simulated monitor"},

@@ -120,6 +120,7 @@ void TestDeskctl::everyCommandReachesItsMethod_data()
                              "forgetFirstConnection",
                              "version",
                              "package",
+                             "report",
                              "log",
                              "log 5",
                              "sim get 0xF3",
