@@ -129,11 +129,14 @@ bool LuDiagnostics::exportReport()
     const QString path = QDir(folder).filePath(u"lumen-desk-report-%1.txt"_s.arg(stamp));
     const QByteArray bytes = report().toUtf8();
     QSaveFile file(path);
-    const bool written = QDir().mkpath(folder) && file.open(QIODevice::WriteOnly) &&
-                         file.write(bytes) == bytes.size() && file.commit();
-    m_exportedFile = written ? QDir::toNativeSeparators(path) : QString();
+    QString problem;
+    if (!QDir().mkpath(folder))
+        problem = tr("the folder cannot be made");
+    else if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
+        problem = file.errorString();
+    m_exportedFile = problem.isEmpty() ? QDir::toNativeSeparators(path) : QString();
     m_exportProblem =
-        written ? QString() : tr("The report could not be written to %1: %2").arg(path, file.errorString());
+        problem.isEmpty() ? QString() : tr("The report could not be written to %1: %2").arg(path, problem);
     Q_EMIT exported();
-    return written;
+    return problem.isEmpty();
 }
