@@ -181,6 +181,8 @@ bool LuMonitorRegistry::removeMonitor(const QString& id)
     Private::Entry gone = std::move(*entry);
     d->entries.erase(entry);
     LuStatisticsStore::instance().letGo(gone.info);
+    if (const QSharedPointer<ZrDispatch> own = MonitorLink::of(*gone.info).ownQueue())
+        d->retirement.add(own, gone.info, nullptr);
     if (gone.probe)
         d->retirement.add(gone.probe, gone.info, nullptr);
     if (gone.model) {

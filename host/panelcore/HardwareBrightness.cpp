@@ -16,7 +16,9 @@ constexpr int Code = 0x10;
 
 } // namespace
 
-HardwareBrightness::HardwareBrightness(MonitorLink& link) : m_link(link) {}
+HardwareBrightness::HardwareBrightness(MonitorLink& link, const QString& group) : m_link(link), m_group(group)
+{
+}
 
 HardwareBrightness::~HardwareBrightness() = default;
 
@@ -46,7 +48,7 @@ bool HardwareBrightness::write(double fraction)
 void HardwareBrightness::writeLater(double fraction)
 {
     if (!m_queue)
-        m_queue = std::make_unique<ZrDispatch>(QStringLiteral("brightness"));
+        m_queue = QSharedPointer<ZrDispatch>::create(QStringLiteral("brightness"), m_group);
     const unsigned asked = ++m_asked;
     m_queue->postUnique(nullptr, QStringLiteral("write"), [this, fraction, asked] {
         if (asked == m_asked)

@@ -3,8 +3,10 @@
 
 #include <PanelCore/PanelCoreGlobal.h>
 
+#include <QSharedPointer>
+#include <QString>
+
 #include <atomic>
-#include <memory>
 #include <optional>
 
 class MonitorLink;
@@ -14,7 +16,8 @@ class ZrDispatch;
 class PANELCORE_EXPORT HardwareBrightness
 {
 public:
-    explicit HardwareBrightness(MonitorLink& link);
+    /// @p group is that of the queue: the monitor's id.
+    HardwareBrightness(MonitorLink& link, const QString& group);
     ~HardwareBrightness();
 
     /// Asks the monitor: 0 to 1; nothing if it gives no usable answer. Blocks. Any thread but the GUI's.
@@ -28,6 +31,8 @@ public:
     /// As write(), on a thread of the monitor's own; returns at once. Of several calls that wait, the last
     /// one counts. GUI thread.
     void writeLater(double fraction);
+    /// The thread of writeLater(); null before the first. GUI thread.
+    QSharedPointer<ZrDispatch> queue() const { return m_queue; }
 
 private:
     bool transfer(double fraction);
@@ -36,5 +41,6 @@ private:
     std::atomic<int> m_maximum{0};   ///< 0: not read yet.
     std::atomic<double> m_known{-1}; ///< Negative: not known.
     std::atomic<unsigned> m_asked{0};
-    std::unique_ptr<ZrDispatch> m_queue; ///< Made with the first writeLater().
+    const QString m_group;
+    QSharedPointer<ZrDispatch> m_queue; ///< Made with the first writeLater().
 };

@@ -131,7 +131,7 @@ struct MonitorLink::Private
 
 MonitorLink::MonitorLink(const QString& id, std::unique_ptr<ddc::Bus> bus, Waits waits) : d(new Private(id))
 {
-    d->brightness = std::make_unique<HardwareBrightness>(*this);
+    d->brightness = std::make_unique<HardwareBrightness>(*this, id);
     if (!bus)
         return;
     d->transactor = std::make_unique<ddc::Transactor>(
@@ -184,6 +184,11 @@ bool MonitorLink::setVCPWithin(int code, int value, int limitMs)
         d->transactor->setVcpWithin(std::uint8_t(code), std::uint16_t(value), ddc::Transactor::Ms(limitMs));
     // A bus that somebody else holds says nothing about the monitor.
     return error != ddc::Error::Busy && d->note(error);
+}
+
+QSharedPointer<ZrDispatch> MonitorLink::ownQueue() const
+{
+    return d->brightness->queue();
 }
 
 HardwareBrightness& MonitorLink::brightness()

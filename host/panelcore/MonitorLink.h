@@ -18,6 +18,7 @@ namespace ddc {
 class Bus;
 }
 class HardwareBrightness;
+class ZrDispatch;
 
 /// Who a monitor is, as the host found it.
 struct MonitorDescription
@@ -56,6 +57,8 @@ public:
 
     /// The monitor's own brightness, for monitors that no package knows.
     HardwareBrightness& brightness();
+    /// A queue that this handle uses the bus on, beside the model's; null if there is none. GUI thread.
+    QSharedPointer<ZrDispatch> ownQueue() const;
 
     /// Called after every transfer with all its tries, on the thread of the caller: a simulated device counts
     /// faults by it. Set before the handle is in use.
