@@ -169,12 +169,11 @@ void JobQueue::retire(std::function<void()> ended)
         const std::lock_guard lock(m_mutex);
         m_closed = true;
         dropped = takeEverything();
-        m_contexts.clear();
+        // Contexts stay known: the job that runs may not lose its own.
         if (m_running.job)
             m_ended = std::exchange(ended, {});
         m_condition.notify_all();
     }
-    forgetListener(weak_from_this());
     if (ended)
         ended();
     changed();

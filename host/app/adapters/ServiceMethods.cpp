@@ -34,7 +34,7 @@ QJsonValue getState(services::SimulatedServices* session, const Request& request
 QJsonValue setState(services::SimulatedServices* session, const Request& request)
 {
     services::Error error;
-    // The desktop changes by itself; a key press among the signals says so on its way.
+    // The desktop changes by itself.
     const ZrAsker::Scope asker(ZrAsker::Program);
     needed(session).set(request.parameters.text(u"path"_s), request.parameters.value(u"value"_s), &error);
     check(error);
@@ -48,9 +48,11 @@ QJsonValue emitSignal(services::SimulatedServices* session, const Request& reque
     if (!arguments.isObject() && !arguments.isArray())
         throw RequestError(InvalidParameters, u"parameter \"args\" must be an object or a list"_s);
     services::Error error;
-    const ZrAsker::Scope asker(ZrAsker::Program);
+    const QString signal = request.parameters.text(u"signal"_s);
+    // A key is pressed by a person; all else the desktop does by itself.
+    const ZrAsker::Scope asker(signal == "activeKeyEvent"_L1 ? ZrAsker::Person : ZrAsker::Program);
     const QJsonObject answer =
-        needed(session).emitSignal(request.parameters.text(u"signal"_s), arguments, &error);
+        needed(session).emitSignal(signal, arguments, &error);
     check(error);
     return answer;
 }
