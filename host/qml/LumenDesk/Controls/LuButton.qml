@@ -20,7 +20,7 @@ T.Button {
         case LuButton.Link:
             return "transparent"
         default:
-            return hovered || down ? LuStyle.fieldHover : LuStyle.field
+            return down ? LuStyle.fieldPress : hovered ? LuStyle.fieldHover : LuStyle.field
         }
     }
 
@@ -60,6 +60,7 @@ T.Button {
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
         font.weight: control.filled ? LuStyle.weightStrong : Font.Medium
+        opacity: control.down && control.enabled && control.kind === LuButton.Link ? 0.7 : 1
         font.underline: control.kind === LuButton.Link && control.hovered
         color: control.kind === LuButton.Link ? LuStyle.accentText : control.filled ? LuStyle.accentInk : LuStyle.text
     }

@@ -45,7 +45,7 @@ T.RadioButton {
         border.color: LuStyle.text
         Rectangle {
             anchors.centerIn: parent
-            width: control.checked ? 20 : control.hovered ? 26 : 24
+            width: (control.checked ? 20 : 24) + (control.down ? -2 : control.hovered ? 1 : 0)
             height: width
             radius: width / 2
             color: control.swatch

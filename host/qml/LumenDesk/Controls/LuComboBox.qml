@@ -178,6 +178,8 @@ T.ComboBox {
             currentIndex: control.highlightedIndex
             highlightMoveDuration: 0
             boundsBehavior: Flickable.StopAtBounds
+            // Rows are cheap: none is made ahead and late.
+            cacheBuffer: 0
             T.ScrollBar.vertical: LuScrollBar { }
         }
         enter: Transition {

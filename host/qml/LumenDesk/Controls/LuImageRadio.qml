@@ -50,7 +50,8 @@ T.RadioButton {
         radius: LuStyle.radius
         color: {
             if (control.checked)
-                return control.tinted ? LuStyle.accentSoft : control.hovered ? LuStyle.accentHover : LuStyle.accent
+                return control.tinted ? (control.hovered ? LuStyle.accentSoftHover : LuStyle.accentSoft)
+                                      : control.hovered ? LuStyle.accentHover : LuStyle.accent
             return control.hovered ? LuStyle.glyphFillHover : LuStyle.glyphFill
         }
         border.width: control.checked && control.tinted ? 2 : LuStyle.highContrast ? 1 : 0

@@ -63,6 +63,8 @@ FocusScope {
         keyNavigationEnabled: true
         highlightMoveDuration: LuStyle.motion
         boundsBehavior: Flickable.StopAtBounds
+        // Rows are cheap: none is made ahead and late.
+        cacheBuffer: 0
         interactive: contentHeight > height
         T.ScrollBar.vertical: LuScrollBar { }
     }

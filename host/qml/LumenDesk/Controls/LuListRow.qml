@@ -19,7 +19,8 @@ T.ItemDelegate {
     signal arrowClicked()
     signal deleteClicked()
 
-    width: ListView.view ? ListView.view.width : implicitWidth
+    // Beside the bar of a list that scrolls.
+    width: ListView.view ? ListView.view.width - (ListView.view.interactive ? LuStyle.space : 0) : implicitWidth
     implicitHeight: Math.max(36, words.implicitHeight + 2 * 6, side.childrenRect.height + 2 * 3)
     horizontalPadding: LuStyle.space
     focusPolicy: Qt.NoFocus

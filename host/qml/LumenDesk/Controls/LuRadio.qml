@@ -41,7 +41,12 @@ T.RadioButton {
         implicitWidth: 18
         implicitHeight: 18
         radius: 9
-        color: control.checked ? LuStyle.accent : control.hovered ? LuStyle.fieldHover : LuStyle.card
+        color: control.checked ? (control.hovered ? LuStyle.accentHover : LuStyle.accent)
+                               : control.hovered ? LuStyle.fieldHover : LuStyle.card
+        scale: control.down ? 0.92 : 1
+        Behavior on scale {
+            NumberAnimation { duration: LuStyle.motion }
+        }
         border.width: control.checked ? 0 : 1
         border.color: LuStyle.outline
         Behavior on color {

@@ -49,7 +49,7 @@ Rectangle {
                 checked: confirmed
                 focusPolicy: Qt.StrongFocus
                 hoverEnabled: true
-                padding: LuStyle.spaceHalf
+                padding: 2
                 onToggled: control.activated(index)
 
                 Accessible.role: Accessible.RadioButton
@@ -99,6 +99,7 @@ Rectangle {
                     text: segment.text
                     wrapMode: Text.WordWrap
                     maximumLineCount: 2
+                    font.pixelSize: LuStyle.fontSegment
                     font.weight: segment.checked ? LuStyle.weightStrong : Font.Normal
                     color: segment.checked && LuStyle.highContrast ? LuStyle.accentInk : LuStyle.text
                     onImplicitHeightChanged: repeater.highest = Math.max(repeater.highest, implicitHeight + 8)

@@ -38,7 +38,8 @@ T.Switch {
         implicitWidth: 36
         implicitHeight: 20
         radius: height / 2
-        color: control.checked ? (control.hovered ? LuStyle.accentHover : LuStyle.accent) : LuStyle.track
+        color: control.checked ? (control.hovered ? LuStyle.accentHover : LuStyle.accent)
+                               : control.hovered ? LuStyle.trackHover : LuStyle.track
         border.width: control.checked && !LuStyle.highContrast ? 0 : 1
         border.color: LuStyle.outline
         Behavior on color {

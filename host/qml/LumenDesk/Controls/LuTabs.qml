@@ -23,6 +23,8 @@ T.TabBar {
         spacing: bar.spacing
         orientation: ListView.Horizontal
         boundsBehavior: Flickable.StopAtBounds
+        // Rows are cheap: none is made ahead and late.
+        cacheBuffer: 0
         highlightMoveDuration: LuStyle.motion
     }
     background: Rectangle {
@@ -39,7 +41,8 @@ T.TabBar {
             required property string modelData
 
             implicitWidth: label.implicitWidth + 2 * LuStyle.spaceWide
-            height: bar.height
+            implicitHeight: 36
+            width: implicitWidth
             text: modelData
             focusPolicy: Qt.StrongFocus
             hoverEnabled: true

@@ -18,8 +18,8 @@ QtObject {
     readonly property color raised: pick("#FFFFFF", "#2B3038", "#FFFFFF", "#000000")
     readonly property color line: pick("#E4E7EC", "#343A44", "#000000", "#FFFFFF")
     readonly property color field: pick("#EEF1F5", "#323842", "#FFFFFF", "#000000")
-    readonly property color fieldHover: pick("#E5E9EF", "#3A414C", "#FFFFFF", "#000000")
-    readonly property color fieldPress: pick("#DADFE7", "#434B57", "#E6E6E6", "#333333")
+    readonly property color fieldHover: pick("#E5E9EF", "#3A414C", "#E6E6E6", "#333333")
+    readonly property color fieldPress: pick("#DADFE7", "#434B57", "#CCCCCC", "#4D4D4D")
     readonly property color hover: pick("#0D000000", "#12FFFFFF", "#1A000000", "#26FFFFFF")
     readonly property color press: pick("#1A000000", "#1FFFFFFF", "#33000000", "#40FFFFFF")
     readonly property color scrim: pick("#52101620", "#8A000000", "#99000000", "#B3000000")
@@ -41,6 +41,7 @@ QtObject {
     readonly property color accentInk: pick("#FFFFFF", "#FFFFFF", "#FFFFFF", "#000000")
     readonly property color accentText: pick("#0660C6", "#69B1FF", "#0050B0", "#6CB4FF")
     readonly property color accentSoft: pick("#1F097BF8", "#33097BF8", "#1F0050B0", "#336CB4FF")
+    readonly property color accentSoftHover: pick("#33097BF8", "#4D097BF8", "#330050B0", "#4D6CB4FF")
     readonly property color caution: pick("#C42B1C", "#FF8A80", "#A80000", "#FF9C94")
     readonly property color cautionFill: pick("#C42B1C", "#B3261E", "#A80000", "#FF9C94")
     readonly property color cautionFillHover: pick("#A82418", "#C63A31", "#8A0000", "#FFB3AD")
@@ -52,6 +53,7 @@ QtObject {
 
     // Control parts
     readonly property color track: pick("#DFE3E9", "#3D444F", "#FFFFFF", "#000000")
+    readonly property color trackHover: pick("#D0D6DE", "#49515E", "#E6E6E6", "#333333")
     readonly property color outline: pick("#868F9C", "#7E8896", "#000000", "#FFFFFF")
     readonly property color thumb: pick("#FFFFFF", "#FFFFFF", "#FFFFFF", "#FFFFFF")
     readonly property color focus: pick("#0660C6", "#8CC4FF", "#000000", "#FFFF00")
@@ -79,6 +81,7 @@ QtObject {
     readonly property real fontScale: LuContext.fontScale
     readonly property int fontSmall: Math.round(10 * fontScale)
     readonly property int fontCaption: Math.round(11 * fontScale)
+    readonly property int fontSegment: Math.round(12 * fontScale)
     readonly property int fontBody: Math.round(13 * fontScale)
     readonly property int fontTitle: Math.round(15 * fontScale)
     readonly property int fontDisplay: Math.round(20 * fontScale)
