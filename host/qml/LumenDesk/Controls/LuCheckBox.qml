@@ -11,7 +11,7 @@ T.CheckBox {
     property var confirmed
 
     implicitWidth: contentItem.implicitWidth + leftPadding + rightPadding
-    implicitHeight: Math.max(24, contentItem.implicitHeight)
+    implicitHeight: Math.max(LuStyle.scaled(24), contentItem.implicitHeight)
     padding: 0
     spacing: LuStyle.space
     focusPolicy: Qt.StrongFocus
@@ -38,8 +38,8 @@ T.CheckBox {
     indicator: Rectangle {
         x: control.mirrored ? control.width - width : 0
         y: (control.height - height) / 2
-        implicitWidth: 18
-        implicitHeight: 18
+        implicitWidth: LuStyle.scaled(18)
+        implicitHeight: LuStyle.scaled(18)
         radius: 5
         color: control.checked ? (control.hovered ? LuStyle.accentHover : LuStyle.accent)
                                : control.hovered ? LuStyle.fieldHover : LuStyle.card
@@ -65,8 +65,8 @@ T.CheckBox {
         }
     }
     contentItem: LuLabel {
-        leftPadding: control.mirrored ? 0 : 18 + control.spacing
-        rightPadding: control.mirrored ? 18 + control.spacing : 0
+        leftPadding: control.mirrored ? 0 : control.indicator.width + control.spacing
+        rightPadding: control.mirrored ? control.indicator.width + control.spacing : 0
         repeatsName: true
         text: control.text
         verticalAlignment: Text.AlignVCenter

@@ -10,8 +10,8 @@ T.RadioButton {
     property var confirmed
     property color swatch
 
-    implicitWidth: 28
-    implicitHeight: 28
+    implicitWidth: LuStyle.scaled(28)
+    implicitHeight: LuStyle.scaled(28)
     padding: 0
     checked: confirmed ?? false
     focusPolicy: Qt.StrongFocus
@@ -37,15 +37,15 @@ T.RadioButton {
     indicator: Rectangle {
         x: (control.width - width) / 2
         y: (control.height - height) / 2
-        width: 28
-        height: 28
-        radius: 14
+        width: LuStyle.scaled(28)
+        height: width
+        radius: width / 2
         color: "transparent"
         border.width: control.checked ? 2 : 0
         border.color: LuStyle.text
         Rectangle {
             anchors.centerIn: parent
-            width: (control.checked ? 20 : 24) + (control.down ? -2 : control.hovered ? 1 : 0)
+            width: LuStyle.scaled(control.checked ? 20 : 24) + (control.down ? -2 : control.hovered ? 1 : 0)
             height: width
             radius: width / 2
             color: control.swatch
@@ -57,7 +57,7 @@ T.RadioButton {
         }
         LuFocusRing {
             control: control
-            innerRadius: 14
+            innerRadius: LuStyle.scaled(14)
         }
     }
     contentItem: null

@@ -20,8 +20,8 @@ T.ComboBox {
 
     implicitWidth: Math.max(72, Math.ceil(metrics.advanceWidth) + leftPadding + rightPadding + 1)
     implicitHeight: LuStyle.controlHeight
-    leftPadding: mirrored ? 26 : LuStyle.space + 2
-    rightPadding: mirrored ? LuStyle.space + 2 : 26
+    leftPadding: mirrored ? 12 + indicator.width : LuStyle.space + 2
+    rightPadding: mirrored ? LuStyle.space + 2 : 12 + indicator.width
     focusPolicy: Qt.StrongFocus
     hoverEnabled: true
     font.family: LuStyle.fontFamily
@@ -137,8 +137,8 @@ T.ComboBox {
             border.color: LuStyle.outline
         }
         contentItem: LuLabel {
-            rightPadding: control.mirrored ? 0 : 20
-            leftPadding: control.mirrored ? 20 : 0
+            rightPadding: control.mirrored ? 0 : LuStyle.scaled(20)
+            leftPadding: control.mirrored ? LuStyle.scaled(20) : 0
             repeatsName: true
             text: entry.text
             verticalAlignment: Text.AlignVCenter
@@ -161,12 +161,12 @@ T.ComboBox {
             let wide = 0
             for (let i = 0; i < control.count; ++i)
                 wide = Math.max(wide, measure.advanceWidth(control.labelAt(i)))
-            return wide + 2 * LuStyle.space + 20 + 2 * padding + 4
+            return wide + 2 * LuStyle.space + LuStyle.scaled(20) + 2 * padding + 4
         }
 
         y: control.height + LuStyle.spaceHalf
         x: control.mirrored ? 0 : Math.min(0, control.width - width)
-        width: Math.max(control.width, 96, opened ? Math.min(300, widest) : 0)
+        width: Math.max(control.width, 96, opened ? Math.min(LuStyle.scaled(300), widest) : 0)
         height: Math.min(contentItem.implicitHeight + 2 * padding, 280)
         padding: LuStyle.spaceHalf
         margins: LuStyle.space

@@ -11,10 +11,10 @@ Image {
     property color color: LuStyle.text
     property int size: 20
 
-    width: size
-    height: size
-    sourceSize.width: Math.round(size * Screen.devicePixelRatio)
-    sourceSize.height: Math.round(size * Screen.devicePixelRatio)
+    width: LuStyle.scaled(size)
+    height: LuStyle.scaled(size)
+    sourceSize.width: Math.round(width * Screen.devicePixelRatio)
+    sourceSize.height: Math.round(width * Screen.devicePixelRatio)
     source: name ? "image://lumen/" + name + "/" + hex(color) : ""
     Accessible.ignored: true
 

@@ -9,8 +9,8 @@ T.Button {
 
     property string iconName
 
-    implicitWidth: 28
-    implicitHeight: 28
+    implicitWidth: LuStyle.scaled(28)
+    implicitHeight: LuStyle.scaled(28)
     padding: 4
     focusPolicy: Qt.StrongFocus
     hoverEnabled: true
@@ -37,9 +37,12 @@ T.Button {
             gap: 0
         }
     }
-    contentItem: LuIcon {
-        name: control.iconName
-        size: 20
+    contentItem: Item {
+        LuIcon {
+            anchors.centerIn: parent
+            name: control.iconName
+            size: 20
+        }
     }
     LuToolTip {
         visible: control.hovered && !control.down

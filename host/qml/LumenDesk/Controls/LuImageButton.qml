@@ -17,8 +17,8 @@ T.Button {
         return hovered && String(hoveredImage) ? hoveredImage : normalImage
     }
 
-    implicitWidth: imageSize + 2 * padding
-    implicitHeight: imageSize + 2 * padding
+    implicitWidth: LuStyle.scaled(imageSize) + 2 * padding
+    implicitHeight: LuStyle.scaled(imageSize) + 2 * padding
     padding: LuStyle.spaceHalf
     focusPolicy: Qt.StrongFocus
     hoverEnabled: true
@@ -53,7 +53,7 @@ T.Button {
     contentItem: Item {
         LuImage {
             anchors.centerIn: parent
-            size: control.imageSize
+            size: LuStyle.scaled(control.imageSize)
             drawing: control.image
         }
     }

@@ -19,8 +19,8 @@ T.RadioButton {
     readonly property bool tinted: !String(checkedImage)
     readonly property url image: checked && String(checkedImage) ? checkedImage : normalImage
 
-    implicitWidth: Math.max(48, label.implicitWidth)
-    implicitHeight: 48 + (showText ? label.implicitHeight + LuStyle.spaceHalf : 0)
+    implicitWidth: Math.max(indicator.width, showText ? label.implicitWidth : 0)
+    implicitHeight: indicator.height + (showText ? label.implicitHeight + LuStyle.spaceHalf : 0)
     padding: 0
     focusPolicy: Qt.StrongFocus
     checked: confirmed ?? false
@@ -45,8 +45,8 @@ T.RadioButton {
 
     indicator: Rectangle {
         x: (control.width - width) / 2
-        implicitWidth: 48
-        implicitHeight: 48
+        implicitWidth: LuStyle.scaled(48)
+        implicitHeight: LuStyle.scaled(48)
         radius: LuStyle.radius
         color: {
             if (control.checked)
@@ -65,7 +65,7 @@ T.RadioButton {
         }
         LuImage {
             anchors.centerIn: parent
-            size: control.imageSize
+            size: LuStyle.scaled(control.imageSize)
             revision: control.imageRevision
             drawing: control.image
         }

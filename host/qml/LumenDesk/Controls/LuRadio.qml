@@ -11,7 +11,7 @@ T.RadioButton {
     property var confirmed
 
     implicitWidth: contentItem.implicitWidth + leftPadding + rightPadding
-    implicitHeight: Math.max(24, contentItem.implicitHeight)
+    implicitHeight: Math.max(LuStyle.scaled(24), contentItem.implicitHeight)
     padding: 0
     spacing: LuStyle.space
     focusPolicy: Qt.StrongFocus
@@ -38,9 +38,9 @@ T.RadioButton {
     indicator: Rectangle {
         x: control.mirrored ? control.width - width : 0
         y: (control.height - height) / 2
-        implicitWidth: 18
-        implicitHeight: 18
-        radius: 9
+        implicitWidth: LuStyle.scaled(18)
+        implicitHeight: LuStyle.scaled(18)
+        radius: width / 2
         color: control.checked ? (control.hovered ? LuStyle.accentHover : LuStyle.accent)
                                : control.hovered ? LuStyle.fieldHover : LuStyle.card
         scale: control.down ? 0.92 : 1
@@ -54,9 +54,9 @@ T.RadioButton {
         }
         Rectangle {
             anchors.centerIn: parent
-            width: 7
-            height: 7
-            radius: 3.5
+            width: LuStyle.scaled(7)
+            height: width
+            radius: width / 2
             color: LuStyle.accentInk
             scale: control.checked ? 1 : 0
             Behavior on scale {
@@ -65,12 +65,12 @@ T.RadioButton {
         }
         LuFocusRing {
             control: control
-            innerRadius: 9
+            innerRadius: LuStyle.scaled(9)
         }
     }
     contentItem: LuLabel {
-        leftPadding: control.mirrored ? 0 : 18 + control.spacing
-        rightPadding: control.mirrored ? 18 + control.spacing : 0
+        leftPadding: control.mirrored ? 0 : control.indicator.width + control.spacing
+        rightPadding: control.mirrored ? control.indicator.width + control.spacing : 0
         repeatsName: true
         text: control.text
         verticalAlignment: Text.AlignVCenter

@@ -25,8 +25,8 @@ T.Slider {
     signal released()
     signal settled()
 
-    implicitWidth: horizontal ? 160 : 20
-    implicitHeight: horizontal ? 20 : 120
+    implicitWidth: horizontal ? 160 : LuStyle.scaled(20)
+    implicitHeight: horizontal ? LuStyle.scaled(20) : 120
     padding: 0
     focusPolicy: Qt.StrongFocus
     hoverEnabled: true
@@ -125,9 +125,10 @@ T.Slider {
         }
         readonly property real confirmedPosition: (control.confirmedValue - control.from) / (control.to - control.from)
         readonly property real confirmedAt: {
-            const run = (control.horizontal ? width : height) - 16
+            const half = control.handle.width / 2
+            const run = (control.horizontal ? width : height) - 2 * half
             const fromStart = control.horizontal ? control.mirrored : true
-            return 8 + run * (fromStart ? 1 - confirmedPosition : confirmedPosition)
+            return half + run * (fromStart ? 1 - confirmedPosition : confirmedPosition)
         }
 
         Rectangle {
@@ -162,9 +163,9 @@ T.Slider {
     handle: Rectangle {
         x: control.horizontal ? control.visualPosition * (control.availableWidth - width) : (control.availableWidth - width) / 2
         y: control.horizontal ? (control.availableHeight - height) / 2 : control.visualPosition * (control.availableHeight - height)
-        implicitWidth: 16
-        implicitHeight: 16
-        radius: 8
+        implicitWidth: LuStyle.scaled(16)
+        implicitHeight: LuStyle.scaled(16)
+        radius: width / 2
         color: LuStyle.thumb
         border.width: 1
         border.color: control.pressed || control.visualFocus ? control.color : LuStyle.outline
@@ -174,7 +175,7 @@ T.Slider {
         }
         LuFocusRing {
             control: control
-            innerRadius: 8
+            innerRadius: LuStyle.scaled(8)
         }
     }
 }

@@ -17,8 +17,8 @@ FocusScope {
     readonly property int stepSize: 1
     signal edited(int value)
 
-    implicitWidth: Math.max(48, input.implicitWidth + 2 * LuStyle.spaceWide)
-    implicitHeight: input.implicitHeight + 2 * 24 + 2 * LuStyle.spaceHalf
+    implicitWidth: Math.max(LuStyle.scaled(48), input.implicitWidth + 2 * LuStyle.spaceWide)
+    implicitHeight: input.implicitHeight + 2 * LuStyle.scaled(24) + 2 * LuStyle.spaceHalf
     opacity: LuStyle.dim(control)
     activeFocusOnTab: true
 
@@ -64,7 +64,7 @@ FocusScope {
         id: arrow
         property string iconName
         width: control.width
-        height: 24
+        height: LuStyle.scaled(24)
         autoRepeat: true
         focusPolicy: Qt.NoFocus
         hoverEnabled: true

@@ -10,8 +10,8 @@ T.Switch {
     // What the monitor holds, where that is known: a press shows at once and falls back if the monitor does not follow.
     property var confirmed
 
-    implicitWidth: 36
-    implicitHeight: 20
+    implicitWidth: LuStyle.scaled(36)
+    implicitHeight: LuStyle.scaled(20)
     padding: 0
     focusPolicy: Qt.StrongFocus
     checked: confirmed ?? false
@@ -35,8 +35,8 @@ T.Switch {
     }
 
     indicator: Rectangle {
-        implicitWidth: 36
-        implicitHeight: 20
+        implicitWidth: LuStyle.scaled(36)
+        implicitHeight: LuStyle.scaled(20)
         radius: height / 2
         color: control.checked ? (control.hovered ? LuStyle.accentHover : LuStyle.accent)
                                : control.hovered ? LuStyle.trackHover : LuStyle.track
@@ -50,9 +50,9 @@ T.Switch {
             readonly property int inset: 2
             x: inset + (parent.width - width - 2 * inset) * control.visualPosition
             y: inset
-            width: 16
-            height: 16
-            radius: 8
+            width: parent.height - 2 * inset
+            height: width
+            radius: width / 2
             color: LuStyle.highContrast && control.checked ? LuStyle.accentInk : LuStyle.thumb
             border.width: 1
             border.color: control.checked ? "#14000000" : LuStyle.outline
@@ -68,7 +68,7 @@ T.Switch {
 
         LuFocusRing {
             control: control
-            innerRadius: 10
+            innerRadius: LuStyle.scaled(10)
         }
     }
     contentItem: Item { }

@@ -11,7 +11,7 @@ T.TabBar {
     property var model: []
 
     implicitWidth: contentItem.implicitWidth
-    implicitHeight: 36
+    implicitHeight: LuStyle.scaled(36)
     spacing: LuStyle.spaceHalf
     Accessible.role: Accessible.PageTabList
     Accessible.name: text
@@ -41,7 +41,7 @@ T.TabBar {
             required property string modelData
 
             implicitWidth: label.implicitWidth + 2 * LuStyle.spaceWide
-            implicitHeight: 36
+            implicitHeight: LuStyle.scaled(36)
             width: implicitWidth
             text: modelData
             focusPolicy: Qt.StrongFocus

@@ -9,7 +9,7 @@ T.ToolTip {
 
     x: parent ? Math.round((parent.width - implicitWidth) / 2) : 0
     y: parent ? parent.height + LuStyle.spaceHalf : 0
-    implicitWidth: Math.min(240, contentItem.implicitWidth + leftPadding + rightPadding)
+    implicitWidth: Math.min(LuStyle.scaled(240), contentItem.implicitWidth + leftPadding + rightPadding)
     implicitHeight: contentItem.implicitHeight + topPadding + bottomPadding
     horizontalPadding: LuStyle.space
     verticalPadding: LuStyle.spaceHalf

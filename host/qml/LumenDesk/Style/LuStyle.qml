@@ -87,13 +87,13 @@ QtObject {
     readonly property int fontDisplay: Math.round(20 * fontScale)
     readonly property int weightStrong: Font.DemiBold
 
-    // Sizes
-    readonly property int windowWidth: Math.round(340 * Math.max(1, fontScale))
-    readonly property int pageWidth: Math.round(270 * Math.max(1, fontScale))
-    readonly property int tile: 40
-    readonly property int glyphSize: 22
-    readonly property int rowHeight: 48
-    readonly property int controlHeight: Math.round(30 * Math.max(1, fontScale))
+    // Sizes grow with the desktop's font and never shrink below the drawn ones.
+    readonly property int windowWidth: scaled(340)
+    readonly property int pageWidth: scaled(270)
+    readonly property int tile: scaled(40)
+    readonly property int glyphSize: scaled(22)
+    readonly property int rowHeight: scaled(48)
+    readonly property int controlHeight: scaled(30)
 
     // Motion
     readonly property int motion: LuContext.reducedMotion ? 0 : 150
@@ -103,6 +103,11 @@ QtObject {
         if (highContrast)
             return dark ? darkContrast : lightContrast
         return dark ? darkColor : light
+    }
+
+    // A size of the drawing at the size of the desktop's font.
+    function scaled(size: real): int {
+        return Math.round(size * Math.max(1, fontScale))
     }
 
     // The opacity of an item by itself: full, or faded where it is disabled and nothing that it lies in is faded yet.

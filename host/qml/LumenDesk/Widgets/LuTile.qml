@@ -18,7 +18,7 @@ LuWidgetBase {
             return widgetImage.checked
         return button.hovered && String(widgetImage.hovered) ? widgetImage.hovered : widgetImage.normal
     }
-    implicitWidth: 72
+    implicitWidth: LuStyle.scaled(72)
     implicitHeight: LuStyle.tile + LuStyle.spaceHalf + 2 + label.implicitHeight
     opacity: LuStyle.dim(tile)
 
