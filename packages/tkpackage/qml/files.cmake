@@ -8,6 +8,7 @@ set(TKPACKAGE_QML_FILES
   Helpers/Walkthrough.qml
   Popups/qmldir
   Popups/LuPopupLowBlueLightAction.qml
+  Popups/LuPopupNightHoursProtectionAction.qml
   Settings/Advanced/qmldir
   Widgets/qmldir
   Widgets/picture/AxisControls.qml
@@ -22,6 +23,8 @@ set(TKPACKAGE_QML_FILES
   Widgets/LuColorWeaknessWidget.qml
   Widgets/LuHDRWidget.qml
   Widgets/LuLowBlueLightWidget.qml
+  Widgets/LuNightProtectionWidget.qml
+  Widgets/eyecare/NightStateChoice.qml
   Widgets/eyecare/CircadianControls.qml
   Widgets/eyecare/CircadianPlot.qml
   Widgets/picture/ModeBundleHint.qml

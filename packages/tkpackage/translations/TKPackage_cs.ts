@@ -135,4 +135,49 @@
         <translation>Od východu do západu</translation>
     </message>
 </context>
+<context>
+    <name>LuNightProtectionWidget</name>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Ochrana v noci</translation>
+    </message>
+    <message>
+        <source>The Auto Switch automatically activates or deactivates Night Hours Protection based on ambient light detection, ensuring effortless and consistent eye care.</source>
+        <translation>Automatické přepínání zapíná a vypíná ochranu v noci podle okolního světla, takže o oči je trvale a bez námahy postaráno.</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Úroveň</translation>
+    </message>
+</context>
+<context>
+    <name>NightStateChoice</name>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Ochrana v noci</translation>
+    </message>
+    <message>
+        <source>Auto Switch</source>
+        <translation>Automaticky</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Zapnuto</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Vypnuto</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupNightHoursProtectionAction</name>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Ochrana v noci</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Úroveň</translation>
+    </message>
+</context>
 </TS>

@@ -135,4 +135,49 @@
         <translation>Auf- bis Untergang</translation>
     </message>
 </context>
+<context>
+    <name>LuNightProtectionWidget</name>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Nachtschutz</translation>
+    </message>
+    <message>
+        <source>The Auto Switch automatically activates or deactivates Night Hours Protection based on ambient light detection, ensuring effortless and consistent eye care.</source>
+        <translation>Die Automatik schaltet den Nachtschutz nach dem Umgebungslicht ein und aus und schont so die Augen ohne Ihr Zutun.</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Stufe</translation>
+    </message>
+</context>
+<context>
+    <name>NightStateChoice</name>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Nachtschutz</translation>
+    </message>
+    <message>
+        <source>Auto Switch</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupNightHoursProtectionAction</name>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Nachtschutz</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Stufe</translation>
+    </message>
+</context>
 </TS>

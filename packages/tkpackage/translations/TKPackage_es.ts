@@ -135,4 +135,49 @@
         <translation>Del alba al ocaso</translation>
     </message>
 </context>
+<context>
+    <name>LuNightProtectionWidget</name>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Protección nocturna</translation>
+    </message>
+    <message>
+        <source>The Auto Switch automatically activates or deactivates Night Hours Protection based on ambient light detection, ensuring effortless and consistent eye care.</source>
+        <translation>El modo automático activa o desactiva la protección nocturna según la luz ambiental y cuida la vista sin esfuerzo.</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Nivel</translation>
+    </message>
+</context>
+<context>
+    <name>NightStateChoice</name>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Protección nocturna</translation>
+    </message>
+    <message>
+        <source>Auto Switch</source>
+        <translation>Automático</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Activado</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Desactivado</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupNightHoursProtectionAction</name>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Protección nocturna</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Nivel</translation>
+    </message>
+</context>
 </TS>

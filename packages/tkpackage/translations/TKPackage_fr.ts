@@ -135,4 +135,49 @@
         <translation>Lever au coucher</translation>
     </message>
 </context>
+<context>
+    <name>LuNightProtectionWidget</name>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Protection nocturne</translation>
+    </message>
+    <message>
+        <source>The Auto Switch automatically activates or deactivates Night Hours Protection based on ambient light detection, ensuring effortless and consistent eye care.</source>
+        <translation>Le mode automatique active ou désactive la protection nocturne selon la lumière ambiante, pour un confort des yeux sans effort.</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Niveau</translation>
+    </message>
+</context>
+<context>
+    <name>NightStateChoice</name>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Protection nocturne</translation>
+    </message>
+    <message>
+        <source>Auto Switch</source>
+        <translation>Automatique</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Activé</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Désactivé</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupNightHoursProtectionAction</name>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Protection nocturne</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Niveau</translation>
+    </message>
+</context>
 </TS>

@@ -135,4 +135,49 @@
         <translation>Od zore do sumraka</translation>
     </message>
 </context>
+<context>
+    <name>LuNightProtectionWidget</name>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Noćna zaštita</translation>
+    </message>
+    <message>
+        <source>The Auto Switch automatically activates or deactivates Night Hours Protection based on ambient light detection, ensuring effortless and consistent eye care.</source>
+        <translation>Automatsko prebacivanje uključuje i isključuje noćnu zaštitu prema svjetlu u prostoriji i tako bez truda čuva oči.</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Razina</translation>
+    </message>
+</context>
+<context>
+    <name>NightStateChoice</name>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Noćna zaštita</translation>
+    </message>
+    <message>
+        <source>Auto Switch</source>
+        <translation>Automatski</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Uključeno</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Isključeno</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupNightHoursProtectionAction</name>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Noćna zaštita</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Razina</translation>
+    </message>
+</context>
 </TS>

@@ -135,4 +135,49 @@
         <translation>Napkeltétől napnyugtáig</translation>
     </message>
 </context>
+<context>
+    <name>LuNightProtectionWidget</name>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Éjszakai védelem</translation>
+    </message>
+    <message>
+        <source>The Auto Switch automatically activates or deactivates Night Hours Protection based on ambient light detection, ensuring effortless and consistent eye care.</source>
+        <translation>Az automatikus váltás a környezeti fény szerint be- és kikapcsolja az éjszakai védelmet, így a szem kímélése folyamatos.</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Szint</translation>
+    </message>
+</context>
+<context>
+    <name>NightStateChoice</name>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Éjszakai védelem</translation>
+    </message>
+    <message>
+        <source>Auto Switch</source>
+        <translation>Automatikus</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Be</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Ki</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupNightHoursProtectionAction</name>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Éjszakai védelem</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Szint</translation>
+    </message>
+</context>
 </TS>

@@ -135,4 +135,49 @@
         <translation>일출~일몰</translation>
     </message>
 </context>
+<context>
+    <name>LuNightProtectionWidget</name>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>야간 보호</translation>
+    </message>
+    <message>
+        <source>The Auto Switch automatically activates or deactivates Night Hours Protection based on ambient light detection, ensuring effortless and consistent eye care.</source>
+        <translation>자동 전환은 주변 밝기에 따라 야간 보호를 켜고 꺼서 눈을 꾸준히 편안하게 합니다.</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>레벨</translation>
+    </message>
+</context>
+<context>
+    <name>NightStateChoice</name>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>야간 보호</translation>
+    </message>
+    <message>
+        <source>Auto Switch</source>
+        <translation>자동 전환</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>켬</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>끔</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupNightHoursProtectionAction</name>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>야간 보호</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>레벨</translation>
+    </message>
+</context>
 </TS>

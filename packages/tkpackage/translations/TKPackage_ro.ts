@@ -135,4 +135,49 @@
         <translation>Răsărit – apus</translation>
     </message>
 </context>
+<context>
+    <name>LuNightProtectionWidget</name>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Protecție nocturnă</translation>
+    </message>
+    <message>
+        <source>The Auto Switch automatically activates or deactivates Night Hours Protection based on ambient light detection, ensuring effortless and consistent eye care.</source>
+        <translation>Comutarea automată pornește sau oprește protecția nocturnă în funcție de lumina ambiantă și vă menajează constant ochii.</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Nivel</translation>
+    </message>
+</context>
+<context>
+    <name>NightStateChoice</name>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Protecție nocturnă</translation>
+    </message>
+    <message>
+        <source>Auto Switch</source>
+        <translation>Automat</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Pornit</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Oprit</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupNightHoursProtectionAction</name>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Protecție nocturnă</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Nivel</translation>
+    </message>
+</context>
 </TS>

@@ -135,4 +135,49 @@
         <translation>日出至日落</translation>
     </message>
 </context>
+<context>
+    <name>LuNightProtectionWidget</name>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>夜間保護</translation>
+    </message>
+    <message>
+        <source>The Auto Switch automatically activates or deactivates Night Hours Protection based on ambient light detection, ensuring effortless and consistent eye care.</source>
+        <translation>自動切換會依環境光開啟或關閉夜間保護，輕鬆持續地呵護眼睛。</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>等級</translation>
+    </message>
+</context>
+<context>
+    <name>NightStateChoice</name>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>夜間保護</translation>
+    </message>
+    <message>
+        <source>Auto Switch</source>
+        <translation>自動切換</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>開</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>關</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupNightHoursProtectionAction</name>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>夜間保護</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>等級</translation>
+    </message>
+</context>
 </TS>

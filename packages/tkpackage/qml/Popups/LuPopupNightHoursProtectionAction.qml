@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import LumenDesk
+import LumenDesk.Popups
+import LumenDesk.Widgets
+import ".."
+import "../Widgets/eyecare"
+
+// Night hours protection as an action of a flow: what is chosen shows on the monitor at once.
+LuPopupAction {
+    id: _self
+
+    readonly property var nightProtection: monitor?.nightProtection ?? null
+    property int recordedState: LuNightProtection.Off
+
+    title: qsTr("Night Hours Protection")
+
+    function recordProps(): void {
+        recordedState = nightProtection.state
+        const state = actionProperty("state")
+        if (state !== undefined)
+            nightProtection.state = state
+    }
+    function restoreProps(): void {
+        nightProtection.state = recordedState
+    }
+    function collectProps(): var {
+        return { "state": _choice.chosen }
+    }
+
+    NightStateChoice {
+        id: _choice
+        nightProtection: _self.nightProtection
+    }
+    LuInfoBlock {
+        entries: [{ "name": qsTr("Level"), "value": String(_self.nightProtection?.level ?? 0) }]
+    }
+}
