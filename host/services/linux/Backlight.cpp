@@ -105,6 +105,11 @@ void LinuxBacklight::send()
         request = *m_wanted.constBegin();
     }
     m_sending = true;
+    // A call on a bus that is not there never ends.
+    if (!m_bus.isConnected()) {
+        finish(QDBusMessage::createError(QDBusError::Disconnected, QStringLiteral("no system bus")), request);
+        return;
+    }
     QDBusMessage message = QDBusMessage::createMethodCall(
         QStringLiteral("org.freedesktop.login1"), QStringLiteral("/org/freedesktop/login1/session/auto"),
         QStringLiteral("org.freedesktop.login1.Session"), QStringLiteral("SetBrightness"));
