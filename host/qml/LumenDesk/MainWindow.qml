@@ -124,15 +124,22 @@ Window {
         anchors.bottom: parent.bottom
         anchors.left: parent.left
         anchors.right: parent.right
-        contentHeight: (window.empty ? emptyState.implicitHeight : area.implicitHeight) + LuStyle.spaceLarge
+        contentHeight: notices.taken + (window.empty ? emptyState.implicitHeight : area.implicitHeight) + LuStyle.spaceLarge
         boundsBehavior: Flickable.StopAtBounds
         interactive: contentHeight > height
         clip: interactive
         T.ScrollBar.vertical: LuScrollBar { }
 
+        NoticeList {
+            id: notices
+            objectName: "notices"
+            x: LuStyle.spaceLarge
+            width: body.width - 2 * LuStyle.spaceLarge
+        }
         WidgetArea {
             id: area
             x: LuStyle.spaceLarge
+            y: notices.taken
             width: body.width - 2 * LuStyle.spaceLarge
             window: window
             onPageRequested: widget => {
@@ -146,6 +153,7 @@ Window {
         EmptyState {
             id: emptyState
             x: LuStyle.spaceLarge
+            y: notices.taken
             width: body.width - 2 * LuStyle.spaceLarge
             visible: window.empty
         }

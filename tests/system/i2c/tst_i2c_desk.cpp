@@ -3,6 +3,7 @@
 #include "MockBed.h"
 
 #include <QElapsedTimer>
+#include <QFile>
 #include <QTest>
 
 #include <linux/capability.h>
@@ -190,6 +191,26 @@ private Q_SLOTS:
                     .call(u"sync"_s, {{u"monitor"_s, Series}, {u"module"_s, u"LuAiContrast"_s}}, LimitMs)
                     .ok());
         QCOMPARE(get(Series, u"aiContrast.state"_s), QJsonValue(value == 1));
+    }
+
+    void aBuiltInPanelHasTheBrightnessOfItsBackLight()
+    {
+        bed->addPanel(u"eDP-1"_s, makeMonitor(u"Panel@1"_s)->edid());
+        // Without logind the file itself is written.
+        qputenv("DBUS_SYSTEM_BUS_ADDRESS", "unix:path=/nonexistent");
+        const bool started = desk->start({u"--headless"_s, u"--services"_s, u"native"_s});
+        qunsetenv("DBUS_SYSTEM_BUS_ADDRESS");
+        QVERIFY(started);
+        QVERIFY(idle());
+        const QString panel = u"Panel@1"_s;
+        QCOMPARE(ids(), QStringList{panel});
+        QCOMPARE(get(panel, u"brightness.displayBrightness"_s), QJsonValue(25));
+        QVERIFY(setBrightness(panel, 50));
+        const auto light = [] {
+            QFile file(u"/sys/class/backlight/intel_backlight/brightness"_s);
+            return file.open(QIODevice::ReadOnly) ? file.readAll().trimmed() : QByteArray();
+        };
+        QTRY_COMPARE_WITH_TIMEOUT(light(), QByteArray("200"), LimitMs);
     }
 
     void theNextStartFindsTheSettings()
@@ -484,7 +505,7 @@ private Q_SLOTS:
         plugBoth();
         bed->setAccess(*first, false);
         desk->setChildModifier(dropFileRights);
-        QVERIFY(start());
+        QVERIFY(desk->start({u"--services"_s, u"simulated"_s}));
         QCOMPARE(ids(), (QStringList{Other, Series}));
         const auto notices = [this] { return desk->client().get(u"context.notices"_s).toArray(); };
         QTRY_COMPARE_WITH_TIMEOUT(notices().size(), 1, LimitMs);
@@ -495,6 +516,14 @@ private Q_SLOTS:
                      notice.contains(u"group"),
                  qPrintable(notice));
         QCOMPARE(log().count(notice), 1);
+        QVERIFY(desk->client().call(u"ui.show"_s).ok());
+        const auto shown = [&] {
+            const QJsonValue tree = desk->client().call(u"ui.tree"_s).result;
+            const QJsonArray list = tree.isArray() ? tree.toArray() : QJsonArray{tree};
+            return QString::fromUtf8(QJsonDocument(list).toJson())
+                .contains(u"No permission to use /dev/i2c-4");
+        };
+        QTRY_VERIFY_WITH_TIMEOUT(shown(), LimitMs);
         // The other one is not held up.
         QVERIFY(setBrightness(Other, 12));
         QVERIFY(idle());
@@ -503,6 +532,7 @@ private Q_SLOTS:
         bed->setAccess(*first, true);
         bed->sendBusEvent(*first);
         QTRY_COMPARE_WITH_TIMEOUT(notices().size(), 0, LimitMs);
+        QTRY_VERIFY_WITH_TIMEOUT(!shown(), LimitMs);
         QTRY_COMPARE_WITH_TIMEOUT(ids(), (QStringList{Other, Series}), LimitMs);
         QVERIFY(idle());
         const bool now = get(Series, u"aiContrast.state"_s).toBool();
