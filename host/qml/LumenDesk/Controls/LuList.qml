@@ -30,6 +30,8 @@ FocusScope {
     Accessible.role: Accessible.List
     Accessible.name: text
 
+    Keys.onDownPressed: view.incrementCurrentIndex()
+    Keys.onUpPressed: view.decrementCurrentIndex()
     Keys.onReturnPressed: {
         if (list.hasSelection)
             list.activated(list.currentIndex)
@@ -60,7 +62,7 @@ FocusScope {
         clip: true
         spacing: 1
         currentIndex: -1
-        keyNavigationEnabled: true
+        keyNavigationEnabled: false
         highlightMoveDuration: LuStyle.motion
         boundsBehavior: Flickable.StopAtBounds
         // Rows are cheap: none is made ahead and late.

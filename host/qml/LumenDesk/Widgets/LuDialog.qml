@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
 import QtQuick.Templates as T
-import QtQuick.Window
 import LumenDesk
 import LumenDesk.Controls
 import LumenDesk.Style
@@ -48,29 +47,39 @@ FocusScope {
         close()
     }
 
-    function holds(item: Item): bool {
-        for (let one = item; one; one = one.parent) {
-            if (one === dialog)
-                return true
+    // What the tabulator reaches below an item, in the order of the drawing.
+    function stops(item: Item): var {
+        let found = []
+        for (let i = 0; i < item.children.length; ++i) {
+            const child = item.children[i]
+            if (!child.visible || !child.enabled)
+                continue
+            if (child.activeFocusOnTab)
+                found.push(child)
+            found = found.concat(stops(child))
         }
-        return false
+        return found
     }
 
     // Focus goes round inside while the dialog is there.
-    function moveFocus(forward: bool): void {
-        let item = dialog.Window.activeFocusItem ?? dialog
-        for (let steps = 0; steps < 500 && item; ++steps) {
-            item = item.nextItemInFocusChain(forward)
-            if (item && item !== dialog && holds(item)) {
-                item.forceActiveFocus(forward ? Qt.TabFocusReason : Qt.BacktabFocusReason)
-                return
-            }
+    function focusEnd(last: bool): void {
+        const all = stops(card)
+        const item = all[last ? all.length - 1 : 0]
+        if (item)
+            item.forceActiveFocus(last ? Qt.BacktabFocusReason : Qt.TabFocusReason)
+    }
+
+    // Stands before or after the card in the tabulator's way and sends it to the other end.
+    component Fence: Item {
+        property bool toLast: false
+        activeFocusOnTab: true
+        onActiveFocusChanged: {
+            if (activeFocus)
+                dialog.focusEnd(toLast)
         }
     }
 
     Keys.onEscapePressed: dialog.dismiss()
-    Keys.onTabPressed: dialog.moveFocus(true)
-    Keys.onBacktabPressed: dialog.moveFocus(false)
 
     ParallelAnimation {
         id: appear
@@ -101,6 +110,9 @@ FocusScope {
             onClicked: dialog.dismiss()
             onWheel: event => event.accepted = true
         }
+    }
+    Fence {
+        toLast: true
     }
     LuSurface {
         id: card
@@ -181,4 +193,5 @@ FocusScope {
             }
         }
     }
+    Fence { }
 }
