@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "services/kvm/KvmIdentity.h"
+
+#include <QHostAddress>
+#include <QJsonObject>
+#include <QObject>
+#include <QSslSocket>
+#include <QTimer>
+
+namespace services {
+
+/// One TLS connection to another Lumen Desk: JSON objects of at most 4 KiB, one a line.
+///
+/// Both sides show a certificate; whose it is, the owner of the link judges in ready(). Nothing is delivered
+/// before. A link that breaks a rule of the form closes. GUI thread only.
+class KvmLink : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Dials.
+    KvmLink(const KvmIdentity& identity, const QHostAddress& address, quint16 port, QObject* parent);
+    /// Answers a call.
+    KvmLink(const KvmIdentity& identity, qintptr descriptor, QObject* parent);
+
+    bool isDialer() const { return m_dialer; }
+    QByteArray peerFingerprint() const;
+    QHostAddress peerAddress() const { return m_socket->peerAddress(); }
+
+    void send(const QJsonObject& message);
+
+    /// Ends the connection and tells closed(), later, where it has not been told.
+    void close(const QString& reason);
+
+Q_SIGNALS:
+    void ready();
+    void received(const QJsonObject& message);
+    void closed(const QString& reason);
+
+private:
+    void setUp(const KvmIdentity& identity);
+    void read();
+    void watchSilence();
+
+    QSslSocket* m_socket;
+    const bool m_dialer;
+    bool m_ready = false;
+    bool m_closed = false;
+    bool m_heard = true;
+    QByteArray m_line;
+    QTimer m_timer;
+};
+
+} // namespace services
