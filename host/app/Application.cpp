@@ -6,6 +6,7 @@
 #include "RealMonitors.h"
 #include "SimulatedMonitors.h"
 #include "adapters/ClockMethods.h"
+#include "adapters/KvmMethods.h"
 #include "adapters/ServiceMethods.h"
 #include "adapters/SimulatorMethods.h"
 #include "adapters/WindowMethods.h"
@@ -293,6 +294,7 @@ void Application::addControlMethods()
     backend.quit = [this] { quit(); };
     control::MonitorAccess* access = control::addAllMethods(m_server.get(), backend);
     addClockMethods(m_server.get(), m_services != nullptr);
+    addKvmMethods(m_server.get());
     addServiceMethods(m_server.get(), m_services.get());
     addSimulatorMethods(m_server.get(), access, m_simulated.get());
     addWindowMethods(m_server.get(), [this] { return m_bridge.get(); });

@@ -7,7 +7,7 @@ run_packages=(
   build-essential cmake ninja-build ccache pkg-config
   qt6-base-dev qt6-base-private-dev qt6-base-dev-tools qt6-declarative-dev qt6-declarative-dev-tools qt6-multimedia-dev
   qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libqt6svg6 qt6-svg-plugins qt6-shader-baker
-  libgl-dev libvulkan-dev libxkbcommon-dev libegl-dev libxcb1-dev libudev-dev libpulse-dev
+  libgl-dev libvulkan-dev libxkbcommon-dev libegl-dev libxcb1-dev libudev-dev libpulse-dev libssl-dev
   libxcb-randr0-dev libxcb-record0-dev libxcb-res0-dev libxcb-xinput-dev libxcb-xtest0-dev libxkbcommon-x11-dev
   qml6-module-qtqml qml6-module-qtqml-workerscript qml6-module-qtquick qml6-module-qtquick-window
   qml6-module-qtquick-templates

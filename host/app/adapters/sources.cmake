@@ -2,6 +2,7 @@
 # Methods of the control socket that reach the simulator, the session and the windows.
 set(LUMEN_ADAPTER_SOURCES
   adapters/ClockMethods.cpp
+  adapters/KvmMethods.cpp
   adapters/ServiceMethods.cpp
   adapters/SimulatorMethods.cpp
   adapters/WindowMethods.cpp)

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "NativeServices.h"
 
+#include <ZrCore/ZrS.h>
+
+#include "services/kvm/NativeKvm.h"
 #include "services/linux/Backlight.h"
 #include "services/linux/Location.h"
 #include "services/pulse/PulseAudio.h"
@@ -20,5 +23,10 @@ services::ServiceSet services::nativeServices()
     set.location = makeLinuxLocation();
     if (set.name == QLatin1String("x11"))
         x11::addServices(&set);
+    if (set.pointer) {
+        KvmChannelOptions channel;
+        channel.folder = ZrS::dataPath() + QStringLiteral("/kvm");
+        set.kvm = std::make_shared<NativeKvm>(set.pointer, channel);
+    }
     return set;
 }
