@@ -99,8 +99,12 @@ void addWaitingMethods(Dispatcher& dispatcher, MonitorAccess* access)
 {
     dispatcher.addAsyncMethod(u"idle"_s, {u"monitor"_s}, [access](const Request& request) {
         LuMonitorModel* const model = access->monitor(request);
-        // Not what other monitors have to do: one of them may hang.
-        ZrIdle::notifyGroup(model->id(), access, [reply = request.reply] { reply.done(); });
+        const auto done = [reply = request.reply] { reply.done(); };
+        // Whoever names a monitor does not await what others have to do: one of them may hang.
+        if (request.parameters.contains(u"monitor"_s))
+            ZrIdle::notifyGroup(model->id(), access, done);
+        else
+            ZrIdle::notify({}, access, done);
     });
     dispatcher.addAsyncMethod(u"sync"_s, {u"monitor"_s, u"module"_s}, [access](const Request& request) {
         LuMonitorModel* const model = access->monitor(request);
