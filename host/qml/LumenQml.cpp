@@ -23,6 +23,8 @@ using namespace Qt::StringLiterals;
 static void initResources()
 {
     Q_INIT_RESOURCE(lumenqml);
+    Q_INIT_RESOURCE(lumenqml_fallback);
+    Q_INIT_RESOURCE(lumenqml_shaders);
 }
 
 namespace {
