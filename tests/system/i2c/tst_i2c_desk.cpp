@@ -104,7 +104,14 @@ private:
     {
         return set(id, u"brightness.displayBrightness"_s, value);
     }
-    bool idle() const { return desk->client().call(u"idle"_s, {}, LimitMs).ok(); }
+    /// Every monitor has come to rest.
+    bool idle() const
+    {
+        const QStringList all = ids();
+        return std::all_of(all.begin(), all.end(), [this](const QString& id) {
+            return desk->client().call(u"idle"_s, {{u"monitor"_s, id}}, LimitMs).ok();
+        });
+    }
     QJsonObject stats(const QString& id) const
     {
         return desk->client().call(u"stats"_s, {{u"monitor"_s, id}}).result.toObject();
@@ -301,6 +308,31 @@ private Q_SLOTS:
         QVERIFY(setBrightness(Other, 8));
         QVERIFY(idle());
         QCOMPARE(other->value(Brightness).value_or(999), std::uint16_t(8));
+    }
+
+    void aDisplayThatFallsAsleepIsReadNoMore()
+    {
+        const QString awake = u"TK30Z@AWAKE"_s;
+        sim::Monitor& neighbour = add(awake);
+        bed->plug(*first, *series);
+        bed->plug(*second, neighbour);
+        QVERIFY(start({u"--sync-period"_s, u"20"_s}));
+        QVERIFY(idle());
+        for (const QString& id : {Series, awake})
+            QVERIFY(set(id, u"aiContrast.syncEnable"_s, true));
+        const auto readAgain = [](const sim::Monitor& monitor) {
+            const auto before = monitor.traffic().size();
+            return QTest::qWaitFor([&] { return monitor.traffic().size() > before + 5; }, LimitMs);
+        };
+        QVERIFY(readAgain(*series));
+        bed->setPower(*first, "Off");
+        QTRY_VERIFY_WITH_TIMEOUT(log().contains(Series + u" sleeps"_s), LimitMs);
+        QVERIFY(readAgain(neighbour)); // the round that was on its way has ended by then
+        const auto asleep = series->traffic().size();
+        QVERIFY(readAgain(neighbour));
+        QCOMPARE(series->traffic().size(), asleep);
+        bed->setPower(*first, "On");
+        QVERIFY(readAgain(*series));
     }
 
     void swappedTwinsKeepTheirValuesApart()
