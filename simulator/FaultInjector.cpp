@@ -32,6 +32,7 @@ void FaultInjector::arm(const Fault& fault)
 void FaultInjector::clear()
 {
     m_armed.clear();
+    m_met = 0;
     if (m_current)
         m_current->fault.reset();
 }
@@ -57,6 +58,8 @@ std::optional<Fault> FaultInjector::begin(const Subject& subject, Clock::time_po
     m_current->last = now;
     const auto& fault = m_current->fault;
     if (!fault || (fault->probability && m_random() / 4294967296.0 >= *fault->probability))
+        return std::nullopt;
+    if (fault->every && ++m_met % *fault->every != 0)
         return std::nullopt;
     return fault;
 }

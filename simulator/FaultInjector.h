@@ -52,6 +52,7 @@ private:
 
     std::mt19937 m_random;
     std::vector<Fault> m_armed;
+    int m_met = 0; ///< Tries that a fault with `every` has met so far.
     std::optional<Transaction> m_current;
 };
 

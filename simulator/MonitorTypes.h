@@ -39,6 +39,7 @@ struct Fault
     std::optional<Op> op;             ///< Only this direction; absent: both.
     std::optional<int> count; ///< So many transactions, each with all its tries; absent: until cleared.
     std::optional<double> probability;      ///< 0 to 1, drawn for each try anew; absent: every try.
+    std::optional<int> every;               ///< Only each so-manieth of the tries that it meets.
     std::chrono::milliseconds blocks{1000}; ///< How long a Timeout holds the bus.
 };
 

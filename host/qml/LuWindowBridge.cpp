@@ -253,8 +253,8 @@ QList<QObject*> LuWindowBridge::scopes(const QString& within) const
     return result;
 }
 
-LuWindowBridge::Found LuWindowBridge::find(const QString& name, const QString& role,
-                                           const QString& within) const
+LuWindowBridge::Found LuWindowBridge::find(const QString& name, const QString& role, const QString& within,
+                                           const std::function<bool(const QQuickItem*)>& accepts) const
 {
     if (!window())
         return {nullptr, {}, noWindow()};
@@ -268,6 +268,8 @@ LuWindowBridge::Found LuWindowBridge::find(const QString& name, const QString& r
         const QList<LuAccessibleTree::Node> nodes = LuAccessibleTree::nodesBelow(root);
         for (const LuAccessibleTree::Node& node : nodes) {
             if (node.name != name || (!role.isEmpty() && node.role != role))
+                continue;
+            if (role.isEmpty() && accepts && !accepts(node.item))
                 continue;
             if (!node.item->isEnabled()) {
                 label = {nullptr, node.role,
@@ -300,15 +302,24 @@ LuWindowBridge::Result LuWindowBridge::press(const QString& name, const QString&
 LuWindowBridge::Result LuWindowBridge::setValue(const QString& name, const QVariant& value,
                                                 const QString& role, const QString& within)
 {
-    const Found found = find(name, role, within);
+    const bool isChoice = value.typeId() == QMetaType::Bool;
+    const auto hasValue = [](const QQuickItem* item) {
+        return item->metaObject()->indexOfMethod("assistiveSet(QVariant)") >= 0;
+    };
+    // A button may have the name of the slider that it leads to.
+    Found found = find(name, role, within, [&](const QQuickItem* item) {
+        return hasValue(item) || (isChoice && item->property("checked").isValid());
+    });
+    if (!found.item && found.error.code == NoSuchThing)
+        found = find(name, role, within);
     if (!found.item)
         return found.error;
-    if (value.typeId() == QMetaType::Bool && found.item->property("checked").isValid()) {
+    if (isChoice && found.item->property("checked").isValid()) {
         if (found.item->property("checked") != value)
             QMetaObject::invokeMethod(found.item, "assistivePress");
         return {};
     }
-    if (found.item->metaObject()->indexOfMethod("assistiveSet(QVariant)") < 0)
+    if (!hasValue(found.item))
         return failure(NotWritable, u"the control has no value: %1"_s.arg(name));
     bool taken = false;
     QMetaObject::invokeMethod(found.item, "assistiveSet", Q_RETURN_ARG(bool, taken), Q_ARG(QVariant, value));

@@ -10,6 +10,7 @@
 #include <QStringList>
 #include <QVariant>
 
+#include <functional>
 #include <optional>
 
 class QQmlEngine;
@@ -100,7 +101,9 @@ private:
     QQuickItem* widgetItem(const QString& name) const;
     QQuickItem* openPagePanel() const;
     QList<QObject*> scopes(const QString& within) const;
-    Found find(const QString& name, const QString& role, const QString& within) const;
+    /// @param accepts what else the control has to be, beside its name and role.
+    Found find(const QString& name, const QString& role, const QString& within,
+               const std::function<bool(const QQuickItem*)>& accepts = {}) const;
     QQuickItem* popupItem(const QString& type) const;
 
     QStringList m_warnings;

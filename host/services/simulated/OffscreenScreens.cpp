@@ -119,6 +119,25 @@ bool OffscreenScreens::apply(const QJsonArray& screens)
     return true;
 }
 
+void OffscreenScreens::nameAll()
+{
+    QJsonArray screens = present();
+    bool named = true;
+    for (int index = 0; index < screens.size(); ++index) {
+        QJsonObject screen = screens[index].toObject();
+        if (!screen[u"name"].toString().isEmpty())
+            continue;
+        named = false;
+        screen[u"name"] = QStringLiteral("offscreen-%1").arg(index + 1);
+        screens[index] = screen;
+    }
+    if (named)
+        return;
+    apply(screens);
+    // These are the ones to come back to.
+    m_original = {};
+}
+
 void OffscreenScreens::restore()
 {
     if (m_original.isEmpty())

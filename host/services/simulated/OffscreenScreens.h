@@ -21,6 +21,9 @@ public:
     /// whose screens are real; nothing has changed then.
     bool apply(const QJsonArray& screens);
 
+    /// Gives screens without a name one, since monitors name the screen that shows them.
+    void nameAll();
+
     /// Back to the screens that were there before the first apply().
     void restore();
 

@@ -62,6 +62,7 @@ void SimulatedServices::install()
 {
     m_installed = true;
     Registry::install(servicesOf(m_world));
+    m_screens.nameAll();
     for (const QString& scheme : addressSchemes)
         QDesktopServices::setUrlHandler(scheme, this, "openAddress");
 }

@@ -39,6 +39,8 @@ LuBrightness::LuBrightness(LuMonitorModel* model)
     m_softwareDimming = new LuSoftwareDimming(this, model);
     model->registerForceSyncPairs(model, QMetaMethod::fromSignal(&LuMonitorModel::colorModeChanged),
                                   QStringLiteral("LuBrightness"));
+    // At once, on the thread that changes the mode: the read-back that follows takes the new mode's values.
+    connect(model, &LuMonitorModel::colorModeChanged, this, &LuBrightness::forgetMode, Qt::DirectConnection);
     connect(model, &LuMonitorModel::colorModeChanged, this, &LuBrightness::colorModeNameChanged);
 }
 
@@ -71,9 +73,12 @@ QString LuBrightness::modeKey(const char* name) const
 
 void LuBrightness::loadSettings()
 {
-    const QString key = modeKey(BrightnessName);
-    m_brightnessKnown = hasModuleSetting(key);
-    m_brightness = qBound(Lowest, moduleSetting(key, m_brightness.get()).toInt(), Highest);
+    bool isNumber = false;
+    const int stored = moduleSetting(modeKey(BrightnessName), QVariant()).toInt(&isNumber);
+    m_settingsLoaded = true;
+    m_brightnessKnown = isNumber;
+    if (isNumber)
+        m_brightness = qBound(Lowest, stored, Highest);
     if (model()->colorMode())
         loadControls();
     restoreDimming();
@@ -108,7 +113,7 @@ void LuBrightness::applyValues()
 // In a colour mode that nobody has used yet there is nothing to restore: the first value would be black.
 void LuBrightness::applyBrightness()
 {
-    if (!m_brightnessKnown)
+    if (!m_brightnessKnown && m_settingsLoaded)
         return;
     if (model()->isModelSupported()) {
         const int hardware = hardwareValueOf(m_brightness);
@@ -235,7 +240,8 @@ void LuBrightness::syncBrightness(bool firstConnection)
         value = LuDimmingTable::fromHardware(m_softwareDimming->opacity(), value);
         m_softwareDimming->adjustOpacity(value);
     }
-    m_brightnessKnown = true;
+    if (!m_brightnessKnown.exchange(true))
+        setModuleSetting(modeKey(BrightnessName), qBound(Lowest, value, Highest));
     if (takeReported(
             m_brightness, qBound(Lowest, value, Highest), modeKey(BrightnessName),
             "[LuBrightness] sync hardware brightness changed:", &LuBrightness::announceReadBrightness))

@@ -265,7 +265,7 @@ private:
     struct Value
     {
         ZrShared<int> number{0};
-        ZrShared<bool> known{false}; ///< Stored, set or read once; nothing else is written at launch.
+        ZrShared<bool> known{false}; ///< Stored, set or read in this mode; nothing else is written at launch.
     };
     static const std::array<Control, ControlCount> Controls;
 
@@ -298,6 +298,8 @@ private:
     void syncBacklightControl();
     void syncUniformity();
     void addControlTasks(LuSyncTasks* tasks);
+    /// In another mode nothing is known until it is loaded, set or read.
+    void forgetMode();
     void loadControls();
     void applyControls();
     void applyGroup(const char* name, const QList<ControlId>& ids);
@@ -308,7 +310,8 @@ private:
     QList<int> m_supportedGamut;
     QList<int> m_supportedPresetColorTemp;
     LuSoftwareDimming* m_softwareDimming = nullptr;
-    bool m_byShortcut = false; ///< Only while a shortcut's handler runs.
+    bool m_settingsLoaded = false; ///< Without, a launch writes what the members began with.
+    bool m_byShortcut = false;     ///< Only while a shortcut's handler runs.
     ZrShared<bool> m_hardwareBrightnessEnable{true};
     ZrShared<int> m_brightness{0};
     ZrShared<bool> m_brightnessKnown{false};

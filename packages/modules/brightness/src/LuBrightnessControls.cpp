@@ -143,9 +143,11 @@ bool LuBrightness::syncControl(ControlId id)
     if (!getVCP(control.code, value))
         return false;
     const QByteArray text = QByteArray("[LuBrightness] sync ") + control.name + " changed:";
-    m_values[id].known = true;
-    takeReported(m_values[id].number, LuPictureValues::fromVcp(control.kind, value), modeKey(control.setting),
-                 text.constData(), control.changed);
+    const int number = LuPictureValues::fromVcp(control.kind, value);
+    // What is seen for the first time is kept also if it is what the member began with.
+    if (!m_values[id].known.exchange(true))
+        setModuleSetting(modeKey(control.setting), number);
+    takeReported(m_values[id].number, number, modeKey(control.setting), text.constData(), control.changed);
     return true;
 }
 
@@ -182,9 +184,18 @@ void LuBrightness::syncUniformity()
     int value = 0;
     if (!getVCP(UniformityCode, value))
         return;
-    m_uniformityKnown = true;
+    if (!m_uniformityKnown.exchange(true))
+        setModuleSetting(modeKey(UniformityName), value == On);
     takeReported(m_uniformity, value == On, modeKey(UniformityName),
                  "[LuBrightness] sync uniformity changed:", &LuBrightness::displayUniformityChanged);
+}
+
+void LuBrightness::forgetMode()
+{
+    m_brightnessKnown = false;
+    m_uniformityKnown = false;
+    for (Value& value : m_values)
+        value.known = false;
 }
 
 void LuBrightness::loadControls()
@@ -194,8 +205,9 @@ void LuBrightness::loadControls()
         const QString key = modeKey(Controls[id].setting);
         if (!modeHas(id) || !hasModuleSetting(key))
             continue;
-        const int number = moduleSetting(key, valueOf(id)).toInt();
-        if (!LuPictureValues::isValid(Controls[id].kind, number))
+        bool isNumber = false;
+        const int number = moduleSetting(key, QVariant()).toInt(&isNumber);
+        if (!isNumber || !LuPictureValues::isValid(Controls[id].kind, number))
             continue;
         m_values[id].number = number;
         m_values[id].known = true;
@@ -224,7 +236,7 @@ void LuBrightness::applyControls()
     applyGroup("saturation", axesOf(Saturation));
     applyGroup("gamma", {Gamma});
     applyGroup("gamut", {Gamut});
-    if (colorModeAllows(&LuVCPNode::uniformityEnable) && m_uniformityKnown) {
+    if (colorModeAllows(&LuVCPNode::uniformityEnable) && (m_uniformityKnown || !m_settingsLoaded)) {
         qInfo() << "[LuBrightness] apply uniformity:" << m_uniformity;
         setVCP(UniformityCode, m_uniformity ? On : Off);
         Q_EMIT displayUniformityChanged();
@@ -237,7 +249,7 @@ void LuBrightness::applyGroup(const char* name, const QList<ControlId>& ids)
     QList<ControlId> known;
     QByteArray text = QByteArray("[LuBrightness] apply ") + name + ':';
     for (const ControlId id : ids) {
-        if (!modeHas(id) || !m_values[id].known)
+        if (!modeHas(id) || (!m_values[id].known && m_settingsLoaded))
             continue;
         known.append(id);
         text += ' ' + QByteArray::number(valueOf(id));

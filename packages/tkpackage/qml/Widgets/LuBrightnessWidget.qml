@@ -83,6 +83,7 @@ LuWidget {
                 onClicked: _self.trigger()
                 Accessible.role: enabled ? Accessible.Button : Accessible.StaticText
                 Accessible.name: text
+                Accessible.description: enabled ? qsTr("Color Mode / Brightness") : ""
                 Accessible.onPressAction: title.assistivePress()
 
                 // What a click does, for the return key, assistive software and scripts.
@@ -131,13 +132,6 @@ LuWidget {
         BrightnessSliders {
             rules: _self.rules
             owner: _self
-        }
-        LuLabel {
-            width: parent.width
-            visible: !_self.supported && !(_self.monitor?.isModelBuiltIn ?? false)
-            kind: LuLabel.Caption
-            wrapMode: Text.WordWrap
-            text: qsTr("This monitor is not supported: only the brightness of the system can follow.")
         }
     }
 
