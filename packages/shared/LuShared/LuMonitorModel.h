@@ -111,6 +111,9 @@ public:
                             LuModelModuleInterface* module, const QVariantMap& properties);
     void unregisterFlowActions(const QString& flowId, LuModelModuleInterface* module);
 
+    /// Whether this run reads monitors back by itself. Any thread.
+    bool autoSyncEnabled() const;
+
     /// Whether the widget of that name, such as "LuVolumeWidget", stands in the package's list.
     bool inWidgets(const QString& widgetName) const;
     /// All modules in the order of their construction.
@@ -187,7 +190,6 @@ protected:
     void loadModuleSettings();
     void initForceSyncConnections();
     void readVcpDelays();
-    bool autoSyncEnabled() const;
     /// Decides whether this monitor is new to this version of the package.
     void checkFirstConnected(const QString& version);
     void initialSync();
