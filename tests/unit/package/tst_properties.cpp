@@ -24,6 +24,10 @@ QVariant anotherValue(const QMetaProperty& property, const QVariant& present)
         const QMetaEnum names = property.enumerator();
         return names.value(0) == present.toInt() ? names.value(1) : names.value(0);
     }
+    if (const auto* node = present.value<LuVCPNode*>()) {
+        const QList<LuVCPNode*> nodes = qobject_cast<LuMonitorModel*>(node->parent())->colorModeList();
+        return QVariant::fromValue(nodes.at((nodes.indexOf(node) + 1) % nodes.size()));
+    }
     const QLatin1String name(property.name());
     const auto oneOf = [&present](const QVariant& a, const QVariant& b) { return present == a ? b : a; };
     switch (property.metaType().id()) {
@@ -39,6 +43,8 @@ QVariant anotherValue(const QMetaProperty& property, const QVariant& present)
     case QMetaType::QString:
         if (name == QLatin1String("colorModeName"))
             return oneOf(QStringLiteral("Cinema"), QStringLiteral("Game"));
+        if (name.endsWith(QLatin1String("Source")))
+            return oneOf(QStringLiteral("HDMI"), QStringLiteral("DisplayPort"));
         return present.toString() + QStringLiteral("x");
     default:
         return {};
@@ -77,6 +83,10 @@ bool survivesRestart(const QString& module, const QMetaProperty& property)
     };
     if (module == QLatin1String("LuBrightness") &&
         brightnessExceptions.contains(QLatin1String(property.name())))
+        return false;
+    // Without a divided picture the pointer feature goes off again.
+    if (module == QLatin1String("LuSmartKvmBasic") &&
+        QLatin1String(property.name()) == QLatin1String("basicState"))
         return false;
     // The monitor holds the state of local contrast: see its own test.
     return !isTransient(property) && module != QLatin1String("LuAiContrast");
