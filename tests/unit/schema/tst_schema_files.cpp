@@ -151,9 +151,9 @@ void tst_SchemaFiles::choicesKeepTheirOrder_data()
     QTest::newRow("gamma") << u"TK10"_s << u"Gamma"_s << u"1.8,2.0,2.2,2.4,2.6,sRGB"_s;
     QTest::newRow("audio") << u"TK20"_s << u"Audio Mode"_s << u"Standard,Dialogue,Music"_s;
     QTest::newRow("layouts") << u"TK30Z"_s << u"PIP PBP AB"_s << u"PIP,PBP,PBP 2:1,PBP 3:1,PBPx4"_s;
-    QTest::newRow("inputs") << u"TK30Z"_s << u"Input Source"_s << u"HDMI,DisplayPort,USB-C"_s;
+    QTest::newRow("inputs") << u"TK30Z"_s << u"Input Source"_s << u"DisplayPort,HDMI,USB-C"_s;
     QTest::newRow("two HDMI inputs") << u"TK40"_s << u"Input Source"_s
-                                     << u"DVI,HDMI1,HDMI2,DisplayPort,MiniDisplayPort,USB-C,Thunderbolt3"_s;
+                                     << u"DVI,USB-C,HDMI1,HDMI2,DisplayPort,MiniDisplayPort,Thunderbolt3"_s;
     QTest::newRow("kvm") << u"TK30Z"_s << u"Kvm"_s << u"Auto,TypeC,TypeB"_s;
 }
 
