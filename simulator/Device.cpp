@@ -70,6 +70,8 @@ BusStatus Device::write(std::uint8_t address, std::span<const std::uint8_t> byte
     BusStatus status = BusStatus::Nack;
     if (!m_plugged)
         status = BusStatus::Gone;
+    else if (isDropped())
+        status = refuse(bytes, begun);
     else if (address == ddc::EdidAddress)
         status = writeEdid(bytes);
     else if (address == ddc::DdcCiAddress && m_model->hasDdcCi)
@@ -85,6 +87,8 @@ BusStatus Device::read(std::uint8_t address, std::span<std::uint8_t> bytes)
     BusStatus status = BusStatus::Nack;
     if (!m_plugged) {
         status = BusStatus::Gone;
+    } else if (isDropped()) {
+        status = BusStatus::Nack;
     } else if (address == ddc::EdidAddress) {
         readEdid(bytes);
         status = BusStatus::Ok;
@@ -94,6 +98,15 @@ BusStatus Device::read(std::uint8_t address, std::span<std::uint8_t> bytes)
     m_log.addRaw({m_log.milliseconds(begun), address, true,
                   status == BusStatus::Ok ? toBytes(bytes) : QByteArray(), status});
     return status;
+}
+
+BusStatus Device::refuse(std::span<const std::uint8_t> bytes, Clock::time_point begun)
+{
+    dropPending();
+    const Request request = parse(bytes);
+    log(request, begun, false, request.kind == Request::Kind::Set ? request.value : 0,
+        m_firmware.selected(request.code));
+    return BusStatus::Nack;
 }
 
 BusStatus Device::writeEdid(std::span<const std::uint8_t> bytes)
@@ -233,7 +246,11 @@ void Device::execute(const Request& request)
         m_busyUntil = now() + SaveWait;
         return;
     }
+    const quint64 before = m_firmware.revision();
     m_firmware.set(request.code, static_cast<std::uint16_t>(request.value));
+    const auto drop = m_model->drops.constFind(request.code);
+    if (drop != m_model->drops.constEnd() && m_firmware.revision() != before)
+        m_droppedUntil = now() + Milliseconds(*drop);
     m_busyUntil = now() + std::max(SetWait, Milliseconds(m_model->busy.value(request.code)));
 }
 
@@ -330,6 +347,7 @@ void Device::unplug()
         dropPending();
         m_faults.endTransaction();
         m_busyUntil = {};
+        m_droppedUntil = {};
         m_edidOffset = 0;
     }
     m_plugged = false;

@@ -89,12 +89,15 @@ private:
     static Request parse(std::span<const std::uint8_t> frame);
 
     Clock::time_point now() const { return m_clock(); }
+    ddc::BusStatus refuse(std::span<const std::uint8_t> bytes, Clock::time_point begun);
     ddc::BusStatus writeEdid(std::span<const std::uint8_t> bytes);
     void readEdid(std::span<std::uint8_t> bytes);
     ddc::BusStatus writeFrame(std::unique_lock<std::mutex>& lock, std::span<const std::uint8_t> bytes);
     ddc::BusStatus readReply(std::span<std::uint8_t> bytes);
     ddc::BusStatus hang(std::unique_lock<std::mutex>& lock, Milliseconds time);
     bool tooEarly(const QString& what);
+    /// The monitor lays its picture out anew and is not on the bus.
+    bool isDropped() const { return m_strict && now() < m_droppedUntil; }
     void execute(const Request& request);
     void answer(const Request& request, const std::optional<Fault>& fault, Clock::time_point begun);
     QByteArray reply(const Request& request, std::optional<std::uint16_t>* value);
@@ -116,6 +119,7 @@ private:
     Violations m_violations;
     std::optional<Pending> m_pending;
     Clock::time_point m_busyUntil{};
+    Clock::time_point m_droppedUntil{};
     std::uint8_t m_edidOffset = 0;
     quint64 m_saved = 0;
     quint64 m_unplugged = 0; ///< How often the plug was pulled, so that a transfer that hangs sees it.

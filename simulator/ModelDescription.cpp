@@ -45,7 +45,8 @@ public:
         return integer(json, "productCode", 0, HighestValue, &m_out->productCode) &&
                panel(json.value(QLatin1String("panel")).toObject()) &&
                integer(json, "modeCode", 0, HighestCode, &m_out->modeCode) && modes(json) && codes(json) &&
-               busy(json.value(QLatin1String("busy")).toObject()) && modeValues(json) && behaviours(json);
+               waits(json, "busy", &m_out->busy) && waits(json, "drops", &m_out->drops) && modeValues(json) &&
+               behaviours(json);
     }
 
 private:
@@ -215,14 +216,17 @@ private:
         return true;
     }
 
-    bool busy(const QJsonObject& json)
+    /// Milliseconds by code.
+    bool waits(const QJsonObject& model, const char* key, QMap<int, int>* out)
     {
+        const QJsonObject json = model.value(QLatin1String(key)).toObject();
         for (auto it = json.begin(); it != json.end(); ++it) {
             const auto code = numberFrom(it.key());
             const auto wait = numberFrom(it.value());
             if (!code || !m_out->codes.contains(*code) || !wait || *wait < 0 || *wait > 60'000)
-                return fail(QStringLiteral("\"busy\" has a wrong entry \"%1\"").arg(it.key()));
-            m_out->busy.insert(*code, *wait);
+                return fail(
+                    QStringLiteral("\"%1\" has a wrong entry \"%2\"").arg(QLatin1String(key), it.key()));
+            out->insert(*code, *wait);
         }
         return true;
     }

@@ -88,6 +88,8 @@ struct ModelDescription
     QMap<int, CodeDescription> codes;
     QMap<int, int>
         busy; ///< Milliseconds that a write of a code keeps the monitor from answering, above the usual.
+    QMap<int, int> drops; ///< Milliseconds that the monitor leaves the bus for when a write of a code changed
+                          ///< its picture.
     QList<BehaviourDescription> behaviours;
 
     /// The colour mode of this value on the mode code, null if there is none.

@@ -361,6 +361,7 @@ void Application::openWindow()
         return package ? package->widgetUrls() : QList<QUrl>();
     });
     connect(m_registry.get(), &LuMonitorRegistry::monitorsChanged, this, &Application::fillWindow);
+    connect(context, &LuContext::monitorListCheckRequested, this, &Application::checkMonitors);
     connect(m_registry.get(), &LuMonitorRegistry::currentChanged, this, &Application::fillWindow);
     connect(m_registry.get(), &LuMonitorRegistry::monitorAboutToBeRemoved, this, &Application::fillWindow);
     // The window's monitor switcher and the registry name the same monitor.
@@ -387,6 +388,14 @@ void Application::fillWindow()
     context->setMonitors(monitors);
     if (m_registry->current())
         context->setCurrentMonitor(m_registry->current());
+}
+
+void Application::checkMonitors()
+{
+    if (m_real)
+        m_real->refresh();
+    if (LuMonitorModel* model = m_registry->current())
+        LuModelHost::lookAgain(model);
 }
 
 void Application::takePicture()

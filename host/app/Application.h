@@ -61,6 +61,8 @@ private:
     LuDiagnosticFacts diagnosticFacts() const;
     void openWindow();
     void fillWindow();
+    /// A panel changed what may make a monitor go and come.
+    void checkMonitors();
     void takePicture();
     void addControlMethods();
     void quit();

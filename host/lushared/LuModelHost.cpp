@@ -53,6 +53,11 @@ void LuModelHost::sync(LuMonitorModel* model, LuModelModuleInterface* module, st
         module, [done = std::move(done)]() mutable { ZrDispatch::main()->post(nullptr, std::move(done)); });
 }
 
+void LuModelHost::lookAgain(LuMonitorModel* model)
+{
+    LuMonitorModelPrivate::of(model).engine.lookAgain();
+}
+
 QString LuModelHost::trigger(LuModelModuleInterface* module, const QVariantMap& properties)
 {
     const QMetaObject* meta = module->metaObject();

@@ -31,6 +31,9 @@ public:
     /// called on the GUI thread when the last step has run.
     static void sync(LuMonitorModel* model, LuModelModuleInterface* module, std::function<void()> done);
 
+    /// Asks a monitor that may give no answer for a moment until it answers, then begins a round.
+    static void lookAgain(LuMonitorModel* model);
+
     /// Writes properties to a module as another function of the program. An empty result: done; else what was
     /// wrong.
     static QString trigger(LuModelModuleInterface* module, const QVariantMap& properties);

@@ -105,11 +105,13 @@ void LuMonitorModelPrivate::learnColorMode()
     takeNode(nodeOfCode(link().probedColorMode().value_or(-1)));
 }
 
-void LuMonitorModelPrivate::syncColorMode()
+bool LuMonitorModelPrivate::syncColorMode()
 {
     int code = 0;
-    if (supported && q->getVCP(ColorModeCode, code))
-        makeCurrent(nodeOfCode(code));
+    if (!supported || !q->getVCP(ColorModeCode, code))
+        return false;
+    makeCurrent(nodeOfCode(code));
+    return true;
 }
 
 void LuMonitorModelPrivate::makeCurrent(LuVCPNode* node)

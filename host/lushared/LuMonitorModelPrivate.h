@@ -27,8 +27,9 @@ public:
     QString schemaPath(const QString& suffix) const;
     void readColorModes();
     void learnColorMode();
-    /// Reads 0xDC and makes its node current; the first step of a round. Queue.
-    void syncColorMode();
+    /// Reads 0xDC and makes its node current; the first step of a round. False if the monitor did not answer.
+    /// Queue.
+    bool syncColorMode();
     void makeCurrent(LuVCPNode* node);
     LuVCPNode* nodeOfCode(int code) const;
     /// The first mode with or without a high dynamic range, or null.

@@ -13,6 +13,10 @@ namespace {
 
 constexpr qint64 FirstBackOffMs = 2000;
 constexpr qint64 LastBackOffMs = 60000;
+/// What a monitor needs to lay its screen out anew, and how often it is asked meanwhile.
+constexpr qint64 LookAgainMs = 300;
+constexpr int LookAgainTries = 20;
+const QString LookAgainKey = QStringLiteral("lookAgain");
 const QString RoundKey = QStringLiteral("syncRound");
 
 } // namespace
@@ -67,7 +71,7 @@ void LuSyncEngine::runRound()
     if (visible.isEmpty() && !withColorMode)
         return; // nobody looks; wake() begins anew
     if (withColorMode)
-        m_model.syncColorMode();
+        (void)m_model.syncColorMode();
     if (!m_model.link().isSilent() || !withColorMode) {
         for (LuModelModuleInterface* module : std::as_const(visible))
             postSteps(module, Reason::Periodic);
@@ -119,10 +123,30 @@ void LuSyncEngine::setAsleep(bool asleep)
     // Whatever the monitor was asked in its sleep went unheard, and its values may have changed.
     m_backOffMs = 0;
     m_model.dispatch->post(m_model.q, [this] {
-        m_model.syncColorMode();
+        (void)m_model.syncColorMode();
         for (LuModelModuleInterface* module : std::as_const(m_model.modules))
             postSteps(module, Reason::FirstRound);
         post(Reason::FirstRound, [this] { endRound(); });
+    });
+}
+
+void LuSyncEngine::lookAgain()
+{
+    if (m_started)
+        lookAgainIn(LookAgainMs, LookAgainTries);
+}
+
+void LuSyncEngine::lookAgainIn(qint64 ms, int triesLeft)
+{
+    m_model.dispatch->postUniqueBackgroundLater(m_model.q, LookAgainKey, ms, [this, triesLeft] {
+        if (isAsleep())
+            return;
+        if (m_model.syncColorMode()) {
+            m_backOffMs = 0;
+            scheduleRound(0);
+        } else if (triesLeft > 1) {
+            lookAgainIn(LookAgainMs, triesLeft - 1);
+        }
     });
 }
 
@@ -139,7 +163,7 @@ void LuSyncEngine::readBack(LuModelModuleInterface* module, std::function<void()
             postSteps(module, Reason::Asked);
         } else {
             if (!isAsleep())
-                m_model.syncColorMode();
+                (void)m_model.syncColorMode();
             for (LuModelModuleInterface* each : std::as_const(m_model.modules))
                 postSteps(each, Reason::Asked);
         }

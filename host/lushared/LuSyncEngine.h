@@ -38,6 +38,10 @@ public:
     /// The display fell asleep: rounds rest. It woke: everything is read once, and rounds go on. Any thread.
     void setAsleep(bool asleep);
 
+    /// Something was written after which a monitor may give no answer for a moment: asks it until it answers,
+    /// then begins a round. Any thread.
+    void lookAgain();
+
     /// Reads one module back as soon as what waits has run; requests that wait are one. Any thread.
     void force(LuModelModuleInterface* module);
 
@@ -60,6 +64,7 @@ private:
     void endRound();
     void scheduleRound(qint64 ms);
     bool isAsleep() const;
+    void lookAgainIn(qint64 ms, int triesLeft);
 
     LuMonitorModelPrivate& m_model;
     ZrShared<bool> m_started{false};

@@ -358,6 +358,11 @@ QRectF LuContext::availableGeometry(QWindow* window) const
     return screen ? QRectF(screen->availableGeometry()) : QRectF();
 }
 
+void LuContext::checkToUpdateMonitorList()
+{
+    Q_EMIT monitorListCheckRequested();
+}
+
 QString LuContext::monitorFacts(QObject* monitor) const
 {
     QStringList facts;

@@ -131,6 +131,9 @@ public:
     Q_INVOKABLE bool exists(const QUrl& url) const;
     /// The part of the screen that windows may cover, for the screen that @p window is on.
     Q_INVOKABLE QRectF availableGeometry(QWindow* window) const;
+    /// A panel made the monitor lay its screen out anew: its bus may drop for a moment, and the system may
+    /// see it go and come. Asks the program to look who is there and to read the monitor back.
+    Q_INVOKABLE void checkToUpdateMonitorList();
     /// A short line under the monitor's name: size and rate of its screen, serial number.
     Q_INVOKABLE QString monitorFacts(QObject* monitor) const;
     /// WCAG contrast ratio of two opaque colours, 1 to 21.
@@ -150,6 +153,8 @@ Q_SIGNALS:
     void highContrastChanged();
     void reducedMotionChanged();
     void fontScaleChanged();
+    /// See checkToUpdateMonitorList().
+    void monitorListCheckRequested();
     /// The user asks for the settings window.
     void settingsRequested();
     /// The user asks for help on monitors that are not found.
