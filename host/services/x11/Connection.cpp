@@ -14,9 +14,7 @@ namespace {
 constexpr const char* atomNames[] = {
     "WM_STATE",
     "WM_CLASS",
-    "UTF8_STRING",
     "RESOURCE_MANAGER",
-    "_NET_SUPPORTED",
     "_NET_ACTIVE_WINDOW",
     "_NET_CLIENT_LIST_STACKING",
     "_NET_CURRENT_DESKTOP",
@@ -26,15 +24,12 @@ constexpr const char* atomNames[] = {
     "_NET_WM_PID",
     "_NET_WM_DESKTOP",
     "_NET_WM_STATE",
-    "_NET_WM_STATE_ABOVE",
     "_NET_WM_STATE_FULLSCREEN",
     "_NET_WM_STATE_MAXIMIZED_HORZ",
     "_NET_WM_STATE_MAXIMIZED_VERT",
     "_NET_WM_WINDOW_TYPE",
     "_NET_WM_WINDOW_TYPE_NORMAL",
     "_NET_WM_WINDOW_TYPE_DIALOG",
-    "_NET_WM_WINDOW_TYPE_NOTIFICATION",
-    "_KDE_NET_WM_WINDOW_TYPE_ON_SCREEN_DISPLAY",
 };
 static_assert(std::size(atomNames) == AtomCount);
 

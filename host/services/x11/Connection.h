@@ -22,11 +22,11 @@ using Owned = std::unique_ptr<Type, FreeReply>;
 /// Atoms that are interned when a connection opens.
 enum Atom {
     // clang-format off
-    WmState, WmClass, Utf8String, ResourceManager,
-    NetSupported, NetActiveWindow, NetClientListStacking, NetCurrentDesktop, NetFrameExtents, GtkFrameExtents,
-    NetMoveResizeWindow, NetWmPid, NetWmDesktop, NetWmState, NetWmStateAbove, NetWmStateFullscreen,
+    WmState, WmClass, ResourceManager,
+    NetActiveWindow, NetClientListStacking, NetCurrentDesktop, NetFrameExtents, GtkFrameExtents,
+    NetMoveResizeWindow, NetWmPid, NetWmDesktop, NetWmState, NetWmStateFullscreen,
     NetWmStateMaximizedHorz, NetWmStateMaximizedVert, NetWmWindowType, NetWmWindowTypeNormal,
-    NetWmWindowTypeDialog, NetWmWindowTypeNotification, KdeWindowTypeOnScreenDisplay,
+    NetWmWindowTypeDialog,
     // clang-format on
     AtomCount
 };

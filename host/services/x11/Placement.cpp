@@ -9,6 +9,10 @@ namespace {
 
 /// In ms: window managers answer within a few.
 constexpr int PatienceMs = 400;
+constexpr int CheckMs = 80;
+
+/// Some keep a window on its screen at first and let it go to another one when they are told again.
+constexpr int MostTries = 3;
 
 constexpr std::uint32_t RemoveState = 0;
 constexpr std::uint32_t FromPager = 2;
@@ -25,12 +29,12 @@ constexpr Atom coveringStates[] = {NetWmStateMaximizedVert, NetWmStateMaximizedH
 Placement::Placement(EventSource& events, const WindowList& windows) : m_events(events), m_windows(windows)
 {
     m_patience.setSingleShot(true);
-    m_patience.setInterval(PatienceMs);
-    QObject::connect(&m_patience, &QTimer::timeout, &m_patience, [this] { finish(); });
+    QObject::connect(&m_patience, &QTimer::timeout, &m_patience, [this] { check(); });
     m_listener = events.listen([this](const xcb_generic_event_t& event) {
+        const auto& change = reinterpret_cast<const xcb_property_notify_event_t&>(event);
         if ((event.response_type & ~0x80) == XCB_PROPERTY_NOTIFY && m_window != XCB_WINDOW_NONE &&
-            reinterpret_cast<const xcb_property_notify_event_t&>(event).window == m_window)
-            tryNow();
+            change.window == m_window)
+            follow(change.atom);
     });
 }
 
@@ -41,17 +45,18 @@ Placement::~Placement()
 
 void Placement::place(xcb_window_t window, const QRect& rect)
 {
-    if (m_window != XCB_WINDOW_NONE)
-        finish();
+    if (m_window != XCB_WINDOW_NONE && !m_sent)
+        send();
+    forget();
     m_window = window;
     m_rect = rect;
-    if (!isCovering()) {
-        m_events.select(m_window, XCB_EVENT_MASK_PROPERTY_CHANGE);
-        finish();
-        return;
-    }
     m_events.select(m_window, XCB_EVENT_MASK_PROPERTY_CHANGE);
     m_events.connection().sync();
+    m_patience.start(PatienceMs);
+    if (!isCovering()) {
+        send();
+        return;
+    }
     const Connection& requests = m_windows.connection();
     requests.tellWindowManager(window, NetWmState,
                                {RemoveState, requests.atom(NetWmStateMaximizedVert),
@@ -60,7 +65,6 @@ void Placement::place(xcb_window_t window, const QRect& rect)
         requests.tellWindowManager(window, NetWmState,
                                    {RemoveState, requests.atom(NetWmStateFullscreen), 0, FromPager});
     xcb_flush(requests);
-    m_patience.start();
 }
 
 bool Placement::isCovering() const
@@ -72,29 +76,59 @@ bool Placement::isCovering() const
     return false;
 }
 
-void Placement::tryNow()
+// A frame that a maximised window lacks comes after the state has gone, and makes the window larger.
+void Placement::follow(xcb_atom_t property)
 {
-    if (!isCovering())
-        finish();
+    const Connection& connection = m_windows.connection();
+    if (m_sent ? property == connection.atom(NetFrameExtents)
+               : property == connection.atom(NetWmState) && !isCovering())
+        send();
 }
 
-void Placement::finish()
+void Placement::send()
 {
-    m_patience.stop();
-    const xcb_window_t window = m_window;
-    m_window = XCB_WINDOW_NONE;
-    m_events.deselect(window, XCB_EVENT_MASK_PROPERTY_CHANGE);
-    // Shadows that the application draws itself lie outside of what a person sees as the window.
-    const QMargins frame = m_windows.extentsOf(window, NetFrameExtents);
-    const QMargins shadow = m_windows.extentsOf(window, GtkFrameExtents);
-    const QRect outer = m_rect.marginsAdded(shadow);
+    ++m_sent;
+    m_patience.start(CheckMs);
+    const QMargins frame = m_windows.extentsOf(m_window, NetFrameExtents);
+    const QRect outer = outerRect();
     const QRect inner = outer.marginsRemoved(frame);
     const Connection& requests = m_windows.connection();
-    requests.tellWindowManager(window, NetMoveResizeWindow,
+    requests.tellWindowManager(m_window, NetMoveResizeWindow,
                                {GravityNorthWest | AllGiven | AskedByPager, std::uint32_t(outer.x()),
                                 std::uint32_t(outer.y()), std::uint32_t(qMax(1, inner.width())),
                                 std::uint32_t(qMax(1, inner.height()))});
     xcb_flush(requests);
+}
+
+// Shadows that the application draws itself lie outside of what a person sees as the window.
+QRect Placement::outerRect() const
+{
+    return m_rect.marginsAdded(m_windows.extentsOf(m_window, GtkFrameExtents));
+}
+
+// The place alone: a window may have sizes that it does not take.
+bool Placement::isThere() const
+{
+    const std::optional<QRect> present = m_windows.geometryOf(m_window);
+    const QMargins frame = m_windows.extentsOf(m_window, NetFrameExtents);
+    return !present || present->marginsAdded(frame).topLeft() == outerRect().topLeft();
+}
+
+void Placement::check()
+{
+    if (m_sent == 0 || (m_sent < MostTries && !isThere()))
+        send();
+    else
+        forget();
+}
+
+void Placement::forget()
+{
+    m_patience.stop();
+    if (m_window != XCB_WINDOW_NONE)
+        m_events.deselect(m_window, XCB_EVENT_MASK_PROPERTY_CHANGE);
+    m_window = XCB_WINDOW_NONE;
+    m_sent = 0;
 }
 
 } // namespace services::x11

@@ -23,15 +23,21 @@ public:
 
 private:
     bool isCovering() const;
-    void tryNow();
-    void finish();
+    void follow(xcb_atom_t property);
+    QRect outerRect() const;
+    bool isThere() const;
+    void check();
+    void send();
+    void forget();
 
     EventSource& m_events;
     const WindowList& m_windows;
     EventSource::Id m_listener = 0;
-    QTimer m_patience; ///< A window manager may refuse to give a state up.
+    QTimer m_patience; ///< For a window manager that refuses to give a state up, or that put the window
+                       ///< elsewhere.
     xcb_window_t m_window = XCB_WINDOW_NONE;
     QRect m_rect;
+    int m_sent = 0; ///< How often the window manager was told.
 };
 
 } // namespace services::x11

@@ -11,12 +11,8 @@ namespace {
 /// Kept on the window, where whoever describes it finds them.
 constexpr const char* LayerProperty = "windowLayer";
 constexpr const char* JoinProperty = "joinActiveSpaces";
-/// The window has marks that showing it again puts on.
-constexpr const char* UntoldProperty = "_x11MarksUntold";
 
 constexpr std::uint32_t AllDesktops = 0xffffffff;
-constexpr std::uint32_t RemoveState = 0;
-constexpr std::uint32_t AddState = 1;
 constexpr std::uint32_t FromApplication = 1;
 
 bool isAbove(const QQuickWindow* window)
@@ -28,10 +24,14 @@ bool isAbove(const QQuickWindow* window)
 
 void Windows::setLayer(QQuickWindow* window, int layer)
 {
+    const bool changes = isAbove(window) != (layer > 0);
     window->setProperty(LayerProperty, layer);
     window->installEventFilter(this);
-    mark(window);
-    tell(window);
+    // A window manager looks at a window as it is shown.
+    if (changes && window->isVisible()) {
+        window->hide();
+        window->show();
+    }
 }
 
 void Windows::setJoinActiveSpaces(QQuickWindow* window, bool join)
@@ -39,64 +39,44 @@ void Windows::setJoinActiveSpaces(QQuickWindow* window, bool join)
     window->setProperty(JoinProperty, join);
     window->installEventFilter(this);
     mark(window);
-    tell(window);
+    if (!window->handle() || !window->isVisible())
+        return;
+    const std::uint32_t desktop =
+        join ? AllDesktops : m_connection->value(m_connection->root(), m_connection->atom(NetCurrentDesktop));
+    m_connection->tellWindowManager(xcb_window_t(window->winId()), NetWmDesktop, {desktop, FromApplication});
+    xcb_flush(*m_connection);
 }
 
 bool Windows::eventFilter(QObject* object, QEvent* event)
 {
     if (auto* window = qobject_cast<QQuickWindow*>(object)) {
-        if (event->type() == QEvent::Show) {
+        if (event->type() == QEvent::Show)
             mark(window);
-            window->setProperty(UntoldProperty, true);
-        } else if (event->type() == QEvent::Expose && window->property(UntoldProperty).toBool()) {
-            window->setProperty(UntoldProperty, false);
-            tell(window);
-        }
+        else if (event->type() == QEvent::Expose && isAbove(window))
+            raise(window);
     }
     return QObject::eventFilter(object, event);
 }
 
-// What the window manager reads as it begins to manage a window.
+// What a window manager reads as a window is shown. Qt's connection is another one: it shows the window after
+// the server has these.
 void Windows::mark(QQuickWindow* window)
 {
     if (!window->handle())
         return;
     const auto id = xcb_window_t(window->winId());
-    if (isAbove(window)) {
-        // Window managers keep these kinds above full-screen windows, too, which "above" alone does not.
-        m_connection->setValues(id, m_connection->atom(NetWmWindowType), XCB_ATOM_ATOM,
-                                {m_connection->atom(KdeWindowTypeOnScreenDisplay),
-                                 m_connection->atom(NetWmWindowTypeNotification),
-                                 m_connection->atom(NetWmWindowTypeNormal)});
-    }
+    const std::uint32_t unmanaged = isAbove(window);
+    if (window->property(LayerProperty).isValid())
+        xcb_change_window_attributes(*m_connection, id, XCB_CW_OVERRIDE_REDIRECT, &unmanaged);
     if (window->property(JoinProperty).toBool())
         m_connection->setValues(id, m_connection->atom(NetWmDesktop), XCB_ATOM_CARDINAL, {AllDesktops});
-    xcb_flush(*m_connection);
+    m_connection->sync();
 }
 
-// What it is told of a window that it manages.
-void Windows::tell(QQuickWindow* window)
+void Windows::raise(QQuickWindow* window)
 {
-    if (!window->handle() || !window->isVisible())
-        return;
-    const auto id = xcb_window_t(window->winId());
-    if (window->property(LayerProperty).isValid()) {
-        const bool above = isAbove(window) || window->flags().testFlag(Qt::WindowStaysOnTopHint);
-        m_connection->tellWindowManager(
-            id, NetWmState,
-            {above ? AddState : RemoveState, m_connection->atom(NetWmStateAbove), 0, FromApplication});
-    }
-    if (window->property(JoinProperty).isValid()) {
-        const std::uint32_t desktop =
-            window->property(JoinProperty).toBool()
-                ? AllDesktops
-                : m_connection->value(m_connection->root(), m_connection->atom(NetCurrentDesktop));
-        m_connection->tellWindowManager(id, NetWmDesktop, {desktop, FromApplication});
-    }
-    if (isAbove(window)) {
-        const std::uint32_t above = XCB_STACK_MODE_ABOVE;
-        xcb_configure_window(*m_connection, id, XCB_CONFIG_WINDOW_STACK_MODE, &above);
-    }
+    const std::uint32_t above = XCB_STACK_MODE_ABOVE;
+    xcb_configure_window(*m_connection, xcb_window_t(window->winId()), XCB_CONFIG_WINDOW_STACK_MODE, &above);
     xcb_flush(*m_connection);
 }
 

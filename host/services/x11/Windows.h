@@ -8,8 +8,11 @@
 
 namespace services::x11 {
 
-/// Layer and desktops of the program's own windows through EWMH. Qt itself makes a window with
+/// Layer and desktops of the program's own windows. Qt itself makes a window with
 /// Qt::WindowTransparentForInput let the pointer through.
+///
+/// A window above everything is none of the window manager's ("override-redirect"): what EWMH calls above
+/// lies below a full-screen window, and under some window managers every other kind does, too.
 class Windows : public QObject, public WindowService
 {
 public:
@@ -19,12 +22,12 @@ public:
     void setJoinActiveSpaces(QQuickWindow* window, bool join) override;
 
     /// A window gets its marks anew each time that it is shown: the window manager takes them off a window
-    /// that is hidden, and Qt writes its own.
+    /// that is hidden.
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
     void mark(QQuickWindow* window);
-    void tell(QQuickWindow* window);
+    void raise(QQuickWindow* window);
 
     const std::shared_ptr<Connection> m_connection;
 };
