@@ -6,6 +6,7 @@
 #include "services/kvm/NativeKvm.h"
 #include "services/linux/Backlight.h"
 #include "services/linux/Location.h"
+#include "services/programs/Programs.h"
 #include "services/pulse/PulseAudio.h"
 #include "services/x11/X11Services.h"
 
@@ -21,8 +22,10 @@ services::ServiceSet services::nativeServices()
     set.audio = makePulseAudio();
     set.backlight = makeLinuxBacklight();
     set.location = makeLinuxLocation();
+    std::shared_ptr<ApplicationWindows> windows;
     if (set.name == QLatin1String("x11"))
-        x11::addServices(&set);
+        windows = x11::addServices(&set);
+    set.programs = std::make_shared<Programs>(windows);
     if (set.pointer) {
         KvmChannelOptions channel;
         channel.folder = ZrS::dataPath() + QStringLiteral("/kvm");
