@@ -25,11 +25,8 @@ public:
     /// X id of its window; 0 while it is not on the screen.
     quint32 window()
     {
-        for (const QString& line : lines()) {
-            if (line.startsWith(QStringLiteral("window ")))
-                return line.section(u' ', 1).toUInt();
-        }
-        return 0;
+        lines();
+        return m_window;
     }
 
     /// Everything that it has been told so far, or since forget().
@@ -37,8 +34,11 @@ public:
     {
         m_beside.process().waitForReadyRead(0);
         m_rest += QString::fromUtf8(m_beside.process().readAllStandardOutput());
-        for (qsizetype end; (end = m_rest.indexOf(u'\n')) >= 0; m_rest.remove(0, end + 1))
+        for (qsizetype end; (end = m_rest.indexOf(u'\n')) >= 0; m_rest.remove(0, end + 1)) {
             m_lines.append(m_rest.left(end));
+            if (m_lines.last().startsWith(QStringLiteral("window ")))
+                m_window = m_lines.last().section(u' ', 1).toUInt();
+        }
         return m_lines;
     }
     void forget()
@@ -54,4 +54,5 @@ private:
     Beside m_beside;
     QString m_rest;
     QStringList m_lines;
+    quint32 m_window = 0;
 };
