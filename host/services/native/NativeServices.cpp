@@ -8,6 +8,7 @@
 #include "services/linux/Location.h"
 #include "services/programs/Programs.h"
 #include "services/pulse/PulseAudio.h"
+#include "services/wayland/WaylandServices.h"
 #include "services/x11/X11Services.h"
 
 #include <QDebug>
@@ -25,6 +26,8 @@ services::ServiceSet services::nativeServices()
     std::shared_ptr<ApplicationWindows> windows;
     if (set.name == QLatin1String("x11"))
         windows = x11::addServices(&set);
+    else if (set.name.startsWith(QLatin1String("wayland")))
+        wayland::addServices(&set);
     set.programs = std::make_shared<Programs>(windows);
     if (set.pointer) {
         KvmChannelOptions channel;

@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "services/api/DisplayService.h"
+#include "services/wayland/OutputControl.h"
+
+#include <memory>
+
+namespace services::wayland {
+
+/// Modes, rotation and scale of a Wayland desktop through its compositor's own interface.
+///
+/// A monitor is found by its connector. The compositor's answer is kept until it tells of a change. HiDPI is
+/// a scale of 2 or more: switching it on sets 2, off 1. Made on the GUI thread.
+std::shared_ptr<DisplayService> makeDisplay(std::shared_ptr<OutputControl> control);
+
+} // namespace services::wayland

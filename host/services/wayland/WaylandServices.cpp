@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "services/wayland/WaylandServices.h"
+
+#include "services/wayland/Display.h"
+
+#include <QDebug>
+
+void services::wayland::addServices(ServiceSet* set)
+{
+    const QDBusConnection bus = QDBusConnection::sessionBus();
+    std::shared_ptr<OutputControl> control = makeMutterControl(bus);
+    if (!control)
+        control = makeKScreenControl(bus);
+    set->display = makeDisplay(control);
+    if (!set->display)
+        qInfo() << "[Services] this compositor does not let programs change displays";
+    qInfo() << "[Services] on Wayland there are no global keys, no windows of other applications, no pointer "
+               "at the edge";
+}
