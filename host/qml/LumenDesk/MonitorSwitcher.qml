@@ -75,6 +75,8 @@ T.ComboBox {
                     width: Math.min(implicitWidth, parent.width - arrow.width - parent.spacing)
                     kind: LuLabel.Title
                     repeatsName: true
+                    // A name that cannot be changed is not faded.
+                    opacity: 1
                     text: switcher.displayText
                 }
                 LuIcon {
@@ -90,6 +92,7 @@ T.ComboBox {
                 id: facts
                 width: parent.width
                 kind: LuLabel.Caption
+                opacity: 1
                 text: LuContext.monitorFacts(switcher.monitor)
                 visible: text.length > 0
             }

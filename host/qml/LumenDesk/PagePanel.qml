@@ -15,7 +15,7 @@ FocusScope {
     readonly property var content: loader.item
     readonly property string title: content?.title ?? ""
     // Children with anchors have no width before the panel has one, so the page asks for it.
-    readonly property real wantedWidth: content?.pageWidth ?? LuStyle.pageWidth
+    readonly property real wantedWidth: content?.shownWidth ?? LuStyle.pageWidth
     signal closeRequested()
 
     objectName: "pagePanel"

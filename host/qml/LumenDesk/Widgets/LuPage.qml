@@ -9,7 +9,9 @@ Column {
     id: page
 
     property string title
-    property int pageWidth: LuStyle.pageWidth
+    // At the usual size of the desktop's font.
+    property int pageWidth: 270
+    readonly property int shownWidth: LuStyle.scaled(pageWidth)
     // Stands in the line of the title: the feature's switch, a help button.
     property Component titleControl: null
     property var module: null
