@@ -3,6 +3,7 @@
 
 #include "ActionKeys.h"
 #include "InputNotice.h"
+#include "DesktopShell.h"
 #include "RealMonitors.h"
 #include "SimulatedMonitors.h"
 #include "adapters/ClockMethods.h"
@@ -31,7 +32,6 @@
 #include <qml/LuContext.h>
 #include <qml/LuDiagnostics.h>
 #include <qml/LuWindowBridge.h>
-#include <qml/LumenQml.h>
 #include <services/api/DesktopEvents.h>
 #include <services/native/NativeServices.h>
 #include <services/native/Session.h>
@@ -43,10 +43,9 @@
 #include <QFile>
 #include <QGuiApplication>
 #include <QJsonDocument>
-#include <QQmlApplicationEngine>
+#include <QProcess>
 #include <QStandardPaths>
 #include <QSysInfo>
-#include <QTranslator>
 
 namespace {
 
@@ -65,11 +64,8 @@ Application::~Application()
     LuDiagnostics::instance()->setSource({});
     // The window goes first, since its bindings read the models; then the models, since they ask the
     // services.
-    m_bridge.reset();
-    if (m_engine) {
-        m_engine.reset();
-        lumenQmlRelease();
-    }
+    if (m_shell)
+        m_shell->close();
     m_server.reset();
     m_real.reset();
     m_actionKeys.reset();
@@ -77,6 +73,7 @@ Application::~Application()
     if (const auto events = services::Registry::current().events)
         events->stop();
     m_brightnessSync.reset();
+    m_shell.reset();
     m_registry.reset();
     m_simulated.reset();
     m_services.reset();
@@ -131,12 +128,13 @@ Application::Start Application::start()
     qGuiApp->installEventFilter(new InputNotice(this));
     LuDiagnostics::instance()->setSource([this] { return diagnosticFacts(); });
     installServices();
+    m_shell = std::make_unique<DesktopShell>(m_options, *m_registry);
+    m_shell->prepare();
     m_packages.load(PackageLoader::defaultFolders());
     const QList<LuPackagesInterface*> packages = m_packages.packages();
     for (LuPackagesInterface* package : packages) {
         m_registry->addPackage(package);
-        if (auto* translator = qobject_cast<QTranslator*>(package->translator()))
-            QGuiApplication::installTranslator(translator);
+        m_shell->addPackage(package);
     }
     if (m_options.simulate) {
         m_simulated = std::make_unique<SimulatedMonitors>(*m_registry, m_options.fastTiming, m_dataDirectory);
@@ -297,7 +295,7 @@ void Application::addControlMethods()
     addKvmMethods(m_server.get());
     addServiceMethods(m_server.get(), m_services.get());
     addSimulatorMethods(m_server.get(), access, m_simulated.get());
-    addWindowMethods(m_server.get(), [this] { return m_bridge.get(); });
+    addWindowMethods(m_server.get(), [this] { return m_shell->bridge(); });
 }
 
 LuDiagnosticFacts Application::diagnosticFacts() const
@@ -334,60 +332,35 @@ LuDiagnosticFacts Application::diagnosticFacts() const
 
 void Application::openWindow()
 {
-    m_engine = std::make_unique<QQmlApplicationEngine>();
-    const QList<LuPackagesInterface*> packages = m_packages.packages();
-    QStringList names;
-    for (LuPackagesInterface* package : packages)
-        names.append(package->name());
-    lumenQmlInit(m_engine.get(), names);
-    m_bridge = std::make_unique<LuWindowBridge>(m_engine.get());
-
+    connect(m_shell.get(), &DesktopShell::quitRequested, this, &Application::quit);
     LuContext* context = LuContext::instance();
-    const QString themeKey = QStringLiteral("theme");
-    context->setTheme(m_options.theme.isEmpty()
-                          ? LuSettings::instance().value(themeKey, QStringLiteral("system")).toString()
-                          : m_options.theme);
-    connect(context, &LuContext::themeChanged, this,
-            [context, themeKey] { LuSettings::instance().setValue(themeKey, context->theme()); });
-    context->setTranslucentWindows(services::sessionBlendsWindows());
-    context->setEnvironment(&ZrEnvironment::var, &ZrEnvironment::varDeviceChoice);
-    context->setScreenSource([](QObject* monitor) {
-        const auto* model = qobject_cast<LuMonitorModel*>(monitor);
-        return model ? model->screen() : nullptr;
-    });
-    context->setWidgetUrlSource([this](QObject* monitor) {
-        const auto* model = qobject_cast<LuMonitorModel*>(monitor);
-        LuPackagesInterface* package = model ? m_registry->packageFor(model) : nullptr;
-        return package ? package->widgetUrls() : QList<QUrl>();
-    });
-    connect(m_registry.get(), &LuMonitorRegistry::monitorsChanged, this, &Application::fillWindow);
     connect(context, &LuContext::monitorListCheckRequested, this, &Application::checkMonitors);
-    connect(m_registry.get(), &LuMonitorRegistry::currentChanged, this, &Application::fillWindow);
-    connect(m_registry.get(), &LuMonitorRegistry::monitorAboutToBeRemoved, this, &Application::fillWindow);
-    // The window's monitor switcher and the registry name the same monitor.
-    connect(context, &LuContext::currentMonitorChanged, this, [this, context] {
-        if (const auto* model = qobject_cast<LuMonitorModel*>(context->currentMonitor());
-            model && model != m_registry->current())
-            m_registry->select(model->id());
-    });
-    fillWindow();
-    m_engine->load(lumenMainWindowUrl());
-    if (m_engine->rootObjects().isEmpty())
-        qCritical() << "[Application] the window could not be made";
-    else
-        m_bridge->show();
+    if (m_real) {
+        RealMonitors* real = m_real.get();
+        m_shell->setConnectorSource([real](const QString& id) { return real->connectorOf(id); });
+        context->setDiscovering(isDiscovering());
+        const auto follow = [this, context] { context->setDiscovering(isDiscovering()); };
+        connect(real, &RealMonitors::discovered, context, follow, Qt::QueuedConnection);
+        connect(m_registry.get(), &LuMonitorRegistry::settled, context, follow, Qt::QueuedConnection);
+        connect(context, &LuContext::searchRequested, real, &RealMonitors::refresh);
+        connect(context, &LuContext::simulationRequested, this, &Application::simulateInstead,
+                Qt::QueuedConnection);
+        context->setCanSimulate(true);
+    }
+    m_shell->open(m_packages.packages());
 }
 
-void Application::fillWindow()
+void Application::simulateInstead()
 {
-    QList<QObject*> monitors;
-    const QList<LuMonitorModel*> models = m_registry->monitors();
-    for (LuMonitorModel* model : models)
-        monitors.append(model);
-    LuContext* context = LuContext::instance();
-    context->setMonitors(monitors);
-    if (m_registry->current())
-        context->setCurrentMonitor(m_registry->current());
+    // A program of its own on the same display: its socket, settings and values are apart from the real ones.
+    const QString folder = m_dataDirectory + QStringLiteral("/demonstration");
+    const QStringList arguments{QStringLiteral("--simulate"),   QStringLiteral("TK30Z"),
+                                QStringLiteral("--services"),   QStringLiteral("simulated"),
+                                QStringLiteral("--control"),    folder + QStringLiteral("/control.sock"),
+                                QStringLiteral("--config-dir"), folder + QStringLiteral("/config"),
+                                QStringLiteral("--data-dir"),   folder + QStringLiteral("/data")};
+    if (!QProcess::startDetached(QCoreApplication::applicationFilePath(), arguments))
+        qWarning() << "[Application] the demonstration could not be started";
 }
 
 void Application::checkMonitors()
@@ -405,7 +378,8 @@ void Application::takePicture()
     m_pictureTaken = true;
     // Everything that the window is to show has been read by then.
     ZrIdle::notify({}, this, [this] {
-        const LuWindowBridge::Result result = m_bridge->screenshot(m_options.screenshotFile, m_options.page);
+        const LuWindowBridge::Result result =
+            m_shell->bridge()->screenshot(m_options.screenshotFile, m_options.page);
         if (!result.ok())
             qCritical().noquote() << "[Application] --screenshot:" << result.message;
         m_ending = true;

@@ -12,12 +12,9 @@
 
 class ActionKeys;
 class LuBrightnessSync;
-class LuContext;
 struct LuDiagnosticFacts;
+class DesktopShell;
 class LuMonitorRegistry;
-class LuMonitorModel;
-class LuWindowBridge;
-class QQmlApplicationEngine;
 class RealMonitors;
 class SimulatedMonitors;
 
@@ -60,9 +57,9 @@ private:
     void installNativeServices();
     LuDiagnosticFacts diagnosticFacts() const;
     void openWindow();
-    void fillWindow();
     /// A panel changed what may make a monitor go and come.
     void checkMonitors();
+    void simulateInstead();
     void takePicture();
     void addControlMethods();
     void quit();
@@ -79,8 +76,7 @@ private:
     std::unique_ptr<SimulatedMonitors> m_simulated;
     std::unique_ptr<RealMonitors> m_real;
     std::unique_ptr<control::Server> m_server;
-    std::unique_ptr<QQmlApplicationEngine> m_engine;
-    std::unique_ptr<LuWindowBridge> m_bridge;
+    std::unique_ptr<DesktopShell> m_shell;
     UnixSignals m_signals;
     bool m_pictureTaken = false;
     bool m_ending = false;

@@ -18,6 +18,7 @@ struct Row
 
 constexpr Row Rows[] = {
     {"headless", nullptr, "No window and no tray; needs no display server."},
+    {"hidden", nullptr, "Start without showing the window."},
     {"simulate", "LIST",
      "Simulated monitors in place of the real ones: MODEL or MODEL@SERIAL, with commas between."},
     {"ddc-timing", "real|fast", "Waits of the simulated bus: those of DDC/CI (real, the default) or none."},
@@ -33,7 +34,7 @@ constexpr Row Rows[] = {
     {"schema-dir", "DIR", "Schema files that stand for the built-in ones of the same name."},
     {"environment", "FILE", "An environment file that is read over the installed one."},
     {"screenshot", "FILE", "Write a picture of the main window (PNG) and end."},
-    {"theme", "light|dark|system", "Colours of the window."},
+    {"theme", "light|dark|contrast|system", "Colours of the window."},
     {"page", "WIDGET", "With --screenshot: a picture of this widget's page."},
 };
 
@@ -88,6 +89,7 @@ ParsedOptions parseOptions(const QStringList& arguments)
     };
     Options& options = result.options;
     options.headless = isSet("headless");
+    options.hidden = isSet("hidden");
     options.simulate = isSet("simulate");
     options.simulatedMonitors = value("simulate");
     if (options.simulate && options.simulatedMonitors.isEmpty())
@@ -117,7 +119,7 @@ ParsedOptions parseOptions(const QStringList& arguments)
     }
     options.theme = value("theme");
     static const QStringList themes{QString(), QStringLiteral("light"), QStringLiteral("dark"),
-                                    QStringLiteral("system")};
+                                    QStringLiteral("contrast"), QStringLiteral("system")};
     if (!themes.contains(options.theme))
         return wrong("theme");
     options.autoSync = !isSet("no-auto-sync");

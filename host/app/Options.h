@@ -10,6 +10,7 @@
 struct Options
 {
     bool headless = false;
+    bool hidden = false;
     bool simulate = false;
     QString simulatedMonitors;
     bool fastTiming = false;

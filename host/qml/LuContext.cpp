@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "LuContext.h"
 
+#include <QDir>
 #include <QEvent>
 #include <QFile>
 #include <QFontInfo>
@@ -63,6 +64,7 @@ LuContext::LuContext(QObject* parent) : QObject(parent), m_theme(u"system"_s)
     setFontScale(desktopFontScale());
     updateColorScheme();
     qGuiApp->installEventFilter(this);
+    connect(qGuiApp, &QGuiApplication::layoutDirectionChanged, this, &LuContext::rightToLeftChanged);
 }
 
 LuContext::~LuContext() = default;
@@ -126,6 +128,65 @@ void LuContext::updateWidgetUrls()
         return;
     m_widgetUrls = urls;
     Q_EMIT widgetUrlsChanged();
+}
+
+QUrl LuContext::packageFile(const QString& name) const
+{
+    if (m_widgetUrls.isEmpty())
+        return {};
+    const QUrl url = m_widgetUrls.first().resolved(QUrl(u"../"_s + name));
+    return exists(url) ? url : QUrl();
+}
+
+QList<QUrl> LuContext::sectionUrls() const
+{
+    QList<QUrl> urls;
+    if (m_widgetUrls.isEmpty())
+        return urls;
+    const QUrl folder = m_widgetUrls.first().resolved(QUrl(u"../Settings/Advanced/"_s));
+    const QStringList files = QDir(localPath(folder)).entryList({u"Section*.qml"_s}, QDir::Files, QDir::Name);
+    for (const QString& file : files)
+        urls << folder.resolved(QUrl(file));
+    return urls;
+}
+
+QUrl LuContext::walkthroughUrl() const
+{
+    return packageFile(u"Helpers/Walkthrough.qml"_s);
+}
+
+bool LuContext::isRightToLeft() const
+{
+    return QGuiApplication::isRightToLeft();
+}
+
+void LuContext::setDiscovering(bool on)
+{
+    if (on == m_discovering)
+        return;
+    m_discovering = on;
+    Q_EMIT discoveringChanged();
+}
+
+void LuContext::setCanSimulate(bool on)
+{
+    if (on == m_canSimulate)
+        return;
+    m_canSimulate = on;
+    Q_EMIT canSimulateChanged();
+}
+
+void LuContext::openSettings(const QString& section)
+{
+    Q_EMIT settingsRequested(section);
+}
+
+QRectF LuContext::screenGeometry(QObject* monitor) const
+{
+    const QScreen* screen = monitor && m_screenSource ? m_screenSource(monitor) : nullptr;
+    if (!screen)
+        screen = QGuiApplication::primaryScreen();
+    return screen ? QRectF(screen->geometry()) : QRectF();
 }
 
 QQuickWindow* LuContext::mainWindow() const
@@ -205,19 +266,22 @@ void LuContext::setTheme(const QString& theme)
 {
     if (theme == m_theme)
         return;
-    if (theme != "system"_L1 && theme != "light"_L1 && theme != "dark"_L1) {
+    if (theme != "system"_L1 && theme != "light"_L1 && theme != "dark"_L1 && theme != "contrast"_L1) {
         qCWarning(lcContext) << "unknown theme:" << theme;
         return;
     }
+    const bool contrast = highContrast();
     m_theme = theme;
     Q_EMIT themeChanged();
+    if (contrast != highContrast())
+        Q_EMIT highContrastChanged();
     updateColorScheme();
 }
 
 void LuContext::updateColorScheme()
 {
     QString scheme = m_theme;
-    if (scheme == "system"_L1) {
+    if (scheme == "system"_L1 || scheme == "contrast"_L1) {
         const QPalette palette = QGuiApplication::palette();
         const bool dark =
             palette.color(QPalette::WindowText).lightness() > palette.color(QPalette::Window).lightness();
@@ -277,11 +341,6 @@ void LuContext::setEnvironment(Lookup values, Lookup choices)
 {
     m_values = std::move(values);
     m_choices = std::move(choices);
-}
-
-void LuContext::setScreenSource(std::function<QScreen*(QObject*)> source)
-{
-    m_screenSource = std::move(source);
 }
 
 void LuContext::setPackages(const QStringList& names)
@@ -363,22 +422,51 @@ void LuContext::checkToUpdateMonitorList()
     Q_EMIT monitorListCheckRequested();
 }
 
-QString LuContext::monitorFacts(QObject* monitor) const
+void LuContext::setScreenSource(std::function<QScreen*(QObject*)> source)
+{
+    m_screenSource = std::move(source);
+    touchFacts();
+}
+
+void LuContext::setConnectionSource(std::function<QString(QObject*)> source)
+{
+    m_connectionSource = std::move(source);
+    touchFacts();
+}
+
+void LuContext::touchFacts()
+{
+    ++m_factsStamp;
+    Q_EMIT factsChanged();
+}
+
+QString LuContext::monitorFacts(QObject* monitor, int) const
 {
     QStringList facts;
     if (!monitor)
         return {};
+    const bool builtIn = monitor->property("isModelBuiltIn").toBool();
+    if (builtIn)
+        facts << tr("Built-in");
+    else if (const QString connection = m_connectionSource ? m_connectionSource(monitor) : QString();
+             !connection.isEmpty())
+        facts << connection;
     if (const QScreen* screen = m_screenSource ? m_screenSource(monitor) : nullptr) {
         const QSize size = screen->size() * screen->devicePixelRatio();
         facts << u"%1 × %2"_s.arg(size.width()).arg(size.height());
         if (screen->refreshRate() > 0)
             facts << u"%1 Hz"_s.arg(qRound(screen->refreshRate()));
-    }
-    if (monitor->property("isModelBuiltIn").toBool())
-        facts << tr("Built-in");
-    else if (const QString serial = monitor->property("serialNumber").toString(); !serial.isEmpty())
+    } else if (const QString serial = monitor->property("serialNumber").toString();
+               !serial.isEmpty() && !builtIn) {
         facts << tr("S/N %1").arg(serial);
+    }
     return facts.join(u" · "_s);
+}
+
+bool LuContext::isUpright(QObject* monitor, int) const
+{
+    const QScreen* screen = monitor && m_screenSource ? m_screenSource(monitor) : nullptr;
+    return screen && screen->size().height() > screen->size().width();
 }
 
 double LuContext::contrastRatio(const QColor& a, const QColor& b) const

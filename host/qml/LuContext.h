@@ -30,6 +30,12 @@ class LuContext : public QObject
         QObject* currentMonitor READ currentMonitor WRITE setCurrentMonitor NOTIFY currentMonitorChanged)
     Q_PROPERTY(QList<QObject*> monitors READ monitors NOTIFY monitorsChanged)
     Q_PROPERTY(QList<QUrl> widgetUrls READ widgetUrls NOTIFY widgetUrlsChanged)
+    Q_PROPERTY(QList<QUrl> sectionUrls READ sectionUrls NOTIFY widgetUrlsChanged)
+    Q_PROPERTY(QUrl walkthroughUrl READ walkthroughUrl NOTIFY widgetUrlsChanged)
+    Q_PROPERTY(bool rightToLeft READ isRightToLeft NOTIFY rightToLeftChanged)
+    Q_PROPERTY(int factsStamp READ factsStamp NOTIFY factsChanged)
+    Q_PROPERTY(bool discovering READ isDiscovering WRITE setDiscovering NOTIFY discoveringChanged)
+    Q_PROPERTY(bool canSimulate READ canSimulate WRITE setCanSimulate NOTIFY canSimulateChanged)
     Q_PROPERTY(QQuickWindow* mainWindow READ mainWindow WRITE setMainWindow NOTIFY mainWindowChanged)
     Q_PROPERTY(QObject* multiMonitorSyncControl READ multiMonitorSyncControl WRITE setMultiMonitorSyncControl
                    NOTIFY multiMonitorSyncControlChanged)
@@ -73,6 +79,21 @@ public:
     /// How the widgets of a monitor are found. Asked whenever the current monitor changes.
     void setWidgetUrlSource(std::function<QList<QUrl>(QObject* monitor)> source);
 
+    /// The advanced settings of the current monitor's package, by name.
+    QList<QUrl> sectionUrls() const;
+    /// The introduction of the current monitor's package; empty without one.
+    QUrl walkthroughUrl() const;
+    /// The file @p name, such as "Popups/LuPopupFlowNotify.qml", of the current monitor's package; empty if
+    /// it has none.
+    Q_INVOKABLE QUrl packageFile(const QString& name) const;
+
+    /// The first search for monitors is not over.
+    bool isDiscovering() const { return m_discovering; }
+    void setDiscovering(bool on);
+    /// A simulated monitor can be had in place of a real one.
+    bool canSimulate() const { return m_canSimulate; }
+    void setCanSimulate(bool on);
+
     QQuickWindow* mainWindow() const;
     void setMainWindow(QQuickWindow* window);
     QObject* multiMonitorSyncControl() const { return m_multiMonitorSyncControl; }
@@ -92,12 +113,13 @@ public:
     bool translucentWindows() const { return m_translucentWindows; }
     void setTranslucentWindows(bool on);
 
-    /// "system", "light" or "dark".
+    /// "system", "light", "dark", or "contrast": high contrast, light or dark as the desktop.
     QString theme() const { return m_theme; }
     void setTheme(const QString& theme);
     /// "light" or "dark": the theme, or what the desktop shows.
     QString colorScheme() const { return m_colorScheme; }
-    bool highContrast() const { return m_highContrast; }
+    /// The theme is that of high contrast, or the desktop asks for it.
+    bool highContrast() const { return m_highContrast || m_theme == u"contrast"; }
     void setHighContrast(bool on);
     bool reducedMotion() const { return m_reducedMotion; }
     void setReducedMotion(bool on);
@@ -108,6 +130,8 @@ public:
     /// What keeps monitors from being controlled until the user does something about it, in plain words.
     QStringList notices() const { return m_notices; }
     void setNotices(const QStringList& notices);
+    /// The language in use is written from right to left: windows are mirrored.
+    bool isRightToLeft() const;
 
     /// The family that the window is drawn in: Inter where it is installed, else the desktop's.
     QString fontFamily() const;
@@ -117,6 +141,8 @@ public:
     void setEnvironment(Lookup values, Lookup choices);
     /// The screen that shows a monitor; without it the facts leave the resolution out.
     void setScreenSource(std::function<QScreen*(QObject* monitor)> source);
+    /// How a monitor is connected, in a word such as "USB-C"; an empty text for one that is not known.
+    void setConnectionSource(std::function<QString(QObject* monitor)> source);
 
     /// The file that stands behind "qrc:/images/packages/x.svg" of a package, in the variant of @p
     /// colorScheme.
@@ -134,8 +160,19 @@ public:
     /// A panel made the monitor lay its screen out anew: its bus may drop for a moment, and the system may
     /// see it go and come. Asks the program to look who is there and to read the monitor back.
     Q_INVOKABLE void checkToUpdateMonitorList();
-    /// A short line under the monitor's name: size and rate of its screen, serial number.
-    Q_INVOKABLE QString monitorFacts(QObject* monitor) const;
+    /// The whole screen that shows @p monitor; the first screen for one that none is known to show.
+    Q_INVOKABLE QRectF screenGeometry(QObject* monitor) const;
+    /// Opens the settings window, at the section of that name if it is given.
+    Q_INVOKABLE void openSettings(const QString& section = {});
+    /// A short line under the monitor's name: connection, size and rate of its screen, else its serial
+    /// number.
+    /// @param stamp unused; a binding gives factsStamp, so that it is asked again when facts change.
+    Q_INVOKABLE QString monitorFacts(QObject* monitor, int stamp = 0) const;
+    /// The monitor's desktop is higher than wide. @p stamp as of monitorFacts().
+    Q_INVOKABLE bool isUpright(QObject* monitor, int stamp = 0) const;
+    int factsStamp() const { return m_factsStamp; }
+    /// The facts of a monitor have changed.
+    Q_INVOKABLE void touchFacts();
     /// WCAG contrast ratio of two opaque colours, 1 to 21.
     Q_INVOKABLE double contrastRatio(const QColor& a, const QColor& b) const;
 
@@ -155,8 +192,18 @@ Q_SIGNALS:
     void fontScaleChanged();
     /// See checkToUpdateMonitorList().
     void monitorListCheckRequested();
-    /// The user asks for the settings window.
-    void settingsRequested();
+    void rightToLeftChanged();
+    void factsChanged();
+    void discoveringChanged();
+    void canSimulateChanged();
+    /// The user asks for the settings window, at @p section where it is not empty.
+    void settingsRequested(const QString& section);
+    /// The user asks for a simulated monitor to look around with.
+    void simulationRequested();
+    /// The user wants monitors to be looked for again.
+    void searchRequested();
+    /// The user closes the window for good: the program is to end.
+    void quitRequested();
     /// The user asks for help on monitors that are not found.
     void helpRequested();
 
@@ -174,6 +221,10 @@ private:
     QList<QUrl> m_widgetUrls;
     std::function<QList<QUrl>(QObject*)> m_widgetUrlSource;
     std::function<QScreen*(QObject*)> m_screenSource;
+    std::function<QString(QObject*)> m_connectionSource;
+    int m_factsStamp = 0;
+    bool m_discovering = false;
+    bool m_canSimulate = false;
     QPointer<QQuickWindow> m_mainWindow;
     QPointer<QObject> m_multiMonitorSyncControl;
     QPointer<QObject> m_brightnessSync;

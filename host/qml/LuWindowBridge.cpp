@@ -144,7 +144,18 @@ LuWindowBridge::Result LuWindowBridge::openSection(const QString& section)
 {
     if (!window())
         return noWindow();
-    return failure(NoSuchThing, u"no such section: %1"_s.arg(section));
+    bool opened = false;
+    QMetaObject::invokeMethod(window(), "openSettings", Q_RETURN_ARG(bool, opened), Q_ARG(QString, section));
+    if (!opened)
+        return failure(NoSuchThing, u"no such section: %1"_s.arg(section));
+    return {};
+}
+
+QQuickItem* LuWindowBridge::sectionItem(const QString& name) const
+{
+    auto* settings = window() ? window()->property("settingsWindow").value<QQuickWindow*>() : nullptr;
+    auto* section = settings ? settings->property("section").value<QQuickItem*>() : nullptr;
+    return section && section->property("sectionName").toString() == name ? section : nullptr;
 }
 
 LuWindowBridge::Result LuWindowBridge::openPopup(const QString& widget)
@@ -163,10 +174,15 @@ LuWindowBridge::Result LuWindowBridge::openPopup(const QString& widget)
 
 QQuickItem* LuWindowBridge::popupItem(const QString& type) const
 {
-    const QList<QQuickItem*> children = window()->contentItem()->childItems();
-    for (QQuickItem* child : children) {
-        if (isTypeOf(child, type))
-            return child;
+    QList<QQuickItem*> places{window()->contentItem()};
+    if (auto* settings = window()->property("settingsWindow").value<QQuickWindow*>())
+        places.prepend(settings->contentItem());
+    for (const QQuickItem* place : std::as_const(places)) {
+        const QList<QQuickItem*> children = place->childItems();
+        for (QQuickItem* child : children) {
+            if (isTypeOf(child, type))
+                return child;
+        }
     }
     return nullptr;
 }
@@ -188,8 +204,14 @@ LuWindowBridge::Result LuWindowBridge::close(const QString& name)
             QMetaObject::invokeMethod(popup, "close");
         return {};
     }
+    if (sectionItem(name)) {
+        QMetaObject::invokeMethod(window(), "closeSettings");
+        return {};
+    }
     if (QQuickItem* popup = popupItem(name)) {
-        QMetaObject::invokeMethod(popup, "close");
+        // A popup of a choice is left without one.
+        const bool cancels = popup->metaObject()->indexOfMethod("cancel()") >= 0;
+        QMetaObject::invokeMethod(popup, cancels ? "cancel" : "close");
         return {};
     }
     return failure(NoSuchThing, u"nothing of that name is open: %1"_s.arg(name));
@@ -245,6 +267,8 @@ QList<QObject*> LuWindowBridge::scopes(const QString& within) const
     }
     if (QQuickItem* popup = popupItem(within))
         return {popup};
+    if (QQuickItem* section = sectionItem(within))
+        return {section};
     const QList<QWindow*> all = QGuiApplication::topLevelWindows();
     for (QWindow* one : all) {
         if (isTypeOf(one, within))

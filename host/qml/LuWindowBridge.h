@@ -6,6 +6,7 @@
 #include <QJsonValue>
 #include <QObject>
 #include <QPointF>
+#include <QRectF>
 #include <QString>
 #include <QStringList>
 #include <QVariant>
@@ -58,7 +59,8 @@ public:
     /// As a click on the tile, with the window shown for it: the page, or the warning that stands in its
     /// place. Error 2 if it has neither.
     Result openPage(const QString& widget);
-    /// Opens an advanced section; error 2 if there is none of that name.
+    /// Opens an advanced section, or a page of the settings such as "general"; error 2 if there is none of
+    /// that name.
     Result openSection(const QString& section);
     /// Opens the popup of a widget, such as the warning of its colour mode.
     Result openPopup(const QString& widget);
@@ -80,8 +82,14 @@ public:
     /// @param kind "press", "move", "release" or "click" of the left button.
     Result mouse(const QString& window, const QString& kind, const QPointF& position);
 
-    /// Writes a PNG of the main window, or of a widget's page, which is opened for it if need be.
-    Result screenshot(const QString& file, const QString& widget = {}, const QString& theme = {});
+    /// Writes a PNG of the main window, or of what @p name tells, which is opened for it if need be: a
+    /// widget's page, an advanced section, a page of the settings such as "general", "arrange" or
+    /// "walkthrough".
+    Result screenshot(const QString& file, const QString& name = {}, const QString& theme = {});
+
+    /// What is wrong with the texts and pictures of the visible windows: a list of {"window","item","text",
+    /// "problem"}.
+    Result problems() const;
 
     /// The QML warnings since the start.
     QStringList warnings() const { return m_warnings; }
@@ -94,6 +102,15 @@ private:
         Result error;
     };
 
+    /// What a picture is taken of, and how it is closed again.
+    struct Picture
+    {
+        QQuickWindow* window = nullptr;
+        QRectF part;
+        std::function<void()> close;
+    };
+
+    Result openForPicture(const QString& name, Picture* picture);
     static Result failure(int code, const QString& message);
     static Result noWindow();
     static QString windowName(const QWindow* window);
@@ -105,6 +122,7 @@ private:
     Found find(const QString& name, const QString& role, const QString& within,
                const std::function<bool(const QQuickItem*)>& accepts = {}) const;
     QQuickItem* popupItem(const QString& type) const;
+    QQuickItem* sectionItem(const QString& name) const;
 
     QStringList m_warnings;
     Qt::MouseButtons m_buttons;

@@ -3,7 +3,10 @@
 
 #include "LuContext.h"
 #include "LuDiagnostics.h"
+#include "LuFlowActions.h"
 #include "LuIconProvider.h"
+#include "LuLottieItem.h"
+#include "LuPreferences.h"
 
 #ifdef LUMEN_QML_SHARED_TYPES
 #include <LuShared/LuDataCollection.h>
@@ -46,6 +49,16 @@ void registerTypes()
             QJSEngine::setObjectOwnership(diagnostics, QJSEngine::CppOwnership);
             return diagnostics;
         });
+    qmlRegisterSingletonType<LuPreferences>(
+        "LumenDesk", 1, 0, "LuPreferences", [](QQmlEngine*, QJSEngine*) -> QObject* {
+            LuPreferences* preferences = LuPreferences::instance();
+            QJSEngine::setObjectOwnership(preferences, QJSEngine::CppOwnership);
+            return preferences;
+        });
+    qmlRegisterSingletonType<LuFlowActions>(
+        "LumenDesk", 1, 0, "LuFlowActions",
+        [](QQmlEngine*, QJSEngine*) -> QObject* { return new LuFlowActions; });
+    qmlRegisterType<LuLottieItem>("LumenDesk", 1, 0, "LuLottieItem");
 #ifdef LUMEN_QML_SHARED_TYPES
     const QString reason = u"Owned by the monitor"_s;
     qmlRegisterUncreatableType<LuMonitorModel>("LumenDesk", 1, 0, "LuMonitorModel", reason);

@@ -441,7 +441,7 @@ void TestShell::theSettingsPageSwitchesTheTheme()
 {
     start({&*m_first});
     QVERIFY(m_shell->bridge->press(u"Settings"_s).ok());
-    QVERIFY(m_shell->item(u"pagePanel"_s));
+    QVERIFY(m_shell->item(u"generalPage"_s));
     QVERIFY(m_shell->bridge->press(u"Dark"_s, u"radio"_s).ok());
     QCOMPARE(m_shell->context.colorScheme(), u"dark"_s);
     QVERIFY(m_shell->bridge->press(u"Light"_s, u"radio"_s).ok());

@@ -1,11 +1,19 @@
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
+import LumenDesk
 import LumenDesk.Controls
 import LumenDesk.Style
 
-// What the window says when there is nothing to control, and what to look at.
+// What the window says when there is nothing to control, and what to look at or to do.
 Column {
     id: state
+
+    // The monitor has widgets, but the user has taken all of them out of the window.
+    property bool allHidden: false
+    readonly property bool searching: LuContext.discovering && !allHidden
+    readonly property string headline: allHidden ? qsTr("Every widget is hidden") : searching ? qsTr("Looking for monitors…") : qsTr("No supported monitor found")
+    readonly property string explanation: allHidden ? qsTr("Bring back what you need; nothing was lost.") : searching ? qsTr("This takes a moment.") : qsTr("Plug one in and it appears here by itself.")
+    signal arrangeRequested()
 
     spacing: LuStyle.space
     topPadding: LuStyle.spaceHuge
@@ -19,7 +27,7 @@ Column {
         color: LuStyle.accentSoft
         LuIcon {
             anchors.centerIn: parent
-            name: "monitor-off"
+            name: state.allHidden ? "grid" : state.searching ? "monitor" : "monitor-off"
             size: 36
             color: LuStyle.accentText
         }
@@ -33,7 +41,7 @@ Column {
         kind: LuLabel.Title
         horizontalAlignment: Text.AlignHCenter
         wrapMode: Text.WordWrap
-        text: qsTr("No supported monitor found")
+        text: state.headline
     }
     LuLabel {
         width: parent.width
@@ -41,7 +49,14 @@ Column {
         wrapMode: Text.WordWrap
         color: LuStyle.textDim
         lineHeight: 1.2
-        text: qsTr("Plug one in and it appears here by itself.")
+        text: state.explanation
+    }
+    LuButton {
+        anchors.horizontalCenter: parent.horizontalCenter
+        visible: state.allHidden
+        kind: LuButton.Highlighted
+        text: qsTr("Arrange")
+        onClicked: state.arrangeRequested()
     }
     Item {
         width: 1
@@ -54,6 +69,7 @@ Column {
         color: LuStyle.card
         border.width: 1
         border.color: LuStyle.line
+        visible: !state.allHidden && !state.searching
         Column {
             id: checks
             x: LuStyle.spaceWide
@@ -73,6 +89,7 @@ Column {
                     height: Math.max(20, sentence.implicitHeight)
                     LuIcon {
                         id: picture
+                        anchors.left: parent.left
                         name: check.modelData.picture
                         color: LuStyle.textDim
                         size: 20
@@ -89,6 +106,25 @@ Column {
                     }
                 }
             }
+        }
+    }
+    Column {
+        width: parent.width
+        spacing: LuStyle.space
+        topPadding: LuStyle.spaceHalf
+        visible: !state.allHidden && !state.searching
+        LuButton {
+            objectName: "searchAgain"
+            width: parent.width
+            text: qsTr("Look again")
+            onClicked: LuContext.searchRequested()
+        }
+        LuButton {
+            objectName: "trySimulated"
+            width: parent.width
+            visible: LuContext.canSimulate
+            text: qsTr("Try it with a simulated monitor")
+            onClicked: LuContext.simulationRequested()
         }
     }
 }

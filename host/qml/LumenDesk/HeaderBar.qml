@@ -12,7 +12,7 @@ Item {
     signal settingsClicked()
     signal closeClicked()
 
-    implicitHeight: Math.max(60, switcher.implicitHeight + LuStyle.spaceLarge)
+    implicitHeight: Math.max(62, switcher.implicitHeight + LuStyle.spaceLarge)
 
     DragHandler {
         target: null

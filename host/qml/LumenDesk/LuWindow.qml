@@ -1,25 +1,58 @@
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
 import QtQuick.Window
+import LumenDesk
 import LumenDesk.Style
 
-// A free window for on-screen feedback: above all others, without frame, and never taking the focus.
+// A free window for on-screen feedback: above all others, without frame, never taking the focus nor a click.
+//
+// It stands on the screen of `monitor`, in the middle across and at `verticalShare` of the room above it; a screen that
+// is no larger than the window has it at its corner.
 Window {
     id: window
 
     default property alias content: surface.data
     property string text
+    // The monitor that the feedback is about; without one it stands on the first screen.
+    property var monitor: null
+    // How far down it stands: 0 is the upper edge, 1 the lower.
+    property real verticalShare: 5 / 6
     // Feedback goes by itself after this time in ms; 0 keeps it.
     property int timeout: 2000
+    property bool shown: false
+    signal closed()
 
     title: text
-    color: "transparent"
+    color: LuContext.translucentWindows ? "transparent" : LuStyle.raised
     flags: Qt.ToolTip | Qt.FramelessWindowHint | Qt.WindowStaysOnTopHint | Qt.WindowDoesNotAcceptFocus | Qt.WindowTransparentForInput
+    visible: false
 
+    // Shows it, or lets it stay for its time anew.
     function open(): void {
+        place()
+        shown = true
         visible = true
         if (timeout > 0)
             away.restart()
+    }
+
+    function place(): void {
+        if (!LuContext.canPlaceWindows)
+            return
+        const screen = LuContext.screenGeometry(monitor)
+        x = screen.x + Math.max(0, Math.round((screen.width - width) / 2))
+        y = screen.y + Math.max(0, Math.round((screen.height - height) * verticalShare))
+    }
+
+    onWidthChanged: if (shown) place()
+    onHeightChanged: if (shown) place()
+    onMonitorChanged: if (shown) place()
+    onVisibleChanged: {
+        if (visible || !shown)
+            return
+        shown = false
+        away.stop()
+        closed()
     }
 
     Timer {
@@ -30,9 +63,11 @@ Window {
     Rectangle {
         id: surface
         anchors.fill: parent
-        radius: LuStyle.radiusWindow
+        radius: LuContext.translucentWindows ? LuStyle.radiusWindow : 0
         color: LuStyle.raised
         border.width: 1
         border.color: LuStyle.line
+        Accessible.role: Accessible.AlertMessage
+        Accessible.name: window.text
     }
 }

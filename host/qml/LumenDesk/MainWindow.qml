@@ -4,7 +4,6 @@ import QtQuick.Templates as T
 import QtQuick.Window
 import LumenDesk
 import LumenDesk.Controls
-import LumenDesk.Settings
 import LumenDesk.Style
 
 // The control centre: header, the widgets of the current monitor, and the detail page beside it or over it.
@@ -22,6 +21,8 @@ Window {
     readonly property Item pagePanel: (beside.item as PageWindow)?.panelItem ?? over.item as Item
     readonly property Window pageWindow: beside.item as Window
     readonly property bool empty: area.empty
+    readonly property Window settingsWindow: settings.item as Window
+    readonly property Window walkthroughWindow: introduction.item as Window
     property bool movedByUser: false
 
     objectName: "mainWindow"
@@ -33,6 +34,9 @@ Window {
     flags: Qt.Window | Qt.FramelessWindowHint
     color: LuContext.translucentWindows ? "transparent" : LuStyle.background
     visible: false
+
+    LayoutMirroring.enabled: LuContext.rightToLeft
+    LayoutMirroring.childrenInherit: true
 
     function freeArea(...screen): rect {
         return LuContext.availableGeometry(window)
@@ -54,7 +58,11 @@ Window {
     onHeightChanged: place()
     onWidthChanged: place()
     onFreeChanged: place()
-    onClosing: closePage()
+    onClosing: {
+        closePage()
+        if (!LuPreferences.closeToTray)
+            LuContext.quitRequested()
+    }
 
     // Opens the page of a widget, in place of one that is open. False if it has none.
     function openPage(widgetName: string): bool {
@@ -72,9 +80,50 @@ Window {
         openWidget = null
     }
 
-    function openSettings(): void {
-        showPage(null, settingsPage)
-        LuContext.settingsRequested()
+    // Opens the settings, at a page or section if one is named; false if there is none of that name.
+    function openSettings(name: string): bool {
+        const before = settings.active
+        settings.active = true
+        const target = settings.item as SettingsWindow
+        const opened = target !== null && target.open(name || target.page)
+        if (opened)
+            closePage()
+        else if (!before)
+            closeSettings()
+        return opened
+    }
+
+    function closeSettings(): void {
+        settings.active = false
+    }
+
+    // Lets the user arrange the widgets beside the window.
+    function openArrangement(): void {
+        showPage(null, arrangement)
+    }
+
+    // Shows the introduction of the monitor's package; false if it has none.
+    function openWalkthrough(): bool {
+        const url = LuContext.walkthroughUrl
+        if (!String(url))
+            return false
+        introduction.active = false
+        const component = Qt.createComponent(url)
+        const story = component.status === Component.Ready ? component.createObject(window) : null
+        if (!story) {
+            console.warn(component.errorString())
+            return false
+        }
+        introduction.story = story
+        introduction.active = true
+        return introduction.item !== null
+    }
+
+    function closeWalkthrough(): void {
+        LuPreferences.introductionSeen = true
+        introduction.active = false
+        introduction.story?.destroy()
+        introduction.story = null
     }
 
     function showPage(widget: Item, page: Component): void {
@@ -96,8 +145,10 @@ Window {
     }
 
     Component {
-        id: settingsPage
-        AppearancePage { }
+        id: arrangement
+        ArrangePage {
+            widgets: area.widgets
+        }
     }
 
     Rectangle {
@@ -113,7 +164,7 @@ Window {
         width: parent.width
         height: implicitHeight
         window: window
-        onSettingsClicked: window.openSettings()
+        onSettingsClicked: LuContext.openSettings("")
         onCloseClicked: window.close()
     }
 
@@ -124,12 +175,17 @@ Window {
         anchors.bottom: parent.bottom
         anchors.left: parent.left
         anchors.right: parent.right
-        contentHeight: notices.taken + (window.empty ? emptyState.implicitHeight : area.implicitHeight) + LuStyle.spaceLarge
+        contentHeight: notices.taken + (window.empty ? (emptyState.item as Item)?.implicitHeight ?? 0 : area.implicitHeight) + LuStyle.spaceLarge
         boundsBehavior: Flickable.StopAtBounds
         interactive: contentHeight > height
         clip: interactive
         T.ScrollBar.vertical: LuScrollBar { }
 
+        TapHandler {
+            acceptedButtons: Qt.RightButton
+            enabled: !window.empty
+            onTapped: window.openArrangement()
+        }
         NoticeList {
             id: notices
             objectName: "notices"
@@ -150,12 +206,16 @@ Window {
             }
             onWidgetsGoing: window.closePage()
         }
-        EmptyState {
+        Loader {
             id: emptyState
             x: LuStyle.spaceLarge
             y: notices.taken
             width: body.width - 2 * LuStyle.spaceLarge
-            visible: window.empty
+            active: window.empty
+            sourceComponent: EmptyState {
+                allHidden: area.supported
+                onArrangeRequested: window.openArrangement()
+            }
         }
     }
 
@@ -182,6 +242,42 @@ Window {
         }
     }
 
+    Loader {
+        id: settings
+        active: false
+        sourceComponent: SettingsWindow {
+            widgets: area.widgets
+            onClosing: Qt.callLater(window.closeSettings)
+            onIntroductionRequested: window.openWalkthrough()
+        }
+    }
+    Loader {
+        id: introduction
+        property LuWalkthroughBase story: null
+        active: false
+        sourceComponent: WalkthroughWindow {
+            walkthrough: introduction.story
+            visible: true
+            onFinished: Qt.callLater(window.closeWalkthrough)
+        }
+    }
+    Connections {
+        target: LuContext
+        function onSettingsRequested(section: string): void {
+            if (!window.openSettings(section))
+                window.openSettings("")
+        }
+    }
+
+    Shortcut {
+        sequences: ["F10", "Menu"]
+        enabled: !window.empty
+        onActivated: window.openArrangement()
+    }
+    Shortcut {
+        sequences: [StandardKey.Preferences]
+        onActivated: LuContext.openSettings("")
+    }
     Shortcut {
         sequences: [StandardKey.Cancel]
         enabled: window.pageOpen

@@ -11,6 +11,8 @@ T.ComboBox {
 
     readonly property var monitor: LuContext.currentMonitor
     readonly property bool several: count > 1
+    // Changes whenever the facts of a monitor may have.
+    readonly property int factsStamp: LuContext.factsStamp
 
     objectName: "monitorSwitcher"
     visible: monitor !== null
@@ -53,12 +55,13 @@ T.ComboBox {
     }
     indicator: null
     contentItem: Item {
-        LuIcon {
+        MonitorThumb {
             id: picture
-            x: LuStyle.space
+            anchors.left: parent.left
+            anchors.leftMargin: LuStyle.space
             anchors.verticalCenter: parent.verticalCenter
-            name: switcher.monitor?.isModelBuiltIn ? "notebook" : "monitor"
-            size: 24
+            builtIn: switcher.monitor?.isModelBuiltIn ?? false
+            upright: LuContext.isUpright(switcher.monitor, switcher.factsStamp)
         }
         Column {
             anchors.left: picture.right
@@ -93,7 +96,7 @@ T.ComboBox {
                 width: parent.width
                 kind: LuLabel.Caption
                 opacity: 1
-                text: LuContext.monitorFacts(switcher.monitor)
+                text: LuContext.monitorFacts(switcher.monitor, switcher.factsStamp)
                 visible: text.length > 0
             }
         }
@@ -117,12 +120,14 @@ T.ComboBox {
             color: entry.highlighted ? LuStyle.hover : "transparent"
         }
         contentItem: Item {
-            LuIcon {
+            MonitorThumb {
                 id: entryIcon
-                x: LuStyle.space
+                anchors.left: parent.left
+                anchors.leftMargin: LuStyle.space
                 anchors.verticalCenter: parent.verticalCenter
-                name: entry.modelData?.isModelBuiltIn ? "notebook" : "monitor"
-                color: entry.chosen ? LuStyle.accentText : LuStyle.text
+                builtIn: entry.modelData?.isModelBuiltIn ?? false
+                upright: LuContext.isUpright(entry.modelData, switcher.factsStamp)
+                frame: entry.chosen ? LuStyle.accentText : LuStyle.text
             }
             Column {
                 anchors.left: entryIcon.right
@@ -139,7 +144,7 @@ T.ComboBox {
                     width: parent.width
                     repeatsName: true
                     kind: LuLabel.Caption
-                    text: LuContext.monitorFacts(entry.modelData)
+                    text: LuContext.monitorFacts(entry.modelData, switcher.factsStamp)
                     visible: text.length > 0
                 }
             }

@@ -13,16 +13,21 @@ Column {
 
     required property Window window
     property var widgets: []
-    readonly property bool empty: visibleCount(widgets, changes) === 0
+    readonly property bool empty: visibleCount(widgets, changes, LuPreferences.hiddenWidgets) === 0
+    // The monitor has widgets, though the user may have taken all of them away.
+    readonly property bool supported: widgets.length > 0 && visibleCount(widgets, changes, []) > 0
     // Counts changes of visibility, so that `empty` is asked again.
     property int changes: 0
+    // The widgets in the order in which they stand, and the names that were hidden when this was last looked at.
+    property var placed: []
+    property var hiddenBefore: []
     signal pageRequested(LuWidgetBase widget)
     signal widgetsGoing()
 
     spacing: LuStyle.space
 
-    function visibleCount(list: var, stamp: int): int {
-        return list.filter(widget => widget?.functionSupported).length
+    function visibleCount(list: var, stamp: int, hidden: list<string>): int {
+        return list.filter(widget => widget?.functionSupported && !hidden.includes(widget.widgetName)).length
     }
 
     function byName(name: string): LuWidgetBase {
@@ -46,6 +51,8 @@ Column {
         widgetsGoing()
         const old = widgets
         widgets = []
+        placed = []
+        hiddenBefore = Array.from(LuPreferences.hiddenWidgets)
         for (const widget of old) {
             widget.visible = false
             widget.destroy()
@@ -57,6 +64,35 @@ Column {
                 made.push(widget)
         }
         widgets = made
+        arrange()
+    }
+
+    // Puts the widgets into the user's order. A positioner goes by the order in which its items came.
+    function arrange(): void {
+        const order = LuPreferences.arranged(widgets.map(widget => widget.widgetName))
+        const now = placed.filter(widget => widget !== null)
+        const wanted = order.map(name => byName(name))
+        if (wanted.length === now.length && wanted.every((widget, index) => widget === now[index]))
+            return
+        for (const widget of wanted)
+            widget.parent = waiting
+        for (const widget of wanted)
+            widget.parent = container(widget.placement)
+        placed = wanted
+    }
+
+    // The user took a widget away, or brought it back.
+    function tellHidden(): void {
+        for (const widget of widgets) {
+            const hidden = LuPreferences.isWidgetHidden(widget.widgetName)
+            const before = hiddenBefore.includes(widget.widgetName)
+            if (hidden && !before) {
+                if (window.openWidget === widget)
+                    widgetsGoing()
+                widget.removed()
+            }
+        }
+        hiddenBefore = Array.from(LuPreferences.hiddenWidgets)
     }
 
     function make(url: url): Item {
@@ -76,7 +112,7 @@ Column {
             console.warn(component.errorString())
             return null
         }
-        widget.parent = container(widget.placement)
+        widget.visible = Qt.binding(() => widget.functionSupported && !LuPreferences.hiddenWidgets.includes(widget.widgetName))
         widget.width = Qt.binding(() => widget.parent === tiles ? tiles.cell : widget.parent?.width ?? 0)
         widget.pageRequested.connect(() => area.pageRequested(widget))
         widget.functionSupportedChanged.connect(() => ++area.changes)
@@ -89,7 +125,19 @@ Column {
             area.rebuild()
         }
     }
+    Connections {
+        target: LuPreferences
+        function onArrangementChanged(): void {
+            area.tellHidden()
+            area.arrange()
+        }
+    }
     Component.onCompleted: rebuild()
+
+    Item {
+        id: waiting
+        visible: false
+    }
 
     component Stack: Column {
         width: area.width

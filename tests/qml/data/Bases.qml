@@ -117,7 +117,7 @@ Window {
         LuPopupAction {
             title: "Edit action"
             storedProperties: ({ "level": 3 })
-            onAccepted: properties => window.note("accepted " + properties.level)
+            onAccepted: (module, properties) => window.note("accepted " + properties.level)
             function recordProps(): void {
                 window.note("record")
             }

@@ -1,0 +1,167 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "LuContext.h"
+#include "LuTextAudit.h"
+#include "LuWindowBridge.h"
+
+#include <QGuiApplication>
+#include <QImage>
+#include <QPainter>
+#include <QPainterPath>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QSaveFile>
+#include <QScopeGuard>
+
+using namespace Qt::StringLiterals;
+
+// Pictures that scripts take of the windows.
+
+namespace {
+
+// As LuStyle.radiusWindow.
+constexpr double CornerRadius = 14;
+
+// A picture of the window as it is once its layout has settled: a first drawing lays out, which may change
+// the window's size, and a window that has just been made learns its size from an event that is still on its
+// way.
+QImage settledImage(QQuickWindow* window)
+{
+    constexpr int Rounds = 4;
+    QImage image;
+    for (int round = 0; round < Rounds; ++round) {
+        const QSize before = window->size();
+        window->contentItem()->setSize(before);
+        image = window->grabWindow();
+        if (round > 0 && window->size() == before)
+            break;
+    }
+    image.setDevicePixelRatio(window->width() > 0 ? double(image.width()) / window->width() : 1);
+    return image;
+}
+
+// The corners that a window shows are see-through; a drawing without alpha has them black.
+QImage withRoundCorners(const QImage& image, double radius)
+{
+    if (image.hasAlphaChannel() || radius <= 0)
+        return image;
+    QImage result(image.size(), QImage::Format_ARGB32_Premultiplied);
+    result.fill(Qt::transparent);
+    QPainter painter(&result);
+    painter.setRenderHint(QPainter::Antialiasing);
+    QPainterPath outline;
+    outline.addRoundedRect(result.rect(), radius * image.devicePixelRatio(),
+                           radius * image.devicePixelRatio());
+    QImage opaque = image;
+    opaque.setDevicePixelRatio(1);
+    painter.fillPath(outline, QBrush(opaque));
+    painter.end();
+    result.setDevicePixelRatio(image.devicePixelRatio());
+    return result;
+}
+
+} // namespace
+
+LuWindowBridge::Result LuWindowBridge::openForPicture(const QString& name, Picture* picture)
+{
+    const auto take = [&](const char* property) {
+        picture->window = window()->property(property).value<QQuickWindow*>();
+    };
+    const auto panel = [&] {
+        if (QQuickItem* item = openPagePanel()) {
+            picture->window = item->window();
+            picture->part = item->mapRectToScene(QRectF(0, 0, item->width(), item->height()));
+        }
+    };
+    picture->window = window();
+    if (name.isEmpty())
+        return {};
+    if (const QQuickItem* item = widgetItem(name)) {
+        if (!item->property("pageOpen").toBool()) {
+            if (const Result result = openPage(name); !result.ok())
+                return result;
+            picture->close = [this, name] { close(name); };
+        }
+        panel();
+        return {};
+    }
+    const bool hidden = !window()->isVisible();
+    if (name == "arrange"_L1) {
+        if (hidden)
+            show();
+        QMetaObject::invokeMethod(window(), "openArrangement");
+        picture->close = [this] { close(); };
+        panel();
+        return {};
+    }
+    if (name == "walkthrough"_L1) {
+        bool opened = false;
+        QMetaObject::invokeMethod(window(), "openWalkthrough", Q_RETURN_ARG(bool, opened));
+        if (!opened)
+            return failure(NoSuchThing, u"the package has no introduction"_s);
+        take("walkthroughWindow");
+        picture->close = [this] { QMetaObject::invokeMethod(window(), "closeWalkthrough"); };
+        return {};
+    }
+    if (!openSection(name).ok())
+        return failure(NoSuchThing, u"no such widget, section or page: %1"_s.arg(name));
+    take("settingsWindow");
+    picture->close = [this] { QMetaObject::invokeMethod(window(), "closeSettings"); };
+    return {};
+}
+
+LuWindowBridge::Result LuWindowBridge::screenshot(const QString& file, const QString& name,
+                                                  const QString& theme)
+{
+    LuContext* context = LuContext::instance();
+    if (!window())
+        return noWindow();
+    if (!theme.isEmpty() && theme != "light"_L1 && theme != "dark"_L1)
+        return failure(WrongValue, u"no such theme: %1"_s.arg(theme));
+    // A picture shows the end of every transition.
+    const bool motion = context->reducedMotion();
+    const QString before = context->theme();
+    context->setReducedMotion(true);
+    if (!theme.isEmpty())
+        context->setTheme(theme);
+    Picture picture;
+    const auto restore = qScopeGuard([&] {
+        if (picture.close)
+            picture.close();
+        context->setTheme(before);
+        context->setReducedMotion(motion);
+    });
+    if (const Result result = openForPicture(name, &picture); !result.ok())
+        return result;
+    QImage image = picture.window ? settledImage(picture.window) : QImage();
+    if (image.isNull())
+        return failure(NoWindow, u"the window cannot be drawn"_s);
+    if (picture.part.isValid() && picture.window == window()) {
+        const double ratio = image.devicePixelRatio();
+        image = image.copy(QRectF(picture.part.topLeft() * ratio, picture.part.size() * ratio).toRect());
+        image.setDevicePixelRatio(ratio);
+    }
+    if (picture.window->color().alpha() < 255)
+        image = withRoundCorners(image, CornerRadius);
+    QSaveFile out(file);
+    if (!out.open(QIODevice::WriteOnly) || !image.save(&out, "PNG") || !out.commit())
+        return failure(WrongValue, u"cannot write %1: %2"_s.arg(file, out.errorString()));
+    return {};
+}
+
+LuWindowBridge::Result LuWindowBridge::problems() const
+{
+    if (!window())
+        return noWindow();
+    QJsonArray list;
+    const QList<QWindow*> all = QGuiApplication::topLevelWindows();
+    for (QWindow* one : all) {
+        auto* quick = qobject_cast<QQuickWindow*>(one);
+        if (!quick || !quick->isVisible())
+            continue;
+        (void)settledImage(quick);
+        const QJsonArray found = LuTextAudit::problemsOf(quick);
+        for (const QJsonValue& problem : found)
+            list.append(problem);
+    }
+    return {NoError, {}, list};
+}

@@ -1,0 +1,311 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "DeskProcess.h"
+
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QtTest>
+
+#include <algorithm>
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr const char* Models[] = {"TK30Z", "TK20", "TK40X", "builtin"};
+constexpr const char* Languages[] = {"cs", "de", "en", "es", "fr", "hr", "hu", "it", "ja",
+                                     "ko", "nl", "pl", "pt", "ro", "ru", "sv", "zh", "zh_TW"};
+
+/// What the picture of a part is called, and how scripts call the part.
+struct Part
+{
+    QString name;
+    bool isWidget = false;
+};
+
+QImage blocksOf(const QImage& image)
+{
+    return image.convertToFormat(QImage::Format_RGB32)
+        .scaled(std::max(1, image.width() / 16), std::max(1, image.height() / 16), Qt::IgnoreAspectRatio,
+                Qt::SmoothTransformation);
+}
+
+/// The largest difference of a colour part between two pictures, each a sixteenth of its size: fonts that are
+/// drawn otherwise change little there, another layout or colour much.
+int differenceOf(const QImage& a, const QImage& b)
+{
+    const QImage first = blocksOf(a);
+    const QImage second = blocksOf(b).scaled(first.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    int worst = 0;
+    for (int y = 0; y < first.height(); ++y) {
+        for (int x = 0; x < first.width(); ++x) {
+            const QRgb one = first.pixel(x, y);
+            const QRgb other = second.pixel(x, y);
+            worst = std::max({worst, std::abs(qRed(one) - qRed(other)), std::abs(qGreen(one) - qGreen(other)),
+                              std::abs(qBlue(one) - qBlue(other))});
+        }
+    }
+    return worst;
+}
+
+} // namespace
+
+/// Pictures of everything that the windows show, in every look, kept for a person in the build folder; and
+/// the checks of them that a machine can make.
+class TestGallery : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void cleanup();
+    void cleanupTestCase();
+
+    void everythingIsDrawn_data();
+    void everythingIsDrawn();
+    void noTextIsCut_data();
+    void noTextIsCut();
+    void theAuditFindsWhatIsWrong();
+    void stablePartsLookAsBefore_data();
+    void stablePartsLookAsBefore();
+
+private:
+    ControlClient& client() { return m_desk.client(); }
+    void start(const QString& model, const QByteArray& scale = {});
+    QList<Part> parts();
+    void checkProblems(const QString& where, QStringList& found);
+    void writeSheet(const QDir& folder) const;
+
+    DeskProcess m_desk;
+    QDir m_folder;
+    QStringList m_pictures;
+};
+
+void TestGallery::initTestCase()
+{
+    QVERIFY(QDir().mkpath(QStringLiteral(GALLERY_FOLDER)));
+    m_folder.setPath(QStringLiteral(GALLERY_FOLDER));
+}
+
+void TestGallery::cleanup()
+{
+    qunsetenv("QT_SCALE_FACTOR");
+    if (m_desk.isRunning())
+        QCOMPARE(m_desk.stop(), 0);
+}
+
+void TestGallery::start(const QString& model, const QByteArray& scale)
+{
+    if (scale.isEmpty())
+        qunsetenv("QT_SCALE_FACTOR");
+    else
+        qputenv("QT_SCALE_FACTOR", scale);
+    QVERIFY2(m_desk.start({u"--simulate"_s, model == "builtin"_L1 ? u"TK30Z,builtin"_s : model,
+                           u"--ddc-timing"_s, u"fast"_s, u"--services"_s, u"simulated"_s}),
+             qPrintable(m_desk.errors()));
+    QVERIFY(client().call(u"idle"_s).ok());
+    if (model == "builtin"_L1) {
+        for (const QJsonValue& monitor : client().call(u"monitors"_s).result.toArray()) {
+            if (monitor[u"builtIn"_s].toBool())
+                QVERIFY(client().call(u"select"_s, {{u"monitor"_s, monitor[u"id"_s]}}).ok());
+        }
+    }
+    QVERIFY(client().call(u"sync"_s).ok());
+}
+
+QList<Part> TestGallery::parts()
+{
+    QList<Part> list;
+    const QJsonArray widgets = client().call(u"ui.widgets"_s).result.toArray();
+    for (const QJsonValue& row : widgets) {
+        if (row[u"shown"_s].toBool() && !row[u"popup"_s].toBool())
+            list.append({row[u"widget"_s].toString(), true});
+    }
+    for (const char* page : {"arrange", "general", "widgets", "about", "diagnostics"})
+        list.append({QString::fromLatin1(page), false});
+    const QStringList sections = QDir(QStringLiteral(SECTION_FOLDER)).entryList({u"Section*.qml"_s});
+    for (const QString& file : sections)
+        list.append({file.chopped(4), false});
+    return list;
+}
+
+void TestGallery::everythingIsDrawn_data()
+{
+    QTest::addColumn<QString>("model");
+    QTest::addColumn<QByteArray>("scale");
+    for (const char* model : Models) {
+        QTest::addRow("%s, 100 %%", model) << QString::fromLatin1(model) << QByteArray();
+        QTest::addRow("%s, 200 %%", model) << QString::fromLatin1(model) << QByteArray("2");
+    }
+}
+
+void TestGallery::everythingIsDrawn()
+{
+    QFETCH(QString, model);
+    QFETCH(QByteArray, scale);
+    start(model, scale);
+    const int factor = scale.isEmpty() ? 1 : scale.toInt();
+    int pages = 0;
+    for (const QString& theme : {u"light"_s, u"dark"_s}) {
+        const auto picture = [&](const QString& name, const QString& part) {
+            const QString file = u"%1-%2-%3-%4x.png"_s.arg(model, name, theme).arg(factor);
+            const auto answer = client().call(
+                u"ui.screenshot"_s,
+                {{u"file"_s, m_folder.absoluteFilePath(file)}, {u"widget"_s, part}, {u"theme"_s, theme}});
+            if (!answer.ok())
+                return false;
+            const QImage image(m_folder.absoluteFilePath(file));
+            if (!image.isNull() && image.width() >= 200 * factor)
+                m_pictures << file;
+            return !image.isNull() && image.width() >= 200 * factor;
+        };
+        QVERIFY(picture(u"window"_s, {}));
+        const QList<Part> list = parts();
+        for (const Part& part : list) {
+            // A tile need not have a page, nor a monitor every section.
+            if (picture(part.name, part.name))
+                ++pages;
+        }
+        const QJsonArray widgets = client().call(u"ui.widgets"_s).result.toArray();
+        for (const QJsonValue& row : widgets) {
+            const QString widget = row[u"widget"_s].toString();
+            if (!row[u"shown"_s].toBool() || !row[u"popup"_s].toBool())
+                continue;
+            QVERIFY(client().call(u"ui.open"_s, {{u"popup"_s, widget}}).ok());
+            QVERIFY(picture(widget + u"-popup"_s, {}));
+            QVERIFY(client().call(u"ui.close"_s, {{u"popup"_s, widget}}).ok());
+        }
+    }
+    QVERIFY(pages >= 8);
+    QCOMPARE(client().call(u"ui.warnings"_s).result.toArray(), QJsonArray());
+    QStringList missing;
+    for (const QJsonValue& line : client().call(u"log"_s).result.toArray()) {
+        if (line[u"text"_s].toString().contains(u"image missing"_s))
+            missing << line[u"text"_s].toString();
+    }
+    QCOMPARE(missing, QStringList());
+}
+
+void TestGallery::checkProblems(const QString& where, QStringList& found)
+{
+    for (const QJsonValue& problem : client().call(u"ui.problems"_s).result.toArray()) {
+        found << u"%1: %2 \"%3\" in %4"_s.arg(where, problem[u"problem"_s].toString(),
+                                              problem[u"text"_s].toString(), problem[u"item"_s].toString());
+    }
+}
+
+void TestGallery::noTextIsCut_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("model");
+    for (const char* language : Languages) {
+        for (const char* model : {"TK30Z", "TK20"})
+            QTest::addRow("%s, %s", language, model)
+                << QString::fromLatin1(language) << QString::fromLatin1(model);
+    }
+}
+
+void TestGallery::noTextIsCut()
+{
+    QFETCH(QString, language);
+    QFETCH(QString, model);
+    start(model);
+    QVERIFY(client().call(u"settings.set"_s, {{u"key"_s, u"language"_s}, {u"value"_s, language}}).ok());
+    QCOMPARE(m_desk.stop(), 0);
+    start(model);
+    QStringList found;
+    checkProblems(u"window"_s, found);
+    const QList<Part> list = parts();
+    for (const Part& part : list) {
+        if (part.name == "arrange"_L1)
+            continue;
+        const QString kind = part.isWidget ? u"widget"_s : u"section"_s;
+        if (!client().call(u"ui.open"_s, {{kind, part.name}}).ok())
+            continue;
+        checkProblems(part.name, found);
+        // The settings are one window for all their pages.
+        if (part.isWidget)
+            QVERIFY(client().call(u"ui.close"_s, {{kind, part.name}}).ok());
+    }
+    found.removeDuplicates();
+    QVERIFY2(found.isEmpty(), qPrintable(u'\n' + found.join(u'\n')));
+    QCOMPARE(client().call(u"ui.warnings"_s).result.toArray(), QJsonArray());
+}
+
+void TestGallery::theAuditFindsWhatIsWrong()
+{
+    start(u"TK30Z"_s);
+    // A name that no window has room for.
+    QVERIFY(client().call(u"set"_s, {{u"path"_s, u"nickName"_s}, {u"value"_s, QString(120, u'W')}}).ok());
+    QVERIFY(client().call(u"idle"_s).ok());
+    QStringList found;
+    QTRY_VERIFY((checkProblems(u"window"_s, found), !found.filter(u"cut \"WWW"_s).isEmpty()));
+}
+
+void TestGallery::stablePartsLookAsBefore_data()
+{
+    QTest::addColumn<QString>("part");
+    QTest::addColumn<QString>("theme");
+    for (const char* part : {"general", "about", "walkthrough"}) {
+        for (const char* theme : {"light", "dark"})
+            QTest::addRow("%s, %s", part, theme) << QString::fromLatin1(part) << QString::fromLatin1(theme);
+    }
+}
+
+void TestGallery::stablePartsLookAsBefore()
+{
+    QFETCH(QString, part);
+    QFETCH(QString, theme);
+    constexpr int Tolerance = 40;
+    start(u"TK30Z"_s);
+    const QString name = u"%1-%2.png"_s.arg(part, theme);
+    const QString file = m_folder.absoluteFilePath(u"stable-"_s + name);
+    QVERIFY(client()
+                .call(u"ui.screenshot"_s, {{u"file"_s, file}, {u"widget"_s, part}, {u"theme"_s, theme}})
+                .ok());
+    const QString reference = QStringLiteral(REFERENCE_FOLDER) + u'/' + name;
+    if (qEnvironmentVariableIsSet("LUMEN_RECORD")) {
+        QVERIFY(!QFile::exists(reference) || QFile::remove(reference));
+        QVERIFY(QFile::copy(file, reference));
+    }
+    const QImage now(file);
+    const QImage before(reference);
+    QVERIFY2(!before.isNull(), qPrintable(reference));
+    QVERIFY2(std::abs(now.width() - before.width()) <= 2 && std::abs(now.height() - before.height()) <= 24,
+             qPrintable(u"%1x%2"_s.arg(now.width()).arg(now.height())));
+    const QImage common =
+        now.copy(0, 0, std::min(now.width(), before.width()), std::min(now.height(), before.height()));
+    const int difference = differenceOf(before.copy(common.rect()), common);
+    QVERIFY2(difference <= Tolerance, qPrintable(QString::number(difference)));
+    // The measure sees what it is to see: the other theme is another picture.
+    QImage inverted = common;
+    inverted.invertPixels();
+    QVERIFY(differenceOf(common, inverted) > Tolerance);
+}
+
+void TestGallery::writeSheet(const QDir& folder) const
+{
+    QFile sheet(folder.absoluteFilePath(u"index.html"_s));
+    if (!sheet.open(QIODevice::WriteOnly))
+        return;
+    sheet.write(
+        "<!doctype html><meta charset=\"utf-8\"><title>Lumen Desk: gallery</title>\n<style>body{font:14px "
+        "sans-serif;background:#c9d1dc;margin:24px}figure{display:inline-block;margin:8px;vertical-align:top}"
+        "figcaption{margin-top:4px}img{max-width:380px}</style>\n<h1>Gallery</h1>\n");
+    QStringList names = m_pictures;
+    names.removeDuplicates();
+    names.sort();
+    for (const QString& name : std::as_const(names))
+        sheet.write(
+            u"<figure><img src=\"%1\" alt=\"\"><figcaption>%1</figcaption></figure>\n"_s.arg(name).toUtf8());
+}
+
+void TestGallery::cleanupTestCase()
+{
+    if (!m_pictures.isEmpty())
+        writeSheet(m_folder);
+}
+
+QTEST_GUILESS_MAIN(TestGallery)
+#include "tst_window_gallery.moc"

@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import LumenDesk.Widgets
+
+LuBasicWidget {
+    id: _self
+
+    property int removals: 0
+
+    text: "Tile Two"
+    active: true
+    deactivateOnRemoved: true
+    page: LuPage {
+        title: "Page Two"
+    }
+
+    function setActive(state: var): void {
+        active = state
+        ++removals
+    }
+}
