@@ -2,8 +2,8 @@
 #include "Application.h"
 
 #include "ActionKeys.h"
-#include "InputNotice.h"
 #include "DesktopShell.h"
+#include "InputNotice.h"
 #include "RealMonitors.h"
 #include "SimulatedMonitors.h"
 #include "adapters/ClockMethods.h"

@@ -2,6 +2,7 @@
 #include "Translations.h"
 
 #include <LuShared/LuPackagesInterface.h>
+#include <qml/LumenQml.h>
 
 #include <QCoreApplication>
 #include <QLocale>
@@ -25,6 +26,7 @@ void Translations::load(const Texts& texts)
 
 void Translations::setLanguage(const QString& language)
 {
+    lumenQmlResources();
     QLocale::setDefault(language.isEmpty() ? QLocale::system() : QLocale(language));
     if (m_texts.isEmpty())
         m_texts.append({&m_own, u"lumen-desk"_s, u":/lumendesk/translations"_s});

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "LuFrameWatch.h"
+
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QJsonValue>
@@ -91,6 +93,9 @@ public:
     /// "problem"}.
     Result problems() const;
 
+    /// {"frames","longestMs","longestFrameMs"} since the call before; the first call begins to measure.
+    Result frames();
+
     /// The QML warnings since the start.
     QStringList warnings() const { return m_warnings; }
 
@@ -124,6 +129,7 @@ private:
     QQuickItem* popupItem(const QString& type) const;
     QQuickItem* sectionItem(const QString& name) const;
 
+    LuFrameWatch m_frames;
     QStringList m_warnings;
     Qt::MouseButtons m_buttons;
 };

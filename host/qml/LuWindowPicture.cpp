@@ -165,3 +165,16 @@ LuWindowBridge::Result LuWindowBridge::problems() const
     }
     return {NoError, {}, list};
 }
+
+LuWindowBridge::Result LuWindowBridge::frames()
+{
+    if (!window())
+        return noWindow();
+    const LuFrameWatch::Measured measured = m_frames.measured();
+    m_frames.start(window());
+    return {NoError,
+            {},
+            QJsonObject{{u"frames"_s, measured.frames},
+                        {u"longestMs"_s, measured.longestMs},
+                        {u"longestFrameMs"_s, measured.longestFrameMs}}};
+}

@@ -28,6 +28,7 @@ static void initResources()
     Q_INIT_RESOURCE(lumenqml);
     Q_INIT_RESOURCE(lumenqml_fallback);
     Q_INIT_RESOURCE(lumenqml_shaders);
+    Q_INIT_RESOURCE(lumenqml_translations);
 }
 
 namespace {
@@ -69,6 +70,11 @@ void registerTypes()
 #endif
 }
 } // namespace
+
+void lumenQmlResources()
+{
+    initResources();
+}
 
 void lumenQmlInit(QQmlEngine* engine, const QStringList& packages)
 {

@@ -6,6 +6,9 @@
 class QQmlEngine;
 class QUrl;
 
+/// Makes the shell's files, its translations among them, known. lumenQmlInit() does it too.
+void lumenQmlResources();
+
 /// Makes the QML modules LumenDesk... usable in @p engine: resources, import paths, types, icons.
 /// GUI thread, before the first component is loaded.
 /// @param packages names of the loaded packages, whose QML modules and pictures are found below their names.

@@ -1,0 +1,656 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!-- SPDX-License-Identifier: Apache-2.0 -->
+<!DOCTYPE TS>
+<TS version="2.1" language="hr" sourcelanguage="en">
+<context>
+    <name>AboutPage</name>
+    <message>
+        <source>About</source>
+        <translation>O programu</translation>
+    </message>
+    <message>
+        <source>Version %1 · Apache License 2.0</source>
+        <translation>Inačica %1 · Apache License 2.0</translation>
+    </message>
+    <message>
+        <source>Apache License 2.0</source>
+        <translation>Apache License 2.0</translation>
+    </message>
+    <message>
+        <source>Puts you in control of your monitors.</source>
+        <translation>Daje vam nadzor nad vašim monitorima.</translation>
+    </message>
+    <message>
+        <source>Show the introduction</source>
+        <translation>Prikaži uvod</translation>
+    </message>
+    <message>
+        <source>Open-source notices</source>
+        <translation>Napomene o otvorenom kodu</translation>
+    </message>
+</context>
+<context>
+    <name>ArrangeList</name>
+    <message>
+        <source>Rows</source>
+        <translation>Redci</translation>
+    </message>
+    <message>
+        <source>Tiles</source>
+        <translation>Pločice</translation>
+    </message>
+    <message>
+        <source>Wide tiles</source>
+        <translation>Široke pločice</translation>
+    </message>
+    <message>
+        <source>At the bottom</source>
+        <translation>Na dnu</translation>
+    </message>
+    <message>
+        <source>Move %1 forward</source>
+        <translation>Pomakni %1 naprijed</translation>
+    </message>
+    <message>
+        <source>Move %1 back</source>
+        <translation>Pomakni %1 natrag</translation>
+    </message>
+    <message>
+        <source>Reset to the original order</source>
+        <translation>Vrati izvorni redoslijed</translation>
+    </message>
+</context>
+<context>
+    <name>ArrangePage</name>
+    <message>
+        <source>Arrange</source>
+        <translation>Rasporedi</translation>
+    </message>
+    <message>
+        <source>Choose what the window shows, and in which order.</source>
+        <translation>Odaberite što prozor prikazuje i kojim redom.</translation>
+    </message>
+</context>
+<context>
+    <name>DiagnosticsPage</name>
+    <message>
+        <source>Diagnostics</source>
+        <translation>Dijagnostika</translation>
+    </message>
+    <message>
+        <source>No monitor is connected.</source>
+        <translation>Nijedan monitor nije spojen.</translation>
+    </message>
+    <message>
+        <source>The report holds what is shown here and the log of the monitors' buses. Serial numbers, your name and your folders are left out.</source>
+        <translation>Izvješće sadrži ovdje prikazano i zapisnik sabirnica. Serijski brojevi, vaše ime i mape izostavljeni su.</translation>
+    </message>
+    <message>
+        <source>Export report</source>
+        <translation>Izvezi izvješće</translation>
+    </message>
+    <message>
+        <source>Written to %1</source>
+        <translation>Zapisano u %1</translation>
+    </message>
+</context>
+<context>
+    <name>EmptyState</name>
+    <message>
+        <source>Every widget is hidden</source>
+        <translation>Sve je skriveno</translation>
+    </message>
+    <message>
+        <source>Looking for monitors…</source>
+        <translation>Traženje monitora…</translation>
+    </message>
+    <message>
+        <source>No supported monitor found</source>
+        <translation>Nije pronađen podržani monitor</translation>
+    </message>
+    <message>
+        <source>Bring back what you need; nothing was lost.</source>
+        <translation>Vratite što vam treba; ništa nije izgubljeno.</translation>
+    </message>
+    <message>
+        <source>This takes a moment.</source>
+        <translation>Ovo traje trenutak.</translation>
+    </message>
+    <message>
+        <source>Plug one in and it appears here by itself.</source>
+        <translation>Priključite ga i sam će se pojaviti ovdje.</translation>
+    </message>
+    <message>
+        <source>Arrange</source>
+        <translation>Rasporedi</translation>
+    </message>
+    <message>
+        <source>The monitor is switched on and connected directly, by USB-C, DisplayPort or HDMI.</source>
+        <translation>Monitor je uključen i izravno spojen putem USB-C, DisplayPort ili HDMI.</translation>
+    </message>
+    <message>
+        <source>DDC/CI is switched on in the monitor's own menu.</source>
+        <translation>DDC/CI je uključen u izborniku monitora.</translation>
+    </message>
+    <message>
+        <source>This account may use the I2C devices: install the device rule or join the group "i2c", then log in again.</source>
+        <translation>Ovaj račun smije koristiti I2C uređaje: instalirajte pravilo ili se pridružite grupi „i2c“ i ponovno se prijavite.</translation>
+    </message>
+    <message>
+        <source>Look again</source>
+        <translation>Traži ponovno</translation>
+    </message>
+    <message>
+        <source>Try it with a simulated monitor</source>
+        <translation>Isprobaj sa simuliranim monitorom</translation>
+    </message>
+</context>
+<context>
+    <name>GeneralPage</name>
+    <message>
+        <source>Follow the desktop</source>
+        <translation>Kao radna površina</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Svijetlo</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Tamno</translation>
+    </message>
+    <message>
+        <source>High contrast</source>
+        <translation>Visoki kontrast</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Općenito</translation>
+    </message>
+    <message>
+        <source>Theme</source>
+        <translation>Tema</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Jezik</translation>
+    </message>
+    <message>
+        <source>As the desktop</source>
+        <translation>Kao radna površina</translation>
+    </message>
+    <message>
+        <source>Start at login</source>
+        <translation>Pokreni pri prijavi</translation>
+    </message>
+    <message>
+        <source>Schedules and shortcuts work from the moment that you log in.</source>
+        <translation>Rasporedi i prečaci rade čim se prijavite.</translation>
+    </message>
+    <message>
+        <source>Keep running when the window is closed</source>
+        <translation>Nastavi rad nakon zatvaranja prozora</translation>
+    </message>
+    <message>
+        <source>The icon in the tray brings the window back.</source>
+        <translation>Ikona u traci vraća prozor.</translation>
+    </message>
+    <message>
+        <source>Starting Lumen Desk again brings the window back.</source>
+        <translation>Ponovno pokretanje Lumen Deska vraća prozor.</translation>
+    </message>
+    <message>
+        <source>Restore my settings at start</source>
+        <translation>Vrati moje postavke pri pokretanju</translation>
+    </message>
+    <message>
+        <source>Monitors get the values of your last session. Switched off, they keep what they have.</source>
+        <translation>Monitori dobivaju vrijednosti zadnje sesije. Isključeno, zadržavaju svoje.</translation>
+    </message>
+</context>
+<context>
+    <name>HeaderBar</name>
+    <message>
+        <source>Settings</source>
+        <translation>Postavke</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Zatvori</translation>
+    </message>
+</context>
+<context>
+    <name>LuActionSelectionPopup</name>
+    <message>
+        <source>Set an Action</source>
+        <translation>Postavi radnju</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Dalje</translation>
+    </message>
+    <message>
+        <source>This flow has every action that the monitor offers.</source>
+        <translation>Ovaj tijek ima sve radnje koje monitor nudi.</translation>
+    </message>
+</context>
+<context>
+    <name>LuContext</name>
+    <message>
+        <source>Built-in</source>
+        <translation>Ugrađeni</translation>
+    </message>
+    <message>
+        <source>S/N %1</source>
+        <translation>S/N %1</translation>
+    </message>
+</context>
+<context>
+    <name>LuDiagnostics</name>
+    <message>
+        <source>Connection</source>
+        <translation>Veza</translation>
+    </message>
+    <message>
+        <source>Condition</source>
+        <translation>Stanje</translation>
+    </message>
+    <message>
+        <source>Transfers</source>
+        <translation>Prijenosi</translation>
+    </message>
+    <message>
+        <source>Retries</source>
+        <translation>Ponovni pokušaji</translation>
+    </message>
+    <message>
+        <source>Errors</source>
+        <translation>Pogreške</translation>
+    </message>
+    <message>
+        <source>Learnt waits</source>
+        <translation>Naučena čekanja</translation>
+    </message>
+    <message>
+        <source>Writes today</source>
+        <translation>Zapisi danas</translation>
+    </message>
+    <message>
+        <source>Circuit breaker</source>
+        <translation>Osigurač</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>nema</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>nepoznato</translation>
+    </message>
+    <message>
+        <source>asleep</source>
+        <translation>spava</translation>
+    </message>
+    <message>
+        <source>gives no answer</source>
+        <translation>ne odgovara</translation>
+    </message>
+    <message>
+        <source>answers</source>
+        <translation>odgovara</translation>
+    </message>
+    <message>
+        <source>built in</source>
+        <translation>ugrađen</translation>
+    </message>
+    <message>
+        <source>simulated</source>
+        <translation>simuliran</translation>
+    </message>
+    <message>
+        <source>closed</source>
+        <translation>zatvoren</translation>
+    </message>
+    <message>
+        <source>the folder cannot be made</source>
+        <translation>mapa se ne može stvoriti</translation>
+    </message>
+    <message>
+        <source>The report could not be written to %1: %2</source>
+        <translation>Izvješće se ne može zapisati u %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>LuHelpButton</name>
+    <message>
+        <source>Help</source>
+        <translation>Pomoć</translation>
+    </message>
+</context>
+<context>
+    <name>LuHintWindow</name>
+    <message>
+        <source>Close</source>
+        <translation>Zatvori</translation>
+    </message>
+</context>
+<context>
+    <name>LuListRow</name>
+    <message>
+        <source>Edit</source>
+        <translation>Uredi</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Izbriši</translation>
+    </message>
+</context>
+<context>
+    <name>LuNamePopup</name>
+    <message>
+        <source>Save</source>
+        <translation>Spremi</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Naziv</translation>
+    </message>
+    <message>
+        <source>There is one of that name already.</source>
+        <translation>Taj naziv već postoji.</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupAction</name>
+    <message>
+        <source>Save</source>
+        <translation>Spremi</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupController</name>
+    <message>
+        <source>Color mode</source>
+        <translation>Način boja</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Zvuk</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Night Hours Protection</translation>
+    </message>
+    <message>
+        <source>EcoPrivacy</source>
+        <translation>EcoPrivacy</translation>
+    </message>
+    <message>
+        <source>Visual Optimizer</source>
+        <translation>Visual Optimizer</translation>
+    </message>
+    <message>
+        <source>A.B.+ Gen2</source>
+        <translation>A.B.+ Gen2</translation>
+    </message>
+    <message>
+        <source>Low Blue Light</source>
+        <translation>Low Blue Light</translation>
+    </message>
+    <message>
+        <source>A.B. Gen2</source>
+        <translation>A.B. Gen2</translation>
+    </message>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Open applications</source>
+        <translation>Otvori aplikacije</translation>
+    </message>
+    <message>
+        <source>Add a flow</source>
+        <translation>Dodaj tijek</translation>
+    </message>
+    <message>
+        <source>Rename the flow</source>
+        <translation>Preimenuj tijek</translation>
+    </message>
+</context>
+<context>
+    <name>LuProgressRing</name>
+    <message>
+        <source>Please wait…</source>
+        <translation>Pričekajte…</translation>
+    </message>
+</context>
+<context>
+    <name>LuSchedulePopup</name>
+    <message>
+        <source>Schedule</source>
+        <translation>Raspored</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Spremi</translation>
+    </message>
+    <message>
+        <source>%1, hour</source>
+        <translation>%1, sat</translation>
+    </message>
+    <message>
+        <source>%1, minute</source>
+        <translation>%1, minuta</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Početak</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Kraj</translation>
+    </message>
+    <message>
+        <source>Ends on the next day.</source>
+        <translation>Završava sljedeći dan.</translation>
+    </message>
+    <message>
+        <source>Start and end are the same.</source>
+        <translation>Početak i kraj su isti.</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>Ponavljanje</translation>
+    </message>
+</context>
+<context>
+    <name>LuSelectionWindow</name>
+    <message>
+        <source>OK</source>
+        <translation>U redu</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Odustani</translation>
+    </message>
+</context>
+<context>
+    <name>LuTimeButton</name>
+    <message>
+        <source>Hours</source>
+        <translation>Sati</translation>
+    </message>
+    <message>
+        <source>Minutes</source>
+        <translation>Minute</translation>
+    </message>
+</context>
+<context>
+    <name>LuWarningWindow</name>
+    <message>
+        <source>%1 is not available in the current color mode.</source>
+        <translation>%1 nije dostupno u trenutačnom načinu boja.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>U redu</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Lumen Desk</source>
+        <translation>Lumen Desk</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorSwitcher</name>
+    <message>
+        <source>Monitor</source>
+        <translation>Monitor</translation>
+    </message>
+</context>
+<context>
+    <name>OsdTranslator</name>
+    <message>
+        <source>5000 K</source>
+        <translation>5000 K</translation>
+    </message>
+    <message>
+        <source>6500 K</source>
+        <translation>6500 K</translation>
+    </message>
+    <message>
+        <source>9300 K</source>
+        <translation>9300 K</translation>
+    </message>
+    <message>
+        <source>DCI</source>
+        <translation>DCI</translation>
+    </message>
+    <message>
+        <source>User defined</source>
+        <translation>Prilagođeno</translation>
+    </message>
+    <message>
+        <source>Native</source>
+        <translation>Izvorno</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standardno</translation>
+    </message>
+    <message>
+        <source>Dialogue</source>
+        <translation>Dijalog</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Glazba</translation>
+    </message>
+    <message>
+        <source>Cinema</source>
+        <translation>Kino</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>Igra</translation>
+    </message>
+    <message>
+        <source>Studio</source>
+        <translation>Studio</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Korisnik</translation>
+    </message>
+</context>
+<context>
+    <name>PagePanel</name>
+    <message>
+        <source>Close</source>
+        <translation>Zatvori</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsWindow</name>
+    <message>
+        <source>General</source>
+        <translation>Općenito</translation>
+    </message>
+    <message>
+        <source>Widgets</source>
+        <translation>Elementi</translation>
+    </message>
+    <message>
+        <source>Diagnostics</source>
+        <translation>Dijagnostika</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>O programu</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Postavke</translation>
+    </message>
+    <message>
+        <source>Advanced</source>
+        <translation>Napredno</translation>
+    </message>
+</context>
+<context>
+    <name>Tray</name>
+    <message>
+        <source>Show Lumen Desk</source>
+        <translation>Prikaži Lumen Desk</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Postavke</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Zatvori program</translation>
+    </message>
+</context>
+<context>
+    <name>WalkthroughWindow</name>
+    <message>
+        <source>Welcome to Lumen Desk</source>
+        <translation>Dobro došli u Lumen Desk</translation>
+    </message>
+    <message>
+        <source>Try it</source>
+        <translation>Isprobaj</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Natrag</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Gotovo</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Dalje</translation>
+    </message>
+</context>
+<context>
+    <name>WidgetsPage</name>
+    <message>
+        <source>Widgets</source>
+        <translation>Elementi</translation>
+    </message>
+    <message>
+        <source>Choose what the window shows, and in which order.</source>
+        <translation>Odaberite što prozor prikazuje i kojim redom.</translation>
+    </message>
+    <message>
+        <source>Widgets can be arranged while a supported monitor is connected.</source>
+        <translation>Elementi se mogu rasporediti dok je spojen podržani monitor.</translation>
+    </message>
+</context>
+</TS>

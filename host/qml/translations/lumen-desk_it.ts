@@ -1,0 +1,656 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!-- SPDX-License-Identifier: Apache-2.0 -->
+<!DOCTYPE TS>
+<TS version="2.1" language="it" sourcelanguage="en">
+<context>
+    <name>AboutPage</name>
+    <message>
+        <source>About</source>
+        <translation>Informazioni</translation>
+    </message>
+    <message>
+        <source>Version %1 · Apache License 2.0</source>
+        <translation>Versione %1 · Licenza Apache 2.0</translation>
+    </message>
+    <message>
+        <source>Apache License 2.0</source>
+        <translation>Licenza Apache 2.0</translation>
+    </message>
+    <message>
+        <source>Puts you in control of your monitors.</source>
+        <translation>Ti dà il controllo dei tuoi monitor.</translation>
+    </message>
+    <message>
+        <source>Show the introduction</source>
+        <translation>Mostra l’introduzione</translation>
+    </message>
+    <message>
+        <source>Open-source notices</source>
+        <translation>Note open source</translation>
+    </message>
+</context>
+<context>
+    <name>ArrangeList</name>
+    <message>
+        <source>Rows</source>
+        <translation>Righe</translation>
+    </message>
+    <message>
+        <source>Tiles</source>
+        <translation>Riquadri</translation>
+    </message>
+    <message>
+        <source>Wide tiles</source>
+        <translation>Riquadri larghi</translation>
+    </message>
+    <message>
+        <source>At the bottom</source>
+        <translation>In fondo</translation>
+    </message>
+    <message>
+        <source>Move %1 forward</source>
+        <translation>Sposta %1 avanti</translation>
+    </message>
+    <message>
+        <source>Move %1 back</source>
+        <translation>Sposta %1 indietro</translation>
+    </message>
+    <message>
+        <source>Reset to the original order</source>
+        <translation>Ripristina l’ordine originale</translation>
+    </message>
+</context>
+<context>
+    <name>ArrangePage</name>
+    <message>
+        <source>Arrange</source>
+        <translation>Disponi</translation>
+    </message>
+    <message>
+        <source>Choose what the window shows, and in which order.</source>
+        <translation>Scegli che cosa mostra la finestra e in quale ordine.</translation>
+    </message>
+</context>
+<context>
+    <name>DiagnosticsPage</name>
+    <message>
+        <source>Diagnostics</source>
+        <translation>Diagnostica</translation>
+    </message>
+    <message>
+        <source>No monitor is connected.</source>
+        <translation>Nessun monitor collegato.</translation>
+    </message>
+    <message>
+        <source>The report holds what is shown here and the log of the monitors' buses. Serial numbers, your name and your folders are left out.</source>
+        <translation>Il rapporto contiene ciò che è mostrato qui e il registro dei bus. Numeri di serie, nome e cartelle sono esclusi.</translation>
+    </message>
+    <message>
+        <source>Export report</source>
+        <translation>Esporta rapporto</translation>
+    </message>
+    <message>
+        <source>Written to %1</source>
+        <translation>Salvato in %1</translation>
+    </message>
+</context>
+<context>
+    <name>EmptyState</name>
+    <message>
+        <source>Every widget is hidden</source>
+        <translation>Tutto è nascosto</translation>
+    </message>
+    <message>
+        <source>Looking for monitors…</source>
+        <translation>Ricerca dei monitor…</translation>
+    </message>
+    <message>
+        <source>No supported monitor found</source>
+        <translation>Nessun monitor supportato</translation>
+    </message>
+    <message>
+        <source>Bring back what you need; nothing was lost.</source>
+        <translation>Riporta ciò che ti serve; nulla è andato perso.</translation>
+    </message>
+    <message>
+        <source>This takes a moment.</source>
+        <translation>Ci vorrà un momento.</translation>
+    </message>
+    <message>
+        <source>Plug one in and it appears here by itself.</source>
+        <translation>Collegane uno e apparirà qui da solo.</translation>
+    </message>
+    <message>
+        <source>Arrange</source>
+        <translation>Disponi</translation>
+    </message>
+    <message>
+        <source>The monitor is switched on and connected directly, by USB-C, DisplayPort or HDMI.</source>
+        <translation>Il monitor è acceso e collegato direttamente tramite USB-C, DisplayPort o HDMI.</translation>
+    </message>
+    <message>
+        <source>DDC/CI is switched on in the monitor's own menu.</source>
+        <translation>DDC/CI è attivo nel menu del monitor.</translation>
+    </message>
+    <message>
+        <source>This account may use the I2C devices: install the device rule or join the group "i2c", then log in again.</source>
+        <translation>Questo account può usare i dispositivi I2C: installa la regola o entra nel gruppo «i2c», poi accedi di nuovo.</translation>
+    </message>
+    <message>
+        <source>Look again</source>
+        <translation>Cerca di nuovo</translation>
+    </message>
+    <message>
+        <source>Try it with a simulated monitor</source>
+        <translation>Prova con un monitor simulato</translation>
+    </message>
+</context>
+<context>
+    <name>GeneralPage</name>
+    <message>
+        <source>Follow the desktop</source>
+        <translation>Come il desktop</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Chiaro</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Scuro</translation>
+    </message>
+    <message>
+        <source>High contrast</source>
+        <translation>Contrasto elevato</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Generali</translation>
+    </message>
+    <message>
+        <source>Theme</source>
+        <translation>Tema</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Lingua</translation>
+    </message>
+    <message>
+        <source>As the desktop</source>
+        <translation>Come il desktop</translation>
+    </message>
+    <message>
+        <source>Start at login</source>
+        <translation>Avvia all’accesso</translation>
+    </message>
+    <message>
+        <source>Schedules and shortcuts work from the moment that you log in.</source>
+        <translation>Programmi e scorciatoie funzionano fin dall’accesso.</translation>
+    </message>
+    <message>
+        <source>Keep running when the window is closed</source>
+        <translation>Resta attivo alla chiusura della finestra</translation>
+    </message>
+    <message>
+        <source>The icon in the tray brings the window back.</source>
+        <translation>L’icona nel pannello riporta la finestra.</translation>
+    </message>
+    <message>
+        <source>Starting Lumen Desk again brings the window back.</source>
+        <translation>Riavviando Lumen Desk la finestra ritorna.</translation>
+    </message>
+    <message>
+        <source>Restore my settings at start</source>
+        <translation>Ripristina le impostazioni all’avvio</translation>
+    </message>
+    <message>
+        <source>Monitors get the values of your last session. Switched off, they keep what they have.</source>
+        <translation>I monitor ricevono i valori dell’ultima sessione. Se disattivato, mantengono i propri.</translation>
+    </message>
+</context>
+<context>
+    <name>HeaderBar</name>
+    <message>
+        <source>Settings</source>
+        <translation>Impostazioni</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+</context>
+<context>
+    <name>LuActionSelectionPopup</name>
+    <message>
+        <source>Set an Action</source>
+        <translation>Imposta un’azione</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Avanti</translation>
+    </message>
+    <message>
+        <source>This flow has every action that the monitor offers.</source>
+        <translation>Questo flusso ha tutte le azioni offerte dal monitor.</translation>
+    </message>
+</context>
+<context>
+    <name>LuContext</name>
+    <message>
+        <source>Built-in</source>
+        <translation>Integrato</translation>
+    </message>
+    <message>
+        <source>S/N %1</source>
+        <translation>N. serie %1</translation>
+    </message>
+</context>
+<context>
+    <name>LuDiagnostics</name>
+    <message>
+        <source>Connection</source>
+        <translation>Connessione</translation>
+    </message>
+    <message>
+        <source>Condition</source>
+        <translation>Stato</translation>
+    </message>
+    <message>
+        <source>Transfers</source>
+        <translation>Trasferimenti</translation>
+    </message>
+    <message>
+        <source>Retries</source>
+        <translation>Tentativi</translation>
+    </message>
+    <message>
+        <source>Errors</source>
+        <translation>Errori</translation>
+    </message>
+    <message>
+        <source>Learnt waits</source>
+        <translation>Attese apprese</translation>
+    </message>
+    <message>
+        <source>Writes today</source>
+        <translation>Scritture oggi</translation>
+    </message>
+    <message>
+        <source>Circuit breaker</source>
+        <translation>Interruttore</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>nessuno</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>sconosciuto</translation>
+    </message>
+    <message>
+        <source>asleep</source>
+        <translation>in riposo</translation>
+    </message>
+    <message>
+        <source>gives no answer</source>
+        <translation>non risponde</translation>
+    </message>
+    <message>
+        <source>answers</source>
+        <translation>risponde</translation>
+    </message>
+    <message>
+        <source>built in</source>
+        <translation>integrato</translation>
+    </message>
+    <message>
+        <source>simulated</source>
+        <translation>simulato</translation>
+    </message>
+    <message>
+        <source>closed</source>
+        <translation>chiuso</translation>
+    </message>
+    <message>
+        <source>the folder cannot be made</source>
+        <translation>impossibile creare la cartella</translation>
+    </message>
+    <message>
+        <source>The report could not be written to %1: %2</source>
+        <translation>Impossibile scrivere il rapporto in %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>LuHelpButton</name>
+    <message>
+        <source>Help</source>
+        <translation>Aiuto</translation>
+    </message>
+</context>
+<context>
+    <name>LuHintWindow</name>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+</context>
+<context>
+    <name>LuListRow</name>
+    <message>
+        <source>Edit</source>
+        <translation>Modifica</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Elimina</translation>
+    </message>
+</context>
+<context>
+    <name>LuNamePopup</name>
+    <message>
+        <source>Save</source>
+        <translation>Salva</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>There is one of that name already.</source>
+        <translation>Questo nome esiste già.</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupAction</name>
+    <message>
+        <source>Save</source>
+        <translation>Salva</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupController</name>
+    <message>
+        <source>Color mode</source>
+        <translation>Modalità colore</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Night Hours Protection</translation>
+    </message>
+    <message>
+        <source>EcoPrivacy</source>
+        <translation>EcoPrivacy</translation>
+    </message>
+    <message>
+        <source>Visual Optimizer</source>
+        <translation>Visual Optimizer</translation>
+    </message>
+    <message>
+        <source>A.B.+ Gen2</source>
+        <translation>A.B.+ Gen2</translation>
+    </message>
+    <message>
+        <source>Low Blue Light</source>
+        <translation>Low Blue Light</translation>
+    </message>
+    <message>
+        <source>A.B. Gen2</source>
+        <translation>A.B. Gen2</translation>
+    </message>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Open applications</source>
+        <translation>Apri applicazioni</translation>
+    </message>
+    <message>
+        <source>Add a flow</source>
+        <translation>Aggiungi un flusso</translation>
+    </message>
+    <message>
+        <source>Rename the flow</source>
+        <translation>Rinomina il flusso</translation>
+    </message>
+</context>
+<context>
+    <name>LuProgressRing</name>
+    <message>
+        <source>Please wait…</source>
+        <translation>Attendere…</translation>
+    </message>
+</context>
+<context>
+    <name>LuSchedulePopup</name>
+    <message>
+        <source>Schedule</source>
+        <translation>Programma</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Salva</translation>
+    </message>
+    <message>
+        <source>%1, hour</source>
+        <translation>%1, ora</translation>
+    </message>
+    <message>
+        <source>%1, minute</source>
+        <translation>%1, minuto</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Inizio</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Fine</translation>
+    </message>
+    <message>
+        <source>Ends on the next day.</source>
+        <translation>Termina il giorno dopo.</translation>
+    </message>
+    <message>
+        <source>Start and end are the same.</source>
+        <translation>Inizio e fine coincidono.</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>Ripeti</translation>
+    </message>
+</context>
+<context>
+    <name>LuSelectionWindow</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+</context>
+<context>
+    <name>LuTimeButton</name>
+    <message>
+        <source>Hours</source>
+        <translation>Ore</translation>
+    </message>
+    <message>
+        <source>Minutes</source>
+        <translation>Minuti</translation>
+    </message>
+</context>
+<context>
+    <name>LuWarningWindow</name>
+    <message>
+        <source>%1 is not available in the current color mode.</source>
+        <translation>%1 non è disponibile nella modalità colore attuale.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Lumen Desk</source>
+        <translation>Lumen Desk</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorSwitcher</name>
+    <message>
+        <source>Monitor</source>
+        <translation>Monitor</translation>
+    </message>
+</context>
+<context>
+    <name>OsdTranslator</name>
+    <message>
+        <source>5000 K</source>
+        <translation>5000 K</translation>
+    </message>
+    <message>
+        <source>6500 K</source>
+        <translation>6500 K</translation>
+    </message>
+    <message>
+        <source>9300 K</source>
+        <translation>9300 K</translation>
+    </message>
+    <message>
+        <source>DCI</source>
+        <translation>DCI</translation>
+    </message>
+    <message>
+        <source>User defined</source>
+        <translation>Personalizzata</translation>
+    </message>
+    <message>
+        <source>Native</source>
+        <translation>Nativo</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Dialogue</source>
+        <translation>Dialoghi</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Musica</translation>
+    </message>
+    <message>
+        <source>Cinema</source>
+        <translation>Cinema</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>Gioco</translation>
+    </message>
+    <message>
+        <source>Studio</source>
+        <translation>Studio</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Utente</translation>
+    </message>
+</context>
+<context>
+    <name>PagePanel</name>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsWindow</name>
+    <message>
+        <source>General</source>
+        <translation>Generali</translation>
+    </message>
+    <message>
+        <source>Widgets</source>
+        <translation>Elementi</translation>
+    </message>
+    <message>
+        <source>Diagnostics</source>
+        <translation>Diagnostica</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Informazioni</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Impostazioni</translation>
+    </message>
+    <message>
+        <source>Advanced</source>
+        <translation>Avanzate</translation>
+    </message>
+</context>
+<context>
+    <name>Tray</name>
+    <message>
+        <source>Show Lumen Desk</source>
+        <translation>Mostra Lumen Desk</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Impostazioni</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Esci</translation>
+    </message>
+</context>
+<context>
+    <name>WalkthroughWindow</name>
+    <message>
+        <source>Welcome to Lumen Desk</source>
+        <translation>Benvenuto in Lumen Desk</translation>
+    </message>
+    <message>
+        <source>Try it</source>
+        <translation>Prova</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Indietro</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Fine</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Avanti</translation>
+    </message>
+</context>
+<context>
+    <name>WidgetsPage</name>
+    <message>
+        <source>Widgets</source>
+        <translation>Elementi</translation>
+    </message>
+    <message>
+        <source>Choose what the window shows, and in which order.</source>
+        <translation>Scegli che cosa mostra la finestra e in quale ordine.</translation>
+    </message>
+    <message>
+        <source>Widgets can be arranged while a supported monitor is connected.</source>
+        <translation>Gli elementi si dispongono con un monitor supportato collegato.</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,656 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!-- SPDX-License-Identifier: Apache-2.0 -->
+<!DOCTYPE TS>
+<TS version="2.1" language="ja" sourcelanguage="en">
+<context>
+    <name>AboutPage</name>
+    <message>
+        <source>About</source>
+        <translation>情報</translation>
+    </message>
+    <message>
+        <source>Version %1 · Apache License 2.0</source>
+        <translation>バージョン %1 · Apache License 2.0</translation>
+    </message>
+    <message>
+        <source>Apache License 2.0</source>
+        <translation>Apache License 2.0</translation>
+    </message>
+    <message>
+        <source>Puts you in control of your monitors.</source>
+        <translation>モニターを思いのままに操作できます。</translation>
+    </message>
+    <message>
+        <source>Show the introduction</source>
+        <translation>紹介を見る</translation>
+    </message>
+    <message>
+        <source>Open-source notices</source>
+        <translation>オープンソースに関する表示</translation>
+    </message>
+</context>
+<context>
+    <name>ArrangeList</name>
+    <message>
+        <source>Rows</source>
+        <translation>行</translation>
+    </message>
+    <message>
+        <source>Tiles</source>
+        <translation>タイル</translation>
+    </message>
+    <message>
+        <source>Wide tiles</source>
+        <translation>横長のタイル</translation>
+    </message>
+    <message>
+        <source>At the bottom</source>
+        <translation>一番下</translation>
+    </message>
+    <message>
+        <source>Move %1 forward</source>
+        <translation>%1 を前へ</translation>
+    </message>
+    <message>
+        <source>Move %1 back</source>
+        <translation>%1 を後ろへ</translation>
+    </message>
+    <message>
+        <source>Reset to the original order</source>
+        <translation>元の順序に戻す</translation>
+    </message>
+</context>
+<context>
+    <name>ArrangePage</name>
+    <message>
+        <source>Arrange</source>
+        <translation>配置</translation>
+    </message>
+    <message>
+        <source>Choose what the window shows, and in which order.</source>
+        <translation>ウィンドウに表示する項目と順序を選びます。</translation>
+    </message>
+</context>
+<context>
+    <name>DiagnosticsPage</name>
+    <message>
+        <source>Diagnostics</source>
+        <translation>診断</translation>
+    </message>
+    <message>
+        <source>No monitor is connected.</source>
+        <translation>モニターが接続されていません。</translation>
+    </message>
+    <message>
+        <source>The report holds what is shown here and the log of the monitors' buses. Serial numbers, your name and your folders are left out.</source>
+        <translation>レポートには、ここに表示された内容とバスの記録が含まれます。シリアル番号、名前、フォルダーは含まれません。</translation>
+    </message>
+    <message>
+        <source>Export report</source>
+        <translation>レポートを書き出す</translation>
+    </message>
+    <message>
+        <source>Written to %1</source>
+        <translation>%1 に保存しました</translation>
+    </message>
+</context>
+<context>
+    <name>EmptyState</name>
+    <message>
+        <source>Every widget is hidden</source>
+        <translation>すべて非表示です</translation>
+    </message>
+    <message>
+        <source>Looking for monitors…</source>
+        <translation>モニターを探しています…</translation>
+    </message>
+    <message>
+        <source>No supported monitor found</source>
+        <translation>対応するモニターがありません</translation>
+    </message>
+    <message>
+        <source>Bring back what you need; nothing was lost.</source>
+        <translation>必要なものを戻せます。何も失われていません。</translation>
+    </message>
+    <message>
+        <source>This takes a moment.</source>
+        <translation>少々お待ちください。</translation>
+    </message>
+    <message>
+        <source>Plug one in and it appears here by itself.</source>
+        <translation>接続すると自動的にここに表示されます。</translation>
+    </message>
+    <message>
+        <source>Arrange</source>
+        <translation>配置</translation>
+    </message>
+    <message>
+        <source>The monitor is switched on and connected directly, by USB-C, DisplayPort or HDMI.</source>
+        <translation>モニターの電源が入り、USB-C、DisplayPort または HDMI で直接接続されていること。</translation>
+    </message>
+    <message>
+        <source>DDC/CI is switched on in the monitor's own menu.</source>
+        <translation>モニターのメニューで DDC/CI がオンになっていること。</translation>
+    </message>
+    <message>
+        <source>This account may use the I2C devices: install the device rule or join the group "i2c", then log in again.</source>
+        <translation>このアカウントで I2C デバイスを使えること: デバイス規則を入れるか「i2c」グループに加わり、ログインし直してください。</translation>
+    </message>
+    <message>
+        <source>Look again</source>
+        <translation>もう一度探す</translation>
+    </message>
+    <message>
+        <source>Try it with a simulated monitor</source>
+        <translation>仮想モニターで試す</translation>
+    </message>
+</context>
+<context>
+    <name>GeneralPage</name>
+    <message>
+        <source>Follow the desktop</source>
+        <translation>デスクトップに合わせる</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>ライト</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>ダーク</translation>
+    </message>
+    <message>
+        <source>High contrast</source>
+        <translation>ハイコントラスト</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>一般</translation>
+    </message>
+    <message>
+        <source>Theme</source>
+        <translation>テーマ</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>言語</translation>
+    </message>
+    <message>
+        <source>As the desktop</source>
+        <translation>デスクトップと同じ</translation>
+    </message>
+    <message>
+        <source>Start at login</source>
+        <translation>ログイン時に起動</translation>
+    </message>
+    <message>
+        <source>Schedules and shortcuts work from the moment that you log in.</source>
+        <translation>ログインした時点からスケジュールとショートカットが働きます。</translation>
+    </message>
+    <message>
+        <source>Keep running when the window is closed</source>
+        <translation>ウィンドウを閉じても動作を続ける</translation>
+    </message>
+    <message>
+        <source>The icon in the tray brings the window back.</source>
+        <translation>トレイのアイコンでウィンドウに戻れます。</translation>
+    </message>
+    <message>
+        <source>Starting Lumen Desk again brings the window back.</source>
+        <translation>Lumen Desk をもう一度起動するとウィンドウに戻れます。</translation>
+    </message>
+    <message>
+        <source>Restore my settings at start</source>
+        <translation>起動時に設定を復元する</translation>
+    </message>
+    <message>
+        <source>Monitors get the values of your last session. Switched off, they keep what they have.</source>
+        <translation>前回の値がモニターに設定されます。オフの場合はモニターの値のままです。</translation>
+    </message>
+</context>
+<context>
+    <name>HeaderBar</name>
+    <message>
+        <source>Settings</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+</context>
+<context>
+    <name>LuActionSelectionPopup</name>
+    <message>
+        <source>Set an Action</source>
+        <translation>アクションを設定</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>次へ</translation>
+    </message>
+    <message>
+        <source>This flow has every action that the monitor offers.</source>
+        <translation>このフローにはモニターのすべてのアクションがあります。</translation>
+    </message>
+</context>
+<context>
+    <name>LuContext</name>
+    <message>
+        <source>Built-in</source>
+        <translation>内蔵</translation>
+    </message>
+    <message>
+        <source>S/N %1</source>
+        <translation>S/N %1</translation>
+    </message>
+</context>
+<context>
+    <name>LuDiagnostics</name>
+    <message>
+        <source>Connection</source>
+        <translation>接続</translation>
+    </message>
+    <message>
+        <source>Condition</source>
+        <translation>状態</translation>
+    </message>
+    <message>
+        <source>Transfers</source>
+        <translation>転送</translation>
+    </message>
+    <message>
+        <source>Retries</source>
+        <translation>再試行</translation>
+    </message>
+    <message>
+        <source>Errors</source>
+        <translation>エラー</translation>
+    </message>
+    <message>
+        <source>Learnt waits</source>
+        <translation>学習した待ち時間</translation>
+    </message>
+    <message>
+        <source>Writes today</source>
+        <translation>今日の書き込み</translation>
+    </message>
+    <message>
+        <source>Circuit breaker</source>
+        <translation>遮断器</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>不明</translation>
+    </message>
+    <message>
+        <source>asleep</source>
+        <translation>スリープ中</translation>
+    </message>
+    <message>
+        <source>gives no answer</source>
+        <translation>応答なし</translation>
+    </message>
+    <message>
+        <source>answers</source>
+        <translation>応答あり</translation>
+    </message>
+    <message>
+        <source>built in</source>
+        <translation>内蔵</translation>
+    </message>
+    <message>
+        <source>simulated</source>
+        <translation>仮想</translation>
+    </message>
+    <message>
+        <source>closed</source>
+        <translation>正常</translation>
+    </message>
+    <message>
+        <source>the folder cannot be made</source>
+        <translation>フォルダーを作成できません</translation>
+    </message>
+    <message>
+        <source>The report could not be written to %1: %2</source>
+        <translation>レポートを %1 に保存できません: %2</translation>
+    </message>
+</context>
+<context>
+    <name>LuHelpButton</name>
+    <message>
+        <source>Help</source>
+        <translation>ヘルプ</translation>
+    </message>
+</context>
+<context>
+    <name>LuHintWindow</name>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+</context>
+<context>
+    <name>LuListRow</name>
+    <message>
+        <source>Edit</source>
+        <translation>編集</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>削除</translation>
+    </message>
+</context>
+<context>
+    <name>LuNamePopup</name>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>There is one of that name already.</source>
+        <translation>その名前はすでにあります。</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupAction</name>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupController</name>
+    <message>
+        <source>Color mode</source>
+        <translation>カラーモード</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>オーディオ</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Night Hours Protection</translation>
+    </message>
+    <message>
+        <source>EcoPrivacy</source>
+        <translation>EcoPrivacy</translation>
+    </message>
+    <message>
+        <source>Visual Optimizer</source>
+        <translation>Visual Optimizer</translation>
+    </message>
+    <message>
+        <source>A.B.+ Gen2</source>
+        <translation>A.B.+ Gen2</translation>
+    </message>
+    <message>
+        <source>Low Blue Light</source>
+        <translation>Low Blue Light</translation>
+    </message>
+    <message>
+        <source>A.B. Gen2</source>
+        <translation>A.B. Gen2</translation>
+    </message>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Open applications</source>
+        <translation>アプリを開く</translation>
+    </message>
+    <message>
+        <source>Add a flow</source>
+        <translation>フローを追加</translation>
+    </message>
+    <message>
+        <source>Rename the flow</source>
+        <translation>フローの名前を変更</translation>
+    </message>
+</context>
+<context>
+    <name>LuProgressRing</name>
+    <message>
+        <source>Please wait…</source>
+        <translation>お待ちください…</translation>
+    </message>
+</context>
+<context>
+    <name>LuSchedulePopup</name>
+    <message>
+        <source>Schedule</source>
+        <translation>スケジュール</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>%1, hour</source>
+        <translation>%1、時</translation>
+    </message>
+    <message>
+        <source>%1, minute</source>
+        <translation>%1、分</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>開始</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>終了</translation>
+    </message>
+    <message>
+        <source>Ends on the next day.</source>
+        <translation>翌日に終了します。</translation>
+    </message>
+    <message>
+        <source>Start and end are the same.</source>
+        <translation>開始と終了が同じです。</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>繰り返し</translation>
+    </message>
+</context>
+<context>
+    <name>LuSelectionWindow</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+</context>
+<context>
+    <name>LuTimeButton</name>
+    <message>
+        <source>Hours</source>
+        <translation>時</translation>
+    </message>
+    <message>
+        <source>Minutes</source>
+        <translation>分</translation>
+    </message>
+</context>
+<context>
+    <name>LuWarningWindow</name>
+    <message>
+        <source>%1 is not available in the current color mode.</source>
+        <translation>%1 は現在のカラーモードでは使えません。</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Lumen Desk</source>
+        <translation>Lumen Desk</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorSwitcher</name>
+    <message>
+        <source>Monitor</source>
+        <translation>モニター</translation>
+    </message>
+</context>
+<context>
+    <name>OsdTranslator</name>
+    <message>
+        <source>5000 K</source>
+        <translation>5000 K</translation>
+    </message>
+    <message>
+        <source>6500 K</source>
+        <translation>6500 K</translation>
+    </message>
+    <message>
+        <source>9300 K</source>
+        <translation>9300 K</translation>
+    </message>
+    <message>
+        <source>DCI</source>
+        <translation>DCI</translation>
+    </message>
+    <message>
+        <source>User defined</source>
+        <translation>ユーザー設定</translation>
+    </message>
+    <message>
+        <source>Native</source>
+        <translation>ネイティブ</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>標準</translation>
+    </message>
+    <message>
+        <source>Dialogue</source>
+        <translation>会話</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>音楽</translation>
+    </message>
+    <message>
+        <source>Cinema</source>
+        <translation>シネマ</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>ゲーム</translation>
+    </message>
+    <message>
+        <source>Studio</source>
+        <translation>スタジオ</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>ユーザー</translation>
+    </message>
+</context>
+<context>
+    <name>PagePanel</name>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsWindow</name>
+    <message>
+        <source>General</source>
+        <translation>一般</translation>
+    </message>
+    <message>
+        <source>Widgets</source>
+        <translation>ウィジェット</translation>
+    </message>
+    <message>
+        <source>Diagnostics</source>
+        <translation>診断</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>情報</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Advanced</source>
+        <translation>詳細</translation>
+    </message>
+</context>
+<context>
+    <name>Tray</name>
+    <message>
+        <source>Show Lumen Desk</source>
+        <translation>Lumen Desk を表示</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>終了</translation>
+    </message>
+</context>
+<context>
+    <name>WalkthroughWindow</name>
+    <message>
+        <source>Welcome to Lumen Desk</source>
+        <translation>Lumen Desk へようこそ</translation>
+    </message>
+    <message>
+        <source>Try it</source>
+        <translation>試す</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>戻る</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>完了</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>次へ</translation>
+    </message>
+</context>
+<context>
+    <name>WidgetsPage</name>
+    <message>
+        <source>Widgets</source>
+        <translation>ウィジェット</translation>
+    </message>
+    <message>
+        <source>Choose what the window shows, and in which order.</source>
+        <translation>ウィンドウに表示する項目と順序を選びます。</translation>
+    </message>
+    <message>
+        <source>Widgets can be arranged while a supported monitor is connected.</source>
+        <translation>対応モニターの接続中に配置できます。</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,656 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!-- SPDX-License-Identifier: Apache-2.0 -->
+<!DOCTYPE TS>
+<TS version="2.1" language="ko" sourcelanguage="en">
+<context>
+    <name>AboutPage</name>
+    <message>
+        <source>About</source>
+        <translation>정보</translation>
+    </message>
+    <message>
+        <source>Version %1 · Apache License 2.0</source>
+        <translation>버전 %1 · Apache License 2.0</translation>
+    </message>
+    <message>
+        <source>Apache License 2.0</source>
+        <translation>Apache License 2.0</translation>
+    </message>
+    <message>
+        <source>Puts you in control of your monitors.</source>
+        <translation>모니터를 마음대로 제어합니다.</translation>
+    </message>
+    <message>
+        <source>Show the introduction</source>
+        <translation>소개 보기</translation>
+    </message>
+    <message>
+        <source>Open-source notices</source>
+        <translation>오픈 소스 고지</translation>
+    </message>
+</context>
+<context>
+    <name>ArrangeList</name>
+    <message>
+        <source>Rows</source>
+        <translation>행</translation>
+    </message>
+    <message>
+        <source>Tiles</source>
+        <translation>타일</translation>
+    </message>
+    <message>
+        <source>Wide tiles</source>
+        <translation>넓은 타일</translation>
+    </message>
+    <message>
+        <source>At the bottom</source>
+        <translation>맨 아래</translation>
+    </message>
+    <message>
+        <source>Move %1 forward</source>
+        <translation>%1 앞으로 이동</translation>
+    </message>
+    <message>
+        <source>Move %1 back</source>
+        <translation>%1 뒤로 이동</translation>
+    </message>
+    <message>
+        <source>Reset to the original order</source>
+        <translation>원래 순서로 되돌리기</translation>
+    </message>
+</context>
+<context>
+    <name>ArrangePage</name>
+    <message>
+        <source>Arrange</source>
+        <translation>배치</translation>
+    </message>
+    <message>
+        <source>Choose what the window shows, and in which order.</source>
+        <translation>창에 표시할 항목과 순서를 선택하세요.</translation>
+    </message>
+</context>
+<context>
+    <name>DiagnosticsPage</name>
+    <message>
+        <source>Diagnostics</source>
+        <translation>진단</translation>
+    </message>
+    <message>
+        <source>No monitor is connected.</source>
+        <translation>연결된 모니터가 없습니다.</translation>
+    </message>
+    <message>
+        <source>The report holds what is shown here and the log of the monitors' buses. Serial numbers, your name and your folders are left out.</source>
+        <translation>보고서에는 여기 표시된 내용과 버스 기록이 담깁니다. 일련 번호, 이름, 폴더는 제외됩니다.</translation>
+    </message>
+    <message>
+        <source>Export report</source>
+        <translation>보고서 내보내기</translation>
+    </message>
+    <message>
+        <source>Written to %1</source>
+        <translation>%1에 저장했습니다</translation>
+    </message>
+</context>
+<context>
+    <name>EmptyState</name>
+    <message>
+        <source>Every widget is hidden</source>
+        <translation>모두 숨겨져 있습니다</translation>
+    </message>
+    <message>
+        <source>Looking for monitors…</source>
+        <translation>모니터를 찾는 중…</translation>
+    </message>
+    <message>
+        <source>No supported monitor found</source>
+        <translation>지원되는 모니터가 없습니다</translation>
+    </message>
+    <message>
+        <source>Bring back what you need; nothing was lost.</source>
+        <translation>필요한 항목을 다시 표시하세요. 사라진 것은 없습니다.</translation>
+    </message>
+    <message>
+        <source>This takes a moment.</source>
+        <translation>잠시만 기다려 주세요.</translation>
+    </message>
+    <message>
+        <source>Plug one in and it appears here by itself.</source>
+        <translation>연결하면 여기에 자동으로 나타납니다.</translation>
+    </message>
+    <message>
+        <source>Arrange</source>
+        <translation>배치</translation>
+    </message>
+    <message>
+        <source>The monitor is switched on and connected directly, by USB-C, DisplayPort or HDMI.</source>
+        <translation>모니터가 켜져 있고 USB-C, DisplayPort 또는 HDMI로 직접 연결되어 있는지.</translation>
+    </message>
+    <message>
+        <source>DDC/CI is switched on in the monitor's own menu.</source>
+        <translation>모니터 메뉴에서 DDC/CI가 켜져 있는지.</translation>
+    </message>
+    <message>
+        <source>This account may use the I2C devices: install the device rule or join the group "i2c", then log in again.</source>
+        <translation>이 계정이 I2C 장치를 사용할 수 있는지: 장치 규칙을 설치하거나 "i2c" 그룹에 가입한 뒤 다시 로그인하세요.</translation>
+    </message>
+    <message>
+        <source>Look again</source>
+        <translation>다시 찾기</translation>
+    </message>
+    <message>
+        <source>Try it with a simulated monitor</source>
+        <translation>가상 모니터로 사용해 보기</translation>
+    </message>
+</context>
+<context>
+    <name>GeneralPage</name>
+    <message>
+        <source>Follow the desktop</source>
+        <translation>데스크톱 따르기</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>밝게</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>어둡게</translation>
+    </message>
+    <message>
+        <source>High contrast</source>
+        <translation>고대비</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>일반</translation>
+    </message>
+    <message>
+        <source>Theme</source>
+        <translation>테마</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>언어</translation>
+    </message>
+    <message>
+        <source>As the desktop</source>
+        <translation>데스크톱과 동일</translation>
+    </message>
+    <message>
+        <source>Start at login</source>
+        <translation>로그인할 때 시작</translation>
+    </message>
+    <message>
+        <source>Schedules and shortcuts work from the moment that you log in.</source>
+        <translation>로그인하는 순간부터 일정과 단축키가 작동합니다.</translation>
+    </message>
+    <message>
+        <source>Keep running when the window is closed</source>
+        <translation>창을 닫아도 계속 실행</translation>
+    </message>
+    <message>
+        <source>The icon in the tray brings the window back.</source>
+        <translation>트레이 아이콘으로 창을 다시 열 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>Starting Lumen Desk again brings the window back.</source>
+        <translation>Lumen Desk를 다시 시작하면 창이 열립니다.</translation>
+    </message>
+    <message>
+        <source>Restore my settings at start</source>
+        <translation>시작할 때 설정 복원</translation>
+    </message>
+    <message>
+        <source>Monitors get the values of your last session. Switched off, they keep what they have.</source>
+        <translation>모니터에 지난 세션의 값을 적용합니다. 끄면 현재 값을 유지합니다.</translation>
+    </message>
+</context>
+<context>
+    <name>HeaderBar</name>
+    <message>
+        <source>Settings</source>
+        <translation>설정</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>닫기</translation>
+    </message>
+</context>
+<context>
+    <name>LuActionSelectionPopup</name>
+    <message>
+        <source>Set an Action</source>
+        <translation>동작 설정</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>다음</translation>
+    </message>
+    <message>
+        <source>This flow has every action that the monitor offers.</source>
+        <translation>이 플로우에는 모니터의 모든 동작이 있습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>LuContext</name>
+    <message>
+        <source>Built-in</source>
+        <translation>내장</translation>
+    </message>
+    <message>
+        <source>S/N %1</source>
+        <translation>S/N %1</translation>
+    </message>
+</context>
+<context>
+    <name>LuDiagnostics</name>
+    <message>
+        <source>Connection</source>
+        <translation>연결</translation>
+    </message>
+    <message>
+        <source>Condition</source>
+        <translation>상태</translation>
+    </message>
+    <message>
+        <source>Transfers</source>
+        <translation>전송</translation>
+    </message>
+    <message>
+        <source>Retries</source>
+        <translation>재시도</translation>
+    </message>
+    <message>
+        <source>Errors</source>
+        <translation>오류</translation>
+    </message>
+    <message>
+        <source>Learnt waits</source>
+        <translation>학습된 대기</translation>
+    </message>
+    <message>
+        <source>Writes today</source>
+        <translation>오늘 쓰기</translation>
+    </message>
+    <message>
+        <source>Circuit breaker</source>
+        <translation>차단기</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>없음</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>알 수 없음</translation>
+    </message>
+    <message>
+        <source>asleep</source>
+        <translation>절전</translation>
+    </message>
+    <message>
+        <source>gives no answer</source>
+        <translation>응답 없음</translation>
+    </message>
+    <message>
+        <source>answers</source>
+        <translation>응답함</translation>
+    </message>
+    <message>
+        <source>built in</source>
+        <translation>내장</translation>
+    </message>
+    <message>
+        <source>simulated</source>
+        <translation>가상</translation>
+    </message>
+    <message>
+        <source>closed</source>
+        <translation>닫힘</translation>
+    </message>
+    <message>
+        <source>the folder cannot be made</source>
+        <translation>폴더를 만들 수 없습니다</translation>
+    </message>
+    <message>
+        <source>The report could not be written to %1: %2</source>
+        <translation>보고서를 %1에 쓸 수 없습니다: %2</translation>
+    </message>
+</context>
+<context>
+    <name>LuHelpButton</name>
+    <message>
+        <source>Help</source>
+        <translation>도움말</translation>
+    </message>
+</context>
+<context>
+    <name>LuHintWindow</name>
+    <message>
+        <source>Close</source>
+        <translation>닫기</translation>
+    </message>
+</context>
+<context>
+    <name>LuListRow</name>
+    <message>
+        <source>Edit</source>
+        <translation>편집</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>삭제</translation>
+    </message>
+</context>
+<context>
+    <name>LuNamePopup</name>
+    <message>
+        <source>Save</source>
+        <translation>저장</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>이름</translation>
+    </message>
+    <message>
+        <source>There is one of that name already.</source>
+        <translation>같은 이름이 이미 있습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupAction</name>
+    <message>
+        <source>Save</source>
+        <translation>저장</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupController</name>
+    <message>
+        <source>Color mode</source>
+        <translation>색상 모드</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>오디오</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Night Hours Protection</translation>
+    </message>
+    <message>
+        <source>EcoPrivacy</source>
+        <translation>EcoPrivacy</translation>
+    </message>
+    <message>
+        <source>Visual Optimizer</source>
+        <translation>Visual Optimizer</translation>
+    </message>
+    <message>
+        <source>A.B.+ Gen2</source>
+        <translation>A.B.+ Gen2</translation>
+    </message>
+    <message>
+        <source>Low Blue Light</source>
+        <translation>Low Blue Light</translation>
+    </message>
+    <message>
+        <source>A.B. Gen2</source>
+        <translation>A.B. Gen2</translation>
+    </message>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Open applications</source>
+        <translation>앱 열기</translation>
+    </message>
+    <message>
+        <source>Add a flow</source>
+        <translation>플로우 추가</translation>
+    </message>
+    <message>
+        <source>Rename the flow</source>
+        <translation>플로우 이름 바꾸기</translation>
+    </message>
+</context>
+<context>
+    <name>LuProgressRing</name>
+    <message>
+        <source>Please wait…</source>
+        <translation>잠시 기다려 주세요…</translation>
+    </message>
+</context>
+<context>
+    <name>LuSchedulePopup</name>
+    <message>
+        <source>Schedule</source>
+        <translation>일정</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>저장</translation>
+    </message>
+    <message>
+        <source>%1, hour</source>
+        <translation>%1, 시</translation>
+    </message>
+    <message>
+        <source>%1, minute</source>
+        <translation>%1, 분</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>시작</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>종료</translation>
+    </message>
+    <message>
+        <source>Ends on the next day.</source>
+        <translation>다음 날 끝납니다.</translation>
+    </message>
+    <message>
+        <source>Start and end are the same.</source>
+        <translation>시작과 종료가 같습니다.</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>반복</translation>
+    </message>
+</context>
+<context>
+    <name>LuSelectionWindow</name>
+    <message>
+        <source>OK</source>
+        <translation>확인</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+</context>
+<context>
+    <name>LuTimeButton</name>
+    <message>
+        <source>Hours</source>
+        <translation>시</translation>
+    </message>
+    <message>
+        <source>Minutes</source>
+        <translation>분</translation>
+    </message>
+</context>
+<context>
+    <name>LuWarningWindow</name>
+    <message>
+        <source>%1 is not available in the current color mode.</source>
+        <translation>현재 색상 모드에서는 %1을(를) 사용할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>확인</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Lumen Desk</source>
+        <translation>Lumen Desk</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorSwitcher</name>
+    <message>
+        <source>Monitor</source>
+        <translation>모니터</translation>
+    </message>
+</context>
+<context>
+    <name>OsdTranslator</name>
+    <message>
+        <source>5000 K</source>
+        <translation>5000 K</translation>
+    </message>
+    <message>
+        <source>6500 K</source>
+        <translation>6500 K</translation>
+    </message>
+    <message>
+        <source>9300 K</source>
+        <translation>9300 K</translation>
+    </message>
+    <message>
+        <source>DCI</source>
+        <translation>DCI</translation>
+    </message>
+    <message>
+        <source>User defined</source>
+        <translation>사용자 정의</translation>
+    </message>
+    <message>
+        <source>Native</source>
+        <translation>기본</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>표준</translation>
+    </message>
+    <message>
+        <source>Dialogue</source>
+        <translation>대화</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>음악</translation>
+    </message>
+    <message>
+        <source>Cinema</source>
+        <translation>시네마</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>게임</translation>
+    </message>
+    <message>
+        <source>Studio</source>
+        <translation>스튜디오</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>사용자</translation>
+    </message>
+</context>
+<context>
+    <name>PagePanel</name>
+    <message>
+        <source>Close</source>
+        <translation>닫기</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsWindow</name>
+    <message>
+        <source>General</source>
+        <translation>일반</translation>
+    </message>
+    <message>
+        <source>Widgets</source>
+        <translation>위젯</translation>
+    </message>
+    <message>
+        <source>Diagnostics</source>
+        <translation>진단</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>정보</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>설정</translation>
+    </message>
+    <message>
+        <source>Advanced</source>
+        <translation>고급</translation>
+    </message>
+</context>
+<context>
+    <name>Tray</name>
+    <message>
+        <source>Show Lumen Desk</source>
+        <translation>Lumen Desk 표시</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>설정</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>종료</translation>
+    </message>
+</context>
+<context>
+    <name>WalkthroughWindow</name>
+    <message>
+        <source>Welcome to Lumen Desk</source>
+        <translation>Lumen Desk에 오신 것을 환영합니다</translation>
+    </message>
+    <message>
+        <source>Try it</source>
+        <translation>사용해 보기</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>뒤로</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>완료</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>다음</translation>
+    </message>
+</context>
+<context>
+    <name>WidgetsPage</name>
+    <message>
+        <source>Widgets</source>
+        <translation>위젯</translation>
+    </message>
+    <message>
+        <source>Choose what the window shows, and in which order.</source>
+        <translation>창에 표시할 항목과 순서를 선택하세요.</translation>
+    </message>
+    <message>
+        <source>Widgets can be arranged while a supported monitor is connected.</source>
+        <translation>지원되는 모니터가 연결되어 있을 때 배치할 수 있습니다.</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,656 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!-- SPDX-License-Identifier: Apache-2.0 -->
+<!DOCTYPE TS>
+<TS version="2.1" language="nl" sourcelanguage="en">
+<context>
+    <name>AboutPage</name>
+    <message>
+        <source>About</source>
+        <translation>Info</translation>
+    </message>
+    <message>
+        <source>Version %1 · Apache License 2.0</source>
+        <translation>Versie %1 · Apache-licentie 2.0</translation>
+    </message>
+    <message>
+        <source>Apache License 2.0</source>
+        <translation>Apache-licentie 2.0</translation>
+    </message>
+    <message>
+        <source>Puts you in control of your monitors.</source>
+        <translation>Geeft je de controle over je monitoren.</translation>
+    </message>
+    <message>
+        <source>Show the introduction</source>
+        <translation>Introductie tonen</translation>
+    </message>
+    <message>
+        <source>Open-source notices</source>
+        <translation>Opensource-vermeldingen</translation>
+    </message>
+</context>
+<context>
+    <name>ArrangeList</name>
+    <message>
+        <source>Rows</source>
+        <translation>Rijen</translation>
+    </message>
+    <message>
+        <source>Tiles</source>
+        <translation>Tegels</translation>
+    </message>
+    <message>
+        <source>Wide tiles</source>
+        <translation>Brede tegels</translation>
+    </message>
+    <message>
+        <source>At the bottom</source>
+        <translation>Onderaan</translation>
+    </message>
+    <message>
+        <source>Move %1 forward</source>
+        <translation>%1 naar voren</translation>
+    </message>
+    <message>
+        <source>Move %1 back</source>
+        <translation>%1 naar achteren</translation>
+    </message>
+    <message>
+        <source>Reset to the original order</source>
+        <translation>Oorspronkelijke volgorde</translation>
+    </message>
+</context>
+<context>
+    <name>ArrangePage</name>
+    <message>
+        <source>Arrange</source>
+        <translation>Indelen</translation>
+    </message>
+    <message>
+        <source>Choose what the window shows, and in which order.</source>
+        <translation>Kies wat het venster toont en in welke volgorde.</translation>
+    </message>
+</context>
+<context>
+    <name>DiagnosticsPage</name>
+    <message>
+        <source>Diagnostics</source>
+        <translation>Diagnose</translation>
+    </message>
+    <message>
+        <source>No monitor is connected.</source>
+        <translation>Er is geen monitor aangesloten.</translation>
+    </message>
+    <message>
+        <source>The report holds what is shown here and the log of the monitors' buses. Serial numbers, your name and your folders are left out.</source>
+        <translation>Het rapport bevat wat hier staat en het logboek van de bussen. Serienummers, je naam en je mappen blijven weg.</translation>
+    </message>
+    <message>
+        <source>Export report</source>
+        <translation>Rapport exporteren</translation>
+    </message>
+    <message>
+        <source>Written to %1</source>
+        <translation>Opgeslagen in %1</translation>
+    </message>
+</context>
+<context>
+    <name>EmptyState</name>
+    <message>
+        <source>Every widget is hidden</source>
+        <translation>Alles is verborgen</translation>
+    </message>
+    <message>
+        <source>Looking for monitors…</source>
+        <translation>Monitoren zoeken…</translation>
+    </message>
+    <message>
+        <source>No supported monitor found</source>
+        <translation>Geen ondersteunde monitor gevonden</translation>
+    </message>
+    <message>
+        <source>Bring back what you need; nothing was lost.</source>
+        <translation>Haal terug wat je nodig hebt; er is niets verloren.</translation>
+    </message>
+    <message>
+        <source>This takes a moment.</source>
+        <translation>Dit duurt even.</translation>
+    </message>
+    <message>
+        <source>Plug one in and it appears here by itself.</source>
+        <translation>Sluit er een aan; hij verschijnt hier vanzelf.</translation>
+    </message>
+    <message>
+        <source>Arrange</source>
+        <translation>Indelen</translation>
+    </message>
+    <message>
+        <source>The monitor is switched on and connected directly, by USB-C, DisplayPort or HDMI.</source>
+        <translation>De monitor staat aan en is direct aangesloten via USB-C, DisplayPort of HDMI.</translation>
+    </message>
+    <message>
+        <source>DDC/CI is switched on in the monitor's own menu.</source>
+        <translation>DDC/CI staat aan in het menu van de monitor.</translation>
+    </message>
+    <message>
+        <source>This account may use the I2C devices: install the device rule or join the group "i2c", then log in again.</source>
+        <translation>Dit account mag de I2C-apparaten gebruiken: installeer de regel of word lid van de groep ‘i2c’ en log opnieuw in.</translation>
+    </message>
+    <message>
+        <source>Look again</source>
+        <translation>Opnieuw zoeken</translation>
+    </message>
+    <message>
+        <source>Try it with a simulated monitor</source>
+        <translation>Proberen met een gesimuleerde monitor</translation>
+    </message>
+</context>
+<context>
+    <name>GeneralPage</name>
+    <message>
+        <source>Follow the desktop</source>
+        <translation>Zoals het bureaublad</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Licht</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Donker</translation>
+    </message>
+    <message>
+        <source>High contrast</source>
+        <translation>Hoog contrast</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Algemeen</translation>
+    </message>
+    <message>
+        <source>Theme</source>
+        <translation>Thema</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Taal</translation>
+    </message>
+    <message>
+        <source>As the desktop</source>
+        <translation>Zoals het bureaublad</translation>
+    </message>
+    <message>
+        <source>Start at login</source>
+        <translation>Starten bij aanmelden</translation>
+    </message>
+    <message>
+        <source>Schedules and shortcuts work from the moment that you log in.</source>
+        <translation>Schema’s en sneltoetsen werken zodra je bent aangemeld.</translation>
+    </message>
+    <message>
+        <source>Keep running when the window is closed</source>
+        <translation>Blijf actief na het sluiten van het venster</translation>
+    </message>
+    <message>
+        <source>The icon in the tray brings the window back.</source>
+        <translation>Het pictogram in het systeemvak haalt het venster terug.</translation>
+    </message>
+    <message>
+        <source>Starting Lumen Desk again brings the window back.</source>
+        <translation>Lumen Desk opnieuw starten haalt het venster terug.</translation>
+    </message>
+    <message>
+        <source>Restore my settings at start</source>
+        <translation>Mijn instellingen herstellen bij het starten</translation>
+    </message>
+    <message>
+        <source>Monitors get the values of your last session. Switched off, they keep what they have.</source>
+        <translation>Monitoren krijgen de waarden van de vorige sessie. Uitgeschakeld houden ze hun eigen waarden.</translation>
+    </message>
+</context>
+<context>
+    <name>HeaderBar</name>
+    <message>
+        <source>Settings</source>
+        <translation>Instellingen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
+</context>
+<context>
+    <name>LuActionSelectionPopup</name>
+    <message>
+        <source>Set an Action</source>
+        <translation>Actie instellen</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Volgende</translation>
+    </message>
+    <message>
+        <source>This flow has every action that the monitor offers.</source>
+        <translation>Deze flow heeft alle acties van de monitor.</translation>
+    </message>
+</context>
+<context>
+    <name>LuContext</name>
+    <message>
+        <source>Built-in</source>
+        <translation>Ingebouwd</translation>
+    </message>
+    <message>
+        <source>S/N %1</source>
+        <translation>S/N %1</translation>
+    </message>
+</context>
+<context>
+    <name>LuDiagnostics</name>
+    <message>
+        <source>Connection</source>
+        <translation>Verbinding</translation>
+    </message>
+    <message>
+        <source>Condition</source>
+        <translation>Toestand</translation>
+    </message>
+    <message>
+        <source>Transfers</source>
+        <translation>Overdrachten</translation>
+    </message>
+    <message>
+        <source>Retries</source>
+        <translation>Herhalingen</translation>
+    </message>
+    <message>
+        <source>Errors</source>
+        <translation>Fouten</translation>
+    </message>
+    <message>
+        <source>Learnt waits</source>
+        <translation>Geleerde wachttijden</translation>
+    </message>
+    <message>
+        <source>Writes today</source>
+        <translation>Schrijfacties vandaag</translation>
+    </message>
+    <message>
+        <source>Circuit breaker</source>
+        <translation>Zekering</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>geen</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>onbekend</translation>
+    </message>
+    <message>
+        <source>asleep</source>
+        <translation>slaapt</translation>
+    </message>
+    <message>
+        <source>gives no answer</source>
+        <translation>geeft geen antwoord</translation>
+    </message>
+    <message>
+        <source>answers</source>
+        <translation>antwoordt</translation>
+    </message>
+    <message>
+        <source>built in</source>
+        <translation>ingebouwd</translation>
+    </message>
+    <message>
+        <source>simulated</source>
+        <translation>gesimuleerd</translation>
+    </message>
+    <message>
+        <source>closed</source>
+        <translation>gesloten</translation>
+    </message>
+    <message>
+        <source>the folder cannot be made</source>
+        <translation>de map kan niet worden gemaakt</translation>
+    </message>
+    <message>
+        <source>The report could not be written to %1: %2</source>
+        <translation>Het rapport kon niet naar %1 worden geschreven: %2</translation>
+    </message>
+</context>
+<context>
+    <name>LuHelpButton</name>
+    <message>
+        <source>Help</source>
+        <translation>Hulp</translation>
+    </message>
+</context>
+<context>
+    <name>LuHintWindow</name>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
+</context>
+<context>
+    <name>LuListRow</name>
+    <message>
+        <source>Edit</source>
+        <translation>Bewerken</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Verwijderen</translation>
+    </message>
+</context>
+<context>
+    <name>LuNamePopup</name>
+    <message>
+        <source>Save</source>
+        <translation>Opslaan</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Naam</translation>
+    </message>
+    <message>
+        <source>There is one of that name already.</source>
+        <translation>Die naam bestaat al.</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupAction</name>
+    <message>
+        <source>Save</source>
+        <translation>Opslaan</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupController</name>
+    <message>
+        <source>Color mode</source>
+        <translation>Kleurmodus</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Night Hours Protection</translation>
+    </message>
+    <message>
+        <source>EcoPrivacy</source>
+        <translation>EcoPrivacy</translation>
+    </message>
+    <message>
+        <source>Visual Optimizer</source>
+        <translation>Visual Optimizer</translation>
+    </message>
+    <message>
+        <source>A.B.+ Gen2</source>
+        <translation>A.B.+ Gen2</translation>
+    </message>
+    <message>
+        <source>Low Blue Light</source>
+        <translation>Low Blue Light</translation>
+    </message>
+    <message>
+        <source>A.B. Gen2</source>
+        <translation>A.B. Gen2</translation>
+    </message>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Open applications</source>
+        <translation>Toepassingen openen</translation>
+    </message>
+    <message>
+        <source>Add a flow</source>
+        <translation>Flow toevoegen</translation>
+    </message>
+    <message>
+        <source>Rename the flow</source>
+        <translation>Flow hernoemen</translation>
+    </message>
+</context>
+<context>
+    <name>LuProgressRing</name>
+    <message>
+        <source>Please wait…</source>
+        <translation>Even geduld…</translation>
+    </message>
+</context>
+<context>
+    <name>LuSchedulePopup</name>
+    <message>
+        <source>Schedule</source>
+        <translation>Schema</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Opslaan</translation>
+    </message>
+    <message>
+        <source>%1, hour</source>
+        <translation>%1, uur</translation>
+    </message>
+    <message>
+        <source>%1, minute</source>
+        <translation>%1, minuut</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Begin</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Einde</translation>
+    </message>
+    <message>
+        <source>Ends on the next day.</source>
+        <translation>Eindigt de volgende dag.</translation>
+    </message>
+    <message>
+        <source>Start and end are the same.</source>
+        <translation>Begin en einde zijn gelijk.</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>Herhalen</translation>
+    </message>
+</context>
+<context>
+    <name>LuSelectionWindow</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+</context>
+<context>
+    <name>LuTimeButton</name>
+    <message>
+        <source>Hours</source>
+        <translation>Uren</translation>
+    </message>
+    <message>
+        <source>Minutes</source>
+        <translation>Minuten</translation>
+    </message>
+</context>
+<context>
+    <name>LuWarningWindow</name>
+    <message>
+        <source>%1 is not available in the current color mode.</source>
+        <translation>%1 is niet beschikbaar in de huidige kleurmodus.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Lumen Desk</source>
+        <translation>Lumen Desk</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorSwitcher</name>
+    <message>
+        <source>Monitor</source>
+        <translation>Monitor</translation>
+    </message>
+</context>
+<context>
+    <name>OsdTranslator</name>
+    <message>
+        <source>5000 K</source>
+        <translation>5000 K</translation>
+    </message>
+    <message>
+        <source>6500 K</source>
+        <translation>6500 K</translation>
+    </message>
+    <message>
+        <source>9300 K</source>
+        <translation>9300 K</translation>
+    </message>
+    <message>
+        <source>DCI</source>
+        <translation>DCI</translation>
+    </message>
+    <message>
+        <source>User defined</source>
+        <translation>Aangepast</translation>
+    </message>
+    <message>
+        <source>Native</source>
+        <translation>Eigen</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standaard</translation>
+    </message>
+    <message>
+        <source>Dialogue</source>
+        <translation>Dialoog</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Muziek</translation>
+    </message>
+    <message>
+        <source>Cinema</source>
+        <translation>Bioscoop</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>Spel</translation>
+    </message>
+    <message>
+        <source>Studio</source>
+        <translation>Studio</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Gebruiker</translation>
+    </message>
+</context>
+<context>
+    <name>PagePanel</name>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsWindow</name>
+    <message>
+        <source>General</source>
+        <translation>Algemeen</translation>
+    </message>
+    <message>
+        <source>Widgets</source>
+        <translation>Onderdelen</translation>
+    </message>
+    <message>
+        <source>Diagnostics</source>
+        <translation>Diagnose</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Info</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Instellingen</translation>
+    </message>
+    <message>
+        <source>Advanced</source>
+        <translation>Geavanceerd</translation>
+    </message>
+</context>
+<context>
+    <name>Tray</name>
+    <message>
+        <source>Show Lumen Desk</source>
+        <translation>Lumen Desk tonen</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Instellingen</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Afsluiten</translation>
+    </message>
+</context>
+<context>
+    <name>WalkthroughWindow</name>
+    <message>
+        <source>Welcome to Lumen Desk</source>
+        <translation>Welkom bij Lumen Desk</translation>
+    </message>
+    <message>
+        <source>Try it</source>
+        <translation>Proberen</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Terug</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Gereed</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Volgende</translation>
+    </message>
+</context>
+<context>
+    <name>WidgetsPage</name>
+    <message>
+        <source>Widgets</source>
+        <translation>Onderdelen</translation>
+    </message>
+    <message>
+        <source>Choose what the window shows, and in which order.</source>
+        <translation>Kies wat het venster toont en in welke volgorde.</translation>
+    </message>
+    <message>
+        <source>Widgets can be arranged while a supported monitor is connected.</source>
+        <translation>Onderdelen kun je indelen als een ondersteunde monitor is aangesloten.</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,656 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!-- SPDX-License-Identifier: Apache-2.0 -->
+<!DOCTYPE TS>
+<TS version="2.1" language="pt" sourcelanguage="en">
+<context>
+    <name>AboutPage</name>
+    <message>
+        <source>About</source>
+        <translation>Acerca de</translation>
+    </message>
+    <message>
+        <source>Version %1 · Apache License 2.0</source>
+        <translation>Versão %1 · Licença Apache 2.0</translation>
+    </message>
+    <message>
+        <source>Apache License 2.0</source>
+        <translation>Licença Apache 2.0</translation>
+    </message>
+    <message>
+        <source>Puts you in control of your monitors.</source>
+        <translation>Dá-lhe o controlo dos seus monitores.</translation>
+    </message>
+    <message>
+        <source>Show the introduction</source>
+        <translation>Mostrar a introdução</translation>
+    </message>
+    <message>
+        <source>Open-source notices</source>
+        <translation>Avisos de código aberto</translation>
+    </message>
+</context>
+<context>
+    <name>ArrangeList</name>
+    <message>
+        <source>Rows</source>
+        <translation>Linhas</translation>
+    </message>
+    <message>
+        <source>Tiles</source>
+        <translation>Mosaicos</translation>
+    </message>
+    <message>
+        <source>Wide tiles</source>
+        <translation>Mosaicos largos</translation>
+    </message>
+    <message>
+        <source>At the bottom</source>
+        <translation>No fundo</translation>
+    </message>
+    <message>
+        <source>Move %1 forward</source>
+        <translation>Mover %1 para a frente</translation>
+    </message>
+    <message>
+        <source>Move %1 back</source>
+        <translation>Mover %1 para trás</translation>
+    </message>
+    <message>
+        <source>Reset to the original order</source>
+        <translation>Repor a ordem original</translation>
+    </message>
+</context>
+<context>
+    <name>ArrangePage</name>
+    <message>
+        <source>Arrange</source>
+        <translation>Organizar</translation>
+    </message>
+    <message>
+        <source>Choose what the window shows, and in which order.</source>
+        <translation>Escolha o que a janela mostra e por que ordem.</translation>
+    </message>
+</context>
+<context>
+    <name>DiagnosticsPage</name>
+    <message>
+        <source>Diagnostics</source>
+        <translation>Diagnóstico</translation>
+    </message>
+    <message>
+        <source>No monitor is connected.</source>
+        <translation>Nenhum monitor ligado.</translation>
+    </message>
+    <message>
+        <source>The report holds what is shown here and the log of the monitors' buses. Serial numbers, your name and your folders are left out.</source>
+        <translation>O relatório contém o que é mostrado aqui e o registo dos barramentos. Números de série, nome e pastas ficam de fora.</translation>
+    </message>
+    <message>
+        <source>Export report</source>
+        <translation>Exportar relatório</translation>
+    </message>
+    <message>
+        <source>Written to %1</source>
+        <translation>Guardado em %1</translation>
+    </message>
+</context>
+<context>
+    <name>EmptyState</name>
+    <message>
+        <source>Every widget is hidden</source>
+        <translation>Está tudo oculto</translation>
+    </message>
+    <message>
+        <source>Looking for monitors…</source>
+        <translation>A procurar monitores…</translation>
+    </message>
+    <message>
+        <source>No supported monitor found</source>
+        <translation>Nenhum monitor suportado</translation>
+    </message>
+    <message>
+        <source>Bring back what you need; nothing was lost.</source>
+        <translation>Recupere o que precisa; nada se perdeu.</translation>
+    </message>
+    <message>
+        <source>This takes a moment.</source>
+        <translation>Demora um momento.</translation>
+    </message>
+    <message>
+        <source>Plug one in and it appears here by itself.</source>
+        <translation>Ligue um e aparecerá aqui sozinho.</translation>
+    </message>
+    <message>
+        <source>Arrange</source>
+        <translation>Organizar</translation>
+    </message>
+    <message>
+        <source>The monitor is switched on and connected directly, by USB-C, DisplayPort or HDMI.</source>
+        <translation>O monitor está ligado e diretamente conectado por USB-C, DisplayPort ou HDMI.</translation>
+    </message>
+    <message>
+        <source>DDC/CI is switched on in the monitor's own menu.</source>
+        <translation>O DDC/CI está ligado no menu do monitor.</translation>
+    </message>
+    <message>
+        <source>This account may use the I2C devices: install the device rule or join the group "i2c", then log in again.</source>
+        <translation>Esta conta pode usar os dispositivos I2C: instale a regra ou junte-se ao grupo «i2c» e volte a iniciar sessão.</translation>
+    </message>
+    <message>
+        <source>Look again</source>
+        <translation>Procurar de novo</translation>
+    </message>
+    <message>
+        <source>Try it with a simulated monitor</source>
+        <translation>Experimentar com um monitor simulado</translation>
+    </message>
+</context>
+<context>
+    <name>GeneralPage</name>
+    <message>
+        <source>Follow the desktop</source>
+        <translation>Como o sistema</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Claro</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Escuro</translation>
+    </message>
+    <message>
+        <source>High contrast</source>
+        <translation>Alto contraste</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Geral</translation>
+    </message>
+    <message>
+        <source>Theme</source>
+        <translation>Tema</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Idioma</translation>
+    </message>
+    <message>
+        <source>As the desktop</source>
+        <translation>Como o sistema</translation>
+    </message>
+    <message>
+        <source>Start at login</source>
+        <translation>Iniciar com a sessão</translation>
+    </message>
+    <message>
+        <source>Schedules and shortcuts work from the moment that you log in.</source>
+        <translation>Os horários e atalhos funcionam desde o início da sessão.</translation>
+    </message>
+    <message>
+        <source>Keep running when the window is closed</source>
+        <translation>Continuar ativo ao fechar a janela</translation>
+    </message>
+    <message>
+        <source>The icon in the tray brings the window back.</source>
+        <translation>O ícone no tabuleiro traz a janela de volta.</translation>
+    </message>
+    <message>
+        <source>Starting Lumen Desk again brings the window back.</source>
+        <translation>Iniciar de novo o Lumen Desk traz a janela de volta.</translation>
+    </message>
+    <message>
+        <source>Restore my settings at start</source>
+        <translation>Repor as definições ao iniciar</translation>
+    </message>
+    <message>
+        <source>Monitors get the values of your last session. Switched off, they keep what they have.</source>
+        <translation>Os monitores recebem os valores da última sessão. Desligado, mantêm os seus.</translation>
+    </message>
+</context>
+<context>
+    <name>HeaderBar</name>
+    <message>
+        <source>Settings</source>
+        <translation>Definições</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+</context>
+<context>
+    <name>LuActionSelectionPopup</name>
+    <message>
+        <source>Set an Action</source>
+        <translation>Definir uma ação</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Seguinte</translation>
+    </message>
+    <message>
+        <source>This flow has every action that the monitor offers.</source>
+        <translation>Este fluxo tem todas as ações do monitor.</translation>
+    </message>
+</context>
+<context>
+    <name>LuContext</name>
+    <message>
+        <source>Built-in</source>
+        <translation>Integrado</translation>
+    </message>
+    <message>
+        <source>S/N %1</source>
+        <translation>N.º de série %1</translation>
+    </message>
+</context>
+<context>
+    <name>LuDiagnostics</name>
+    <message>
+        <source>Connection</source>
+        <translation>Ligação</translation>
+    </message>
+    <message>
+        <source>Condition</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Transfers</source>
+        <translation>Transferências</translation>
+    </message>
+    <message>
+        <source>Retries</source>
+        <translation>Repetições</translation>
+    </message>
+    <message>
+        <source>Errors</source>
+        <translation>Erros</translation>
+    </message>
+    <message>
+        <source>Learnt waits</source>
+        <translation>Esperas aprendidas</translation>
+    </message>
+    <message>
+        <source>Writes today</source>
+        <translation>Escritas hoje</translation>
+    </message>
+    <message>
+        <source>Circuit breaker</source>
+        <translation>Disjuntor</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>nenhum</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>desconhecido</translation>
+    </message>
+    <message>
+        <source>asleep</source>
+        <translation>em repouso</translation>
+    </message>
+    <message>
+        <source>gives no answer</source>
+        <translation>não responde</translation>
+    </message>
+    <message>
+        <source>answers</source>
+        <translation>responde</translation>
+    </message>
+    <message>
+        <source>built in</source>
+        <translation>integrado</translation>
+    </message>
+    <message>
+        <source>simulated</source>
+        <translation>simulado</translation>
+    </message>
+    <message>
+        <source>closed</source>
+        <translation>fechado</translation>
+    </message>
+    <message>
+        <source>the folder cannot be made</source>
+        <translation>não é possível criar a pasta</translation>
+    </message>
+    <message>
+        <source>The report could not be written to %1: %2</source>
+        <translation>Não foi possível guardar o relatório em %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>LuHelpButton</name>
+    <message>
+        <source>Help</source>
+        <translation>Ajuda</translation>
+    </message>
+</context>
+<context>
+    <name>LuHintWindow</name>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+</context>
+<context>
+    <name>LuListRow</name>
+    <message>
+        <source>Edit</source>
+        <translation>Editar</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Eliminar</translation>
+    </message>
+</context>
+<context>
+    <name>LuNamePopup</name>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>There is one of that name already.</source>
+        <translation>Já existe um com esse nome.</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupAction</name>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupController</name>
+    <message>
+        <source>Color mode</source>
+        <translation>Modo de cor</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Áudio</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Night Hours Protection</translation>
+    </message>
+    <message>
+        <source>EcoPrivacy</source>
+        <translation>EcoPrivacy</translation>
+    </message>
+    <message>
+        <source>Visual Optimizer</source>
+        <translation>Visual Optimizer</translation>
+    </message>
+    <message>
+        <source>A.B.+ Gen2</source>
+        <translation>A.B.+ Gen2</translation>
+    </message>
+    <message>
+        <source>Low Blue Light</source>
+        <translation>Low Blue Light</translation>
+    </message>
+    <message>
+        <source>A.B. Gen2</source>
+        <translation>A.B. Gen2</translation>
+    </message>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Open applications</source>
+        <translation>Abrir aplicações</translation>
+    </message>
+    <message>
+        <source>Add a flow</source>
+        <translation>Adicionar um fluxo</translation>
+    </message>
+    <message>
+        <source>Rename the flow</source>
+        <translation>Mudar o nome do fluxo</translation>
+    </message>
+</context>
+<context>
+    <name>LuProgressRing</name>
+    <message>
+        <source>Please wait…</source>
+        <translation>Aguarde…</translation>
+    </message>
+</context>
+<context>
+    <name>LuSchedulePopup</name>
+    <message>
+        <source>Schedule</source>
+        <translation>Horário</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>%1, hour</source>
+        <translation>%1, hora</translation>
+    </message>
+    <message>
+        <source>%1, minute</source>
+        <translation>%1, minuto</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Início</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Fim</translation>
+    </message>
+    <message>
+        <source>Ends on the next day.</source>
+        <translation>Termina no dia seguinte.</translation>
+    </message>
+    <message>
+        <source>Start and end are the same.</source>
+        <translation>O início e o fim são iguais.</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>Repetir</translation>
+    </message>
+</context>
+<context>
+    <name>LuSelectionWindow</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>LuTimeButton</name>
+    <message>
+        <source>Hours</source>
+        <translation>Horas</translation>
+    </message>
+    <message>
+        <source>Minutes</source>
+        <translation>Minutos</translation>
+    </message>
+</context>
+<context>
+    <name>LuWarningWindow</name>
+    <message>
+        <source>%1 is not available in the current color mode.</source>
+        <translation>%1 não está disponível no modo de cor atual.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Lumen Desk</source>
+        <translation>Lumen Desk</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorSwitcher</name>
+    <message>
+        <source>Monitor</source>
+        <translation>Monitor</translation>
+    </message>
+</context>
+<context>
+    <name>OsdTranslator</name>
+    <message>
+        <source>5000 K</source>
+        <translation>5000 K</translation>
+    </message>
+    <message>
+        <source>6500 K</source>
+        <translation>6500 K</translation>
+    </message>
+    <message>
+        <source>9300 K</source>
+        <translation>9300 K</translation>
+    </message>
+    <message>
+        <source>DCI</source>
+        <translation>DCI</translation>
+    </message>
+    <message>
+        <source>User defined</source>
+        <translation>Personalizado</translation>
+    </message>
+    <message>
+        <source>Native</source>
+        <translation>Nativo</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Padrão</translation>
+    </message>
+    <message>
+        <source>Dialogue</source>
+        <translation>Diálogo</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Música</translation>
+    </message>
+    <message>
+        <source>Cinema</source>
+        <translation>Cinema</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>Jogo</translation>
+    </message>
+    <message>
+        <source>Studio</source>
+        <translation>Estúdio</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Utilizador</translation>
+    </message>
+</context>
+<context>
+    <name>PagePanel</name>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsWindow</name>
+    <message>
+        <source>General</source>
+        <translation>Geral</translation>
+    </message>
+    <message>
+        <source>Widgets</source>
+        <translation>Elementos</translation>
+    </message>
+    <message>
+        <source>Diagnostics</source>
+        <translation>Diagnóstico</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Acerca de</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Definições</translation>
+    </message>
+    <message>
+        <source>Advanced</source>
+        <translation>Avançado</translation>
+    </message>
+</context>
+<context>
+    <name>Tray</name>
+    <message>
+        <source>Show Lumen Desk</source>
+        <translation>Mostrar o Lumen Desk</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Definições</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Sair</translation>
+    </message>
+</context>
+<context>
+    <name>WalkthroughWindow</name>
+    <message>
+        <source>Welcome to Lumen Desk</source>
+        <translation>Bem-vindo ao Lumen Desk</translation>
+    </message>
+    <message>
+        <source>Try it</source>
+        <translation>Experimentar</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Voltar</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Concluído</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Seguinte</translation>
+    </message>
+</context>
+<context>
+    <name>WidgetsPage</name>
+    <message>
+        <source>Widgets</source>
+        <translation>Elementos</translation>
+    </message>
+    <message>
+        <source>Choose what the window shows, and in which order.</source>
+        <translation>Escolha o que a janela mostra e por que ordem.</translation>
+    </message>
+    <message>
+        <source>Widgets can be arranged while a supported monitor is connected.</source>
+        <translation>Os elementos organizam-se com um monitor suportado ligado.</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,656 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!-- SPDX-License-Identifier: Apache-2.0 -->
+<!DOCTYPE TS>
+<TS version="2.1" language="sv" sourcelanguage="en">
+<context>
+    <name>AboutPage</name>
+    <message>
+        <source>About</source>
+        <translation>Om</translation>
+    </message>
+    <message>
+        <source>Version %1 · Apache License 2.0</source>
+        <translation>Version %1 · Apache-licens 2.0</translation>
+    </message>
+    <message>
+        <source>Apache License 2.0</source>
+        <translation>Apache-licens 2.0</translation>
+    </message>
+    <message>
+        <source>Puts you in control of your monitors.</source>
+        <translation>Ger dig kontroll över dina skärmar.</translation>
+    </message>
+    <message>
+        <source>Show the introduction</source>
+        <translation>Visa introduktionen</translation>
+    </message>
+    <message>
+        <source>Open-source notices</source>
+        <translation>Information om öppen källkod</translation>
+    </message>
+</context>
+<context>
+    <name>ArrangeList</name>
+    <message>
+        <source>Rows</source>
+        <translation>Rader</translation>
+    </message>
+    <message>
+        <source>Tiles</source>
+        <translation>Rutor</translation>
+    </message>
+    <message>
+        <source>Wide tiles</source>
+        <translation>Breda rutor</translation>
+    </message>
+    <message>
+        <source>At the bottom</source>
+        <translation>Längst ned</translation>
+    </message>
+    <message>
+        <source>Move %1 forward</source>
+        <translation>Flytta %1 framåt</translation>
+    </message>
+    <message>
+        <source>Move %1 back</source>
+        <translation>Flytta %1 bakåt</translation>
+    </message>
+    <message>
+        <source>Reset to the original order</source>
+        <translation>Återställ ordningen</translation>
+    </message>
+</context>
+<context>
+    <name>ArrangePage</name>
+    <message>
+        <source>Arrange</source>
+        <translation>Ordna</translation>
+    </message>
+    <message>
+        <source>Choose what the window shows, and in which order.</source>
+        <translation>Välj vad fönstret visar och i vilken ordning.</translation>
+    </message>
+</context>
+<context>
+    <name>DiagnosticsPage</name>
+    <message>
+        <source>Diagnostics</source>
+        <translation>Diagnostik</translation>
+    </message>
+    <message>
+        <source>No monitor is connected.</source>
+        <translation>Ingen skärm är ansluten.</translation>
+    </message>
+    <message>
+        <source>The report holds what is shown here and the log of the monitors' buses. Serial numbers, your name and your folders are left out.</source>
+        <translation>Rapporten innehåller det som visas här och bussarnas logg. Serienummer, ditt namn och dina mappar utelämnas.</translation>
+    </message>
+    <message>
+        <source>Export report</source>
+        <translation>Exportera rapport</translation>
+    </message>
+    <message>
+        <source>Written to %1</source>
+        <translation>Sparad i %1</translation>
+    </message>
+</context>
+<context>
+    <name>EmptyState</name>
+    <message>
+        <source>Every widget is hidden</source>
+        <translation>Allt är dolt</translation>
+    </message>
+    <message>
+        <source>Looking for monitors…</source>
+        <translation>Söker efter skärmar…</translation>
+    </message>
+    <message>
+        <source>No supported monitor found</source>
+        <translation>Ingen skärm som stöds hittades</translation>
+    </message>
+    <message>
+        <source>Bring back what you need; nothing was lost.</source>
+        <translation>Ta tillbaka det du behöver; inget har gått förlorat.</translation>
+    </message>
+    <message>
+        <source>This takes a moment.</source>
+        <translation>Det tar en stund.</translation>
+    </message>
+    <message>
+        <source>Plug one in and it appears here by itself.</source>
+        <translation>Anslut en så visas den här av sig själv.</translation>
+    </message>
+    <message>
+        <source>Arrange</source>
+        <translation>Ordna</translation>
+    </message>
+    <message>
+        <source>The monitor is switched on and connected directly, by USB-C, DisplayPort or HDMI.</source>
+        <translation>Skärmen är på och direkt ansluten via USB-C, DisplayPort eller HDMI.</translation>
+    </message>
+    <message>
+        <source>DDC/CI is switched on in the monitor's own menu.</source>
+        <translation>DDC/CI är på i skärmens meny.</translation>
+    </message>
+    <message>
+        <source>This account may use the I2C devices: install the device rule or join the group "i2c", then log in again.</source>
+        <translation>Kontot får använda I2C-enheterna: installera enhetsregeln eller gå med i gruppen ”i2c” och logga in igen.</translation>
+    </message>
+    <message>
+        <source>Look again</source>
+        <translation>Sök igen</translation>
+    </message>
+    <message>
+        <source>Try it with a simulated monitor</source>
+        <translation>Prova med en simulerad skärm</translation>
+    </message>
+</context>
+<context>
+    <name>GeneralPage</name>
+    <message>
+        <source>Follow the desktop</source>
+        <translation>Följ skrivbordet</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Ljust</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Mörkt</translation>
+    </message>
+    <message>
+        <source>High contrast</source>
+        <translation>Hög kontrast</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Allmänt</translation>
+    </message>
+    <message>
+        <source>Theme</source>
+        <translation>Tema</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Språk</translation>
+    </message>
+    <message>
+        <source>As the desktop</source>
+        <translation>Som skrivbordet</translation>
+    </message>
+    <message>
+        <source>Start at login</source>
+        <translation>Starta vid inloggning</translation>
+    </message>
+    <message>
+        <source>Schedules and shortcuts work from the moment that you log in.</source>
+        <translation>Scheman och genvägar fungerar direkt efter inloggningen.</translation>
+    </message>
+    <message>
+        <source>Keep running when the window is closed</source>
+        <translation>Fortsätt köra när fönstret stängs</translation>
+    </message>
+    <message>
+        <source>The icon in the tray brings the window back.</source>
+        <translation>Ikonen i fältet tar tillbaka fönstret.</translation>
+    </message>
+    <message>
+        <source>Starting Lumen Desk again brings the window back.</source>
+        <translation>Starta Lumen Desk igen för att få tillbaka fönstret.</translation>
+    </message>
+    <message>
+        <source>Restore my settings at start</source>
+        <translation>Återställ inställningarna vid start</translation>
+    </message>
+    <message>
+        <source>Monitors get the values of your last session. Switched off, they keep what they have.</source>
+        <translation>Skärmarna får värdena från förra sessionen. Avstängt behåller de sina egna.</translation>
+    </message>
+</context>
+<context>
+    <name>HeaderBar</name>
+    <message>
+        <source>Settings</source>
+        <translation>Inställningar</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Stäng</translation>
+    </message>
+</context>
+<context>
+    <name>LuActionSelectionPopup</name>
+    <message>
+        <source>Set an Action</source>
+        <translation>Ange en åtgärd</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Nästa</translation>
+    </message>
+    <message>
+        <source>This flow has every action that the monitor offers.</source>
+        <translation>Flödet har alla åtgärder som skärmen erbjuder.</translation>
+    </message>
+</context>
+<context>
+    <name>LuContext</name>
+    <message>
+        <source>Built-in</source>
+        <translation>Inbyggd</translation>
+    </message>
+    <message>
+        <source>S/N %1</source>
+        <translation>S/N %1</translation>
+    </message>
+</context>
+<context>
+    <name>LuDiagnostics</name>
+    <message>
+        <source>Connection</source>
+        <translation>Anslutning</translation>
+    </message>
+    <message>
+        <source>Condition</source>
+        <translation>Tillstånd</translation>
+    </message>
+    <message>
+        <source>Transfers</source>
+        <translation>Överföringar</translation>
+    </message>
+    <message>
+        <source>Retries</source>
+        <translation>Omförsök</translation>
+    </message>
+    <message>
+        <source>Errors</source>
+        <translation>Fel</translation>
+    </message>
+    <message>
+        <source>Learnt waits</source>
+        <translation>Inlärda väntetider</translation>
+    </message>
+    <message>
+        <source>Writes today</source>
+        <translation>Skrivningar i dag</translation>
+    </message>
+    <message>
+        <source>Circuit breaker</source>
+        <translation>Säkring</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>inga</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>okänt</translation>
+    </message>
+    <message>
+        <source>asleep</source>
+        <translation>vilar</translation>
+    </message>
+    <message>
+        <source>gives no answer</source>
+        <translation>svarar inte</translation>
+    </message>
+    <message>
+        <source>answers</source>
+        <translation>svarar</translation>
+    </message>
+    <message>
+        <source>built in</source>
+        <translation>inbyggd</translation>
+    </message>
+    <message>
+        <source>simulated</source>
+        <translation>simulerad</translation>
+    </message>
+    <message>
+        <source>closed</source>
+        <translation>sluten</translation>
+    </message>
+    <message>
+        <source>the folder cannot be made</source>
+        <translation>mappen kan inte skapas</translation>
+    </message>
+    <message>
+        <source>The report could not be written to %1: %2</source>
+        <translation>Rapporten kunde inte skrivas till %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>LuHelpButton</name>
+    <message>
+        <source>Help</source>
+        <translation>Hjälp</translation>
+    </message>
+</context>
+<context>
+    <name>LuHintWindow</name>
+    <message>
+        <source>Close</source>
+        <translation>Stäng</translation>
+    </message>
+</context>
+<context>
+    <name>LuListRow</name>
+    <message>
+        <source>Edit</source>
+        <translation>Redigera</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Ta bort</translation>
+    </message>
+</context>
+<context>
+    <name>LuNamePopup</name>
+    <message>
+        <source>Save</source>
+        <translation>Spara</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Namn</translation>
+    </message>
+    <message>
+        <source>There is one of that name already.</source>
+        <translation>Namnet finns redan.</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupAction</name>
+    <message>
+        <source>Save</source>
+        <translation>Spara</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupController</name>
+    <message>
+        <source>Color mode</source>
+        <translation>Färgläge</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Ljud</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Night Hours Protection</translation>
+    </message>
+    <message>
+        <source>EcoPrivacy</source>
+        <translation>EcoPrivacy</translation>
+    </message>
+    <message>
+        <source>Visual Optimizer</source>
+        <translation>Visual Optimizer</translation>
+    </message>
+    <message>
+        <source>A.B.+ Gen2</source>
+        <translation>A.B.+ Gen2</translation>
+    </message>
+    <message>
+        <source>Low Blue Light</source>
+        <translation>Low Blue Light</translation>
+    </message>
+    <message>
+        <source>A.B. Gen2</source>
+        <translation>A.B. Gen2</translation>
+    </message>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Open applications</source>
+        <translation>Öppna program</translation>
+    </message>
+    <message>
+        <source>Add a flow</source>
+        <translation>Lägg till ett flöde</translation>
+    </message>
+    <message>
+        <source>Rename the flow</source>
+        <translation>Byt namn på flödet</translation>
+    </message>
+</context>
+<context>
+    <name>LuProgressRing</name>
+    <message>
+        <source>Please wait…</source>
+        <translation>Vänta…</translation>
+    </message>
+</context>
+<context>
+    <name>LuSchedulePopup</name>
+    <message>
+        <source>Schedule</source>
+        <translation>Schema</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Spara</translation>
+    </message>
+    <message>
+        <source>%1, hour</source>
+        <translation>%1, timme</translation>
+    </message>
+    <message>
+        <source>%1, minute</source>
+        <translation>%1, minut</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Slut</translation>
+    </message>
+    <message>
+        <source>Ends on the next day.</source>
+        <translation>Slutar nästa dag.</translation>
+    </message>
+    <message>
+        <source>Start and end are the same.</source>
+        <translation>Start och slut är samma.</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>Upprepa</translation>
+    </message>
+</context>
+<context>
+    <name>LuSelectionWindow</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Avbryt</translation>
+    </message>
+</context>
+<context>
+    <name>LuTimeButton</name>
+    <message>
+        <source>Hours</source>
+        <translation>Timmar</translation>
+    </message>
+    <message>
+        <source>Minutes</source>
+        <translation>Minuter</translation>
+    </message>
+</context>
+<context>
+    <name>LuWarningWindow</name>
+    <message>
+        <source>%1 is not available in the current color mode.</source>
+        <translation>%1 är inte tillgängligt i det aktuella färgläget.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Lumen Desk</source>
+        <translation>Lumen Desk</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorSwitcher</name>
+    <message>
+        <source>Monitor</source>
+        <translation>Skärm</translation>
+    </message>
+</context>
+<context>
+    <name>OsdTranslator</name>
+    <message>
+        <source>5000 K</source>
+        <translation>5000 K</translation>
+    </message>
+    <message>
+        <source>6500 K</source>
+        <translation>6500 K</translation>
+    </message>
+    <message>
+        <source>9300 K</source>
+        <translation>9300 K</translation>
+    </message>
+    <message>
+        <source>DCI</source>
+        <translation>DCI</translation>
+    </message>
+    <message>
+        <source>User defined</source>
+        <translation>Egen</translation>
+    </message>
+    <message>
+        <source>Native</source>
+        <translation>Inbyggd</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Dialogue</source>
+        <translation>Dialog</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Musik</translation>
+    </message>
+    <message>
+        <source>Cinema</source>
+        <translation>Bio</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>Spel</translation>
+    </message>
+    <message>
+        <source>Studio</source>
+        <translation>Studio</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Användare</translation>
+    </message>
+</context>
+<context>
+    <name>PagePanel</name>
+    <message>
+        <source>Close</source>
+        <translation>Stäng</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsWindow</name>
+    <message>
+        <source>General</source>
+        <translation>Allmänt</translation>
+    </message>
+    <message>
+        <source>Widgets</source>
+        <translation>Element</translation>
+    </message>
+    <message>
+        <source>Diagnostics</source>
+        <translation>Diagnostik</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Om</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Inställningar</translation>
+    </message>
+    <message>
+        <source>Advanced</source>
+        <translation>Avancerat</translation>
+    </message>
+</context>
+<context>
+    <name>Tray</name>
+    <message>
+        <source>Show Lumen Desk</source>
+        <translation>Visa Lumen Desk</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Inställningar</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Avsluta</translation>
+    </message>
+</context>
+<context>
+    <name>WalkthroughWindow</name>
+    <message>
+        <source>Welcome to Lumen Desk</source>
+        <translation>Välkommen till Lumen Desk</translation>
+    </message>
+    <message>
+        <source>Try it</source>
+        <translation>Prova</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Tillbaka</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Klar</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Nästa</translation>
+    </message>
+</context>
+<context>
+    <name>WidgetsPage</name>
+    <message>
+        <source>Widgets</source>
+        <translation>Element</translation>
+    </message>
+    <message>
+        <source>Choose what the window shows, and in which order.</source>
+        <translation>Välj vad fönstret visar och i vilken ordning.</translation>
+    </message>
+    <message>
+        <source>Widgets can be arranged while a supported monitor is connected.</source>
+        <translation>Element kan ordnas när en skärm som stöds är ansluten.</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,656 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!-- SPDX-License-Identifier: Apache-2.0 -->
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_TW" sourcelanguage="en">
+<context>
+    <name>AboutPage</name>
+    <message>
+        <source>About</source>
+        <translation>關於</translation>
+    </message>
+    <message>
+        <source>Version %1 · Apache License 2.0</source>
+        <translation>版本 %1 · Apache 授權 2.0</translation>
+    </message>
+    <message>
+        <source>Apache License 2.0</source>
+        <translation>Apache 授權 2.0</translation>
+    </message>
+    <message>
+        <source>Puts you in control of your monitors.</source>
+        <translation>讓您掌控自己的顯示器。</translation>
+    </message>
+    <message>
+        <source>Show the introduction</source>
+        <translation>檢視介紹</translation>
+    </message>
+    <message>
+        <source>Open-source notices</source>
+        <translation>開放原始碼聲明</translation>
+    </message>
+</context>
+<context>
+    <name>ArrangeList</name>
+    <message>
+        <source>Rows</source>
+        <translation>列</translation>
+    </message>
+    <message>
+        <source>Tiles</source>
+        <translation>動態磚</translation>
+    </message>
+    <message>
+        <source>Wide tiles</source>
+        <translation>寬動態磚</translation>
+    </message>
+    <message>
+        <source>At the bottom</source>
+        <translation>底部</translation>
+    </message>
+    <message>
+        <source>Move %1 forward</source>
+        <translation>將 %1 前移</translation>
+    </message>
+    <message>
+        <source>Move %1 back</source>
+        <translation>將 %1 後移</translation>
+    </message>
+    <message>
+        <source>Reset to the original order</source>
+        <translation>還原原始順序</translation>
+    </message>
+</context>
+<context>
+    <name>ArrangePage</name>
+    <message>
+        <source>Arrange</source>
+        <translation>排列</translation>
+    </message>
+    <message>
+        <source>Choose what the window shows, and in which order.</source>
+        <translation>選擇視窗顯示的內容及其順序。</translation>
+    </message>
+</context>
+<context>
+    <name>DiagnosticsPage</name>
+    <message>
+        <source>Diagnostics</source>
+        <translation>診斷</translation>
+    </message>
+    <message>
+        <source>No monitor is connected.</source>
+        <translation>未連接顯示器。</translation>
+    </message>
+    <message>
+        <source>The report holds what is shown here and the log of the monitors' buses. Serial numbers, your name and your folders are left out.</source>
+        <translation>報告包含此處顯示的內容和顯示器匯流排記錄，不含序號、您的姓名和資料夾。</translation>
+    </message>
+    <message>
+        <source>Export report</source>
+        <translation>匯出報告</translation>
+    </message>
+    <message>
+        <source>Written to %1</source>
+        <translation>已寫入 %1</translation>
+    </message>
+</context>
+<context>
+    <name>EmptyState</name>
+    <message>
+        <source>Every widget is hidden</source>
+        <translation>所有內容均已隱藏</translation>
+    </message>
+    <message>
+        <source>Looking for monitors…</source>
+        <translation>正在尋找顯示器…</translation>
+    </message>
+    <message>
+        <source>No supported monitor found</source>
+        <translation>找不到支援的顯示器</translation>
+    </message>
+    <message>
+        <source>Bring back what you need; nothing was lost.</source>
+        <translation>恢復所需內容即可；沒有任何遺失。</translation>
+    </message>
+    <message>
+        <source>This takes a moment.</source>
+        <translation>請稍候。</translation>
+    </message>
+    <message>
+        <source>Plug one in and it appears here by itself.</source>
+        <translation>連接後會自動顯示在此處。</translation>
+    </message>
+    <message>
+        <source>Arrange</source>
+        <translation>排列</translation>
+    </message>
+    <message>
+        <source>The monitor is switched on and connected directly, by USB-C, DisplayPort or HDMI.</source>
+        <translation>顯示器已開啟，並透過 USB-C、DisplayPort 或 HDMI 直接連接。</translation>
+    </message>
+    <message>
+        <source>DDC/CI is switched on in the monitor's own menu.</source>
+        <translation>已在顯示器選單中開啟 DDC/CI。</translation>
+    </message>
+    <message>
+        <source>This account may use the I2C devices: install the device rule or join the group "i2c", then log in again.</source>
+        <translation>此帳戶可使用 I2C 裝置：安裝裝置規則或加入「i2c」群組，然後重新登入。</translation>
+    </message>
+    <message>
+        <source>Look again</source>
+        <translation>再次尋找</translation>
+    </message>
+    <message>
+        <source>Try it with a simulated monitor</source>
+        <translation>使用模擬顯示器試用</translation>
+    </message>
+</context>
+<context>
+    <name>GeneralPage</name>
+    <message>
+        <source>Follow the desktop</source>
+        <translation>跟隨桌面</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>淺色</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>深色</translation>
+    </message>
+    <message>
+        <source>High contrast</source>
+        <translation>高對比</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>一般</translation>
+    </message>
+    <message>
+        <source>Theme</source>
+        <translation>佈景主題</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>語言</translation>
+    </message>
+    <message>
+        <source>As the desktop</source>
+        <translation>與桌面相同</translation>
+    </message>
+    <message>
+        <source>Start at login</source>
+        <translation>登入時啟動</translation>
+    </message>
+    <message>
+        <source>Schedules and shortcuts work from the moment that you log in.</source>
+        <translation>登入後排程和快速鍵立即生效。</translation>
+    </message>
+    <message>
+        <source>Keep running when the window is closed</source>
+        <translation>關閉視窗後繼續執行</translation>
+    </message>
+    <message>
+        <source>The icon in the tray brings the window back.</source>
+        <translation>系統匣圖示可重新開啟視窗。</translation>
+    </message>
+    <message>
+        <source>Starting Lumen Desk again brings the window back.</source>
+        <translation>再次啟動 Lumen Desk 可重新開啟視窗。</translation>
+    </message>
+    <message>
+        <source>Restore my settings at start</source>
+        <translation>啟動時還原我的設定</translation>
+    </message>
+    <message>
+        <source>Monitors get the values of your last session. Switched off, they keep what they have.</source>
+        <translation>顯示器將採用上次工作階段的值。關閉後保留其現有值。</translation>
+    </message>
+</context>
+<context>
+    <name>HeaderBar</name>
+    <message>
+        <source>Settings</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>關閉</translation>
+    </message>
+</context>
+<context>
+    <name>LuActionSelectionPopup</name>
+    <message>
+        <source>Set an Action</source>
+        <translation>設定動作</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>下一步</translation>
+    </message>
+    <message>
+        <source>This flow has every action that the monitor offers.</source>
+        <translation>此流程已包含顯示器提供的所有動作。</translation>
+    </message>
+</context>
+<context>
+    <name>LuContext</name>
+    <message>
+        <source>Built-in</source>
+        <translation>內建</translation>
+    </message>
+    <message>
+        <source>S/N %1</source>
+        <translation>序號 %1</translation>
+    </message>
+</context>
+<context>
+    <name>LuDiagnostics</name>
+    <message>
+        <source>Connection</source>
+        <translation>連接</translation>
+    </message>
+    <message>
+        <source>Condition</source>
+        <translation>狀態</translation>
+    </message>
+    <message>
+        <source>Transfers</source>
+        <translation>傳輸</translation>
+    </message>
+    <message>
+        <source>Retries</source>
+        <translation>重試</translation>
+    </message>
+    <message>
+        <source>Errors</source>
+        <translation>錯誤</translation>
+    </message>
+    <message>
+        <source>Learnt waits</source>
+        <translation>學得的等待</translation>
+    </message>
+    <message>
+        <source>Writes today</source>
+        <translation>今日寫入</translation>
+    </message>
+    <message>
+        <source>Circuit breaker</source>
+        <translation>斷路器</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>無</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>未知</translation>
+    </message>
+    <message>
+        <source>asleep</source>
+        <translation>休眠</translation>
+    </message>
+    <message>
+        <source>gives no answer</source>
+        <translation>無回應</translation>
+    </message>
+    <message>
+        <source>answers</source>
+        <translation>有回應</translation>
+    </message>
+    <message>
+        <source>built in</source>
+        <translation>內建</translation>
+    </message>
+    <message>
+        <source>simulated</source>
+        <translation>模擬</translation>
+    </message>
+    <message>
+        <source>closed</source>
+        <translation>閉合</translation>
+    </message>
+    <message>
+        <source>the folder cannot be made</source>
+        <translation>無法建立資料夾</translation>
+    </message>
+    <message>
+        <source>The report could not be written to %1: %2</source>
+        <translation>無法將報告寫入 %1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>LuHelpButton</name>
+    <message>
+        <source>Help</source>
+        <translation>說明</translation>
+    </message>
+</context>
+<context>
+    <name>LuHintWindow</name>
+    <message>
+        <source>Close</source>
+        <translation>關閉</translation>
+    </message>
+</context>
+<context>
+    <name>LuListRow</name>
+    <message>
+        <source>Edit</source>
+        <translation>編輯</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>刪除</translation>
+    </message>
+</context>
+<context>
+    <name>LuNamePopup</name>
+    <message>
+        <source>Save</source>
+        <translation>儲存</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名稱</translation>
+    </message>
+    <message>
+        <source>There is one of that name already.</source>
+        <translation>該名稱已存在。</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupAction</name>
+    <message>
+        <source>Save</source>
+        <translation>儲存</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupController</name>
+    <message>
+        <source>Color mode</source>
+        <translation>色彩模式</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>音訊</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Night Hours Protection</translation>
+    </message>
+    <message>
+        <source>EcoPrivacy</source>
+        <translation>EcoPrivacy</translation>
+    </message>
+    <message>
+        <source>Visual Optimizer</source>
+        <translation>Visual Optimizer</translation>
+    </message>
+    <message>
+        <source>A.B.+ Gen2</source>
+        <translation>A.B.+ Gen2</translation>
+    </message>
+    <message>
+        <source>Low Blue Light</source>
+        <translation>Low Blue Light</translation>
+    </message>
+    <message>
+        <source>A.B. Gen2</source>
+        <translation>A.B. Gen2</translation>
+    </message>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Open applications</source>
+        <translation>開啟應用程式</translation>
+    </message>
+    <message>
+        <source>Add a flow</source>
+        <translation>新增流程</translation>
+    </message>
+    <message>
+        <source>Rename the flow</source>
+        <translation>重新命名流程</translation>
+    </message>
+</context>
+<context>
+    <name>LuProgressRing</name>
+    <message>
+        <source>Please wait…</source>
+        <translation>請稍候…</translation>
+    </message>
+</context>
+<context>
+    <name>LuSchedulePopup</name>
+    <message>
+        <source>Schedule</source>
+        <translation>排程</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>儲存</translation>
+    </message>
+    <message>
+        <source>%1, hour</source>
+        <translation>%1，時</translation>
+    </message>
+    <message>
+        <source>%1, minute</source>
+        <translation>%1，分</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>開始</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>結束</translation>
+    </message>
+    <message>
+        <source>Ends on the next day.</source>
+        <translation>次日結束。</translation>
+    </message>
+    <message>
+        <source>Start and end are the same.</source>
+        <translation>開始與結束相同。</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>重複</translation>
+    </message>
+</context>
+<context>
+    <name>LuSelectionWindow</name>
+    <message>
+        <source>OK</source>
+        <translation>確定</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>LuTimeButton</name>
+    <message>
+        <source>Hours</source>
+        <translation>小時</translation>
+    </message>
+    <message>
+        <source>Minutes</source>
+        <translation>分鐘</translation>
+    </message>
+</context>
+<context>
+    <name>LuWarningWindow</name>
+    <message>
+        <source>%1 is not available in the current color mode.</source>
+        <translation>%1 在目前色彩模式下無法使用。</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>確定</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Lumen Desk</source>
+        <translation>Lumen Desk</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorSwitcher</name>
+    <message>
+        <source>Monitor</source>
+        <translation>顯示器</translation>
+    </message>
+</context>
+<context>
+    <name>OsdTranslator</name>
+    <message>
+        <source>5000 K</source>
+        <translation>5000 K</translation>
+    </message>
+    <message>
+        <source>6500 K</source>
+        <translation>6500 K</translation>
+    </message>
+    <message>
+        <source>9300 K</source>
+        <translation>9300 K</translation>
+    </message>
+    <message>
+        <source>DCI</source>
+        <translation>DCI</translation>
+    </message>
+    <message>
+        <source>User defined</source>
+        <translation>自訂</translation>
+    </message>
+    <message>
+        <source>Native</source>
+        <translation>原生</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>標準</translation>
+    </message>
+    <message>
+        <source>Dialogue</source>
+        <translation>對話</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>音樂</translation>
+    </message>
+    <message>
+        <source>Cinema</source>
+        <translation>劇院</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>遊戲</translation>
+    </message>
+    <message>
+        <source>Studio</source>
+        <translation>錄音室</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>使用者</translation>
+    </message>
+</context>
+<context>
+    <name>PagePanel</name>
+    <message>
+        <source>Close</source>
+        <translation>關閉</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsWindow</name>
+    <message>
+        <source>General</source>
+        <translation>一般</translation>
+    </message>
+    <message>
+        <source>Widgets</source>
+        <translation>小工具</translation>
+    </message>
+    <message>
+        <source>Diagnostics</source>
+        <translation>診斷</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>關於</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Advanced</source>
+        <translation>進階</translation>
+    </message>
+</context>
+<context>
+    <name>Tray</name>
+    <message>
+        <source>Show Lumen Desk</source>
+        <translation>顯示 Lumen Desk</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>結束</translation>
+    </message>
+</context>
+<context>
+    <name>WalkthroughWindow</name>
+    <message>
+        <source>Welcome to Lumen Desk</source>
+        <translation>歡迎使用 Lumen Desk</translation>
+    </message>
+    <message>
+        <source>Try it</source>
+        <translation>試用</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>返回</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>完成</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>下一步</translation>
+    </message>
+</context>
+<context>
+    <name>WidgetsPage</name>
+    <message>
+        <source>Widgets</source>
+        <translation>小工具</translation>
+    </message>
+    <message>
+        <source>Choose what the window shows, and in which order.</source>
+        <translation>選擇視窗顯示的內容及其順序。</translation>
+    </message>
+    <message>
+        <source>Widgets can be arranged while a supported monitor is connected.</source>
+        <translation>連接支援的顯示器後即可排列小工具。</translation>
+    </message>
+</context>
+</TS>
