@@ -42,13 +42,14 @@ ProcessProbe::~ProcessProbe()
     m_process.waitForFinished();
 }
 
-QByteArray ProcessProbe::call(const QByteArray& method)
+QByteArray ProcessProbe::call(const QByteArray& method, const QByteArray& parameters)
 {
     QLocalSocket socket;
     socket.connectToServer(m_socket);
     if (!socket.waitForConnected(10))
         return {};
-    socket.write("{\"jsonrpc\":\"2.0\",\"id\":1,\"method\":\"" + method + "\",\"params\":{}}\n");
+    socket.write("{\"jsonrpc\":\"2.0\",\"id\":1,\"method\":\"" + method + "\",\"params\":" + parameters +
+                 "}\n");
     QByteArray answer;
     while (!answer.endsWith('\n') && socket.waitForReadyRead(LimitMs))
         answer += socket.readAll();

@@ -24,7 +24,8 @@ public:
     qint64 wakeUps() const;
 
     /// What a method answers, as JSON text; empty without an answer.
-    QByteArray call(const QByteArray& method);
+    /// @param parameters a JSON object.
+    QByteArray call(const QByteArray& method, const QByteArray& parameters = "{}");
 
 private:
     QTemporaryDir m_directory;

@@ -14,12 +14,16 @@
 
 #include <QElapsedTimer>
 #include <QGuiApplication>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QThread>
 
 #include <algorithm>
 #include <cstdio>
 #include <map>
 #include <vector>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -39,6 +43,8 @@ constexpr Budget Budgets[] = {
     {"Construction", "construction of a model with its 27 modules, bus time excluded, median", 20.0, "ms"},
     {"HeadlessStart", "headless start to control socket, median", 150.0, "ms"},
     {"WindowStart", "process start to window, off-screen, median", 500.0, "ms"},
+    {"SliderFrame", "longest frame while a slider moves and the monitor hangs", 16.0, "ms"},
+    {"SliderTurn", "longest turn of the GUI thread while a slider moves and the monitor hangs", 16.0, "ms"},
     {"HeadlessMemory", "resident memory, headless, one monitor", 45.0, "MB"},
     {"FurtherMonitor", "resident memory of each further monitor", 1.0, "MB"},
     {"WindowMemory", "resident memory with the window", 130.0, "MB"},
@@ -189,6 +195,38 @@ void WindowStart(benchmark::State& state)
     startTime(state, "WindowStart", false, "ui.windows");
 }
 BENCHMARK(WindowStart)->UseManualTime()->Iterations(9)->Unit(benchmark::kMillisecond);
+
+double numberIn(const QByteArray& answer, const char* name)
+{
+    return QJsonDocument::fromJson(answer)
+        .object()
+        .value(u"result"_s)
+        .toObject()
+        .value(QLatin1String(name))
+        .toDouble(-1);
+}
+
+void Slider(benchmark::State& state)
+{
+    for ([[maybe_unused]] auto iteration : state) {
+        ProcessProbe window(simulated("TK30Z", false));
+        window.startMs(QStringLiteral("ui.windows"));
+        window.call("idle");
+        const auto move = [&window](int value) {
+            window.call("ui.setValue",
+                        R"({"name":"Brightness","role":"slider","value":)" + QByteArray::number(value) + '}');
+        };
+        move(10); // what is made on the first move has been made
+        window.call("sim.fault", R"({"kind":"timeout"})");
+        window.call("ui.frames");
+        for (int value = 10; value < 90; ++value)
+            move(value);
+        const QByteArray frames = window.call("ui.frames");
+        measured["SliderFrame"] = numberIn(frames, "longestFrameMs");
+        measured["SliderTurn"] = numberIn(frames, "longestMs");
+    }
+}
+BENCHMARK(Slider)->Iterations(1);
 
 void Memory(benchmark::State& state)
 {

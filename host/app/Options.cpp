@@ -35,7 +35,7 @@ constexpr Row Rows[] = {
     {"environment", "FILE", "An environment file that is read over the installed one."},
     {"screenshot", "FILE", "Write a picture of the main window (PNG) and end."},
     {"theme", "light|dark|contrast|system", "Colours of the window."},
-    {"page", "WIDGET", "With --screenshot: a picture of this widget's page."},
+    {"page", "NAME", "With --screenshot: a picture of this page: of a widget, a section, or the settings."},
 };
 
 /// A value of two that an option may have; an empty result says that it is neither.
