@@ -147,14 +147,14 @@ QString roleOf(QAccessibleInterface* interface)
 {
     QAccessible::Role role = interface->role();
     QObject* object = interface->object();
-    if (role == QAccessible::CheckBox && object && object->inherits("QQuickSwitch"))
-        return u"switch"_s;
     // A template's own role wins over the one that its QML gives it, so that a link would pass for a button.
     if (role == QAccessible::Button && object) {
         const QVariant own = QQmlProperty::read(object, u"Accessible.role"_s, qmlContext(object));
         if (own.isValid() && own.toInt() != QAccessible::NoRole)
             role = QAccessible::Role(own.toInt());
     }
+    if (role == QAccessible::CheckBox && object && object->inherits("QQuickSwitch"))
+        return u"switch"_s;
     for (const RoleName& row : RoleNames) {
         if (row.role == role)
             return QString(row.name);

@@ -11,6 +11,23 @@ set(TKPACKAGE_QML_FILES
   Popups/LuPopupNightHoursProtectionAction.qml
   Settings/Advanced/qmldir
   Widgets/qmldir
+  Widgets/inputs/DualViewPage.qml
+  Widgets/inputs/FourWindows.qml
+  Widgets/inputs/KvmPage.qml
+  Widgets/inputs/KvmPorts.qml
+  Widgets/inputs/KvmRow.qml
+  Widgets/inputs/PictureGoneNote.qml
+  Widgets/inputs/PipOptions.qml
+  Widgets/inputs/PipPbpPage.qml
+  Widgets/inputs/SourceRow.qml
+  Widgets/inputs/TwoWindows.qml
+  Widgets/LuDaisyChainWidget.qml
+  Widgets/LuDualViewPlusWidget.qml
+  Widgets/LuDualViewWidget.qml
+  Widgets/LuInputSourceWidget.qml
+  Widgets/LuPIPPBPWidget.qml
+  Widgets/LuSmartKvmBasicWidget.qml
+  Widgets/LuSmartKvmWidget.qml
   Widgets/picture/AxisControls.qml
   Widgets/picture/BrightnessPage.qml
   Widgets/picture/BrightnessSliders.qml

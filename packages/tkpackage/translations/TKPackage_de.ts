@@ -3,6 +3,51 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>FourWindows</name>
+    <message>
+        <source>Upper left</source>
+        <translation>Oben links</translation>
+    </message>
+    <message>
+        <source>Upper right</source>
+        <translation>Oben rechts</translation>
+    </message>
+    <message>
+        <source>Lower left</source>
+        <translation>Unten links</translation>
+    </message>
+    <message>
+        <source>Lower right</source>
+        <translation>Unten rechts</translation>
+    </message>
+</context>
+<context>
+    <name>KvmPage</name>
+    <message>
+        <source>Current Device Location</source>
+        <translation>Standort dieses Geräts</translation>
+    </message>
+</context>
+<context>
+    <name>KvmPorts</name>
+    <message>
+        <source>Auto Switch</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>USB-C Upstream</source>
+        <translation>USB-C-Upstream</translation>
+    </message>
+    <message>
+        <source>USB-B Upstream</source>
+        <translation>USB-B-Upstream</translation>
+    </message>
+    <message>
+        <source>TBT Upstream</source>
+        <translation>TBT-Upstream</translation>
+    </message>
+</context>
+<context>
     <name>LuAiContrastWidget</name>
     <message>
         <source>Local Contrast</source>
@@ -22,6 +67,101 @@
     <message>
         <source>Screen pivot</source>
         <translation>Bildschirmdrehung</translation>
+    </message>
+</context>
+<context>
+    <name>LuDaisyChainWidget</name>
+    <message>
+        <source>Daisy Chain (MST)</source>
+        <translation>Daisy Chain (MST)</translation>
+    </message>
+    <message>
+        <source>One cable to easily connect all your monitors.</source>
+        <translation>Ein Kabel verbindet einfach alle Ihre Monitore.</translation>
+    </message>
+    <message>
+        <source>About Daisy Chain (MST)</source>
+        <translation>Über Daisy Chain (MST)</translation>
+    </message>
+</context>
+<context>
+    <name>LuDualViewPlusWidget</name>
+    <message>
+        <source>DualView Plus</source>
+        <translation>DualView Plus</translation>
+    </message>
+    <message>
+        <source>Main: </source>
+        <translation>Haupt: </translation>
+    </message>
+    <message>
+        <source>Left: </source>
+        <translation>Links: </translation>
+    </message>
+    <message>
+        <source>Sub: </source>
+        <translation>Neben: </translation>
+    </message>
+    <message>
+        <source>Right: </source>
+        <translation>Rechts: </translation>
+    </message>
+</context>
+<context>
+    <name>LuDualViewWidget</name>
+    <message>
+        <source>DualView</source>
+        <translation>DualView</translation>
+    </message>
+    <message>
+        <source>Left:</source>
+        <translation>Links:</translation>
+    </message>
+    <message>
+        <source>Right:</source>
+        <translation>Rechts:</translation>
+    </message>
+</context>
+<context>
+    <name>LuInputSourceWidget</name>
+    <message>
+        <source>Input source</source>
+        <translation>Eingangsquelle</translation>
+    </message>
+    <message>
+        <source>Input</source>
+        <translation>Eingang</translation>
+    </message>
+</context>
+<context>
+    <name>LuPIPPBPWidget</name>
+    <message>
+        <source>Smart KVM</source>
+        <translation>Smart KVM</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic</source>
+        <translation>Smart KVM Basic</translation>
+    </message>
+    <message>
+        <source>PIP / PBP</source>
+        <translation>PIP / PBP</translation>
+    </message>
+    <message>
+        <source>PIP</source>
+        <translation>PIP</translation>
+    </message>
+    <message>
+        <source>PBP</source>
+        <translation>PBP</translation>
+    </message>
+    <message>
+        <source>Do you want to turn off PBP Mode and %1?</source>
+        <translation>Möchten Sie den PBP-Modus und %1 ausschalten?</translation>
+    </message>
+    <message>
+        <source>%1 only works in PBP mode. If you choose to turn off PBP mode, %1 will be disabled as well.</source>
+        <translation>%1 arbeitet nur im PBP-Modus. Wenn Sie den PBP-Modus ausschalten, wird auch %1 ausgeschaltet.</translation>
     </message>
 </context>
 <context>
@@ -151,6 +291,100 @@
     </message>
 </context>
 <context>
+    <name>LuSmartKvmBasicWidget</name>
+    <message>
+        <source>KVM</source>
+        <translation>KVM</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic is enabled</source>
+        <translation>Smart KVM Basic ist eingeschaltet</translation>
+    </message>
+    <message>
+        <source>Do you want to switch to PBP Mode?</source>
+        <translation>Möchten Sie in den PBP-Modus wechseln?</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic works only in PBP Mode. Turning off PBP Mode will also disable Smart KVM Basic.</source>
+        <translation>Smart KVM Basic arbeitet nur im PBP-Modus. Mit dem PBP-Modus wird auch Smart KVM Basic ausgeschaltet.</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic</source>
+        <translation>Smart KVM Basic</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>Orvane Smart KVM Basic makes multitasking effortless - use one keyboard and mouse to control two computers. With automatic switching when your cursor crosses the screen edge, you can work seamlessly across systems. Just install Lumen Desk 2 on both devices and enable PBP Mode to get started.</source>
+        <translation>Orvane Smart KVM Basic macht Multitasking mühelos: Steuern Sie zwei Computer mit einer Tastatur und einer Maus. Überquert der Zeiger den Bildschirmrand, wird automatisch umgeschaltet. Installieren Sie Lumen Desk 2 auf beiden Geräten und schalten Sie den PBP-Modus ein.</translation>
+    </message>
+</context>
+<context>
+    <name>LuSmartKvmWidget</name>
+    <message>
+        <source>Driver installation is required</source>
+        <translation>Treiber muss installiert werden</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Verbunden</translation>
+    </message>
+    <message>
+        <source>Searching</source>
+        <translation>Suche läuft</translation>
+    </message>
+    <message>
+        <source>KVM</source>
+        <translation>KVM</translation>
+    </message>
+    <message>
+        <source>Smart KVM Enabled</source>
+        <translation>Smart KVM eingeschaltet</translation>
+    </message>
+    <message>
+        <source>Driver installation is required.</source>
+        <translation>Treiber muss installiert werden.</translation>
+    </message>
+    <message>
+        <source>Smart KVM requires your permission to install its driver. Would you like to install it now?</source>
+        <translation>Smart KVM benötigt Ihre Erlaubnis, um seinen Treiber zu installieren. Jetzt installieren?</translation>
+    </message>
+    <message>
+        <source>Do you want to switch to PBP Mode?</source>
+        <translation>Möchten Sie in den PBP-Modus wechseln?</translation>
+    </message>
+    <message>
+        <source>Smart KVM only works in PBP mode. If you'd like to continue using Smart KVM, we can switch to PBP mode for you.</source>
+        <translation>Smart KVM arbeitet nur im PBP-Modus. Wenn Sie Smart KVM weiter nutzen möchten, wechseln wir für Sie in den PBP-Modus.</translation>
+    </message>
+    <message>
+        <source>Smart KVM</source>
+        <translation>Smart KVM</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Oben</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Unten</translation>
+    </message>
+</context>
+<context>
     <name>NightStateChoice</name>
     <message>
         <source>Night Hours Protection</source>
@@ -178,6 +412,134 @@
     <message>
         <source>Level</source>
         <translation>Stufe</translation>
+    </message>
+</context>
+<context>
+    <name>PictureGoneNote</name>
+    <message>
+        <source>This computer's picture goes away with its input. %1 brings it back.</source>
+        <translation>Das Bild dieses Computers verschwindet mit seinem Eingang. %1 holt es zurück.</translation>
+    </message>
+    <message>
+        <source>This computer's picture goes away with its input. Choose %1 in the monitor's menu to bring it back.</source>
+        <translation>Das Bild dieses Computers verschwindet mit seinem Eingang. Wählen Sie im Menü des Monitors %1, um es zurückzuholen.</translation>
+    </message>
+    <message>
+        <source>Back to %1</source>
+        <translation>Zurück zu %1</translation>
+    </message>
+    <message>
+        <source>Turn on shortcuts</source>
+        <translation>Tastenkürzel einschalten</translation>
+    </message>
+</context>
+<context>
+    <name>PipOptions</name>
+    <message>
+        <source>Sub size</source>
+        <translation>Größe des Fensters</translation>
+    </message>
+    <message>
+        <source>Small</source>
+        <translation>Klein</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>Mittel</translation>
+    </message>
+    <message>
+        <source>Large</source>
+        <translation>Groß</translation>
+    </message>
+    <message>
+        <source>Sub position</source>
+        <translation>Lage des Fensters</translation>
+    </message>
+    <message>
+        <source>Upper right</source>
+        <translation>Oben rechts</translation>
+    </message>
+    <message>
+        <source>Upper left</source>
+        <translation>Oben links</translation>
+    </message>
+    <message>
+        <source>Lower right</source>
+        <translation>Unten rechts</translation>
+    </message>
+    <message>
+        <source>Lower left</source>
+        <translation>Unten links</translation>
+    </message>
+</context>
+<context>
+    <name>PipPbpPage</name>
+    <message>
+        <source>Picture in picture</source>
+        <translation>Bild im Bild</translation>
+    </message>
+    <message>
+        <source>Half and half</source>
+        <translation>Halb und halb</translation>
+    </message>
+    <message>
+        <source>Four windows</source>
+        <translation>Vier Fenster</translation>
+    </message>
+    <message>
+        <source>16 : 9 and 9 : 5</source>
+        <translation>16 : 9 und 9 : 5</translation>
+    </message>
+    <message>
+        <source>Two to one</source>
+        <translation>Zwei zu eins</translation>
+    </message>
+    <message>
+        <source>Three to one</source>
+        <translation>Drei zu eins</translation>
+    </message>
+    <message>
+        <source>Audio Source</source>
+        <translation>Tonquelle</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>Swap</source>
+        <translation>Tauschen</translation>
+    </message>
+</context>
+<context>
+    <name>TwoWindows</name>
+    <message>
+        <source>Main:</source>
+        <translation>Haupt:</translation>
+    </message>
+    <message>
+        <source>Sub:</source>
+        <translation>Neben:</translation>
+    </message>
+    <message>
+        <source>16 : 9</source>
+        <translation>16 : 9</translation>
+    </message>
+    <message>
+        <source>9 : 5</source>
+        <translation>9 : 5</translation>
+    </message>
+    <message>
+        <source>Left:</source>
+        <translation>Links:</translation>
+    </message>
+    <message>
+        <source>Right:</source>
+        <translation>Rechts:</translation>
     </message>
 </context>
 </TS>

@@ -3,6 +3,51 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>FourWindows</name>
+    <message>
+        <source>Upper left</source>
+        <translation>Upper left</translation>
+    </message>
+    <message>
+        <source>Upper right</source>
+        <translation>Upper right</translation>
+    </message>
+    <message>
+        <source>Lower left</source>
+        <translation>Lower left</translation>
+    </message>
+    <message>
+        <source>Lower right</source>
+        <translation>Lower right</translation>
+    </message>
+</context>
+<context>
+    <name>KvmPage</name>
+    <message>
+        <source>Current Device Location</source>
+        <translation>Current Device Location</translation>
+    </message>
+</context>
+<context>
+    <name>KvmPorts</name>
+    <message>
+        <source>Auto Switch</source>
+        <translation>Auto Switch</translation>
+    </message>
+    <message>
+        <source>USB-C Upstream</source>
+        <translation>USB-C Upstream</translation>
+    </message>
+    <message>
+        <source>USB-B Upstream</source>
+        <translation>USB-B Upstream</translation>
+    </message>
+    <message>
+        <source>TBT Upstream</source>
+        <translation>TBT Upstream</translation>
+    </message>
+</context>
+<context>
     <name>LuAiContrastWidget</name>
     <message>
         <source>Local Contrast</source>
@@ -22,6 +67,101 @@
     <message>
         <source>Screen pivot</source>
         <translation>Screen pivot</translation>
+    </message>
+</context>
+<context>
+    <name>LuDaisyChainWidget</name>
+    <message>
+        <source>Daisy Chain (MST)</source>
+        <translation>Daisy Chain (MST)</translation>
+    </message>
+    <message>
+        <source>One cable to easily connect all your monitors.</source>
+        <translation>One cable to easily connect all your monitors.</translation>
+    </message>
+    <message>
+        <source>About Daisy Chain (MST)</source>
+        <translation>About Daisy Chain (MST)</translation>
+    </message>
+</context>
+<context>
+    <name>LuDualViewPlusWidget</name>
+    <message>
+        <source>DualView Plus</source>
+        <translation>DualView Plus</translation>
+    </message>
+    <message>
+        <source>Main: </source>
+        <translation>Main: </translation>
+    </message>
+    <message>
+        <source>Left: </source>
+        <translation>Left: </translation>
+    </message>
+    <message>
+        <source>Sub: </source>
+        <translation>Sub: </translation>
+    </message>
+    <message>
+        <source>Right: </source>
+        <translation>Right: </translation>
+    </message>
+</context>
+<context>
+    <name>LuDualViewWidget</name>
+    <message>
+        <source>DualView</source>
+        <translation>DualView</translation>
+    </message>
+    <message>
+        <source>Left:</source>
+        <translation>Left:</translation>
+    </message>
+    <message>
+        <source>Right:</source>
+        <translation>Right:</translation>
+    </message>
+</context>
+<context>
+    <name>LuInputSourceWidget</name>
+    <message>
+        <source>Input source</source>
+        <translation>Input source</translation>
+    </message>
+    <message>
+        <source>Input</source>
+        <translation>Input</translation>
+    </message>
+</context>
+<context>
+    <name>LuPIPPBPWidget</name>
+    <message>
+        <source>Smart KVM</source>
+        <translation>Smart KVM</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic</source>
+        <translation>Smart KVM Basic</translation>
+    </message>
+    <message>
+        <source>PIP / PBP</source>
+        <translation>PIP / PBP</translation>
+    </message>
+    <message>
+        <source>PIP</source>
+        <translation>PIP</translation>
+    </message>
+    <message>
+        <source>PBP</source>
+        <translation>PBP</translation>
+    </message>
+    <message>
+        <source>Do you want to turn off PBP Mode and %1?</source>
+        <translation>Do you want to turn off PBP Mode and %1?</translation>
+    </message>
+    <message>
+        <source>%1 only works in PBP mode. If you choose to turn off PBP mode, %1 will be disabled as well.</source>
+        <translation>%1 only works in PBP mode. If you choose to turn off PBP mode, %1 will be disabled as well.</translation>
     </message>
 </context>
 <context>
@@ -151,6 +291,100 @@
     </message>
 </context>
 <context>
+    <name>LuSmartKvmBasicWidget</name>
+    <message>
+        <source>KVM</source>
+        <translation>KVM</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic is enabled</source>
+        <translation>Smart KVM Basic is enabled</translation>
+    </message>
+    <message>
+        <source>Do you want to switch to PBP Mode?</source>
+        <translation>Do you want to switch to PBP Mode?</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic works only in PBP Mode. Turning off PBP Mode will also disable Smart KVM Basic.</source>
+        <translation>Smart KVM Basic works only in PBP Mode. Turning off PBP Mode will also disable Smart KVM Basic.</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic</source>
+        <translation>Smart KVM Basic</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Left</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Right</translation>
+    </message>
+    <message>
+        <source>Orvane Smart KVM Basic makes multitasking effortless - use one keyboard and mouse to control two computers. With automatic switching when your cursor crosses the screen edge, you can work seamlessly across systems. Just install Lumen Desk 2 on both devices and enable PBP Mode to get started.</source>
+        <translation>Orvane Smart KVM Basic makes multitasking effortless - use one keyboard and mouse to control two computers. With automatic switching when your cursor crosses the screen edge, you can work seamlessly across systems. Just install Lumen Desk 2 on both devices and enable PBP Mode to get started.</translation>
+    </message>
+</context>
+<context>
+    <name>LuSmartKvmWidget</name>
+    <message>
+        <source>Driver installation is required</source>
+        <translation>Driver installation is required</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Connected</translation>
+    </message>
+    <message>
+        <source>Searching</source>
+        <translation>Searching</translation>
+    </message>
+    <message>
+        <source>KVM</source>
+        <translation>KVM</translation>
+    </message>
+    <message>
+        <source>Smart KVM Enabled</source>
+        <translation>Smart KVM Enabled</translation>
+    </message>
+    <message>
+        <source>Driver installation is required.</source>
+        <translation>Driver installation is required.</translation>
+    </message>
+    <message>
+        <source>Smart KVM requires your permission to install its driver. Would you like to install it now?</source>
+        <translation>Smart KVM requires your permission to install its driver. Would you like to install it now?</translation>
+    </message>
+    <message>
+        <source>Do you want to switch to PBP Mode?</source>
+        <translation>Do you want to switch to PBP Mode?</translation>
+    </message>
+    <message>
+        <source>Smart KVM only works in PBP mode. If you'd like to continue using Smart KVM, we can switch to PBP mode for you.</source>
+        <translation>Smart KVM only works in PBP mode. If you'd like to continue using Smart KVM, we can switch to PBP mode for you.</translation>
+    </message>
+    <message>
+        <source>Smart KVM</source>
+        <translation>Smart KVM</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Left</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Right</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Top</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Bottom</translation>
+    </message>
+</context>
+<context>
     <name>NightStateChoice</name>
     <message>
         <source>Night Hours Protection</source>
@@ -178,6 +412,134 @@
     <message>
         <source>Level</source>
         <translation>Level</translation>
+    </message>
+</context>
+<context>
+    <name>PictureGoneNote</name>
+    <message>
+        <source>This computer's picture goes away with its input. %1 brings it back.</source>
+        <translation>This computer's picture goes away with its input. %1 brings it back.</translation>
+    </message>
+    <message>
+        <source>This computer's picture goes away with its input. Choose %1 in the monitor's menu to bring it back.</source>
+        <translation>This computer's picture goes away with its input. Choose %1 in the monitor's menu to bring it back.</translation>
+    </message>
+    <message>
+        <source>Back to %1</source>
+        <translation>Back to %1</translation>
+    </message>
+    <message>
+        <source>Turn on shortcuts</source>
+        <translation>Turn on shortcuts</translation>
+    </message>
+</context>
+<context>
+    <name>PipOptions</name>
+    <message>
+        <source>Sub size</source>
+        <translation>Sub size</translation>
+    </message>
+    <message>
+        <source>Small</source>
+        <translation>Small</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>Medium</translation>
+    </message>
+    <message>
+        <source>Large</source>
+        <translation>Large</translation>
+    </message>
+    <message>
+        <source>Sub position</source>
+        <translation>Sub position</translation>
+    </message>
+    <message>
+        <source>Upper right</source>
+        <translation>Upper right</translation>
+    </message>
+    <message>
+        <source>Upper left</source>
+        <translation>Upper left</translation>
+    </message>
+    <message>
+        <source>Lower right</source>
+        <translation>Lower right</translation>
+    </message>
+    <message>
+        <source>Lower left</source>
+        <translation>Lower left</translation>
+    </message>
+</context>
+<context>
+    <name>PipPbpPage</name>
+    <message>
+        <source>Picture in picture</source>
+        <translation>Picture in picture</translation>
+    </message>
+    <message>
+        <source>Half and half</source>
+        <translation>Half and half</translation>
+    </message>
+    <message>
+        <source>Four windows</source>
+        <translation>Four windows</translation>
+    </message>
+    <message>
+        <source>16 : 9 and 9 : 5</source>
+        <translation>16 : 9 and 9 : 5</translation>
+    </message>
+    <message>
+        <source>Two to one</source>
+        <translation>Two to one</translation>
+    </message>
+    <message>
+        <source>Three to one</source>
+        <translation>Three to one</translation>
+    </message>
+    <message>
+        <source>Audio Source</source>
+        <translation>Audio Source</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Left</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Right</translation>
+    </message>
+    <message>
+        <source>Swap</source>
+        <translation>Swap</translation>
+    </message>
+</context>
+<context>
+    <name>TwoWindows</name>
+    <message>
+        <source>Main:</source>
+        <translation>Main:</translation>
+    </message>
+    <message>
+        <source>Sub:</source>
+        <translation>Sub:</translation>
+    </message>
+    <message>
+        <source>16 : 9</source>
+        <translation>16 : 9</translation>
+    </message>
+    <message>
+        <source>9 : 5</source>
+        <translation>9 : 5</translation>
+    </message>
+    <message>
+        <source>Left:</source>
+        <translation>Left:</translation>
+    </message>
+    <message>
+        <source>Right:</source>
+        <translation>Right:</translation>
     </message>
 </context>
 </TS>

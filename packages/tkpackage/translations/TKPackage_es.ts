@@ -3,6 +3,51 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
+    <name>FourWindows</name>
+    <message>
+        <source>Upper left</source>
+        <translation>Arriba a la izquierda</translation>
+    </message>
+    <message>
+        <source>Upper right</source>
+        <translation>Arriba a la derecha</translation>
+    </message>
+    <message>
+        <source>Lower left</source>
+        <translation>Abajo a la izquierda</translation>
+    </message>
+    <message>
+        <source>Lower right</source>
+        <translation>Abajo a la derecha</translation>
+    </message>
+</context>
+<context>
+    <name>KvmPage</name>
+    <message>
+        <source>Current Device Location</source>
+        <translation>Ubicación de este dispositivo</translation>
+    </message>
+</context>
+<context>
+    <name>KvmPorts</name>
+    <message>
+        <source>Auto Switch</source>
+        <translation>Automático</translation>
+    </message>
+    <message>
+        <source>USB-C Upstream</source>
+        <translation>Conexión USB-C</translation>
+    </message>
+    <message>
+        <source>USB-B Upstream</source>
+        <translation>Conexión USB-B</translation>
+    </message>
+    <message>
+        <source>TBT Upstream</source>
+        <translation>Conexión TBT</translation>
+    </message>
+</context>
+<context>
     <name>LuAiContrastWidget</name>
     <message>
         <source>Local Contrast</source>
@@ -22,6 +67,101 @@
     <message>
         <source>Screen pivot</source>
         <translation>Giro de la pantalla</translation>
+    </message>
+</context>
+<context>
+    <name>LuDaisyChainWidget</name>
+    <message>
+        <source>Daisy Chain (MST)</source>
+        <translation>Daisy Chain (MST)</translation>
+    </message>
+    <message>
+        <source>One cable to easily connect all your monitors.</source>
+        <translation>Un solo cable para conectar fácilmente todos sus monitores.</translation>
+    </message>
+    <message>
+        <source>About Daisy Chain (MST)</source>
+        <translation>Acerca de Daisy Chain (MST)</translation>
+    </message>
+</context>
+<context>
+    <name>LuDualViewPlusWidget</name>
+    <message>
+        <source>DualView Plus</source>
+        <translation>DualView Plus</translation>
+    </message>
+    <message>
+        <source>Main: </source>
+        <translation>Principal: </translation>
+    </message>
+    <message>
+        <source>Left: </source>
+        <translation>Izquierda: </translation>
+    </message>
+    <message>
+        <source>Sub: </source>
+        <translation>Secundaria: </translation>
+    </message>
+    <message>
+        <source>Right: </source>
+        <translation>Derecha: </translation>
+    </message>
+</context>
+<context>
+    <name>LuDualViewWidget</name>
+    <message>
+        <source>DualView</source>
+        <translation>DualView</translation>
+    </message>
+    <message>
+        <source>Left:</source>
+        <translation>Izquierda:</translation>
+    </message>
+    <message>
+        <source>Right:</source>
+        <translation>Derecha:</translation>
+    </message>
+</context>
+<context>
+    <name>LuInputSourceWidget</name>
+    <message>
+        <source>Input source</source>
+        <translation>Fuente de entrada</translation>
+    </message>
+    <message>
+        <source>Input</source>
+        <translation>Entrada</translation>
+    </message>
+</context>
+<context>
+    <name>LuPIPPBPWidget</name>
+    <message>
+        <source>Smart KVM</source>
+        <translation>Smart KVM</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic</source>
+        <translation>Smart KVM Basic</translation>
+    </message>
+    <message>
+        <source>PIP / PBP</source>
+        <translation>PIP / PBP</translation>
+    </message>
+    <message>
+        <source>PIP</source>
+        <translation>PIP</translation>
+    </message>
+    <message>
+        <source>PBP</source>
+        <translation>PBP</translation>
+    </message>
+    <message>
+        <source>Do you want to turn off PBP Mode and %1?</source>
+        <translation>¿Desea desactivar el modo PBP y %1?</translation>
+    </message>
+    <message>
+        <source>%1 only works in PBP mode. If you choose to turn off PBP mode, %1 will be disabled as well.</source>
+        <translation>%1 solo funciona en modo PBP. Si desactiva el modo PBP, %1 también se desactivará.</translation>
     </message>
 </context>
 <context>
@@ -151,6 +291,100 @@
     </message>
 </context>
 <context>
+    <name>LuSmartKvmBasicWidget</name>
+    <message>
+        <source>KVM</source>
+        <translation>KVM</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic is enabled</source>
+        <translation>Smart KVM Basic está activado</translation>
+    </message>
+    <message>
+        <source>Do you want to switch to PBP Mode?</source>
+        <translation>¿Desea cambiar al modo PBP?</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic works only in PBP Mode. Turning off PBP Mode will also disable Smart KVM Basic.</source>
+        <translation>Smart KVM Basic solo funciona en modo PBP. Al desactivar el modo PBP también se desactiva Smart KVM Basic.</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic</source>
+        <translation>Smart KVM Basic</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Izquierda</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Derecha</translation>
+    </message>
+    <message>
+        <source>Orvane Smart KVM Basic makes multitasking effortless - use one keyboard and mouse to control two computers. With automatic switching when your cursor crosses the screen edge, you can work seamlessly across systems. Just install Lumen Desk 2 on both devices and enable PBP Mode to get started.</source>
+        <translation>Orvane Smart KVM Basic facilita la multitarea: controle dos equipos con un solo teclado y ratón. El cambio es automático cuando el cursor cruza el borde de la pantalla. Instale Lumen Desk 2 en ambos dispositivos y active el modo PBP para empezar.</translation>
+    </message>
+</context>
+<context>
+    <name>LuSmartKvmWidget</name>
+    <message>
+        <source>Driver installation is required</source>
+        <translation>Es necesario instalar el controlador</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Conectado</translation>
+    </message>
+    <message>
+        <source>Searching</source>
+        <translation>Buscando</translation>
+    </message>
+    <message>
+        <source>KVM</source>
+        <translation>KVM</translation>
+    </message>
+    <message>
+        <source>Smart KVM Enabled</source>
+        <translation>Smart KVM activado</translation>
+    </message>
+    <message>
+        <source>Driver installation is required.</source>
+        <translation>Es necesario instalar el controlador.</translation>
+    </message>
+    <message>
+        <source>Smart KVM requires your permission to install its driver. Would you like to install it now?</source>
+        <translation>Smart KVM necesita su permiso para instalar el controlador. ¿Desea instalarlo ahora?</translation>
+    </message>
+    <message>
+        <source>Do you want to switch to PBP Mode?</source>
+        <translation>¿Desea cambiar al modo PBP?</translation>
+    </message>
+    <message>
+        <source>Smart KVM only works in PBP mode. If you'd like to continue using Smart KVM, we can switch to PBP mode for you.</source>
+        <translation>Smart KVM solo funciona en modo PBP. Si desea seguir usándolo, podemos cambiar al modo PBP por usted.</translation>
+    </message>
+    <message>
+        <source>Smart KVM</source>
+        <translation>Smart KVM</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Izquierda</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Derecha</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Arriba</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Abajo</translation>
+    </message>
+</context>
+<context>
     <name>NightStateChoice</name>
     <message>
         <source>Night Hours Protection</source>
@@ -178,6 +412,134 @@
     <message>
         <source>Level</source>
         <translation>Nivel</translation>
+    </message>
+</context>
+<context>
+    <name>PictureGoneNote</name>
+    <message>
+        <source>This computer's picture goes away with its input. %1 brings it back.</source>
+        <translation>La imagen de este equipo desaparece con su entrada. %1 la recupera.</translation>
+    </message>
+    <message>
+        <source>This computer's picture goes away with its input. Choose %1 in the monitor's menu to bring it back.</source>
+        <translation>La imagen de este equipo desaparece con su entrada. Elija %1 en el menú del monitor para recuperarla.</translation>
+    </message>
+    <message>
+        <source>Back to %1</source>
+        <translation>Volver a %1</translation>
+    </message>
+    <message>
+        <source>Turn on shortcuts</source>
+        <translation>Activar atajos</translation>
+    </message>
+</context>
+<context>
+    <name>PipOptions</name>
+    <message>
+        <source>Sub size</source>
+        <translation>Tamaño de la ventana</translation>
+    </message>
+    <message>
+        <source>Small</source>
+        <translation>Pequeño</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>Mediano</translation>
+    </message>
+    <message>
+        <source>Large</source>
+        <translation>Grande</translation>
+    </message>
+    <message>
+        <source>Sub position</source>
+        <translation>Posición de la ventana</translation>
+    </message>
+    <message>
+        <source>Upper right</source>
+        <translation>Arriba a la derecha</translation>
+    </message>
+    <message>
+        <source>Upper left</source>
+        <translation>Arriba a la izquierda</translation>
+    </message>
+    <message>
+        <source>Lower right</source>
+        <translation>Abajo a la derecha</translation>
+    </message>
+    <message>
+        <source>Lower left</source>
+        <translation>Abajo a la izquierda</translation>
+    </message>
+</context>
+<context>
+    <name>PipPbpPage</name>
+    <message>
+        <source>Picture in picture</source>
+        <translation>Imagen en imagen</translation>
+    </message>
+    <message>
+        <source>Half and half</source>
+        <translation>Mitad y mitad</translation>
+    </message>
+    <message>
+        <source>Four windows</source>
+        <translation>Cuatro ventanas</translation>
+    </message>
+    <message>
+        <source>16 : 9 and 9 : 5</source>
+        <translation>16 : 9 y 9 : 5</translation>
+    </message>
+    <message>
+        <source>Two to one</source>
+        <translation>Dos a uno</translation>
+    </message>
+    <message>
+        <source>Three to one</source>
+        <translation>Tres a uno</translation>
+    </message>
+    <message>
+        <source>Audio Source</source>
+        <translation>Fuente de audio</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Izquierda</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Derecha</translation>
+    </message>
+    <message>
+        <source>Swap</source>
+        <translation>Intercambiar</translation>
+    </message>
+</context>
+<context>
+    <name>TwoWindows</name>
+    <message>
+        <source>Main:</source>
+        <translation>Principal:</translation>
+    </message>
+    <message>
+        <source>Sub:</source>
+        <translation>Secundaria:</translation>
+    </message>
+    <message>
+        <source>16 : 9</source>
+        <translation>16 : 9</translation>
+    </message>
+    <message>
+        <source>9 : 5</source>
+        <translation>9 : 5</translation>
+    </message>
+    <message>
+        <source>Left:</source>
+        <translation>Izquierda:</translation>
+    </message>
+    <message>
+        <source>Right:</source>
+        <translation>Derecha:</translation>
     </message>
 </context>
 </TS>

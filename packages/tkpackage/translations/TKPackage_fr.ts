@@ -3,6 +3,51 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>FourWindows</name>
+    <message>
+        <source>Upper left</source>
+        <translation>En haut à gauche</translation>
+    </message>
+    <message>
+        <source>Upper right</source>
+        <translation>En haut à droite</translation>
+    </message>
+    <message>
+        <source>Lower left</source>
+        <translation>En bas à gauche</translation>
+    </message>
+    <message>
+        <source>Lower right</source>
+        <translation>En bas à droite</translation>
+    </message>
+</context>
+<context>
+    <name>KvmPage</name>
+    <message>
+        <source>Current Device Location</source>
+        <translation>Emplacement de cet appareil</translation>
+    </message>
+</context>
+<context>
+    <name>KvmPorts</name>
+    <message>
+        <source>Auto Switch</source>
+        <translation>Automatique</translation>
+    </message>
+    <message>
+        <source>USB-C Upstream</source>
+        <translation>Amont USB-C</translation>
+    </message>
+    <message>
+        <source>USB-B Upstream</source>
+        <translation>Amont USB-B</translation>
+    </message>
+    <message>
+        <source>TBT Upstream</source>
+        <translation>Amont TBT</translation>
+    </message>
+</context>
+<context>
     <name>LuAiContrastWidget</name>
     <message>
         <source>Local Contrast</source>
@@ -22,6 +67,101 @@
     <message>
         <source>Screen pivot</source>
         <translation>Pivotement de l’écran</translation>
+    </message>
+</context>
+<context>
+    <name>LuDaisyChainWidget</name>
+    <message>
+        <source>Daisy Chain (MST)</source>
+        <translation>Daisy Chain (MST)</translation>
+    </message>
+    <message>
+        <source>One cable to easily connect all your monitors.</source>
+        <translation>Un seul câble pour relier facilement tous vos moniteurs.</translation>
+    </message>
+    <message>
+        <source>About Daisy Chain (MST)</source>
+        <translation>À propos de Daisy Chain (MST)</translation>
+    </message>
+</context>
+<context>
+    <name>LuDualViewPlusWidget</name>
+    <message>
+        <source>DualView Plus</source>
+        <translation>DualView Plus</translation>
+    </message>
+    <message>
+        <source>Main: </source>
+        <translation>Principal : </translation>
+    </message>
+    <message>
+        <source>Left: </source>
+        <translation>Gauche : </translation>
+    </message>
+    <message>
+        <source>Sub: </source>
+        <translation>Secondaire : </translation>
+    </message>
+    <message>
+        <source>Right: </source>
+        <translation>Droite : </translation>
+    </message>
+</context>
+<context>
+    <name>LuDualViewWidget</name>
+    <message>
+        <source>DualView</source>
+        <translation>DualView</translation>
+    </message>
+    <message>
+        <source>Left:</source>
+        <translation>Gauche :</translation>
+    </message>
+    <message>
+        <source>Right:</source>
+        <translation>Droite :</translation>
+    </message>
+</context>
+<context>
+    <name>LuInputSourceWidget</name>
+    <message>
+        <source>Input source</source>
+        <translation>Source d'entrée</translation>
+    </message>
+    <message>
+        <source>Input</source>
+        <translation>Entrée</translation>
+    </message>
+</context>
+<context>
+    <name>LuPIPPBPWidget</name>
+    <message>
+        <source>Smart KVM</source>
+        <translation>Smart KVM</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic</source>
+        <translation>Smart KVM Basic</translation>
+    </message>
+    <message>
+        <source>PIP / PBP</source>
+        <translation>PIP / PBP</translation>
+    </message>
+    <message>
+        <source>PIP</source>
+        <translation>PIP</translation>
+    </message>
+    <message>
+        <source>PBP</source>
+        <translation>PBP</translation>
+    </message>
+    <message>
+        <source>Do you want to turn off PBP Mode and %1?</source>
+        <translation>Voulez-vous désactiver le mode PBP et %1 ?</translation>
+    </message>
+    <message>
+        <source>%1 only works in PBP mode. If you choose to turn off PBP mode, %1 will be disabled as well.</source>
+        <translation>%1 ne fonctionne qu'en mode PBP. Si vous désactivez le mode PBP, %1 sera aussi désactivé.</translation>
     </message>
 </context>
 <context>
@@ -151,6 +291,100 @@
     </message>
 </context>
 <context>
+    <name>LuSmartKvmBasicWidget</name>
+    <message>
+        <source>KVM</source>
+        <translation>KVM</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic is enabled</source>
+        <translation>Smart KVM Basic est activé</translation>
+    </message>
+    <message>
+        <source>Do you want to switch to PBP Mode?</source>
+        <translation>Voulez-vous passer en mode PBP ?</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic works only in PBP Mode. Turning off PBP Mode will also disable Smart KVM Basic.</source>
+        <translation>Smart KVM Basic ne fonctionne qu'en mode PBP. Désactiver le mode PBP désactive aussi Smart KVM Basic.</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic</source>
+        <translation>Smart KVM Basic</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Gauche</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Droite</translation>
+    </message>
+    <message>
+        <source>Orvane Smart KVM Basic makes multitasking effortless - use one keyboard and mouse to control two computers. With automatic switching when your cursor crosses the screen edge, you can work seamlessly across systems. Just install Lumen Desk 2 on both devices and enable PBP Mode to get started.</source>
+        <translation>Orvane Smart KVM Basic simplifie le multitâche : un seul clavier et une seule souris commandent deux ordinateurs. Le passage est automatique quand le curseur franchit le bord de l'écran. Installez Lumen Desk 2 sur les deux appareils et activez le mode PBP pour commencer.</translation>
+    </message>
+</context>
+<context>
+    <name>LuSmartKvmWidget</name>
+    <message>
+        <source>Driver installation is required</source>
+        <translation>Installation du pilote requise</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Connecté</translation>
+    </message>
+    <message>
+        <source>Searching</source>
+        <translation>Recherche</translation>
+    </message>
+    <message>
+        <source>KVM</source>
+        <translation>KVM</translation>
+    </message>
+    <message>
+        <source>Smart KVM Enabled</source>
+        <translation>Smart KVM activé</translation>
+    </message>
+    <message>
+        <source>Driver installation is required.</source>
+        <translation>Installation du pilote requise.</translation>
+    </message>
+    <message>
+        <source>Smart KVM requires your permission to install its driver. Would you like to install it now?</source>
+        <translation>Smart KVM a besoin de votre autorisation pour installer son pilote. L'installer maintenant ?</translation>
+    </message>
+    <message>
+        <source>Do you want to switch to PBP Mode?</source>
+        <translation>Voulez-vous passer en mode PBP ?</translation>
+    </message>
+    <message>
+        <source>Smart KVM only works in PBP mode. If you'd like to continue using Smart KVM, we can switch to PBP mode for you.</source>
+        <translation>Smart KVM ne fonctionne qu'en mode PBP. Pour continuer à l'utiliser, nous pouvons passer en mode PBP pour vous.</translation>
+    </message>
+    <message>
+        <source>Smart KVM</source>
+        <translation>Smart KVM</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Gauche</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Droite</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Haut</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Bas</translation>
+    </message>
+</context>
+<context>
     <name>NightStateChoice</name>
     <message>
         <source>Night Hours Protection</source>
@@ -178,6 +412,134 @@
     <message>
         <source>Level</source>
         <translation>Niveau</translation>
+    </message>
+</context>
+<context>
+    <name>PictureGoneNote</name>
+    <message>
+        <source>This computer's picture goes away with its input. %1 brings it back.</source>
+        <translation>L'image de cet ordinateur disparaît avec son entrée. %1 la fait revenir.</translation>
+    </message>
+    <message>
+        <source>This computer's picture goes away with its input. Choose %1 in the monitor's menu to bring it back.</source>
+        <translation>L'image de cet ordinateur disparaît avec son entrée. Choisissez %1 dans le menu du moniteur pour la faire revenir.</translation>
+    </message>
+    <message>
+        <source>Back to %1</source>
+        <translation>Revenir à %1</translation>
+    </message>
+    <message>
+        <source>Turn on shortcuts</source>
+        <translation>Activer les raccourcis</translation>
+    </message>
+</context>
+<context>
+    <name>PipOptions</name>
+    <message>
+        <source>Sub size</source>
+        <translation>Taille de la fenêtre</translation>
+    </message>
+    <message>
+        <source>Small</source>
+        <translation>Petite</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>Moyenne</translation>
+    </message>
+    <message>
+        <source>Large</source>
+        <translation>Grande</translation>
+    </message>
+    <message>
+        <source>Sub position</source>
+        <translation>Position de la fenêtre</translation>
+    </message>
+    <message>
+        <source>Upper right</source>
+        <translation>En haut à droite</translation>
+    </message>
+    <message>
+        <source>Upper left</source>
+        <translation>En haut à gauche</translation>
+    </message>
+    <message>
+        <source>Lower right</source>
+        <translation>En bas à droite</translation>
+    </message>
+    <message>
+        <source>Lower left</source>
+        <translation>En bas à gauche</translation>
+    </message>
+</context>
+<context>
+    <name>PipPbpPage</name>
+    <message>
+        <source>Picture in picture</source>
+        <translation>Image dans l'image</translation>
+    </message>
+    <message>
+        <source>Half and half</source>
+        <translation>Moitié-moitié</translation>
+    </message>
+    <message>
+        <source>Four windows</source>
+        <translation>Quatre fenêtres</translation>
+    </message>
+    <message>
+        <source>16 : 9 and 9 : 5</source>
+        <translation>16 : 9 et 9 : 5</translation>
+    </message>
+    <message>
+        <source>Two to one</source>
+        <translation>Deux pour un</translation>
+    </message>
+    <message>
+        <source>Three to one</source>
+        <translation>Trois pour un</translation>
+    </message>
+    <message>
+        <source>Audio Source</source>
+        <translation>Source audio</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Gauche</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Droite</translation>
+    </message>
+    <message>
+        <source>Swap</source>
+        <translation>Permuter</translation>
+    </message>
+</context>
+<context>
+    <name>TwoWindows</name>
+    <message>
+        <source>Main:</source>
+        <translation>Principal :</translation>
+    </message>
+    <message>
+        <source>Sub:</source>
+        <translation>Secondaire :</translation>
+    </message>
+    <message>
+        <source>16 : 9</source>
+        <translation>16 : 9</translation>
+    </message>
+    <message>
+        <source>9 : 5</source>
+        <translation>9 : 5</translation>
+    </message>
+    <message>
+        <source>Left:</source>
+        <translation>Gauche :</translation>
+    </message>
+    <message>
+        <source>Right:</source>
+        <translation>Droite :</translation>
     </message>
 </context>
 </TS>

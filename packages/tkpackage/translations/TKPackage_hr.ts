@@ -3,6 +3,51 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="hr" sourcelanguage="en">
 <context>
+    <name>FourWindows</name>
+    <message>
+        <source>Upper left</source>
+        <translation>Gore lijevo</translation>
+    </message>
+    <message>
+        <source>Upper right</source>
+        <translation>Gore desno</translation>
+    </message>
+    <message>
+        <source>Lower left</source>
+        <translation>Dolje lijevo</translation>
+    </message>
+    <message>
+        <source>Lower right</source>
+        <translation>Dolje desno</translation>
+    </message>
+</context>
+<context>
+    <name>KvmPage</name>
+    <message>
+        <source>Current Device Location</source>
+        <translation>Položaj ovog uređaja</translation>
+    </message>
+</context>
+<context>
+    <name>KvmPorts</name>
+    <message>
+        <source>Auto Switch</source>
+        <translation>Automatski</translation>
+    </message>
+    <message>
+        <source>USB-C Upstream</source>
+        <translation>Ulaz USB-C</translation>
+    </message>
+    <message>
+        <source>USB-B Upstream</source>
+        <translation>Ulaz USB-B</translation>
+    </message>
+    <message>
+        <source>TBT Upstream</source>
+        <translation>Ulaz TBT</translation>
+    </message>
+</context>
+<context>
     <name>LuAiContrastWidget</name>
     <message>
         <source>Local Contrast</source>
@@ -22,6 +67,101 @@
     <message>
         <source>Screen pivot</source>
         <translation>Zakretanje zaslona</translation>
+    </message>
+</context>
+<context>
+    <name>LuDaisyChainWidget</name>
+    <message>
+        <source>Daisy Chain (MST)</source>
+        <translation>Daisy Chain (MST)</translation>
+    </message>
+    <message>
+        <source>One cable to easily connect all your monitors.</source>
+        <translation>Jedan kabel jednostavno povezuje sve vaše monitore.</translation>
+    </message>
+    <message>
+        <source>About Daisy Chain (MST)</source>
+        <translation>O funkciji Daisy Chain (MST)</translation>
+    </message>
+</context>
+<context>
+    <name>LuDualViewPlusWidget</name>
+    <message>
+        <source>DualView Plus</source>
+        <translation>DualView Plus</translation>
+    </message>
+    <message>
+        <source>Main: </source>
+        <translation>Glavni: </translation>
+    </message>
+    <message>
+        <source>Left: </source>
+        <translation>Lijevo: </translation>
+    </message>
+    <message>
+        <source>Sub: </source>
+        <translation>Pomoćni: </translation>
+    </message>
+    <message>
+        <source>Right: </source>
+        <translation>Desno: </translation>
+    </message>
+</context>
+<context>
+    <name>LuDualViewWidget</name>
+    <message>
+        <source>DualView</source>
+        <translation>DualView</translation>
+    </message>
+    <message>
+        <source>Left:</source>
+        <translation>Lijevo:</translation>
+    </message>
+    <message>
+        <source>Right:</source>
+        <translation>Desno:</translation>
+    </message>
+</context>
+<context>
+    <name>LuInputSourceWidget</name>
+    <message>
+        <source>Input source</source>
+        <translation>Ulazni izvor</translation>
+    </message>
+    <message>
+        <source>Input</source>
+        <translation>Ulaz</translation>
+    </message>
+</context>
+<context>
+    <name>LuPIPPBPWidget</name>
+    <message>
+        <source>Smart KVM</source>
+        <translation>Smart KVM</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic</source>
+        <translation>Smart KVM Basic</translation>
+    </message>
+    <message>
+        <source>PIP / PBP</source>
+        <translation>PIP / PBP</translation>
+    </message>
+    <message>
+        <source>PIP</source>
+        <translation>PIP</translation>
+    </message>
+    <message>
+        <source>PBP</source>
+        <translation>PBP</translation>
+    </message>
+    <message>
+        <source>Do you want to turn off PBP Mode and %1?</source>
+        <translation>Želite li isključiti način PBP i %1?</translation>
+    </message>
+    <message>
+        <source>%1 only works in PBP mode. If you choose to turn off PBP mode, %1 will be disabled as well.</source>
+        <translation>%1 radi samo u načinu PBP. Isključivanjem načina PBP isključuje se i %1.</translation>
     </message>
 </context>
 <context>
@@ -151,6 +291,100 @@
     </message>
 </context>
 <context>
+    <name>LuSmartKvmBasicWidget</name>
+    <message>
+        <source>KVM</source>
+        <translation>KVM</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic is enabled</source>
+        <translation>Smart KVM Basic je uključen</translation>
+    </message>
+    <message>
+        <source>Do you want to switch to PBP Mode?</source>
+        <translation>Želite li prijeći u način PBP?</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic works only in PBP Mode. Turning off PBP Mode will also disable Smart KVM Basic.</source>
+        <translation>Smart KVM Basic radi samo u načinu PBP. Isključivanjem načina PBP isključuje se i Smart KVM Basic.</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic</source>
+        <translation>Smart KVM Basic</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Lijevo</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Desno</translation>
+    </message>
+    <message>
+        <source>Orvane Smart KVM Basic makes multitasking effortless - use one keyboard and mouse to control two computers. With automatic switching when your cursor crosses the screen edge, you can work seamlessly across systems. Just install Lumen Desk 2 on both devices and enable PBP Mode to get started.</source>
+        <translation>Orvane Smart KVM Basic olakšava rad na više računala – jednom tipkovnicom i mišem upravljajte dvama računalima. Prebacivanje je automatsko kad pokazivač prijeđe rub zaslona. Instalirajte Lumen Desk 2 na oba uređaja i uključite način PBP.</translation>
+    </message>
+</context>
+<context>
+    <name>LuSmartKvmWidget</name>
+    <message>
+        <source>Driver installation is required</source>
+        <translation>Potrebna je instalacija upravljačkog programa</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Povezano</translation>
+    </message>
+    <message>
+        <source>Searching</source>
+        <translation>Traženje</translation>
+    </message>
+    <message>
+        <source>KVM</source>
+        <translation>KVM</translation>
+    </message>
+    <message>
+        <source>Smart KVM Enabled</source>
+        <translation>Smart KVM uključen</translation>
+    </message>
+    <message>
+        <source>Driver installation is required.</source>
+        <translation>Potrebna je instalacija upravljačkog programa.</translation>
+    </message>
+    <message>
+        <source>Smart KVM requires your permission to install its driver. Would you like to install it now?</source>
+        <translation>Smart KVM treba vaše dopuštenje za instalaciju upravljačkog programa. Instalirati sada?</translation>
+    </message>
+    <message>
+        <source>Do you want to switch to PBP Mode?</source>
+        <translation>Želite li prijeći u način PBP?</translation>
+    </message>
+    <message>
+        <source>Smart KVM only works in PBP mode. If you'd like to continue using Smart KVM, we can switch to PBP mode for you.</source>
+        <translation>Smart KVM radi samo u načinu PBP. Ako ga želite dalje koristiti, prijeći ćemo u način PBP za vas.</translation>
+    </message>
+    <message>
+        <source>Smart KVM</source>
+        <translation>Smart KVM</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Lijevo</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Desno</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Gore</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Dolje</translation>
+    </message>
+</context>
+<context>
     <name>NightStateChoice</name>
     <message>
         <source>Night Hours Protection</source>
@@ -178,6 +412,134 @@
     <message>
         <source>Level</source>
         <translation>Razina</translation>
+    </message>
+</context>
+<context>
+    <name>PictureGoneNote</name>
+    <message>
+        <source>This computer's picture goes away with its input. %1 brings it back.</source>
+        <translation>Slika ovog računala nestaje s njegovim ulazom. Vraća je %1.</translation>
+    </message>
+    <message>
+        <source>This computer's picture goes away with its input. Choose %1 in the monitor's menu to bring it back.</source>
+        <translation>Slika ovog računala nestaje s njegovim ulazom. Vratite je odabirom %1 u izborniku monitora.</translation>
+    </message>
+    <message>
+        <source>Back to %1</source>
+        <translation>Natrag na %1</translation>
+    </message>
+    <message>
+        <source>Turn on shortcuts</source>
+        <translation>Uključi prečace</translation>
+    </message>
+</context>
+<context>
+    <name>PipOptions</name>
+    <message>
+        <source>Sub size</source>
+        <translation>Veličina prozora</translation>
+    </message>
+    <message>
+        <source>Small</source>
+        <translation>Malo</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>Srednje</translation>
+    </message>
+    <message>
+        <source>Large</source>
+        <translation>Veliko</translation>
+    </message>
+    <message>
+        <source>Sub position</source>
+        <translation>Položaj prozora</translation>
+    </message>
+    <message>
+        <source>Upper right</source>
+        <translation>Gore desno</translation>
+    </message>
+    <message>
+        <source>Upper left</source>
+        <translation>Gore lijevo</translation>
+    </message>
+    <message>
+        <source>Lower right</source>
+        <translation>Dolje desno</translation>
+    </message>
+    <message>
+        <source>Lower left</source>
+        <translation>Dolje lijevo</translation>
+    </message>
+</context>
+<context>
+    <name>PipPbpPage</name>
+    <message>
+        <source>Picture in picture</source>
+        <translation>Slika u slici</translation>
+    </message>
+    <message>
+        <source>Half and half</source>
+        <translation>Pola-pola</translation>
+    </message>
+    <message>
+        <source>Four windows</source>
+        <translation>Četiri prozora</translation>
+    </message>
+    <message>
+        <source>16 : 9 and 9 : 5</source>
+        <translation>16 : 9 i 9 : 5</translation>
+    </message>
+    <message>
+        <source>Two to one</source>
+        <translation>Dva naprama jedan</translation>
+    </message>
+    <message>
+        <source>Three to one</source>
+        <translation>Tri naprama jedan</translation>
+    </message>
+    <message>
+        <source>Audio Source</source>
+        <translation>Izvor zvuka</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Lijevo</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Desno</translation>
+    </message>
+    <message>
+        <source>Swap</source>
+        <translation>Zamijeni</translation>
+    </message>
+</context>
+<context>
+    <name>TwoWindows</name>
+    <message>
+        <source>Main:</source>
+        <translation>Glavni:</translation>
+    </message>
+    <message>
+        <source>Sub:</source>
+        <translation>Pomoćni:</translation>
+    </message>
+    <message>
+        <source>16 : 9</source>
+        <translation>16 : 9</translation>
+    </message>
+    <message>
+        <source>9 : 5</source>
+        <translation>9 : 5</translation>
+    </message>
+    <message>
+        <source>Left:</source>
+        <translation>Lijevo:</translation>
+    </message>
+    <message>
+        <source>Right:</source>
+        <translation>Desno:</translation>
     </message>
 </context>
 </TS>

@@ -3,6 +3,51 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="hu" sourcelanguage="en">
 <context>
+    <name>FourWindows</name>
+    <message>
+        <source>Upper left</source>
+        <translation>Bal felső</translation>
+    </message>
+    <message>
+        <source>Upper right</source>
+        <translation>Jobb felső</translation>
+    </message>
+    <message>
+        <source>Lower left</source>
+        <translation>Bal alsó</translation>
+    </message>
+    <message>
+        <source>Lower right</source>
+        <translation>Jobb alsó</translation>
+    </message>
+</context>
+<context>
+    <name>KvmPage</name>
+    <message>
+        <source>Current Device Location</source>
+        <translation>Az eszköz helye</translation>
+    </message>
+</context>
+<context>
+    <name>KvmPorts</name>
+    <message>
+        <source>Auto Switch</source>
+        <translation>Automatikus</translation>
+    </message>
+    <message>
+        <source>USB-C Upstream</source>
+        <translation>USB-C bemenet</translation>
+    </message>
+    <message>
+        <source>USB-B Upstream</source>
+        <translation>USB-B bemenet</translation>
+    </message>
+    <message>
+        <source>TBT Upstream</source>
+        <translation>TBT bemenet</translation>
+    </message>
+</context>
+<context>
     <name>LuAiContrastWidget</name>
     <message>
         <source>Local Contrast</source>
@@ -22,6 +67,101 @@
     <message>
         <source>Screen pivot</source>
         <translation>Képernyő elforgatása</translation>
+    </message>
+</context>
+<context>
+    <name>LuDaisyChainWidget</name>
+    <message>
+        <source>Daisy Chain (MST)</source>
+        <translation>Daisy Chain (MST)</translation>
+    </message>
+    <message>
+        <source>One cable to easily connect all your monitors.</source>
+        <translation>Egyetlen kábellel egyszerűen összekötheti az összes monitorját.</translation>
+    </message>
+    <message>
+        <source>About Daisy Chain (MST)</source>
+        <translation>A Daisy Chain (MST) névjegye</translation>
+    </message>
+</context>
+<context>
+    <name>LuDualViewPlusWidget</name>
+    <message>
+        <source>DualView Plus</source>
+        <translation>DualView Plus</translation>
+    </message>
+    <message>
+        <source>Main: </source>
+        <translation>Fő: </translation>
+    </message>
+    <message>
+        <source>Left: </source>
+        <translation>Bal: </translation>
+    </message>
+    <message>
+        <source>Sub: </source>
+        <translation>Al: </translation>
+    </message>
+    <message>
+        <source>Right: </source>
+        <translation>Jobb: </translation>
+    </message>
+</context>
+<context>
+    <name>LuDualViewWidget</name>
+    <message>
+        <source>DualView</source>
+        <translation>DualView</translation>
+    </message>
+    <message>
+        <source>Left:</source>
+        <translation>Bal:</translation>
+    </message>
+    <message>
+        <source>Right:</source>
+        <translation>Jobb:</translation>
+    </message>
+</context>
+<context>
+    <name>LuInputSourceWidget</name>
+    <message>
+        <source>Input source</source>
+        <translation>Bemeneti forrás</translation>
+    </message>
+    <message>
+        <source>Input</source>
+        <translation>Bemenet</translation>
+    </message>
+</context>
+<context>
+    <name>LuPIPPBPWidget</name>
+    <message>
+        <source>Smart KVM</source>
+        <translation>Smart KVM</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic</source>
+        <translation>Smart KVM Basic</translation>
+    </message>
+    <message>
+        <source>PIP / PBP</source>
+        <translation>PIP / PBP</translation>
+    </message>
+    <message>
+        <source>PIP</source>
+        <translation>PIP</translation>
+    </message>
+    <message>
+        <source>PBP</source>
+        <translation>PBP</translation>
+    </message>
+    <message>
+        <source>Do you want to turn off PBP Mode and %1?</source>
+        <translation>Kikapcsolja a PBP módot és a(z) %1 funkciót?</translation>
+    </message>
+    <message>
+        <source>%1 only works in PBP mode. If you choose to turn off PBP mode, %1 will be disabled as well.</source>
+        <translation>A(z) %1 csak PBP módban működik. A PBP mód kikapcsolásával a(z) %1 is kikapcsol.</translation>
     </message>
 </context>
 <context>
@@ -151,6 +291,100 @@
     </message>
 </context>
 <context>
+    <name>LuSmartKvmBasicWidget</name>
+    <message>
+        <source>KVM</source>
+        <translation>KVM</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic is enabled</source>
+        <translation>A Smart KVM Basic be van kapcsolva</translation>
+    </message>
+    <message>
+        <source>Do you want to switch to PBP Mode?</source>
+        <translation>Átvált PBP módba?</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic works only in PBP Mode. Turning off PBP Mode will also disable Smart KVM Basic.</source>
+        <translation>A Smart KVM Basic csak PBP módban működik. A PBP mód kikapcsolásával a Smart KVM Basic is kikapcsol.</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic</source>
+        <translation>Smart KVM Basic</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Bal</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Jobb</translation>
+    </message>
+    <message>
+        <source>Orvane Smart KVM Basic makes multitasking effortless - use one keyboard and mouse to control two computers. With automatic switching when your cursor crosses the screen edge, you can work seamlessly across systems. Just install Lumen Desk 2 on both devices and enable PBP Mode to get started.</source>
+        <translation>Az Orvane Smart KVM Basic megkönnyíti a többfeladatos munkát: egy billentyűzettel és egérrel két számítógépet vezérelhet. Az átváltás automatikus, amikor a mutató átlépi a képernyő szélét. Telepítse a Lumen Desk 2-t mindkét eszközre, és kapcsolja be a PBP módot.</translation>
+    </message>
+</context>
+<context>
+    <name>LuSmartKvmWidget</name>
+    <message>
+        <source>Driver installation is required</source>
+        <translation>Illesztőprogram telepítése szükséges</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Csatlakoztatva</translation>
+    </message>
+    <message>
+        <source>Searching</source>
+        <translation>Keresés</translation>
+    </message>
+    <message>
+        <source>KVM</source>
+        <translation>KVM</translation>
+    </message>
+    <message>
+        <source>Smart KVM Enabled</source>
+        <translation>Smart KVM bekapcsolva</translation>
+    </message>
+    <message>
+        <source>Driver installation is required.</source>
+        <translation>Illesztőprogram telepítése szükséges.</translation>
+    </message>
+    <message>
+        <source>Smart KVM requires your permission to install its driver. Would you like to install it now?</source>
+        <translation>A Smart KVM engedélyt kér az illesztőprogram telepítéséhez. Telepíti most?</translation>
+    </message>
+    <message>
+        <source>Do you want to switch to PBP Mode?</source>
+        <translation>Átvált PBP módba?</translation>
+    </message>
+    <message>
+        <source>Smart KVM only works in PBP mode. If you'd like to continue using Smart KVM, we can switch to PBP mode for you.</source>
+        <translation>A Smart KVM csak PBP módban működik. Ha tovább használná, átváltunk PBP módba.</translation>
+    </message>
+    <message>
+        <source>Smart KVM</source>
+        <translation>Smart KVM</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Bal</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Jobb</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Fent</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Lent</translation>
+    </message>
+</context>
+<context>
     <name>NightStateChoice</name>
     <message>
         <source>Night Hours Protection</source>
@@ -178,6 +412,134 @@
     <message>
         <source>Level</source>
         <translation>Szint</translation>
+    </message>
+</context>
+<context>
+    <name>PictureGoneNote</name>
+    <message>
+        <source>This computer's picture goes away with its input. %1 brings it back.</source>
+        <translation>A számítógép képe a bemenetével együtt eltűnik. Visszahozza: %1.</translation>
+    </message>
+    <message>
+        <source>This computer's picture goes away with its input. Choose %1 in the monitor's menu to bring it back.</source>
+        <translation>A számítógép képe a bemenetével együtt eltűnik. Visszahozásához válassza a monitor menüjében: %1.</translation>
+    </message>
+    <message>
+        <source>Back to %1</source>
+        <translation>Vissza: %1</translation>
+    </message>
+    <message>
+        <source>Turn on shortcuts</source>
+        <translation>Gyorsbillentyűk bekapcsolása</translation>
+    </message>
+</context>
+<context>
+    <name>PipOptions</name>
+    <message>
+        <source>Sub size</source>
+        <translation>Alablak mérete</translation>
+    </message>
+    <message>
+        <source>Small</source>
+        <translation>Kicsi</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>Közepes</translation>
+    </message>
+    <message>
+        <source>Large</source>
+        <translation>Nagy</translation>
+    </message>
+    <message>
+        <source>Sub position</source>
+        <translation>Alablak helye</translation>
+    </message>
+    <message>
+        <source>Upper right</source>
+        <translation>Jobb felső</translation>
+    </message>
+    <message>
+        <source>Upper left</source>
+        <translation>Bal felső</translation>
+    </message>
+    <message>
+        <source>Lower right</source>
+        <translation>Jobb alsó</translation>
+    </message>
+    <message>
+        <source>Lower left</source>
+        <translation>Bal alsó</translation>
+    </message>
+</context>
+<context>
+    <name>PipPbpPage</name>
+    <message>
+        <source>Picture in picture</source>
+        <translation>Kép a képben</translation>
+    </message>
+    <message>
+        <source>Half and half</source>
+        <translation>Fele-fele</translation>
+    </message>
+    <message>
+        <source>Four windows</source>
+        <translation>Négy ablak</translation>
+    </message>
+    <message>
+        <source>16 : 9 and 9 : 5</source>
+        <translation>16 : 9 és 9 : 5</translation>
+    </message>
+    <message>
+        <source>Two to one</source>
+        <translation>Kettő az egyhez</translation>
+    </message>
+    <message>
+        <source>Three to one</source>
+        <translation>Három az egyhez</translation>
+    </message>
+    <message>
+        <source>Audio Source</source>
+        <translation>Hangforrás</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Bal</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Jobb</translation>
+    </message>
+    <message>
+        <source>Swap</source>
+        <translation>Csere</translation>
+    </message>
+</context>
+<context>
+    <name>TwoWindows</name>
+    <message>
+        <source>Main:</source>
+        <translation>Fő:</translation>
+    </message>
+    <message>
+        <source>Sub:</source>
+        <translation>Al:</translation>
+    </message>
+    <message>
+        <source>16 : 9</source>
+        <translation>16 : 9</translation>
+    </message>
+    <message>
+        <source>9 : 5</source>
+        <translation>9 : 5</translation>
+    </message>
+    <message>
+        <source>Left:</source>
+        <translation>Bal:</translation>
+    </message>
+    <message>
+        <source>Right:</source>
+        <translation>Jobb:</translation>
     </message>
 </context>
 </TS>

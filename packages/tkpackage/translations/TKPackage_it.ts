@@ -3,6 +3,51 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it" sourcelanguage="en">
 <context>
+    <name>FourWindows</name>
+    <message>
+        <source>Upper left</source>
+        <translation>In alto a sinistra</translation>
+    </message>
+    <message>
+        <source>Upper right</source>
+        <translation>In alto a destra</translation>
+    </message>
+    <message>
+        <source>Lower left</source>
+        <translation>In basso a sinistra</translation>
+    </message>
+    <message>
+        <source>Lower right</source>
+        <translation>In basso a destra</translation>
+    </message>
+</context>
+<context>
+    <name>KvmPage</name>
+    <message>
+        <source>Current Device Location</source>
+        <translation>Posizione di questo dispositivo</translation>
+    </message>
+</context>
+<context>
+    <name>KvmPorts</name>
+    <message>
+        <source>Auto Switch</source>
+        <translation>Automatico</translation>
+    </message>
+    <message>
+        <source>USB-C Upstream</source>
+        <translation>Ingresso USB-C</translation>
+    </message>
+    <message>
+        <source>USB-B Upstream</source>
+        <translation>Ingresso USB-B</translation>
+    </message>
+    <message>
+        <source>TBT Upstream</source>
+        <translation>Ingresso TBT</translation>
+    </message>
+</context>
+<context>
     <name>LuAiContrastWidget</name>
     <message>
         <source>Local Contrast</source>
@@ -22,6 +67,101 @@
     <message>
         <source>Screen pivot</source>
         <translation>Rotazione dello schermo</translation>
+    </message>
+</context>
+<context>
+    <name>LuDaisyChainWidget</name>
+    <message>
+        <source>Daisy Chain (MST)</source>
+        <translation>Daisy Chain (MST)</translation>
+    </message>
+    <message>
+        <source>One cable to easily connect all your monitors.</source>
+        <translation>Un solo cavo per collegare facilmente tutti i monitor.</translation>
+    </message>
+    <message>
+        <source>About Daisy Chain (MST)</source>
+        <translation>Informazioni su Daisy Chain (MST)</translation>
+    </message>
+</context>
+<context>
+    <name>LuDualViewPlusWidget</name>
+    <message>
+        <source>DualView Plus</source>
+        <translation>DualView Plus</translation>
+    </message>
+    <message>
+        <source>Main: </source>
+        <translation>Principale: </translation>
+    </message>
+    <message>
+        <source>Left: </source>
+        <translation>Sinistra: </translation>
+    </message>
+    <message>
+        <source>Sub: </source>
+        <translation>Secondaria: </translation>
+    </message>
+    <message>
+        <source>Right: </source>
+        <translation>Destra: </translation>
+    </message>
+</context>
+<context>
+    <name>LuDualViewWidget</name>
+    <message>
+        <source>DualView</source>
+        <translation>DualView</translation>
+    </message>
+    <message>
+        <source>Left:</source>
+        <translation>Sinistra:</translation>
+    </message>
+    <message>
+        <source>Right:</source>
+        <translation>Destra:</translation>
+    </message>
+</context>
+<context>
+    <name>LuInputSourceWidget</name>
+    <message>
+        <source>Input source</source>
+        <translation>Sorgente di ingresso</translation>
+    </message>
+    <message>
+        <source>Input</source>
+        <translation>Ingresso</translation>
+    </message>
+</context>
+<context>
+    <name>LuPIPPBPWidget</name>
+    <message>
+        <source>Smart KVM</source>
+        <translation>Smart KVM</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic</source>
+        <translation>Smart KVM Basic</translation>
+    </message>
+    <message>
+        <source>PIP / PBP</source>
+        <translation>PIP / PBP</translation>
+    </message>
+    <message>
+        <source>PIP</source>
+        <translation>PIP</translation>
+    </message>
+    <message>
+        <source>PBP</source>
+        <translation>PBP</translation>
+    </message>
+    <message>
+        <source>Do you want to turn off PBP Mode and %1?</source>
+        <translation>Disattivare la modalità PBP e %1?</translation>
+    </message>
+    <message>
+        <source>%1 only works in PBP mode. If you choose to turn off PBP mode, %1 will be disabled as well.</source>
+        <translation>%1 funziona solo in modalità PBP. Disattivando la modalità PBP verrà disattivato anche %1.</translation>
     </message>
 </context>
 <context>
@@ -151,6 +291,100 @@
     </message>
 </context>
 <context>
+    <name>LuSmartKvmBasicWidget</name>
+    <message>
+        <source>KVM</source>
+        <translation>KVM</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic is enabled</source>
+        <translation>Smart KVM Basic è attivo</translation>
+    </message>
+    <message>
+        <source>Do you want to switch to PBP Mode?</source>
+        <translation>Passare alla modalità PBP?</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic works only in PBP Mode. Turning off PBP Mode will also disable Smart KVM Basic.</source>
+        <translation>Smart KVM Basic funziona solo in modalità PBP. Disattivando la modalità PBP si disattiva anche Smart KVM Basic.</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic</source>
+        <translation>Smart KVM Basic</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Sinistra</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Destra</translation>
+    </message>
+    <message>
+        <source>Orvane Smart KVM Basic makes multitasking effortless - use one keyboard and mouse to control two computers. With automatic switching when your cursor crosses the screen edge, you can work seamlessly across systems. Just install Lumen Desk 2 on both devices and enable PBP Mode to get started.</source>
+        <translation>Orvane Smart KVM Basic semplifica il multitasking: una sola tastiera e un solo mouse per due computer. Il passaggio è automatico quando il cursore supera il bordo dello schermo. Installare Lumen Desk 2 su entrambi i dispositivi e attivare la modalità PBP per iniziare.</translation>
+    </message>
+</context>
+<context>
+    <name>LuSmartKvmWidget</name>
+    <message>
+        <source>Driver installation is required</source>
+        <translation>È necessario installare il driver</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Connesso</translation>
+    </message>
+    <message>
+        <source>Searching</source>
+        <translation>Ricerca in corso</translation>
+    </message>
+    <message>
+        <source>KVM</source>
+        <translation>KVM</translation>
+    </message>
+    <message>
+        <source>Smart KVM Enabled</source>
+        <translation>Smart KVM attivo</translation>
+    </message>
+    <message>
+        <source>Driver installation is required.</source>
+        <translation>È necessario installare il driver.</translation>
+    </message>
+    <message>
+        <source>Smart KVM requires your permission to install its driver. Would you like to install it now?</source>
+        <translation>Smart KVM richiede l'autorizzazione per installare il driver. Installarlo ora?</translation>
+    </message>
+    <message>
+        <source>Do you want to switch to PBP Mode?</source>
+        <translation>Passare alla modalità PBP?</translation>
+    </message>
+    <message>
+        <source>Smart KVM only works in PBP mode. If you'd like to continue using Smart KVM, we can switch to PBP mode for you.</source>
+        <translation>Smart KVM funziona solo in modalità PBP. Per continuare a usarlo possiamo passare alla modalità PBP.</translation>
+    </message>
+    <message>
+        <source>Smart KVM</source>
+        <translation>Smart KVM</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Sinistra</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Destra</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>In alto</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>In basso</translation>
+    </message>
+</context>
+<context>
     <name>NightStateChoice</name>
     <message>
         <source>Night Hours Protection</source>
@@ -178,6 +412,134 @@
     <message>
         <source>Level</source>
         <translation>Livello</translation>
+    </message>
+</context>
+<context>
+    <name>PictureGoneNote</name>
+    <message>
+        <source>This computer's picture goes away with its input. %1 brings it back.</source>
+        <translation>L'immagine di questo computer scompare con il suo ingresso. %1 la riporta.</translation>
+    </message>
+    <message>
+        <source>This computer's picture goes away with its input. Choose %1 in the monitor's menu to bring it back.</source>
+        <translation>L'immagine di questo computer scompare con il suo ingresso. Per riportarla scegliere %1 nel menu del monitor.</translation>
+    </message>
+    <message>
+        <source>Back to %1</source>
+        <translation>Torna a %1</translation>
+    </message>
+    <message>
+        <source>Turn on shortcuts</source>
+        <translation>Attiva scorciatoie</translation>
+    </message>
+</context>
+<context>
+    <name>PipOptions</name>
+    <message>
+        <source>Sub size</source>
+        <translation>Dimensione finestra</translation>
+    </message>
+    <message>
+        <source>Small</source>
+        <translation>Piccola</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>Media</translation>
+    </message>
+    <message>
+        <source>Large</source>
+        <translation>Grande</translation>
+    </message>
+    <message>
+        <source>Sub position</source>
+        <translation>Posizione finestra</translation>
+    </message>
+    <message>
+        <source>Upper right</source>
+        <translation>In alto a destra</translation>
+    </message>
+    <message>
+        <source>Upper left</source>
+        <translation>In alto a sinistra</translation>
+    </message>
+    <message>
+        <source>Lower right</source>
+        <translation>In basso a destra</translation>
+    </message>
+    <message>
+        <source>Lower left</source>
+        <translation>In basso a sinistra</translation>
+    </message>
+</context>
+<context>
+    <name>PipPbpPage</name>
+    <message>
+        <source>Picture in picture</source>
+        <translation>Immagine nell'immagine</translation>
+    </message>
+    <message>
+        <source>Half and half</source>
+        <translation>Metà e metà</translation>
+    </message>
+    <message>
+        <source>Four windows</source>
+        <translation>Quattro finestre</translation>
+    </message>
+    <message>
+        <source>16 : 9 and 9 : 5</source>
+        <translation>16 : 9 e 9 : 5</translation>
+    </message>
+    <message>
+        <source>Two to one</source>
+        <translation>Due a uno</translation>
+    </message>
+    <message>
+        <source>Three to one</source>
+        <translation>Tre a uno</translation>
+    </message>
+    <message>
+        <source>Audio Source</source>
+        <translation>Sorgente audio</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Sinistra</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Destra</translation>
+    </message>
+    <message>
+        <source>Swap</source>
+        <translation>Scambia</translation>
+    </message>
+</context>
+<context>
+    <name>TwoWindows</name>
+    <message>
+        <source>Main:</source>
+        <translation>Principale:</translation>
+    </message>
+    <message>
+        <source>Sub:</source>
+        <translation>Secondaria:</translation>
+    </message>
+    <message>
+        <source>16 : 9</source>
+        <translation>16 : 9</translation>
+    </message>
+    <message>
+        <source>9 : 5</source>
+        <translation>9 : 5</translation>
+    </message>
+    <message>
+        <source>Left:</source>
+        <translation>Sinistra:</translation>
+    </message>
+    <message>
+        <source>Right:</source>
+        <translation>Destra:</translation>
     </message>
 </context>
 </TS>

@@ -3,6 +3,51 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
+    <name>FourWindows</name>
+    <message>
+        <source>Upper left</source>
+        <translation>左上</translation>
+    </message>
+    <message>
+        <source>Upper right</source>
+        <translation>右上</translation>
+    </message>
+    <message>
+        <source>Lower left</source>
+        <translation>左下</translation>
+    </message>
+    <message>
+        <source>Lower right</source>
+        <translation>右下</translation>
+    </message>
+</context>
+<context>
+    <name>KvmPage</name>
+    <message>
+        <source>Current Device Location</source>
+        <translation>このデバイスの位置</translation>
+    </message>
+</context>
+<context>
+    <name>KvmPorts</name>
+    <message>
+        <source>Auto Switch</source>
+        <translation>自動切り替え</translation>
+    </message>
+    <message>
+        <source>USB-C Upstream</source>
+        <translation>USB-C アップストリーム</translation>
+    </message>
+    <message>
+        <source>USB-B Upstream</source>
+        <translation>USB-B アップストリーム</translation>
+    </message>
+    <message>
+        <source>TBT Upstream</source>
+        <translation>TBT アップストリーム</translation>
+    </message>
+</context>
+<context>
     <name>LuAiContrastWidget</name>
     <message>
         <source>Local Contrast</source>
@@ -22,6 +67,101 @@
     <message>
         <source>Screen pivot</source>
         <translation>画面のピボット</translation>
+    </message>
+</context>
+<context>
+    <name>LuDaisyChainWidget</name>
+    <message>
+        <source>Daisy Chain (MST)</source>
+        <translation>Daisy Chain (MST)</translation>
+    </message>
+    <message>
+        <source>One cable to easily connect all your monitors.</source>
+        <translation>1 本のケーブルですべてのモニターを簡単に接続できます。</translation>
+    </message>
+    <message>
+        <source>About Daisy Chain (MST)</source>
+        <translation>Daisy Chain (MST) について</translation>
+    </message>
+</context>
+<context>
+    <name>LuDualViewPlusWidget</name>
+    <message>
+        <source>DualView Plus</source>
+        <translation>DualView Plus</translation>
+    </message>
+    <message>
+        <source>Main: </source>
+        <translation>メイン: </translation>
+    </message>
+    <message>
+        <source>Left: </source>
+        <translation>左: </translation>
+    </message>
+    <message>
+        <source>Sub: </source>
+        <translation>サブ: </translation>
+    </message>
+    <message>
+        <source>Right: </source>
+        <translation>右: </translation>
+    </message>
+</context>
+<context>
+    <name>LuDualViewWidget</name>
+    <message>
+        <source>DualView</source>
+        <translation>DualView</translation>
+    </message>
+    <message>
+        <source>Left:</source>
+        <translation>左:</translation>
+    </message>
+    <message>
+        <source>Right:</source>
+        <translation>右:</translation>
+    </message>
+</context>
+<context>
+    <name>LuInputSourceWidget</name>
+    <message>
+        <source>Input source</source>
+        <translation>入力ソース</translation>
+    </message>
+    <message>
+        <source>Input</source>
+        <translation>入力</translation>
+    </message>
+</context>
+<context>
+    <name>LuPIPPBPWidget</name>
+    <message>
+        <source>Smart KVM</source>
+        <translation>Smart KVM</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic</source>
+        <translation>Smart KVM Basic</translation>
+    </message>
+    <message>
+        <source>PIP / PBP</source>
+        <translation>PIP / PBP</translation>
+    </message>
+    <message>
+        <source>PIP</source>
+        <translation>PIP</translation>
+    </message>
+    <message>
+        <source>PBP</source>
+        <translation>PBP</translation>
+    </message>
+    <message>
+        <source>Do you want to turn off PBP Mode and %1?</source>
+        <translation>PBP モードと %1 をオフにしますか？</translation>
+    </message>
+    <message>
+        <source>%1 only works in PBP mode. If you choose to turn off PBP mode, %1 will be disabled as well.</source>
+        <translation>%1 は PBP モードでのみ動作します。PBP モードをオフにすると %1 もオフになります。</translation>
     </message>
 </context>
 <context>
@@ -151,6 +291,100 @@
     </message>
 </context>
 <context>
+    <name>LuSmartKvmBasicWidget</name>
+    <message>
+        <source>KVM</source>
+        <translation>KVM</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic is enabled</source>
+        <translation>Smart KVM Basic はオンです</translation>
+    </message>
+    <message>
+        <source>Do you want to switch to PBP Mode?</source>
+        <translation>PBP モードに切り替えますか？</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic works only in PBP Mode. Turning off PBP Mode will also disable Smart KVM Basic.</source>
+        <translation>Smart KVM Basic は PBP モードでのみ動作します。PBP モードをオフにすると Smart KVM Basic もオフになります。</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic</source>
+        <translation>Smart KVM Basic</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>Orvane Smart KVM Basic makes multitasking effortless - use one keyboard and mouse to control two computers. With automatic switching when your cursor crosses the screen edge, you can work seamlessly across systems. Just install Lumen Desk 2 on both devices and enable PBP Mode to get started.</source>
+        <translation>Orvane Smart KVM Basic なら、1 組のキーボードとマウスで 2 台のコンピューターを操作できます。カーソルが画面の端を越えると自動で切り替わります。両方のデバイスに Lumen Desk 2 をインストールし、PBP モードをオンにしてください。</translation>
+    </message>
+</context>
+<context>
+    <name>LuSmartKvmWidget</name>
+    <message>
+        <source>Driver installation is required</source>
+        <translation>ドライバーのインストールが必要です</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>接続済み</translation>
+    </message>
+    <message>
+        <source>Searching</source>
+        <translation>検索中</translation>
+    </message>
+    <message>
+        <source>KVM</source>
+        <translation>KVM</translation>
+    </message>
+    <message>
+        <source>Smart KVM Enabled</source>
+        <translation>Smart KVM オン</translation>
+    </message>
+    <message>
+        <source>Driver installation is required.</source>
+        <translation>ドライバーのインストールが必要です。</translation>
+    </message>
+    <message>
+        <source>Smart KVM requires your permission to install its driver. Would you like to install it now?</source>
+        <translation>Smart KVM のドライバーをインストールするには許可が必要です。今すぐインストールしますか？</translation>
+    </message>
+    <message>
+        <source>Do you want to switch to PBP Mode?</source>
+        <translation>PBP モードに切り替えますか？</translation>
+    </message>
+    <message>
+        <source>Smart KVM only works in PBP mode. If you'd like to continue using Smart KVM, we can switch to PBP mode for you.</source>
+        <translation>Smart KVM は PBP モードでのみ動作します。引き続き使用する場合は、PBP モードに切り替えます。</translation>
+    </message>
+    <message>
+        <source>Smart KVM</source>
+        <translation>Smart KVM</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>上</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>下</translation>
+    </message>
+</context>
+<context>
     <name>NightStateChoice</name>
     <message>
         <source>Night Hours Protection</source>
@@ -178,6 +412,134 @@
     <message>
         <source>Level</source>
         <translation>レベル</translation>
+    </message>
+</context>
+<context>
+    <name>PictureGoneNote</name>
+    <message>
+        <source>This computer's picture goes away with its input. %1 brings it back.</source>
+        <translation>このコンピューターの画面は入力とともに消えます。%1 で元に戻ります。</translation>
+    </message>
+    <message>
+        <source>This computer's picture goes away with its input. Choose %1 in the monitor's menu to bring it back.</source>
+        <translation>このコンピューターの画面は入力とともに消えます。元に戻すには、モニターのメニューで %1 を選んでください。</translation>
+    </message>
+    <message>
+        <source>Back to %1</source>
+        <translation>%1 に戻る</translation>
+    </message>
+    <message>
+        <source>Turn on shortcuts</source>
+        <translation>ショートカットをオンにする</translation>
+    </message>
+</context>
+<context>
+    <name>PipOptions</name>
+    <message>
+        <source>Sub size</source>
+        <translation>サブ画面のサイズ</translation>
+    </message>
+    <message>
+        <source>Small</source>
+        <translation>小</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>中</translation>
+    </message>
+    <message>
+        <source>Large</source>
+        <translation>大</translation>
+    </message>
+    <message>
+        <source>Sub position</source>
+        <translation>サブ画面の位置</translation>
+    </message>
+    <message>
+        <source>Upper right</source>
+        <translation>右上</translation>
+    </message>
+    <message>
+        <source>Upper left</source>
+        <translation>左上</translation>
+    </message>
+    <message>
+        <source>Lower right</source>
+        <translation>右下</translation>
+    </message>
+    <message>
+        <source>Lower left</source>
+        <translation>左下</translation>
+    </message>
+</context>
+<context>
+    <name>PipPbpPage</name>
+    <message>
+        <source>Picture in picture</source>
+        <translation>ピクチャーインピクチャー</translation>
+    </message>
+    <message>
+        <source>Half and half</source>
+        <translation>半分ずつ</translation>
+    </message>
+    <message>
+        <source>Four windows</source>
+        <translation>4 画面</translation>
+    </message>
+    <message>
+        <source>16 : 9 and 9 : 5</source>
+        <translation>16 : 9 と 9 : 5</translation>
+    </message>
+    <message>
+        <source>Two to one</source>
+        <translation>2 対 1</translation>
+    </message>
+    <message>
+        <source>Three to one</source>
+        <translation>3 対 1</translation>
+    </message>
+    <message>
+        <source>Audio Source</source>
+        <translation>音声ソース</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>Swap</source>
+        <translation>入れ替え</translation>
+    </message>
+</context>
+<context>
+    <name>TwoWindows</name>
+    <message>
+        <source>Main:</source>
+        <translation>メイン:</translation>
+    </message>
+    <message>
+        <source>Sub:</source>
+        <translation>サブ:</translation>
+    </message>
+    <message>
+        <source>16 : 9</source>
+        <translation>16 : 9</translation>
+    </message>
+    <message>
+        <source>9 : 5</source>
+        <translation>9 : 5</translation>
+    </message>
+    <message>
+        <source>Left:</source>
+        <translation>左:</translation>
+    </message>
+    <message>
+        <source>Right:</source>
+        <translation>右:</translation>
     </message>
 </context>
 </TS>

@@ -3,6 +3,51 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ko" sourcelanguage="en">
 <context>
+    <name>FourWindows</name>
+    <message>
+        <source>Upper left</source>
+        <translation>왼쪽 위</translation>
+    </message>
+    <message>
+        <source>Upper right</source>
+        <translation>오른쪽 위</translation>
+    </message>
+    <message>
+        <source>Lower left</source>
+        <translation>왼쪽 아래</translation>
+    </message>
+    <message>
+        <source>Lower right</source>
+        <translation>오른쪽 아래</translation>
+    </message>
+</context>
+<context>
+    <name>KvmPage</name>
+    <message>
+        <source>Current Device Location</source>
+        <translation>현재 기기 위치</translation>
+    </message>
+</context>
+<context>
+    <name>KvmPorts</name>
+    <message>
+        <source>Auto Switch</source>
+        <translation>자동 전환</translation>
+    </message>
+    <message>
+        <source>USB-C Upstream</source>
+        <translation>USB-C 업스트림</translation>
+    </message>
+    <message>
+        <source>USB-B Upstream</source>
+        <translation>USB-B 업스트림</translation>
+    </message>
+    <message>
+        <source>TBT Upstream</source>
+        <translation>TBT 업스트림</translation>
+    </message>
+</context>
+<context>
     <name>LuAiContrastWidget</name>
     <message>
         <source>Local Contrast</source>
@@ -22,6 +67,101 @@
     <message>
         <source>Screen pivot</source>
         <translation>화면 피벗</translation>
+    </message>
+</context>
+<context>
+    <name>LuDaisyChainWidget</name>
+    <message>
+        <source>Daisy Chain (MST)</source>
+        <translation>Daisy Chain (MST)</translation>
+    </message>
+    <message>
+        <source>One cable to easily connect all your monitors.</source>
+        <translation>케이블 하나로 모든 모니터를 쉽게 연결합니다.</translation>
+    </message>
+    <message>
+        <source>About Daisy Chain (MST)</source>
+        <translation>Daisy Chain (MST) 정보</translation>
+    </message>
+</context>
+<context>
+    <name>LuDualViewPlusWidget</name>
+    <message>
+        <source>DualView Plus</source>
+        <translation>DualView Plus</translation>
+    </message>
+    <message>
+        <source>Main: </source>
+        <translation>메인: </translation>
+    </message>
+    <message>
+        <source>Left: </source>
+        <translation>왼쪽: </translation>
+    </message>
+    <message>
+        <source>Sub: </source>
+        <translation>서브: </translation>
+    </message>
+    <message>
+        <source>Right: </source>
+        <translation>오른쪽: </translation>
+    </message>
+</context>
+<context>
+    <name>LuDualViewWidget</name>
+    <message>
+        <source>DualView</source>
+        <translation>DualView</translation>
+    </message>
+    <message>
+        <source>Left:</source>
+        <translation>왼쪽:</translation>
+    </message>
+    <message>
+        <source>Right:</source>
+        <translation>오른쪽:</translation>
+    </message>
+</context>
+<context>
+    <name>LuInputSourceWidget</name>
+    <message>
+        <source>Input source</source>
+        <translation>입력 소스</translation>
+    </message>
+    <message>
+        <source>Input</source>
+        <translation>입력</translation>
+    </message>
+</context>
+<context>
+    <name>LuPIPPBPWidget</name>
+    <message>
+        <source>Smart KVM</source>
+        <translation>Smart KVM</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic</source>
+        <translation>Smart KVM Basic</translation>
+    </message>
+    <message>
+        <source>PIP / PBP</source>
+        <translation>PIP / PBP</translation>
+    </message>
+    <message>
+        <source>PIP</source>
+        <translation>PIP</translation>
+    </message>
+    <message>
+        <source>PBP</source>
+        <translation>PBP</translation>
+    </message>
+    <message>
+        <source>Do you want to turn off PBP Mode and %1?</source>
+        <translation>PBP 모드와 %1을(를) 끄시겠습니까?</translation>
+    </message>
+    <message>
+        <source>%1 only works in PBP mode. If you choose to turn off PBP mode, %1 will be disabled as well.</source>
+        <translation>%1은(는) PBP 모드에서만 작동합니다. PBP 모드를 끄면 %1도 꺼집니다.</translation>
     </message>
 </context>
 <context>
@@ -151,6 +291,100 @@
     </message>
 </context>
 <context>
+    <name>LuSmartKvmBasicWidget</name>
+    <message>
+        <source>KVM</source>
+        <translation>KVM</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic is enabled</source>
+        <translation>Smart KVM Basic 켜짐</translation>
+    </message>
+    <message>
+        <source>Do you want to switch to PBP Mode?</source>
+        <translation>PBP 모드로 전환하시겠습니까?</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic works only in PBP Mode. Turning off PBP Mode will also disable Smart KVM Basic.</source>
+        <translation>Smart KVM Basic은 PBP 모드에서만 작동합니다. PBP 모드를 끄면 Smart KVM Basic도 꺼집니다.</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic</source>
+        <translation>Smart KVM Basic</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>왼쪽</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>오른쪽</translation>
+    </message>
+    <message>
+        <source>Orvane Smart KVM Basic makes multitasking effortless - use one keyboard and mouse to control two computers. With automatic switching when your cursor crosses the screen edge, you can work seamlessly across systems. Just install Lumen Desk 2 on both devices and enable PBP Mode to get started.</source>
+        <translation>Orvane Smart KVM Basic은 키보드와 마우스 하나로 컴퓨터 두 대를 조작하게 해 줍니다. 커서가 화면 가장자리를 넘으면 자동으로 전환됩니다. 두 기기에 Lumen Desk 2를 설치하고 PBP 모드를 켜서 시작하세요.</translation>
+    </message>
+</context>
+<context>
+    <name>LuSmartKvmWidget</name>
+    <message>
+        <source>Driver installation is required</source>
+        <translation>드라이버를 설치해야 합니다</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>연결됨</translation>
+    </message>
+    <message>
+        <source>Searching</source>
+        <translation>검색 중</translation>
+    </message>
+    <message>
+        <source>KVM</source>
+        <translation>KVM</translation>
+    </message>
+    <message>
+        <source>Smart KVM Enabled</source>
+        <translation>Smart KVM 켜짐</translation>
+    </message>
+    <message>
+        <source>Driver installation is required.</source>
+        <translation>드라이버를 설치해야 합니다.</translation>
+    </message>
+    <message>
+        <source>Smart KVM requires your permission to install its driver. Would you like to install it now?</source>
+        <translation>Smart KVM 드라이버를 설치하려면 허가가 필요합니다. 지금 설치하시겠습니까?</translation>
+    </message>
+    <message>
+        <source>Do you want to switch to PBP Mode?</source>
+        <translation>PBP 모드로 전환하시겠습니까?</translation>
+    </message>
+    <message>
+        <source>Smart KVM only works in PBP mode. If you'd like to continue using Smart KVM, we can switch to PBP mode for you.</source>
+        <translation>Smart KVM은 PBP 모드에서만 작동합니다. 계속 사용하려면 PBP 모드로 전환해 드립니다.</translation>
+    </message>
+    <message>
+        <source>Smart KVM</source>
+        <translation>Smart KVM</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>왼쪽</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>오른쪽</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>위</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>아래</translation>
+    </message>
+</context>
+<context>
     <name>NightStateChoice</name>
     <message>
         <source>Night Hours Protection</source>
@@ -178,6 +412,134 @@
     <message>
         <source>Level</source>
         <translation>레벨</translation>
+    </message>
+</context>
+<context>
+    <name>PictureGoneNote</name>
+    <message>
+        <source>This computer's picture goes away with its input. %1 brings it back.</source>
+        <translation>이 컴퓨터의 화면은 입력과 함께 사라집니다. %1(으)로 되돌릴 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>This computer's picture goes away with its input. Choose %1 in the monitor's menu to bring it back.</source>
+        <translation>이 컴퓨터의 화면은 입력과 함께 사라집니다. 되돌리려면 모니터 메뉴에서 %1을(를) 선택하세요.</translation>
+    </message>
+    <message>
+        <source>Back to %1</source>
+        <translation>%1(으)로 돌아가기</translation>
+    </message>
+    <message>
+        <source>Turn on shortcuts</source>
+        <translation>바로 가기 켜기</translation>
+    </message>
+</context>
+<context>
+    <name>PipOptions</name>
+    <message>
+        <source>Sub size</source>
+        <translation>서브 화면 크기</translation>
+    </message>
+    <message>
+        <source>Small</source>
+        <translation>작게</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>중간</translation>
+    </message>
+    <message>
+        <source>Large</source>
+        <translation>크게</translation>
+    </message>
+    <message>
+        <source>Sub position</source>
+        <translation>서브 화면 위치</translation>
+    </message>
+    <message>
+        <source>Upper right</source>
+        <translation>오른쪽 위</translation>
+    </message>
+    <message>
+        <source>Upper left</source>
+        <translation>왼쪽 위</translation>
+    </message>
+    <message>
+        <source>Lower right</source>
+        <translation>오른쪽 아래</translation>
+    </message>
+    <message>
+        <source>Lower left</source>
+        <translation>왼쪽 아래</translation>
+    </message>
+</context>
+<context>
+    <name>PipPbpPage</name>
+    <message>
+        <source>Picture in picture</source>
+        <translation>화면 속 화면</translation>
+    </message>
+    <message>
+        <source>Half and half</source>
+        <translation>반반</translation>
+    </message>
+    <message>
+        <source>Four windows</source>
+        <translation>창 네 개</translation>
+    </message>
+    <message>
+        <source>16 : 9 and 9 : 5</source>
+        <translation>16 : 9와 9 : 5</translation>
+    </message>
+    <message>
+        <source>Two to one</source>
+        <translation>2 대 1</translation>
+    </message>
+    <message>
+        <source>Three to one</source>
+        <translation>3 대 1</translation>
+    </message>
+    <message>
+        <source>Audio Source</source>
+        <translation>오디오 소스</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>왼쪽</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>오른쪽</translation>
+    </message>
+    <message>
+        <source>Swap</source>
+        <translation>바꾸기</translation>
+    </message>
+</context>
+<context>
+    <name>TwoWindows</name>
+    <message>
+        <source>Main:</source>
+        <translation>메인:</translation>
+    </message>
+    <message>
+        <source>Sub:</source>
+        <translation>서브:</translation>
+    </message>
+    <message>
+        <source>16 : 9</source>
+        <translation>16 : 9</translation>
+    </message>
+    <message>
+        <source>9 : 5</source>
+        <translation>9 : 5</translation>
+    </message>
+    <message>
+        <source>Left:</source>
+        <translation>왼쪽:</translation>
+    </message>
+    <message>
+        <source>Right:</source>
+        <translation>오른쪽:</translation>
     </message>
 </context>
 </TS>

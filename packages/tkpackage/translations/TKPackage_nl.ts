@@ -3,6 +3,51 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="nl" sourcelanguage="en">
 <context>
+    <name>FourWindows</name>
+    <message>
+        <source>Upper left</source>
+        <translation>Linksboven</translation>
+    </message>
+    <message>
+        <source>Upper right</source>
+        <translation>Rechtsboven</translation>
+    </message>
+    <message>
+        <source>Lower left</source>
+        <translation>Linksonder</translation>
+    </message>
+    <message>
+        <source>Lower right</source>
+        <translation>Rechtsonder</translation>
+    </message>
+</context>
+<context>
+    <name>KvmPage</name>
+    <message>
+        <source>Current Device Location</source>
+        <translation>Plaats van dit apparaat</translation>
+    </message>
+</context>
+<context>
+    <name>KvmPorts</name>
+    <message>
+        <source>Auto Switch</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>USB-C Upstream</source>
+        <translation>USB-C-upstream</translation>
+    </message>
+    <message>
+        <source>USB-B Upstream</source>
+        <translation>USB-B-upstream</translation>
+    </message>
+    <message>
+        <source>TBT Upstream</source>
+        <translation>TBT-upstream</translation>
+    </message>
+</context>
+<context>
     <name>LuAiContrastWidget</name>
     <message>
         <source>Local Contrast</source>
@@ -22,6 +67,101 @@
     <message>
         <source>Screen pivot</source>
         <translation>Schermrotatie</translation>
+    </message>
+</context>
+<context>
+    <name>LuDaisyChainWidget</name>
+    <message>
+        <source>Daisy Chain (MST)</source>
+        <translation>Daisy Chain (MST)</translation>
+    </message>
+    <message>
+        <source>One cable to easily connect all your monitors.</source>
+        <translation>Eén kabel verbindt eenvoudig al uw monitoren.</translation>
+    </message>
+    <message>
+        <source>About Daisy Chain (MST)</source>
+        <translation>Over Daisy Chain (MST)</translation>
+    </message>
+</context>
+<context>
+    <name>LuDualViewPlusWidget</name>
+    <message>
+        <source>DualView Plus</source>
+        <translation>DualView Plus</translation>
+    </message>
+    <message>
+        <source>Main: </source>
+        <translation>Hoofd: </translation>
+    </message>
+    <message>
+        <source>Left: </source>
+        <translation>Links: </translation>
+    </message>
+    <message>
+        <source>Sub: </source>
+        <translation>Sub: </translation>
+    </message>
+    <message>
+        <source>Right: </source>
+        <translation>Rechts: </translation>
+    </message>
+</context>
+<context>
+    <name>LuDualViewWidget</name>
+    <message>
+        <source>DualView</source>
+        <translation>DualView</translation>
+    </message>
+    <message>
+        <source>Left:</source>
+        <translation>Links:</translation>
+    </message>
+    <message>
+        <source>Right:</source>
+        <translation>Rechts:</translation>
+    </message>
+</context>
+<context>
+    <name>LuInputSourceWidget</name>
+    <message>
+        <source>Input source</source>
+        <translation>Ingangsbron</translation>
+    </message>
+    <message>
+        <source>Input</source>
+        <translation>Ingang</translation>
+    </message>
+</context>
+<context>
+    <name>LuPIPPBPWidget</name>
+    <message>
+        <source>Smart KVM</source>
+        <translation>Smart KVM</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic</source>
+        <translation>Smart KVM Basic</translation>
+    </message>
+    <message>
+        <source>PIP / PBP</source>
+        <translation>PIP / PBP</translation>
+    </message>
+    <message>
+        <source>PIP</source>
+        <translation>PIP</translation>
+    </message>
+    <message>
+        <source>PBP</source>
+        <translation>PBP</translation>
+    </message>
+    <message>
+        <source>Do you want to turn off PBP Mode and %1?</source>
+        <translation>Wilt u de PBP-modus en %1 uitschakelen?</translation>
+    </message>
+    <message>
+        <source>%1 only works in PBP mode. If you choose to turn off PBP mode, %1 will be disabled as well.</source>
+        <translation>%1 werkt alleen in de PBP-modus. Als u de PBP-modus uitschakelt, wordt %1 ook uitgeschakeld.</translation>
     </message>
 </context>
 <context>
@@ -151,6 +291,100 @@
     </message>
 </context>
 <context>
+    <name>LuSmartKvmBasicWidget</name>
+    <message>
+        <source>KVM</source>
+        <translation>KVM</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic is enabled</source>
+        <translation>Smart KVM Basic is ingeschakeld</translation>
+    </message>
+    <message>
+        <source>Do you want to switch to PBP Mode?</source>
+        <translation>Wilt u naar de PBP-modus overschakelen?</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic works only in PBP Mode. Turning off PBP Mode will also disable Smart KVM Basic.</source>
+        <translation>Smart KVM Basic werkt alleen in de PBP-modus. Als u de PBP-modus uitschakelt, wordt Smart KVM Basic ook uitgeschakeld.</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic</source>
+        <translation>Smart KVM Basic</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>Orvane Smart KVM Basic makes multitasking effortless - use one keyboard and mouse to control two computers. With automatic switching when your cursor crosses the screen edge, you can work seamlessly across systems. Just install Lumen Desk 2 on both devices and enable PBP Mode to get started.</source>
+        <translation>Orvane Smart KVM Basic maakt multitasken moeiteloos: bedien twee computers met één toetsenbord en muis. Er wordt automatisch omgeschakeld als de cursor over de schermrand gaat. Installeer Lumen Desk 2 op beide apparaten en schakel de PBP-modus in.</translation>
+    </message>
+</context>
+<context>
+    <name>LuSmartKvmWidget</name>
+    <message>
+        <source>Driver installation is required</source>
+        <translation>Stuurprogramma moet worden geïnstalleerd</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Verbonden</translation>
+    </message>
+    <message>
+        <source>Searching</source>
+        <translation>Zoeken</translation>
+    </message>
+    <message>
+        <source>KVM</source>
+        <translation>KVM</translation>
+    </message>
+    <message>
+        <source>Smart KVM Enabled</source>
+        <translation>Smart KVM ingeschakeld</translation>
+    </message>
+    <message>
+        <source>Driver installation is required.</source>
+        <translation>Stuurprogramma moet worden geïnstalleerd.</translation>
+    </message>
+    <message>
+        <source>Smart KVM requires your permission to install its driver. Would you like to install it now?</source>
+        <translation>Smart KVM heeft uw toestemming nodig om zijn stuurprogramma te installeren. Nu installeren?</translation>
+    </message>
+    <message>
+        <source>Do you want to switch to PBP Mode?</source>
+        <translation>Wilt u naar de PBP-modus overschakelen?</translation>
+    </message>
+    <message>
+        <source>Smart KVM only works in PBP mode. If you'd like to continue using Smart KVM, we can switch to PBP mode for you.</source>
+        <translation>Smart KVM werkt alleen in de PBP-modus. Wilt u het blijven gebruiken, dan schakelen we voor u over naar de PBP-modus.</translation>
+    </message>
+    <message>
+        <source>Smart KVM</source>
+        <translation>Smart KVM</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Boven</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Onder</translation>
+    </message>
+</context>
+<context>
     <name>NightStateChoice</name>
     <message>
         <source>Night Hours Protection</source>
@@ -178,6 +412,134 @@
     <message>
         <source>Level</source>
         <translation>Niveau</translation>
+    </message>
+</context>
+<context>
+    <name>PictureGoneNote</name>
+    <message>
+        <source>This computer's picture goes away with its input. %1 brings it back.</source>
+        <translation>Het beeld van deze computer verdwijnt met zijn ingang. %1 haalt het terug.</translation>
+    </message>
+    <message>
+        <source>This computer's picture goes away with its input. Choose %1 in the monitor's menu to bring it back.</source>
+        <translation>Het beeld van deze computer verdwijnt met zijn ingang. Kies %1 in het menu van de monitor om het terug te halen.</translation>
+    </message>
+    <message>
+        <source>Back to %1</source>
+        <translation>Terug naar %1</translation>
+    </message>
+    <message>
+        <source>Turn on shortcuts</source>
+        <translation>Sneltoetsen inschakelen</translation>
+    </message>
+</context>
+<context>
+    <name>PipOptions</name>
+    <message>
+        <source>Sub size</source>
+        <translation>Grootte venster</translation>
+    </message>
+    <message>
+        <source>Small</source>
+        <translation>Klein</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>Middel</translation>
+    </message>
+    <message>
+        <source>Large</source>
+        <translation>Groot</translation>
+    </message>
+    <message>
+        <source>Sub position</source>
+        <translation>Plaats venster</translation>
+    </message>
+    <message>
+        <source>Upper right</source>
+        <translation>Rechtsboven</translation>
+    </message>
+    <message>
+        <source>Upper left</source>
+        <translation>Linksboven</translation>
+    </message>
+    <message>
+        <source>Lower right</source>
+        <translation>Rechtsonder</translation>
+    </message>
+    <message>
+        <source>Lower left</source>
+        <translation>Linksonder</translation>
+    </message>
+</context>
+<context>
+    <name>PipPbpPage</name>
+    <message>
+        <source>Picture in picture</source>
+        <translation>Beeld in beeld</translation>
+    </message>
+    <message>
+        <source>Half and half</source>
+        <translation>Half om half</translation>
+    </message>
+    <message>
+        <source>Four windows</source>
+        <translation>Vier vensters</translation>
+    </message>
+    <message>
+        <source>16 : 9 and 9 : 5</source>
+        <translation>16 : 9 en 9 : 5</translation>
+    </message>
+    <message>
+        <source>Two to one</source>
+        <translation>Twee tegen een</translation>
+    </message>
+    <message>
+        <source>Three to one</source>
+        <translation>Drie tegen een</translation>
+    </message>
+    <message>
+        <source>Audio Source</source>
+        <translation>Audiobron</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>Swap</source>
+        <translation>Wisselen</translation>
+    </message>
+</context>
+<context>
+    <name>TwoWindows</name>
+    <message>
+        <source>Main:</source>
+        <translation>Hoofd:</translation>
+    </message>
+    <message>
+        <source>Sub:</source>
+        <translation>Sub:</translation>
+    </message>
+    <message>
+        <source>16 : 9</source>
+        <translation>16 : 9</translation>
+    </message>
+    <message>
+        <source>9 : 5</source>
+        <translation>9 : 5</translation>
+    </message>
+    <message>
+        <source>Left:</source>
+        <translation>Links:</translation>
+    </message>
+    <message>
+        <source>Right:</source>
+        <translation>Rechts:</translation>
     </message>
 </context>
 </TS>

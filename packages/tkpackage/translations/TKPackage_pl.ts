@@ -3,6 +3,51 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pl" sourcelanguage="en">
 <context>
+    <name>FourWindows</name>
+    <message>
+        <source>Upper left</source>
+        <translation>Lewy górny</translation>
+    </message>
+    <message>
+        <source>Upper right</source>
+        <translation>Prawy górny</translation>
+    </message>
+    <message>
+        <source>Lower left</source>
+        <translation>Lewy dolny</translation>
+    </message>
+    <message>
+        <source>Lower right</source>
+        <translation>Prawy dolny</translation>
+    </message>
+</context>
+<context>
+    <name>KvmPage</name>
+    <message>
+        <source>Current Device Location</source>
+        <translation>Położenie tego urządzenia</translation>
+    </message>
+</context>
+<context>
+    <name>KvmPorts</name>
+    <message>
+        <source>Auto Switch</source>
+        <translation>Automatycznie</translation>
+    </message>
+    <message>
+        <source>USB-C Upstream</source>
+        <translation>Wejście USB-C</translation>
+    </message>
+    <message>
+        <source>USB-B Upstream</source>
+        <translation>Wejście USB-B</translation>
+    </message>
+    <message>
+        <source>TBT Upstream</source>
+        <translation>Wejście TBT</translation>
+    </message>
+</context>
+<context>
     <name>LuAiContrastWidget</name>
     <message>
         <source>Local Contrast</source>
@@ -22,6 +67,101 @@
     <message>
         <source>Screen pivot</source>
         <translation>Obrót ekranu</translation>
+    </message>
+</context>
+<context>
+    <name>LuDaisyChainWidget</name>
+    <message>
+        <source>Daisy Chain (MST)</source>
+        <translation>Daisy Chain (MST)</translation>
+    </message>
+    <message>
+        <source>One cable to easily connect all your monitors.</source>
+        <translation>Jeden kabel łatwo łączy wszystkie monitory.</translation>
+    </message>
+    <message>
+        <source>About Daisy Chain (MST)</source>
+        <translation>Informacje o Daisy Chain (MST)</translation>
+    </message>
+</context>
+<context>
+    <name>LuDualViewPlusWidget</name>
+    <message>
+        <source>DualView Plus</source>
+        <translation>DualView Plus</translation>
+    </message>
+    <message>
+        <source>Main: </source>
+        <translation>Główne: </translation>
+    </message>
+    <message>
+        <source>Left: </source>
+        <translation>Lewo: </translation>
+    </message>
+    <message>
+        <source>Sub: </source>
+        <translation>Dodatkowe: </translation>
+    </message>
+    <message>
+        <source>Right: </source>
+        <translation>Prawo: </translation>
+    </message>
+</context>
+<context>
+    <name>LuDualViewWidget</name>
+    <message>
+        <source>DualView</source>
+        <translation>DualView</translation>
+    </message>
+    <message>
+        <source>Left:</source>
+        <translation>Lewo:</translation>
+    </message>
+    <message>
+        <source>Right:</source>
+        <translation>Prawo:</translation>
+    </message>
+</context>
+<context>
+    <name>LuInputSourceWidget</name>
+    <message>
+        <source>Input source</source>
+        <translation>Źródło sygnału</translation>
+    </message>
+    <message>
+        <source>Input</source>
+        <translation>Wejście</translation>
+    </message>
+</context>
+<context>
+    <name>LuPIPPBPWidget</name>
+    <message>
+        <source>Smart KVM</source>
+        <translation>Smart KVM</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic</source>
+        <translation>Smart KVM Basic</translation>
+    </message>
+    <message>
+        <source>PIP / PBP</source>
+        <translation>PIP / PBP</translation>
+    </message>
+    <message>
+        <source>PIP</source>
+        <translation>PIP</translation>
+    </message>
+    <message>
+        <source>PBP</source>
+        <translation>PBP</translation>
+    </message>
+    <message>
+        <source>Do you want to turn off PBP Mode and %1?</source>
+        <translation>Czy chcesz wyłączyć tryb PBP i %1?</translation>
+    </message>
+    <message>
+        <source>%1 only works in PBP mode. If you choose to turn off PBP mode, %1 will be disabled as well.</source>
+        <translation>%1 działa tylko w trybie PBP. Wyłączenie trybu PBP wyłączy także %1.</translation>
     </message>
 </context>
 <context>
@@ -151,6 +291,100 @@
     </message>
 </context>
 <context>
+    <name>LuSmartKvmBasicWidget</name>
+    <message>
+        <source>KVM</source>
+        <translation>KVM</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic is enabled</source>
+        <translation>Smart KVM Basic jest włączone</translation>
+    </message>
+    <message>
+        <source>Do you want to switch to PBP Mode?</source>
+        <translation>Czy chcesz przejść do trybu PBP?</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic works only in PBP Mode. Turning off PBP Mode will also disable Smart KVM Basic.</source>
+        <translation>Smart KVM Basic działa tylko w trybie PBP. Wyłączenie trybu PBP wyłączy także Smart KVM Basic.</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic</source>
+        <translation>Smart KVM Basic</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Lewo</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Prawo</translation>
+    </message>
+    <message>
+        <source>Orvane Smart KVM Basic makes multitasking effortless - use one keyboard and mouse to control two computers. With automatic switching when your cursor crosses the screen edge, you can work seamlessly across systems. Just install Lumen Desk 2 on both devices and enable PBP Mode to get started.</source>
+        <translation>Orvane Smart KVM Basic ułatwia wielozadaniowość – jedną klawiaturą i myszą sterujesz dwoma komputerami. Przełączanie następuje automatycznie, gdy kursor przekroczy krawędź ekranu. Zainstaluj Lumen Desk 2 na obu urządzeniach i włącz tryb PBP.</translation>
+    </message>
+</context>
+<context>
+    <name>LuSmartKvmWidget</name>
+    <message>
+        <source>Driver installation is required</source>
+        <translation>Wymagana instalacja sterownika</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Połączono</translation>
+    </message>
+    <message>
+        <source>Searching</source>
+        <translation>Wyszukiwanie</translation>
+    </message>
+    <message>
+        <source>KVM</source>
+        <translation>KVM</translation>
+    </message>
+    <message>
+        <source>Smart KVM Enabled</source>
+        <translation>Smart KVM włączone</translation>
+    </message>
+    <message>
+        <source>Driver installation is required.</source>
+        <translation>Wymagana instalacja sterownika.</translation>
+    </message>
+    <message>
+        <source>Smart KVM requires your permission to install its driver. Would you like to install it now?</source>
+        <translation>Smart KVM potrzebuje zgody na instalację sterownika. Zainstalować teraz?</translation>
+    </message>
+    <message>
+        <source>Do you want to switch to PBP Mode?</source>
+        <translation>Czy chcesz przejść do trybu PBP?</translation>
+    </message>
+    <message>
+        <source>Smart KVM only works in PBP mode. If you'd like to continue using Smart KVM, we can switch to PBP mode for you.</source>
+        <translation>Smart KVM działa tylko w trybie PBP. Aby dalej z niego korzystać, możemy przejść do trybu PBP.</translation>
+    </message>
+    <message>
+        <source>Smart KVM</source>
+        <translation>Smart KVM</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Lewo</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Prawo</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Góra</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Dół</translation>
+    </message>
+</context>
+<context>
     <name>NightStateChoice</name>
     <message>
         <source>Night Hours Protection</source>
@@ -178,6 +412,134 @@
     <message>
         <source>Level</source>
         <translation>Poziom</translation>
+    </message>
+</context>
+<context>
+    <name>PictureGoneNote</name>
+    <message>
+        <source>This computer's picture goes away with its input. %1 brings it back.</source>
+        <translation>Obraz tego komputera znika wraz z jego wejściem. Przywraca go %1.</translation>
+    </message>
+    <message>
+        <source>This computer's picture goes away with its input. Choose %1 in the monitor's menu to bring it back.</source>
+        <translation>Obraz tego komputera znika wraz z jego wejściem. Aby go przywrócić, wybierz %1 w menu monitora.</translation>
+    </message>
+    <message>
+        <source>Back to %1</source>
+        <translation>Wróć do %1</translation>
+    </message>
+    <message>
+        <source>Turn on shortcuts</source>
+        <translation>Włącz skróty</translation>
+    </message>
+</context>
+<context>
+    <name>PipOptions</name>
+    <message>
+        <source>Sub size</source>
+        <translation>Rozmiar okna</translation>
+    </message>
+    <message>
+        <source>Small</source>
+        <translation>Mały</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>Średni</translation>
+    </message>
+    <message>
+        <source>Large</source>
+        <translation>Duży</translation>
+    </message>
+    <message>
+        <source>Sub position</source>
+        <translation>Położenie okna</translation>
+    </message>
+    <message>
+        <source>Upper right</source>
+        <translation>Prawy górny</translation>
+    </message>
+    <message>
+        <source>Upper left</source>
+        <translation>Lewy górny</translation>
+    </message>
+    <message>
+        <source>Lower right</source>
+        <translation>Prawy dolny</translation>
+    </message>
+    <message>
+        <source>Lower left</source>
+        <translation>Lewy dolny</translation>
+    </message>
+</context>
+<context>
+    <name>PipPbpPage</name>
+    <message>
+        <source>Picture in picture</source>
+        <translation>Obraz w obrazie</translation>
+    </message>
+    <message>
+        <source>Half and half</source>
+        <translation>Pół na pół</translation>
+    </message>
+    <message>
+        <source>Four windows</source>
+        <translation>Cztery okna</translation>
+    </message>
+    <message>
+        <source>16 : 9 and 9 : 5</source>
+        <translation>16 : 9 i 9 : 5</translation>
+    </message>
+    <message>
+        <source>Two to one</source>
+        <translation>Dwa do jednego</translation>
+    </message>
+    <message>
+        <source>Three to one</source>
+        <translation>Trzy do jednego</translation>
+    </message>
+    <message>
+        <source>Audio Source</source>
+        <translation>Źródło dźwięku</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Lewo</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Prawo</translation>
+    </message>
+    <message>
+        <source>Swap</source>
+        <translation>Zamień</translation>
+    </message>
+</context>
+<context>
+    <name>TwoWindows</name>
+    <message>
+        <source>Main:</source>
+        <translation>Główne:</translation>
+    </message>
+    <message>
+        <source>Sub:</source>
+        <translation>Dodatkowe:</translation>
+    </message>
+    <message>
+        <source>16 : 9</source>
+        <translation>16 : 9</translation>
+    </message>
+    <message>
+        <source>9 : 5</source>
+        <translation>9 : 5</translation>
+    </message>
+    <message>
+        <source>Left:</source>
+        <translation>Lewo:</translation>
+    </message>
+    <message>
+        <source>Right:</source>
+        <translation>Prawo:</translation>
     </message>
 </context>
 </TS>

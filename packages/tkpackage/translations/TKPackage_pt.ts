@@ -3,6 +3,51 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pt" sourcelanguage="en">
 <context>
+    <name>FourWindows</name>
+    <message>
+        <source>Upper left</source>
+        <translation>Em cima à esquerda</translation>
+    </message>
+    <message>
+        <source>Upper right</source>
+        <translation>Em cima à direita</translation>
+    </message>
+    <message>
+        <source>Lower left</source>
+        <translation>Em baixo à esquerda</translation>
+    </message>
+    <message>
+        <source>Lower right</source>
+        <translation>Em baixo à direita</translation>
+    </message>
+</context>
+<context>
+    <name>KvmPage</name>
+    <message>
+        <source>Current Device Location</source>
+        <translation>Localização deste dispositivo</translation>
+    </message>
+</context>
+<context>
+    <name>KvmPorts</name>
+    <message>
+        <source>Auto Switch</source>
+        <translation>Automático</translation>
+    </message>
+    <message>
+        <source>USB-C Upstream</source>
+        <translation>Entrada USB-C</translation>
+    </message>
+    <message>
+        <source>USB-B Upstream</source>
+        <translation>Entrada USB-B</translation>
+    </message>
+    <message>
+        <source>TBT Upstream</source>
+        <translation>Entrada TBT</translation>
+    </message>
+</context>
+<context>
     <name>LuAiContrastWidget</name>
     <message>
         <source>Local Contrast</source>
@@ -22,6 +67,101 @@
     <message>
         <source>Screen pivot</source>
         <translation>Rotação do ecrã</translation>
+    </message>
+</context>
+<context>
+    <name>LuDaisyChainWidget</name>
+    <message>
+        <source>Daisy Chain (MST)</source>
+        <translation>Daisy Chain (MST)</translation>
+    </message>
+    <message>
+        <source>One cable to easily connect all your monitors.</source>
+        <translation>Um só cabo para ligar facilmente todos os seus monitores.</translation>
+    </message>
+    <message>
+        <source>About Daisy Chain (MST)</source>
+        <translation>Acerca de Daisy Chain (MST)</translation>
+    </message>
+</context>
+<context>
+    <name>LuDualViewPlusWidget</name>
+    <message>
+        <source>DualView Plus</source>
+        <translation>DualView Plus</translation>
+    </message>
+    <message>
+        <source>Main: </source>
+        <translation>Principal: </translation>
+    </message>
+    <message>
+        <source>Left: </source>
+        <translation>Esquerda: </translation>
+    </message>
+    <message>
+        <source>Sub: </source>
+        <translation>Secundária: </translation>
+    </message>
+    <message>
+        <source>Right: </source>
+        <translation>Direita: </translation>
+    </message>
+</context>
+<context>
+    <name>LuDualViewWidget</name>
+    <message>
+        <source>DualView</source>
+        <translation>DualView</translation>
+    </message>
+    <message>
+        <source>Left:</source>
+        <translation>Esquerda:</translation>
+    </message>
+    <message>
+        <source>Right:</source>
+        <translation>Direita:</translation>
+    </message>
+</context>
+<context>
+    <name>LuInputSourceWidget</name>
+    <message>
+        <source>Input source</source>
+        <translation>Fonte de entrada</translation>
+    </message>
+    <message>
+        <source>Input</source>
+        <translation>Entrada</translation>
+    </message>
+</context>
+<context>
+    <name>LuPIPPBPWidget</name>
+    <message>
+        <source>Smart KVM</source>
+        <translation>Smart KVM</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic</source>
+        <translation>Smart KVM Basic</translation>
+    </message>
+    <message>
+        <source>PIP / PBP</source>
+        <translation>PIP / PBP</translation>
+    </message>
+    <message>
+        <source>PIP</source>
+        <translation>PIP</translation>
+    </message>
+    <message>
+        <source>PBP</source>
+        <translation>PBP</translation>
+    </message>
+    <message>
+        <source>Do you want to turn off PBP Mode and %1?</source>
+        <translation>Deseja desativar o modo PBP e %1?</translation>
+    </message>
+    <message>
+        <source>%1 only works in PBP mode. If you choose to turn off PBP mode, %1 will be disabled as well.</source>
+        <translation>%1 só funciona no modo PBP. Se desativar o modo PBP, %1 também será desativado.</translation>
     </message>
 </context>
 <context>
@@ -151,6 +291,100 @@
     </message>
 </context>
 <context>
+    <name>LuSmartKvmBasicWidget</name>
+    <message>
+        <source>KVM</source>
+        <translation>KVM</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic is enabled</source>
+        <translation>Smart KVM Basic está ativado</translation>
+    </message>
+    <message>
+        <source>Do you want to switch to PBP Mode?</source>
+        <translation>Deseja mudar para o modo PBP?</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic works only in PBP Mode. Turning off PBP Mode will also disable Smart KVM Basic.</source>
+        <translation>O Smart KVM Basic só funciona no modo PBP. Desativar o modo PBP também desativa o Smart KVM Basic.</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic</source>
+        <translation>Smart KVM Basic</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Esquerda</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Direita</translation>
+    </message>
+    <message>
+        <source>Orvane Smart KVM Basic makes multitasking effortless - use one keyboard and mouse to control two computers. With automatic switching when your cursor crosses the screen edge, you can work seamlessly across systems. Just install Lumen Desk 2 on both devices and enable PBP Mode to get started.</source>
+        <translation>O Orvane Smart KVM Basic facilita o trabalho: use um só teclado e rato para controlar dois computadores. A mudança é automática quando o cursor passa a margem do ecrã. Instale o Lumen Desk 2 em ambos os dispositivos e ative o modo PBP para começar.</translation>
+    </message>
+</context>
+<context>
+    <name>LuSmartKvmWidget</name>
+    <message>
+        <source>Driver installation is required</source>
+        <translation>É necessário instalar o controlador</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Ligado</translation>
+    </message>
+    <message>
+        <source>Searching</source>
+        <translation>A procurar</translation>
+    </message>
+    <message>
+        <source>KVM</source>
+        <translation>KVM</translation>
+    </message>
+    <message>
+        <source>Smart KVM Enabled</source>
+        <translation>Smart KVM ativado</translation>
+    </message>
+    <message>
+        <source>Driver installation is required.</source>
+        <translation>É necessário instalar o controlador.</translation>
+    </message>
+    <message>
+        <source>Smart KVM requires your permission to install its driver. Would you like to install it now?</source>
+        <translation>O Smart KVM precisa da sua permissão para instalar o controlador. Instalar agora?</translation>
+    </message>
+    <message>
+        <source>Do you want to switch to PBP Mode?</source>
+        <translation>Deseja mudar para o modo PBP?</translation>
+    </message>
+    <message>
+        <source>Smart KVM only works in PBP mode. If you'd like to continue using Smart KVM, we can switch to PBP mode for you.</source>
+        <translation>O Smart KVM só funciona no modo PBP. Se quiser continuar a usá-lo, podemos mudar para o modo PBP por si.</translation>
+    </message>
+    <message>
+        <source>Smart KVM</source>
+        <translation>Smart KVM</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Esquerda</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Direita</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Em cima</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Em baixo</translation>
+    </message>
+</context>
+<context>
     <name>NightStateChoice</name>
     <message>
         <source>Night Hours Protection</source>
@@ -178,6 +412,134 @@
     <message>
         <source>Level</source>
         <translation>Nível</translation>
+    </message>
+</context>
+<context>
+    <name>PictureGoneNote</name>
+    <message>
+        <source>This computer's picture goes away with its input. %1 brings it back.</source>
+        <translation>A imagem deste computador desaparece com a sua entrada. %1 recupera-a.</translation>
+    </message>
+    <message>
+        <source>This computer's picture goes away with its input. Choose %1 in the monitor's menu to bring it back.</source>
+        <translation>A imagem deste computador desaparece com a sua entrada. Escolha %1 no menu do monitor para a recuperar.</translation>
+    </message>
+    <message>
+        <source>Back to %1</source>
+        <translation>Voltar a %1</translation>
+    </message>
+    <message>
+        <source>Turn on shortcuts</source>
+        <translation>Ativar atalhos</translation>
+    </message>
+</context>
+<context>
+    <name>PipOptions</name>
+    <message>
+        <source>Sub size</source>
+        <translation>Tamanho da janela</translation>
+    </message>
+    <message>
+        <source>Small</source>
+        <translation>Pequeno</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>Médio</translation>
+    </message>
+    <message>
+        <source>Large</source>
+        <translation>Grande</translation>
+    </message>
+    <message>
+        <source>Sub position</source>
+        <translation>Posição da janela</translation>
+    </message>
+    <message>
+        <source>Upper right</source>
+        <translation>Em cima à direita</translation>
+    </message>
+    <message>
+        <source>Upper left</source>
+        <translation>Em cima à esquerda</translation>
+    </message>
+    <message>
+        <source>Lower right</source>
+        <translation>Em baixo à direita</translation>
+    </message>
+    <message>
+        <source>Lower left</source>
+        <translation>Em baixo à esquerda</translation>
+    </message>
+</context>
+<context>
+    <name>PipPbpPage</name>
+    <message>
+        <source>Picture in picture</source>
+        <translation>Imagem na imagem</translation>
+    </message>
+    <message>
+        <source>Half and half</source>
+        <translation>Metade e metade</translation>
+    </message>
+    <message>
+        <source>Four windows</source>
+        <translation>Quatro janelas</translation>
+    </message>
+    <message>
+        <source>16 : 9 and 9 : 5</source>
+        <translation>16 : 9 e 9 : 5</translation>
+    </message>
+    <message>
+        <source>Two to one</source>
+        <translation>Dois para um</translation>
+    </message>
+    <message>
+        <source>Three to one</source>
+        <translation>Três para um</translation>
+    </message>
+    <message>
+        <source>Audio Source</source>
+        <translation>Fonte de áudio</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Esquerda</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Direita</translation>
+    </message>
+    <message>
+        <source>Swap</source>
+        <translation>Trocar</translation>
+    </message>
+</context>
+<context>
+    <name>TwoWindows</name>
+    <message>
+        <source>Main:</source>
+        <translation>Principal:</translation>
+    </message>
+    <message>
+        <source>Sub:</source>
+        <translation>Secundária:</translation>
+    </message>
+    <message>
+        <source>16 : 9</source>
+        <translation>16 : 9</translation>
+    </message>
+    <message>
+        <source>9 : 5</source>
+        <translation>9 : 5</translation>
+    </message>
+    <message>
+        <source>Left:</source>
+        <translation>Esquerda:</translation>
+    </message>
+    <message>
+        <source>Right:</source>
+        <translation>Direita:</translation>
     </message>
 </context>
 </TS>

@@ -3,6 +3,51 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ro" sourcelanguage="en">
 <context>
+    <name>FourWindows</name>
+    <message>
+        <source>Upper left</source>
+        <translation>Stânga sus</translation>
+    </message>
+    <message>
+        <source>Upper right</source>
+        <translation>Dreapta sus</translation>
+    </message>
+    <message>
+        <source>Lower left</source>
+        <translation>Stânga jos</translation>
+    </message>
+    <message>
+        <source>Lower right</source>
+        <translation>Dreapta jos</translation>
+    </message>
+</context>
+<context>
+    <name>KvmPage</name>
+    <message>
+        <source>Current Device Location</source>
+        <translation>Poziția acestui dispozitiv</translation>
+    </message>
+</context>
+<context>
+    <name>KvmPorts</name>
+    <message>
+        <source>Auto Switch</source>
+        <translation>Automat</translation>
+    </message>
+    <message>
+        <source>USB-C Upstream</source>
+        <translation>Intrare USB-C</translation>
+    </message>
+    <message>
+        <source>USB-B Upstream</source>
+        <translation>Intrare USB-B</translation>
+    </message>
+    <message>
+        <source>TBT Upstream</source>
+        <translation>Intrare TBT</translation>
+    </message>
+</context>
+<context>
     <name>LuAiContrastWidget</name>
     <message>
         <source>Local Contrast</source>
@@ -22,6 +67,101 @@
     <message>
         <source>Screen pivot</source>
         <translation>Pivotarea ecranului</translation>
+    </message>
+</context>
+<context>
+    <name>LuDaisyChainWidget</name>
+    <message>
+        <source>Daisy Chain (MST)</source>
+        <translation>Daisy Chain (MST)</translation>
+    </message>
+    <message>
+        <source>One cable to easily connect all your monitors.</source>
+        <translation>Un singur cablu pentru a conecta ușor toate monitoarele.</translation>
+    </message>
+    <message>
+        <source>About Daisy Chain (MST)</source>
+        <translation>Despre Daisy Chain (MST)</translation>
+    </message>
+</context>
+<context>
+    <name>LuDualViewPlusWidget</name>
+    <message>
+        <source>DualView Plus</source>
+        <translation>DualView Plus</translation>
+    </message>
+    <message>
+        <source>Main: </source>
+        <translation>Principal: </translation>
+    </message>
+    <message>
+        <source>Left: </source>
+        <translation>Stânga: </translation>
+    </message>
+    <message>
+        <source>Sub: </source>
+        <translation>Secundar: </translation>
+    </message>
+    <message>
+        <source>Right: </source>
+        <translation>Dreapta: </translation>
+    </message>
+</context>
+<context>
+    <name>LuDualViewWidget</name>
+    <message>
+        <source>DualView</source>
+        <translation>DualView</translation>
+    </message>
+    <message>
+        <source>Left:</source>
+        <translation>Stânga:</translation>
+    </message>
+    <message>
+        <source>Right:</source>
+        <translation>Dreapta:</translation>
+    </message>
+</context>
+<context>
+    <name>LuInputSourceWidget</name>
+    <message>
+        <source>Input source</source>
+        <translation>Sursă de intrare</translation>
+    </message>
+    <message>
+        <source>Input</source>
+        <translation>Intrare</translation>
+    </message>
+</context>
+<context>
+    <name>LuPIPPBPWidget</name>
+    <message>
+        <source>Smart KVM</source>
+        <translation>Smart KVM</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic</source>
+        <translation>Smart KVM Basic</translation>
+    </message>
+    <message>
+        <source>PIP / PBP</source>
+        <translation>PIP / PBP</translation>
+    </message>
+    <message>
+        <source>PIP</source>
+        <translation>PIP</translation>
+    </message>
+    <message>
+        <source>PBP</source>
+        <translation>PBP</translation>
+    </message>
+    <message>
+        <source>Do you want to turn off PBP Mode and %1?</source>
+        <translation>Doriți să dezactivați modul PBP și %1?</translation>
+    </message>
+    <message>
+        <source>%1 only works in PBP mode. If you choose to turn off PBP mode, %1 will be disabled as well.</source>
+        <translation>%1 funcționează numai în modul PBP. Dacă dezactivați modul PBP, se dezactivează și %1.</translation>
     </message>
 </context>
 <context>
@@ -151,6 +291,100 @@
     </message>
 </context>
 <context>
+    <name>LuSmartKvmBasicWidget</name>
+    <message>
+        <source>KVM</source>
+        <translation>KVM</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic is enabled</source>
+        <translation>Smart KVM Basic este activat</translation>
+    </message>
+    <message>
+        <source>Do you want to switch to PBP Mode?</source>
+        <translation>Doriți să treceți la modul PBP?</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic works only in PBP Mode. Turning off PBP Mode will also disable Smart KVM Basic.</source>
+        <translation>Smart KVM Basic funcționează numai în modul PBP. Dezactivarea modului PBP dezactivează și Smart KVM Basic.</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic</source>
+        <translation>Smart KVM Basic</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Stânga</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Dreapta</translation>
+    </message>
+    <message>
+        <source>Orvane Smart KVM Basic makes multitasking effortless - use one keyboard and mouse to control two computers. With automatic switching when your cursor crosses the screen edge, you can work seamlessly across systems. Just install Lumen Desk 2 on both devices and enable PBP Mode to get started.</source>
+        <translation>Orvane Smart KVM Basic ușurează lucrul simultan: controlați două computere cu o singură tastatură și un singur mouse. Comutarea este automată când cursorul trece de marginea ecranului. Instalați Lumen Desk 2 pe ambele dispozitive și activați modul PBP.</translation>
+    </message>
+</context>
+<context>
+    <name>LuSmartKvmWidget</name>
+    <message>
+        <source>Driver installation is required</source>
+        <translation>Este necesară instalarea driverului</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Conectat</translation>
+    </message>
+    <message>
+        <source>Searching</source>
+        <translation>Se caută</translation>
+    </message>
+    <message>
+        <source>KVM</source>
+        <translation>KVM</translation>
+    </message>
+    <message>
+        <source>Smart KVM Enabled</source>
+        <translation>Smart KVM activat</translation>
+    </message>
+    <message>
+        <source>Driver installation is required.</source>
+        <translation>Este necesară instalarea driverului.</translation>
+    </message>
+    <message>
+        <source>Smart KVM requires your permission to install its driver. Would you like to install it now?</source>
+        <translation>Smart KVM are nevoie de permisiunea dvs. pentru a instala driverul. Îl instalați acum?</translation>
+    </message>
+    <message>
+        <source>Do you want to switch to PBP Mode?</source>
+        <translation>Doriți să treceți la modul PBP?</translation>
+    </message>
+    <message>
+        <source>Smart KVM only works in PBP mode. If you'd like to continue using Smart KVM, we can switch to PBP mode for you.</source>
+        <translation>Smart KVM funcționează numai în modul PBP. Dacă doriți să îl folosiți în continuare, putem trece la modul PBP.</translation>
+    </message>
+    <message>
+        <source>Smart KVM</source>
+        <translation>Smart KVM</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Stânga</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Dreapta</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Sus</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Jos</translation>
+    </message>
+</context>
+<context>
     <name>NightStateChoice</name>
     <message>
         <source>Night Hours Protection</source>
@@ -178,6 +412,134 @@
     <message>
         <source>Level</source>
         <translation>Nivel</translation>
+    </message>
+</context>
+<context>
+    <name>PictureGoneNote</name>
+    <message>
+        <source>This computer's picture goes away with its input. %1 brings it back.</source>
+        <translation>Imaginea acestui computer dispare odată cu intrarea lui. %1 o readuce.</translation>
+    </message>
+    <message>
+        <source>This computer's picture goes away with its input. Choose %1 in the monitor's menu to bring it back.</source>
+        <translation>Imaginea acestui computer dispare odată cu intrarea lui. Alegeți %1 în meniul monitorului pentru a o readuce.</translation>
+    </message>
+    <message>
+        <source>Back to %1</source>
+        <translation>Înapoi la %1</translation>
+    </message>
+    <message>
+        <source>Turn on shortcuts</source>
+        <translation>Activează scurtăturile</translation>
+    </message>
+</context>
+<context>
+    <name>PipOptions</name>
+    <message>
+        <source>Sub size</source>
+        <translation>Dimensiunea ferestrei</translation>
+    </message>
+    <message>
+        <source>Small</source>
+        <translation>Mic</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>Mediu</translation>
+    </message>
+    <message>
+        <source>Large</source>
+        <translation>Mare</translation>
+    </message>
+    <message>
+        <source>Sub position</source>
+        <translation>Poziția ferestrei</translation>
+    </message>
+    <message>
+        <source>Upper right</source>
+        <translation>Dreapta sus</translation>
+    </message>
+    <message>
+        <source>Upper left</source>
+        <translation>Stânga sus</translation>
+    </message>
+    <message>
+        <source>Lower right</source>
+        <translation>Dreapta jos</translation>
+    </message>
+    <message>
+        <source>Lower left</source>
+        <translation>Stânga jos</translation>
+    </message>
+</context>
+<context>
+    <name>PipPbpPage</name>
+    <message>
+        <source>Picture in picture</source>
+        <translation>Imagine în imagine</translation>
+    </message>
+    <message>
+        <source>Half and half</source>
+        <translation>Jumătate-jumătate</translation>
+    </message>
+    <message>
+        <source>Four windows</source>
+        <translation>Patru ferestre</translation>
+    </message>
+    <message>
+        <source>16 : 9 and 9 : 5</source>
+        <translation>16 : 9 și 9 : 5</translation>
+    </message>
+    <message>
+        <source>Two to one</source>
+        <translation>Doi la unu</translation>
+    </message>
+    <message>
+        <source>Three to one</source>
+        <translation>Trei la unu</translation>
+    </message>
+    <message>
+        <source>Audio Source</source>
+        <translation>Sursă audio</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Stânga</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Dreapta</translation>
+    </message>
+    <message>
+        <source>Swap</source>
+        <translation>Schimbă</translation>
+    </message>
+</context>
+<context>
+    <name>TwoWindows</name>
+    <message>
+        <source>Main:</source>
+        <translation>Principal:</translation>
+    </message>
+    <message>
+        <source>Sub:</source>
+        <translation>Secundar:</translation>
+    </message>
+    <message>
+        <source>16 : 9</source>
+        <translation>16 : 9</translation>
+    </message>
+    <message>
+        <source>9 : 5</source>
+        <translation>9 : 5</translation>
+    </message>
+    <message>
+        <source>Left:</source>
+        <translation>Stânga:</translation>
+    </message>
+    <message>
+        <source>Right:</source>
+        <translation>Dreapta:</translation>
     </message>
 </context>
 </TS>

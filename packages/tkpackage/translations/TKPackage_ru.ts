@@ -3,6 +3,51 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru" sourcelanguage="en">
 <context>
+    <name>FourWindows</name>
+    <message>
+        <source>Upper left</source>
+        <translation>Слева вверху</translation>
+    </message>
+    <message>
+        <source>Upper right</source>
+        <translation>Справа вверху</translation>
+    </message>
+    <message>
+        <source>Lower left</source>
+        <translation>Слева внизу</translation>
+    </message>
+    <message>
+        <source>Lower right</source>
+        <translation>Справа внизу</translation>
+    </message>
+</context>
+<context>
+    <name>KvmPage</name>
+    <message>
+        <source>Current Device Location</source>
+        <translation>Расположение этого устройства</translation>
+    </message>
+</context>
+<context>
+    <name>KvmPorts</name>
+    <message>
+        <source>Auto Switch</source>
+        <translation>Автоматически</translation>
+    </message>
+    <message>
+        <source>USB-C Upstream</source>
+        <translation>Вход USB-C</translation>
+    </message>
+    <message>
+        <source>USB-B Upstream</source>
+        <translation>Вход USB-B</translation>
+    </message>
+    <message>
+        <source>TBT Upstream</source>
+        <translation>Вход TBT</translation>
+    </message>
+</context>
+<context>
     <name>LuAiContrastWidget</name>
     <message>
         <source>Local Contrast</source>
@@ -22,6 +67,101 @@
     <message>
         <source>Screen pivot</source>
         <translation>Поворот экрана</translation>
+    </message>
+</context>
+<context>
+    <name>LuDaisyChainWidget</name>
+    <message>
+        <source>Daisy Chain (MST)</source>
+        <translation>Daisy Chain (MST)</translation>
+    </message>
+    <message>
+        <source>One cable to easily connect all your monitors.</source>
+        <translation>Один кабель легко соединит все ваши мониторы.</translation>
+    </message>
+    <message>
+        <source>About Daisy Chain (MST)</source>
+        <translation>О функции Daisy Chain (MST)</translation>
+    </message>
+</context>
+<context>
+    <name>LuDualViewPlusWidget</name>
+    <message>
+        <source>DualView Plus</source>
+        <translation>DualView Plus</translation>
+    </message>
+    <message>
+        <source>Main: </source>
+        <translation>Основной: </translation>
+    </message>
+    <message>
+        <source>Left: </source>
+        <translation>Слева: </translation>
+    </message>
+    <message>
+        <source>Sub: </source>
+        <translation>Дополнительный: </translation>
+    </message>
+    <message>
+        <source>Right: </source>
+        <translation>Справа: </translation>
+    </message>
+</context>
+<context>
+    <name>LuDualViewWidget</name>
+    <message>
+        <source>DualView</source>
+        <translation>DualView</translation>
+    </message>
+    <message>
+        <source>Left:</source>
+        <translation>Слева:</translation>
+    </message>
+    <message>
+        <source>Right:</source>
+        <translation>Справа:</translation>
+    </message>
+</context>
+<context>
+    <name>LuInputSourceWidget</name>
+    <message>
+        <source>Input source</source>
+        <translation>Источник сигнала</translation>
+    </message>
+    <message>
+        <source>Input</source>
+        <translation>Вход</translation>
+    </message>
+</context>
+<context>
+    <name>LuPIPPBPWidget</name>
+    <message>
+        <source>Smart KVM</source>
+        <translation>Smart KVM</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic</source>
+        <translation>Smart KVM Basic</translation>
+    </message>
+    <message>
+        <source>PIP / PBP</source>
+        <translation>PIP / PBP</translation>
+    </message>
+    <message>
+        <source>PIP</source>
+        <translation>PIP</translation>
+    </message>
+    <message>
+        <source>PBP</source>
+        <translation>PBP</translation>
+    </message>
+    <message>
+        <source>Do you want to turn off PBP Mode and %1?</source>
+        <translation>Выключить режим PBP и %1?</translation>
+    </message>
+    <message>
+        <source>%1 only works in PBP mode. If you choose to turn off PBP mode, %1 will be disabled as well.</source>
+        <translation>%1 работает только в режиме PBP. При выключении режима PBP выключится и %1.</translation>
     </message>
 </context>
 <context>
@@ -151,6 +291,100 @@
     </message>
 </context>
 <context>
+    <name>LuSmartKvmBasicWidget</name>
+    <message>
+        <source>KVM</source>
+        <translation>KVM</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic is enabled</source>
+        <translation>Smart KVM Basic включён</translation>
+    </message>
+    <message>
+        <source>Do you want to switch to PBP Mode?</source>
+        <translation>Перейти в режим PBP?</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic works only in PBP Mode. Turning off PBP Mode will also disable Smart KVM Basic.</source>
+        <translation>Smart KVM Basic работает только в режиме PBP. При выключении режима PBP выключится и Smart KVM Basic.</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic</source>
+        <translation>Smart KVM Basic</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Слева</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Справа</translation>
+    </message>
+    <message>
+        <source>Orvane Smart KVM Basic makes multitasking effortless - use one keyboard and mouse to control two computers. With automatic switching when your cursor crosses the screen edge, you can work seamlessly across systems. Just install Lumen Desk 2 on both devices and enable PBP Mode to get started.</source>
+        <translation>Orvane Smart KVM Basic упрощает работу: одна клавиатура и одна мышь управляют двумя компьютерами. Переключение происходит автоматически, когда указатель пересекает край экрана. Установите Lumen Desk 2 на оба устройства и включите режим PBP.</translation>
+    </message>
+</context>
+<context>
+    <name>LuSmartKvmWidget</name>
+    <message>
+        <source>Driver installation is required</source>
+        <translation>Требуется установка драйвера</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Подключено</translation>
+    </message>
+    <message>
+        <source>Searching</source>
+        <translation>Поиск</translation>
+    </message>
+    <message>
+        <source>KVM</source>
+        <translation>KVM</translation>
+    </message>
+    <message>
+        <source>Smart KVM Enabled</source>
+        <translation>Smart KVM включён</translation>
+    </message>
+    <message>
+        <source>Driver installation is required.</source>
+        <translation>Требуется установка драйвера.</translation>
+    </message>
+    <message>
+        <source>Smart KVM requires your permission to install its driver. Would you like to install it now?</source>
+        <translation>Для установки драйвера Smart KVM нужно ваше разрешение. Установить сейчас?</translation>
+    </message>
+    <message>
+        <source>Do you want to switch to PBP Mode?</source>
+        <translation>Перейти в режим PBP?</translation>
+    </message>
+    <message>
+        <source>Smart KVM only works in PBP mode. If you'd like to continue using Smart KVM, we can switch to PBP mode for you.</source>
+        <translation>Smart KVM работает только в режиме PBP. Чтобы продолжить, мы можем перейти в режим PBP за вас.</translation>
+    </message>
+    <message>
+        <source>Smart KVM</source>
+        <translation>Smart KVM</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Слева</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Справа</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Сверху</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Снизу</translation>
+    </message>
+</context>
+<context>
     <name>NightStateChoice</name>
     <message>
         <source>Night Hours Protection</source>
@@ -178,6 +412,134 @@
     <message>
         <source>Level</source>
         <translation>Уровень</translation>
+    </message>
+</context>
+<context>
+    <name>PictureGoneNote</name>
+    <message>
+        <source>This computer's picture goes away with its input. %1 brings it back.</source>
+        <translation>Изображение этого компьютера исчезает вместе с его входом. Вернуть его: %1.</translation>
+    </message>
+    <message>
+        <source>This computer's picture goes away with its input. Choose %1 in the monitor's menu to bring it back.</source>
+        <translation>Изображение этого компьютера исчезает вместе с его входом. Чтобы вернуть его, выберите %1 в меню монитора.</translation>
+    </message>
+    <message>
+        <source>Back to %1</source>
+        <translation>Назад к %1</translation>
+    </message>
+    <message>
+        <source>Turn on shortcuts</source>
+        <translation>Включить сочетания клавиш</translation>
+    </message>
+</context>
+<context>
+    <name>PipOptions</name>
+    <message>
+        <source>Sub size</source>
+        <translation>Размер окна</translation>
+    </message>
+    <message>
+        <source>Small</source>
+        <translation>Малый</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>Средний</translation>
+    </message>
+    <message>
+        <source>Large</source>
+        <translation>Большой</translation>
+    </message>
+    <message>
+        <source>Sub position</source>
+        <translation>Положение окна</translation>
+    </message>
+    <message>
+        <source>Upper right</source>
+        <translation>Справа вверху</translation>
+    </message>
+    <message>
+        <source>Upper left</source>
+        <translation>Слева вверху</translation>
+    </message>
+    <message>
+        <source>Lower right</source>
+        <translation>Справа внизу</translation>
+    </message>
+    <message>
+        <source>Lower left</source>
+        <translation>Слева внизу</translation>
+    </message>
+</context>
+<context>
+    <name>PipPbpPage</name>
+    <message>
+        <source>Picture in picture</source>
+        <translation>Картинка в картинке</translation>
+    </message>
+    <message>
+        <source>Half and half</source>
+        <translation>Пополам</translation>
+    </message>
+    <message>
+        <source>Four windows</source>
+        <translation>Четыре окна</translation>
+    </message>
+    <message>
+        <source>16 : 9 and 9 : 5</source>
+        <translation>16 : 9 и 9 : 5</translation>
+    </message>
+    <message>
+        <source>Two to one</source>
+        <translation>Два к одному</translation>
+    </message>
+    <message>
+        <source>Three to one</source>
+        <translation>Три к одному</translation>
+    </message>
+    <message>
+        <source>Audio Source</source>
+        <translation>Источник звука</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Слева</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Справа</translation>
+    </message>
+    <message>
+        <source>Swap</source>
+        <translation>Поменять местами</translation>
+    </message>
+</context>
+<context>
+    <name>TwoWindows</name>
+    <message>
+        <source>Main:</source>
+        <translation>Основной:</translation>
+    </message>
+    <message>
+        <source>Sub:</source>
+        <translation>Дополнительный:</translation>
+    </message>
+    <message>
+        <source>16 : 9</source>
+        <translation>16 : 9</translation>
+    </message>
+    <message>
+        <source>9 : 5</source>
+        <translation>9 : 5</translation>
+    </message>
+    <message>
+        <source>Left:</source>
+        <translation>Слева:</translation>
+    </message>
+    <message>
+        <source>Right:</source>
+        <translation>Справа:</translation>
     </message>
 </context>
 </TS>

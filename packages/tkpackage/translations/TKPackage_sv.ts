@@ -3,6 +3,51 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="sv" sourcelanguage="en">
 <context>
+    <name>FourWindows</name>
+    <message>
+        <source>Upper left</source>
+        <translation>Uppe till vänster</translation>
+    </message>
+    <message>
+        <source>Upper right</source>
+        <translation>Uppe till höger</translation>
+    </message>
+    <message>
+        <source>Lower left</source>
+        <translation>Nere till vänster</translation>
+    </message>
+    <message>
+        <source>Lower right</source>
+        <translation>Nere till höger</translation>
+    </message>
+</context>
+<context>
+    <name>KvmPage</name>
+    <message>
+        <source>Current Device Location</source>
+        <translation>Den här enhetens plats</translation>
+    </message>
+</context>
+<context>
+    <name>KvmPorts</name>
+    <message>
+        <source>Auto Switch</source>
+        <translation>Automatiskt</translation>
+    </message>
+    <message>
+        <source>USB-C Upstream</source>
+        <translation>USB-C-uppström</translation>
+    </message>
+    <message>
+        <source>USB-B Upstream</source>
+        <translation>USB-B-uppström</translation>
+    </message>
+    <message>
+        <source>TBT Upstream</source>
+        <translation>TBT-uppström</translation>
+    </message>
+</context>
+<context>
     <name>LuAiContrastWidget</name>
     <message>
         <source>Local Contrast</source>
@@ -22,6 +67,101 @@
     <message>
         <source>Screen pivot</source>
         <translation>Skärmrotering</translation>
+    </message>
+</context>
+<context>
+    <name>LuDaisyChainWidget</name>
+    <message>
+        <source>Daisy Chain (MST)</source>
+        <translation>Daisy Chain (MST)</translation>
+    </message>
+    <message>
+        <source>One cable to easily connect all your monitors.</source>
+        <translation>En kabel kopplar enkelt ihop alla dina skärmar.</translation>
+    </message>
+    <message>
+        <source>About Daisy Chain (MST)</source>
+        <translation>Om Daisy Chain (MST)</translation>
+    </message>
+</context>
+<context>
+    <name>LuDualViewPlusWidget</name>
+    <message>
+        <source>DualView Plus</source>
+        <translation>DualView Plus</translation>
+    </message>
+    <message>
+        <source>Main: </source>
+        <translation>Huvud: </translation>
+    </message>
+    <message>
+        <source>Left: </source>
+        <translation>Vänster: </translation>
+    </message>
+    <message>
+        <source>Sub: </source>
+        <translation>Under: </translation>
+    </message>
+    <message>
+        <source>Right: </source>
+        <translation>Höger: </translation>
+    </message>
+</context>
+<context>
+    <name>LuDualViewWidget</name>
+    <message>
+        <source>DualView</source>
+        <translation>DualView</translation>
+    </message>
+    <message>
+        <source>Left:</source>
+        <translation>Vänster:</translation>
+    </message>
+    <message>
+        <source>Right:</source>
+        <translation>Höger:</translation>
+    </message>
+</context>
+<context>
+    <name>LuInputSourceWidget</name>
+    <message>
+        <source>Input source</source>
+        <translation>Ingångskälla</translation>
+    </message>
+    <message>
+        <source>Input</source>
+        <translation>Ingång</translation>
+    </message>
+</context>
+<context>
+    <name>LuPIPPBPWidget</name>
+    <message>
+        <source>Smart KVM</source>
+        <translation>Smart KVM</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic</source>
+        <translation>Smart KVM Basic</translation>
+    </message>
+    <message>
+        <source>PIP / PBP</source>
+        <translation>PIP / PBP</translation>
+    </message>
+    <message>
+        <source>PIP</source>
+        <translation>PIP</translation>
+    </message>
+    <message>
+        <source>PBP</source>
+        <translation>PBP</translation>
+    </message>
+    <message>
+        <source>Do you want to turn off PBP Mode and %1?</source>
+        <translation>Vill du stänga av PBP-läget och %1?</translation>
+    </message>
+    <message>
+        <source>%1 only works in PBP mode. If you choose to turn off PBP mode, %1 will be disabled as well.</source>
+        <translation>%1 fungerar bara i PBP-läget. Om du stänger av PBP-läget stängs även %1 av.</translation>
     </message>
 </context>
 <context>
@@ -151,6 +291,100 @@
     </message>
 </context>
 <context>
+    <name>LuSmartKvmBasicWidget</name>
+    <message>
+        <source>KVM</source>
+        <translation>KVM</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic is enabled</source>
+        <translation>Smart KVM Basic är på</translation>
+    </message>
+    <message>
+        <source>Do you want to switch to PBP Mode?</source>
+        <translation>Vill du byta till PBP-läget?</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic works only in PBP Mode. Turning off PBP Mode will also disable Smart KVM Basic.</source>
+        <translation>Smart KVM Basic fungerar bara i PBP-läget. När PBP-läget stängs av stängs även Smart KVM Basic av.</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic</source>
+        <translation>Smart KVM Basic</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Vänster</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Höger</translation>
+    </message>
+    <message>
+        <source>Orvane Smart KVM Basic makes multitasking effortless - use one keyboard and mouse to control two computers. With automatic switching when your cursor crosses the screen edge, you can work seamlessly across systems. Just install Lumen Desk 2 on both devices and enable PBP Mode to get started.</source>
+        <translation>Orvane Smart KVM Basic gör det enkelt att arbeta med flera datorer: styr två datorer med ett tangentbord och en mus. Bytet sker automatiskt när pekaren passerar skärmkanten. Installera Lumen Desk 2 på båda enheterna och slå på PBP-läget.</translation>
+    </message>
+</context>
+<context>
+    <name>LuSmartKvmWidget</name>
+    <message>
+        <source>Driver installation is required</source>
+        <translation>Drivrutinen måste installeras</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Ansluten</translation>
+    </message>
+    <message>
+        <source>Searching</source>
+        <translation>Söker</translation>
+    </message>
+    <message>
+        <source>KVM</source>
+        <translation>KVM</translation>
+    </message>
+    <message>
+        <source>Smart KVM Enabled</source>
+        <translation>Smart KVM på</translation>
+    </message>
+    <message>
+        <source>Driver installation is required.</source>
+        <translation>Drivrutinen måste installeras.</translation>
+    </message>
+    <message>
+        <source>Smart KVM requires your permission to install its driver. Would you like to install it now?</source>
+        <translation>Smart KVM behöver ditt tillstånd för att installera sin drivrutin. Installera nu?</translation>
+    </message>
+    <message>
+        <source>Do you want to switch to PBP Mode?</source>
+        <translation>Vill du byta till PBP-läget?</translation>
+    </message>
+    <message>
+        <source>Smart KVM only works in PBP mode. If you'd like to continue using Smart KVM, we can switch to PBP mode for you.</source>
+        <translation>Smart KVM fungerar bara i PBP-läget. Vill du fortsätta använda det kan vi byta till PBP-läget åt dig.</translation>
+    </message>
+    <message>
+        <source>Smart KVM</source>
+        <translation>Smart KVM</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Vänster</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Höger</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Uppe</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Nere</translation>
+    </message>
+</context>
+<context>
     <name>NightStateChoice</name>
     <message>
         <source>Night Hours Protection</source>
@@ -178,6 +412,134 @@
     <message>
         <source>Level</source>
         <translation>Nivå</translation>
+    </message>
+</context>
+<context>
+    <name>PictureGoneNote</name>
+    <message>
+        <source>This computer's picture goes away with its input. %1 brings it back.</source>
+        <translation>Den här datorns bild försvinner med sin ingång. %1 tar den tillbaka.</translation>
+    </message>
+    <message>
+        <source>This computer's picture goes away with its input. Choose %1 in the monitor's menu to bring it back.</source>
+        <translation>Den här datorns bild försvinner med sin ingång. Välj %1 i skärmens meny för att ta den tillbaka.</translation>
+    </message>
+    <message>
+        <source>Back to %1</source>
+        <translation>Tillbaka till %1</translation>
+    </message>
+    <message>
+        <source>Turn on shortcuts</source>
+        <translation>Slå på kortkommandon</translation>
+    </message>
+</context>
+<context>
+    <name>PipOptions</name>
+    <message>
+        <source>Sub size</source>
+        <translation>Fönstrets storlek</translation>
+    </message>
+    <message>
+        <source>Small</source>
+        <translation>Liten</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>Mellan</translation>
+    </message>
+    <message>
+        <source>Large</source>
+        <translation>Stor</translation>
+    </message>
+    <message>
+        <source>Sub position</source>
+        <translation>Fönstrets plats</translation>
+    </message>
+    <message>
+        <source>Upper right</source>
+        <translation>Uppe till höger</translation>
+    </message>
+    <message>
+        <source>Upper left</source>
+        <translation>Uppe till vänster</translation>
+    </message>
+    <message>
+        <source>Lower right</source>
+        <translation>Nere till höger</translation>
+    </message>
+    <message>
+        <source>Lower left</source>
+        <translation>Nere till vänster</translation>
+    </message>
+</context>
+<context>
+    <name>PipPbpPage</name>
+    <message>
+        <source>Picture in picture</source>
+        <translation>Bild i bild</translation>
+    </message>
+    <message>
+        <source>Half and half</source>
+        <translation>Hälften var</translation>
+    </message>
+    <message>
+        <source>Four windows</source>
+        <translation>Fyra fönster</translation>
+    </message>
+    <message>
+        <source>16 : 9 and 9 : 5</source>
+        <translation>16 : 9 och 9 : 5</translation>
+    </message>
+    <message>
+        <source>Two to one</source>
+        <translation>Två till ett</translation>
+    </message>
+    <message>
+        <source>Three to one</source>
+        <translation>Tre till ett</translation>
+    </message>
+    <message>
+        <source>Audio Source</source>
+        <translation>Ljudkälla</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Vänster</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Höger</translation>
+    </message>
+    <message>
+        <source>Swap</source>
+        <translation>Byt plats</translation>
+    </message>
+</context>
+<context>
+    <name>TwoWindows</name>
+    <message>
+        <source>Main:</source>
+        <translation>Huvud:</translation>
+    </message>
+    <message>
+        <source>Sub:</source>
+        <translation>Under:</translation>
+    </message>
+    <message>
+        <source>16 : 9</source>
+        <translation>16 : 9</translation>
+    </message>
+    <message>
+        <source>9 : 5</source>
+        <translation>9 : 5</translation>
+    </message>
+    <message>
+        <source>Left:</source>
+        <translation>Vänster:</translation>
+    </message>
+    <message>
+        <source>Right:</source>
+        <translation>Höger:</translation>
     </message>
 </context>
 </TS>

@@ -3,6 +3,51 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>FourWindows</name>
+    <message>
+        <source>Upper left</source>
+        <translation>左上</translation>
+    </message>
+    <message>
+        <source>Upper right</source>
+        <translation>右上</translation>
+    </message>
+    <message>
+        <source>Lower left</source>
+        <translation>左下</translation>
+    </message>
+    <message>
+        <source>Lower right</source>
+        <translation>右下</translation>
+    </message>
+</context>
+<context>
+    <name>KvmPage</name>
+    <message>
+        <source>Current Device Location</source>
+        <translation>当前设备位置</translation>
+    </message>
+</context>
+<context>
+    <name>KvmPorts</name>
+    <message>
+        <source>Auto Switch</source>
+        <translation>自动切换</translation>
+    </message>
+    <message>
+        <source>USB-C Upstream</source>
+        <translation>USB-C 上行</translation>
+    </message>
+    <message>
+        <source>USB-B Upstream</source>
+        <translation>USB-B 上行</translation>
+    </message>
+    <message>
+        <source>TBT Upstream</source>
+        <translation>TBT 上行</translation>
+    </message>
+</context>
+<context>
     <name>LuAiContrastWidget</name>
     <message>
         <source>Local Contrast</source>
@@ -22,6 +67,101 @@
     <message>
         <source>Screen pivot</source>
         <translation>屏幕旋转</translation>
+    </message>
+</context>
+<context>
+    <name>LuDaisyChainWidget</name>
+    <message>
+        <source>Daisy Chain (MST)</source>
+        <translation>Daisy Chain (MST)</translation>
+    </message>
+    <message>
+        <source>One cable to easily connect all your monitors.</source>
+        <translation>一根线缆即可轻松连接所有显示器。</translation>
+    </message>
+    <message>
+        <source>About Daisy Chain (MST)</source>
+        <translation>关于 Daisy Chain (MST)</translation>
+    </message>
+</context>
+<context>
+    <name>LuDualViewPlusWidget</name>
+    <message>
+        <source>DualView Plus</source>
+        <translation>DualView Plus</translation>
+    </message>
+    <message>
+        <source>Main: </source>
+        <translation>主： </translation>
+    </message>
+    <message>
+        <source>Left: </source>
+        <translation>左： </translation>
+    </message>
+    <message>
+        <source>Sub: </source>
+        <translation>副： </translation>
+    </message>
+    <message>
+        <source>Right: </source>
+        <translation>右： </translation>
+    </message>
+</context>
+<context>
+    <name>LuDualViewWidget</name>
+    <message>
+        <source>DualView</source>
+        <translation>DualView</translation>
+    </message>
+    <message>
+        <source>Left:</source>
+        <translation>左：</translation>
+    </message>
+    <message>
+        <source>Right:</source>
+        <translation>右：</translation>
+    </message>
+</context>
+<context>
+    <name>LuInputSourceWidget</name>
+    <message>
+        <source>Input source</source>
+        <translation>输入源</translation>
+    </message>
+    <message>
+        <source>Input</source>
+        <translation>输入</translation>
+    </message>
+</context>
+<context>
+    <name>LuPIPPBPWidget</name>
+    <message>
+        <source>Smart KVM</source>
+        <translation>Smart KVM</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic</source>
+        <translation>Smart KVM Basic</translation>
+    </message>
+    <message>
+        <source>PIP / PBP</source>
+        <translation>PIP / PBP</translation>
+    </message>
+    <message>
+        <source>PIP</source>
+        <translation>PIP</translation>
+    </message>
+    <message>
+        <source>PBP</source>
+        <translation>PBP</translation>
+    </message>
+    <message>
+        <source>Do you want to turn off PBP Mode and %1?</source>
+        <translation>要关闭 PBP 模式和 %1 吗？</translation>
+    </message>
+    <message>
+        <source>%1 only works in PBP mode. If you choose to turn off PBP mode, %1 will be disabled as well.</source>
+        <translation>%1 仅在 PBP 模式下工作。关闭 PBP 模式后，%1 也会关闭。</translation>
     </message>
 </context>
 <context>
@@ -151,6 +291,100 @@
     </message>
 </context>
 <context>
+    <name>LuSmartKvmBasicWidget</name>
+    <message>
+        <source>KVM</source>
+        <translation>KVM</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic is enabled</source>
+        <translation>Smart KVM Basic 已开启</translation>
+    </message>
+    <message>
+        <source>Do you want to switch to PBP Mode?</source>
+        <translation>要切换到 PBP 模式吗？</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic works only in PBP Mode. Turning off PBP Mode will also disable Smart KVM Basic.</source>
+        <translation>Smart KVM Basic 仅在 PBP 模式下工作。关闭 PBP 模式也会关闭 Smart KVM Basic。</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic</source>
+        <translation>Smart KVM Basic</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>Orvane Smart KVM Basic makes multitasking effortless - use one keyboard and mouse to control two computers. With automatic switching when your cursor crosses the screen edge, you can work seamlessly across systems. Just install Lumen Desk 2 on both devices and enable PBP Mode to get started.</source>
+        <translation>Orvane Smart KVM Basic 让多任务更轻松：一套键盘鼠标即可控制两台电脑。光标越过屏幕边缘时自动切换，跨系统工作畅通无阻。在两台设备上安装 Lumen Desk 2 并开启 PBP 模式即可开始。</translation>
+    </message>
+</context>
+<context>
+    <name>LuSmartKvmWidget</name>
+    <message>
+        <source>Driver installation is required</source>
+        <translation>需要安装驱动程序</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>已连接</translation>
+    </message>
+    <message>
+        <source>Searching</source>
+        <translation>正在搜索</translation>
+    </message>
+    <message>
+        <source>KVM</source>
+        <translation>KVM</translation>
+    </message>
+    <message>
+        <source>Smart KVM Enabled</source>
+        <translation>Smart KVM 已开启</translation>
+    </message>
+    <message>
+        <source>Driver installation is required.</source>
+        <translation>需要安装驱动程序。</translation>
+    </message>
+    <message>
+        <source>Smart KVM requires your permission to install its driver. Would you like to install it now?</source>
+        <translation>Smart KVM 需要您的许可才能安装驱动程序。现在安装吗？</translation>
+    </message>
+    <message>
+        <source>Do you want to switch to PBP Mode?</source>
+        <translation>要切换到 PBP 模式吗？</translation>
+    </message>
+    <message>
+        <source>Smart KVM only works in PBP mode. If you'd like to continue using Smart KVM, we can switch to PBP mode for you.</source>
+        <translation>Smart KVM 仅在 PBP 模式下工作。如需继续使用，我们可以为您切换到 PBP 模式。</translation>
+    </message>
+    <message>
+        <source>Smart KVM</source>
+        <translation>Smart KVM</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>上</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>下</translation>
+    </message>
+</context>
+<context>
     <name>NightStateChoice</name>
     <message>
         <source>Night Hours Protection</source>
@@ -178,6 +412,134 @@
     <message>
         <source>Level</source>
         <translation>级别</translation>
+    </message>
+</context>
+<context>
+    <name>PictureGoneNote</name>
+    <message>
+        <source>This computer's picture goes away with its input. %1 brings it back.</source>
+        <translation>本机画面会随输入切换而消失。按 %1 可恢复。</translation>
+    </message>
+    <message>
+        <source>This computer's picture goes away with its input. Choose %1 in the monitor's menu to bring it back.</source>
+        <translation>本机画面会随输入切换而消失。请在显示器菜单中选择 %1 来恢复。</translation>
+    </message>
+    <message>
+        <source>Back to %1</source>
+        <translation>返回 %1</translation>
+    </message>
+    <message>
+        <source>Turn on shortcuts</source>
+        <translation>开启快捷键</translation>
+    </message>
+</context>
+<context>
+    <name>PipOptions</name>
+    <message>
+        <source>Sub size</source>
+        <translation>副窗口大小</translation>
+    </message>
+    <message>
+        <source>Small</source>
+        <translation>小</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>中</translation>
+    </message>
+    <message>
+        <source>Large</source>
+        <translation>大</translation>
+    </message>
+    <message>
+        <source>Sub position</source>
+        <translation>副窗口位置</translation>
+    </message>
+    <message>
+        <source>Upper right</source>
+        <translation>右上</translation>
+    </message>
+    <message>
+        <source>Upper left</source>
+        <translation>左上</translation>
+    </message>
+    <message>
+        <source>Lower right</source>
+        <translation>右下</translation>
+    </message>
+    <message>
+        <source>Lower left</source>
+        <translation>左下</translation>
+    </message>
+</context>
+<context>
+    <name>PipPbpPage</name>
+    <message>
+        <source>Picture in picture</source>
+        <translation>画中画</translation>
+    </message>
+    <message>
+        <source>Half and half</source>
+        <translation>各占一半</translation>
+    </message>
+    <message>
+        <source>Four windows</source>
+        <translation>四个窗口</translation>
+    </message>
+    <message>
+        <source>16 : 9 and 9 : 5</source>
+        <translation>16 : 9 和 9 : 5</translation>
+    </message>
+    <message>
+        <source>Two to one</source>
+        <translation>二比一</translation>
+    </message>
+    <message>
+        <source>Three to one</source>
+        <translation>三比一</translation>
+    </message>
+    <message>
+        <source>Audio Source</source>
+        <translation>音频来源</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>Swap</source>
+        <translation>交换</translation>
+    </message>
+</context>
+<context>
+    <name>TwoWindows</name>
+    <message>
+        <source>Main:</source>
+        <translation>主：</translation>
+    </message>
+    <message>
+        <source>Sub:</source>
+        <translation>副：</translation>
+    </message>
+    <message>
+        <source>16 : 9</source>
+        <translation>16 : 9</translation>
+    </message>
+    <message>
+        <source>9 : 5</source>
+        <translation>9 : 5</translation>
+    </message>
+    <message>
+        <source>Left:</source>
+        <translation>左：</translation>
+    </message>
+    <message>
+        <source>Right:</source>
+        <translation>右：</translation>
     </message>
 </context>
 </TS>

@@ -3,6 +3,51 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_TW" sourcelanguage="en">
 <context>
+    <name>FourWindows</name>
+    <message>
+        <source>Upper left</source>
+        <translation>左上</translation>
+    </message>
+    <message>
+        <source>Upper right</source>
+        <translation>右上</translation>
+    </message>
+    <message>
+        <source>Lower left</source>
+        <translation>左下</translation>
+    </message>
+    <message>
+        <source>Lower right</source>
+        <translation>右下</translation>
+    </message>
+</context>
+<context>
+    <name>KvmPage</name>
+    <message>
+        <source>Current Device Location</source>
+        <translation>目前裝置位置</translation>
+    </message>
+</context>
+<context>
+    <name>KvmPorts</name>
+    <message>
+        <source>Auto Switch</source>
+        <translation>自動切換</translation>
+    </message>
+    <message>
+        <source>USB-C Upstream</source>
+        <translation>USB-C 上行</translation>
+    </message>
+    <message>
+        <source>USB-B Upstream</source>
+        <translation>USB-B 上行</translation>
+    </message>
+    <message>
+        <source>TBT Upstream</source>
+        <translation>TBT 上行</translation>
+    </message>
+</context>
+<context>
     <name>LuAiContrastWidget</name>
     <message>
         <source>Local Contrast</source>
@@ -22,6 +67,101 @@
     <message>
         <source>Screen pivot</source>
         <translation>螢幕旋轉</translation>
+    </message>
+</context>
+<context>
+    <name>LuDaisyChainWidget</name>
+    <message>
+        <source>Daisy Chain (MST)</source>
+        <translation>Daisy Chain (MST)</translation>
+    </message>
+    <message>
+        <source>One cable to easily connect all your monitors.</source>
+        <translation>一條線材即可輕鬆連接所有螢幕。</translation>
+    </message>
+    <message>
+        <source>About Daisy Chain (MST)</source>
+        <translation>關於 Daisy Chain (MST)</translation>
+    </message>
+</context>
+<context>
+    <name>LuDualViewPlusWidget</name>
+    <message>
+        <source>DualView Plus</source>
+        <translation>DualView Plus</translation>
+    </message>
+    <message>
+        <source>Main: </source>
+        <translation>主： </translation>
+    </message>
+    <message>
+        <source>Left: </source>
+        <translation>左： </translation>
+    </message>
+    <message>
+        <source>Sub: </source>
+        <translation>副： </translation>
+    </message>
+    <message>
+        <source>Right: </source>
+        <translation>右： </translation>
+    </message>
+</context>
+<context>
+    <name>LuDualViewWidget</name>
+    <message>
+        <source>DualView</source>
+        <translation>DualView</translation>
+    </message>
+    <message>
+        <source>Left:</source>
+        <translation>左：</translation>
+    </message>
+    <message>
+        <source>Right:</source>
+        <translation>右：</translation>
+    </message>
+</context>
+<context>
+    <name>LuInputSourceWidget</name>
+    <message>
+        <source>Input source</source>
+        <translation>輸入來源</translation>
+    </message>
+    <message>
+        <source>Input</source>
+        <translation>輸入</translation>
+    </message>
+</context>
+<context>
+    <name>LuPIPPBPWidget</name>
+    <message>
+        <source>Smart KVM</source>
+        <translation>Smart KVM</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic</source>
+        <translation>Smart KVM Basic</translation>
+    </message>
+    <message>
+        <source>PIP / PBP</source>
+        <translation>PIP / PBP</translation>
+    </message>
+    <message>
+        <source>PIP</source>
+        <translation>PIP</translation>
+    </message>
+    <message>
+        <source>PBP</source>
+        <translation>PBP</translation>
+    </message>
+    <message>
+        <source>Do you want to turn off PBP Mode and %1?</source>
+        <translation>要關閉 PBP 模式和 %1 嗎？</translation>
+    </message>
+    <message>
+        <source>%1 only works in PBP mode. If you choose to turn off PBP mode, %1 will be disabled as well.</source>
+        <translation>%1 僅在 PBP 模式下運作。關閉 PBP 模式後，%1 也會關閉。</translation>
     </message>
 </context>
 <context>
@@ -151,6 +291,100 @@
     </message>
 </context>
 <context>
+    <name>LuSmartKvmBasicWidget</name>
+    <message>
+        <source>KVM</source>
+        <translation>KVM</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic is enabled</source>
+        <translation>Smart KVM Basic 已開啟</translation>
+    </message>
+    <message>
+        <source>Do you want to switch to PBP Mode?</source>
+        <translation>要切換到 PBP 模式嗎？</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic works only in PBP Mode. Turning off PBP Mode will also disable Smart KVM Basic.</source>
+        <translation>Smart KVM Basic 僅在 PBP 模式下運作。關閉 PBP 模式也會關閉 Smart KVM Basic。</translation>
+    </message>
+    <message>
+        <source>Smart KVM Basic</source>
+        <translation>Smart KVM Basic</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>Orvane Smart KVM Basic makes multitasking effortless - use one keyboard and mouse to control two computers. With automatic switching when your cursor crosses the screen edge, you can work seamlessly across systems. Just install Lumen Desk 2 on both devices and enable PBP Mode to get started.</source>
+        <translation>Orvane Smart KVM Basic 讓多工更輕鬆：一組鍵盤滑鼠即可控制兩台電腦。游標越過螢幕邊緣時自動切換，跨系統工作順暢無阻。在兩台裝置上安裝 Lumen Desk 2 並開啟 PBP 模式即可開始。</translation>
+    </message>
+</context>
+<context>
+    <name>LuSmartKvmWidget</name>
+    <message>
+        <source>Driver installation is required</source>
+        <translation>需要安裝驅動程式</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>已連線</translation>
+    </message>
+    <message>
+        <source>Searching</source>
+        <translation>正在搜尋</translation>
+    </message>
+    <message>
+        <source>KVM</source>
+        <translation>KVM</translation>
+    </message>
+    <message>
+        <source>Smart KVM Enabled</source>
+        <translation>Smart KVM 已開啟</translation>
+    </message>
+    <message>
+        <source>Driver installation is required.</source>
+        <translation>需要安裝驅動程式。</translation>
+    </message>
+    <message>
+        <source>Smart KVM requires your permission to install its driver. Would you like to install it now?</source>
+        <translation>Smart KVM 需要您的許可才能安裝驅動程式。現在安裝嗎？</translation>
+    </message>
+    <message>
+        <source>Do you want to switch to PBP Mode?</source>
+        <translation>要切換到 PBP 模式嗎？</translation>
+    </message>
+    <message>
+        <source>Smart KVM only works in PBP mode. If you'd like to continue using Smart KVM, we can switch to PBP mode for you.</source>
+        <translation>Smart KVM 僅在 PBP 模式下運作。如需繼續使用，我們可以為您切換到 PBP 模式。</translation>
+    </message>
+    <message>
+        <source>Smart KVM</source>
+        <translation>Smart KVM</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>上</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>下</translation>
+    </message>
+</context>
+<context>
     <name>NightStateChoice</name>
     <message>
         <source>Night Hours Protection</source>
@@ -178,6 +412,134 @@
     <message>
         <source>Level</source>
         <translation>等級</translation>
+    </message>
+</context>
+<context>
+    <name>PictureGoneNote</name>
+    <message>
+        <source>This computer's picture goes away with its input. %1 brings it back.</source>
+        <translation>本機畫面會隨輸入切換而消失。按 %1 可恢復。</translation>
+    </message>
+    <message>
+        <source>This computer's picture goes away with its input. Choose %1 in the monitor's menu to bring it back.</source>
+        <translation>本機畫面會隨輸入切換而消失。請在螢幕選單中選擇 %1 來恢復。</translation>
+    </message>
+    <message>
+        <source>Back to %1</source>
+        <translation>返回 %1</translation>
+    </message>
+    <message>
+        <source>Turn on shortcuts</source>
+        <translation>開啟快速鍵</translation>
+    </message>
+</context>
+<context>
+    <name>PipOptions</name>
+    <message>
+        <source>Sub size</source>
+        <translation>子視窗大小</translation>
+    </message>
+    <message>
+        <source>Small</source>
+        <translation>小</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>中</translation>
+    </message>
+    <message>
+        <source>Large</source>
+        <translation>大</translation>
+    </message>
+    <message>
+        <source>Sub position</source>
+        <translation>子視窗位置</translation>
+    </message>
+    <message>
+        <source>Upper right</source>
+        <translation>右上</translation>
+    </message>
+    <message>
+        <source>Upper left</source>
+        <translation>左上</translation>
+    </message>
+    <message>
+        <source>Lower right</source>
+        <translation>右下</translation>
+    </message>
+    <message>
+        <source>Lower left</source>
+        <translation>左下</translation>
+    </message>
+</context>
+<context>
+    <name>PipPbpPage</name>
+    <message>
+        <source>Picture in picture</source>
+        <translation>子母畫面</translation>
+    </message>
+    <message>
+        <source>Half and half</source>
+        <translation>各占一半</translation>
+    </message>
+    <message>
+        <source>Four windows</source>
+        <translation>四個視窗</translation>
+    </message>
+    <message>
+        <source>16 : 9 and 9 : 5</source>
+        <translation>16 : 9 和 9 : 5</translation>
+    </message>
+    <message>
+        <source>Two to one</source>
+        <translation>二比一</translation>
+    </message>
+    <message>
+        <source>Three to one</source>
+        <translation>三比一</translation>
+    </message>
+    <message>
+        <source>Audio Source</source>
+        <translation>音訊來源</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>Swap</source>
+        <translation>交換</translation>
+    </message>
+</context>
+<context>
+    <name>TwoWindows</name>
+    <message>
+        <source>Main:</source>
+        <translation>主：</translation>
+    </message>
+    <message>
+        <source>Sub:</source>
+        <translation>副：</translation>
+    </message>
+    <message>
+        <source>16 : 9</source>
+        <translation>16 : 9</translation>
+    </message>
+    <message>
+        <source>9 : 5</source>
+        <translation>9 : 5</translation>
+    </message>
+    <message>
+        <source>Left:</source>
+        <translation>左：</translation>
+    </message>
+    <message>
+        <source>Right:</source>
+        <translation>右：</translation>
     </message>
 </context>
 </TS>

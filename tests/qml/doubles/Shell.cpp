@@ -27,6 +27,8 @@ static void registerPackageTypes()
 static const QQmlModuleRegistration packageRegistration("TKPackage", registerPackageTypes);
 
 namespace {
+const QStringList UsualWidgets{u"LuVolumeWidget"_s, u"LuAutoPivotWidget"_s, u"LuPivotWidget"_s,
+                               u"LuAiContrastWidget"_s};
 QStringList logged;
 QtMessageHandler previous = nullptr;
 
@@ -53,7 +55,12 @@ QQuickItem* itemBelow(QQuickItem* item, const QString& name)
 }
 } // namespace
 
-Shell::Shell(const QList<FakeMonitor*>& monitors) : context(*LuContext::instance())
+Shell::Shell(const QList<FakeMonitor*>& monitors)
+    : Shell(QList<QObject*>(monitors.begin(), monitors.end()), UsualWidgets)
+{
+}
+
+Shell::Shell(const QList<QObject*>& monitors, const QStringList& widgets) : context(*LuContext::instance())
 {
     initResources();
     if (!previous)
@@ -68,16 +75,13 @@ Shell::Shell(const QList<FakeMonitor*>& monitors) : context(*LuContext::instance
     bridge = std::make_unique<LuWindowBridge>(&engine);
     context.setReducedMotion(true);
     context.setTheme(u"light"_s);
-    context.setWidgetUrlSource([](QObject*) { return widgetUrls(); });
+    context.setWidgetUrlSource([widgets](QObject*) { return widgetUrls(widgets); });
     QObject::connect(&context, &LuContext::currentMonitorChanged, &engine, [this] {
         const QList<QObject*> all = context.monitors();
         for (QObject* monitor : all)
             monitor->setProperty("isCurrentModel", monitor == context.currentMonitor());
     });
-    QList<QObject*> list;
-    for (FakeMonitor* monitor : monitors)
-        list << monitor;
-    context.setMonitors(list);
+    context.setMonitors(monitors);
     engine.load(lumenMainWindowUrl());
 }
 
@@ -123,8 +127,11 @@ QStringList Shell::takeWarnings()
 
 QList<QUrl> Shell::widgetUrls()
 {
-    const QStringList names{u"LuVolumeWidget"_s, u"LuAutoPivotWidget"_s, u"LuPivotWidget"_s,
-                            u"LuAiContrastWidget"_s};
+    return widgetUrls(UsualWidgets);
+}
+
+QList<QUrl> Shell::widgetUrls(const QStringList& names)
+{
     QList<QUrl> urls;
     for (const QString& name : names)
         urls << QUrl(u"qrc:///TKPackage/qml/TKPackage/Widgets/%1.qml"_s.arg(name));

@@ -17,6 +17,8 @@ class Shell
 public:
     /// @param monitors become the connected monitors; the first is current.
     explicit Shell(const QList<FakeMonitor*>& monitors);
+    /// The same with monitors of any kind and other widgets of the package, such as "LuVolumeWidget".
+    Shell(const QList<QObject*>& monitors, const QStringList& widgets);
     ~Shell();
 
     QQuickWindow* window() const;
@@ -28,6 +30,7 @@ public:
     static QStringList takeWarnings();
     /// Takes part of the widgets that the package lists.
     static QList<QUrl> widgetUrls();
+    static QList<QUrl> widgetUrls(const QStringList& names);
 
     LuContext& context;
 
