@@ -279,7 +279,7 @@
     <name>LuNightProtectionWidget</name>
     <message>
         <source>Night Hours Protection</source>
-        <translation>Nachtbescherming</translation>
+        <translation>Nacht­bescherming</translation>
     </message>
     <message>
         <source>The Auto Switch automatically activates or deactivates Night Hours Protection based on ambient light detection, ensuring effortless and consistent eye care.</source>

@@ -62,7 +62,7 @@
     <name>LuAutoPivotWidget</name>
     <message>
         <source>Auto Pivot</source>
-        <translation>Automatyczny obrót</translation>
+        <translation>Autoobrót</translation>
     </message>
     <message>
         <source>Screen pivot</source>

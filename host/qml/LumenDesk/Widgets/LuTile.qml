@@ -85,7 +85,7 @@ LuWidgetBase {
                 lineHeight: 1.1
                 horizontalAlignment: Text.AlignHCenter
                 wrapMode: Text.WordWrap
-                maximumLineCount: 2
+                maximumLineCount: 3
             }
         }
     }
