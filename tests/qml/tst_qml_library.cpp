@@ -23,6 +23,9 @@ private Q_SLOTS:
     void aSliderFallsBackWhenTheMonitorDoesNotFollow();
     void aSliderSettlesOnlyOnAnotherValue();
     void anUprightSliderTakesKeysAndGain();
+    void aKeyMovesASliderOfStopsByOne();
+    void aCombinationIsAButtonWithItsKeys();
+    void aRowsTitleOpensWhatARowHas();
     void aComboBoxFollowsTheMonitor();
     void aComboBoxFallsBackWhenTheMonitorDoesNotFollow();
     void aComboBoxShowsAndTakesTheTextsForPeople();
@@ -122,6 +125,36 @@ void TestLibrary::anUprightSliderTakesKeysAndGain()
     QCOMPARE(log(), QStringList{u"gain -1"_s});
     QVERIFY(bridge().setValue(u"1K"_s, -6).ok());
     QCOMPARE(bridge().setValue(u"1K"_s, 7).code, int(LuWindowBridge::WrongValue));
+}
+
+void TestLibrary::aKeyMovesASliderOfStopsByOne()
+{
+    QVERIFY(bridge().key(u"Resolution"_s, u"Right"_s).ok());
+    QVERIFY(bridge().key(u"Resolution"_s, u"Right"_s).ok());
+    QVERIFY(bridge().key(u"Resolution"_s, u"Left"_s).ok());
+    QCOMPARE(log(), (QStringList{u"stop 2.5"_s, u"stop 3.5"_s, u"stop 2.5"_s}));
+}
+
+void TestLibrary::aCombinationIsAButtonWithItsKeys()
+{
+    QVERIFY(bridge().press(u"Switch to HDMI"_s, u"button"_s).ok());
+    QCOMPARE(log(), QStringList{u"keys"_s});
+}
+
+void TestLibrary::aRowsTitleOpensWhatARowHas()
+{
+    bridge().show();
+    QQuickItem* title = item("rowTitle");
+    QVERIFY(title);
+    QCOMPARE(title->property("opens").toBool(), true);
+    QMetaObject::invokeMethod(title, "assistivePress");
+    QTRY_VERIFY(item("warningWindow"));
+    QVERIFY(bridge().press(u"OK"_s, u"button"_s).ok());
+    // Without a page and a warning it is a name and no button.
+    item("tile")->setProperty("colorModeAllowed", true);
+    QTRY_COMPARE(title->property("opens").toBool(), false);
+    QMetaObject::invokeMethod(title, "assistivePress");
+    QCOMPARE(log(), QStringList());
 }
 
 void TestLibrary::aComboBoxFollowsTheMonitor()

@@ -64,8 +64,8 @@ QStringList TestStates::interactive()
             u"help"_s,         u"imageButton"_s, u"switch"_s,   u"switchOn"_s, u"asking"_s,
             u"check"_s,        u"checkOn"_s,     u"radio"_s,    u"radioOn"_s,  u"imageRadio"_s,
             u"imageRadioOn"_s, u"layout"_s,      u"layoutOn"_s, u"swatch"_s,   u"swatchOn"_s,
-            u"combo"_s,        u"comboEmpty"_s,  u"field"_s,    u"time"_s,     u"slider"_s,
-            u"sliderUp"_s};
+            u"combo"_s,        u"comboEmpty"_s,  u"field"_s,    u"time"_s,     u"keys"_s,
+            u"slider"_s,       u"sliderUp"_s};
 }
 
 // With room for a focus ring.

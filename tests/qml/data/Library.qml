@@ -69,6 +69,25 @@ Window {
             confirmedValue: -2
             onMoved: window.note("gain " + value)
         }
+        LuSlider {
+            objectName: "stops"
+            width: 200
+            text: "Resolution"
+            to: 4
+            keyStep: 1
+            confirmedValue: 1.5
+            onMoved: window.note("stop " + value)
+        }
+        LuKeyRow {
+            text: "Switch to HDMI"
+            keys: ["Ctrl", "Alt", "H", " ! "]
+            onClicked: window.note("keys")
+        }
+        LuRowTitle {
+            objectName: "rowTitle"
+            widget: tile
+            iconName: "input"
+        }
         LuComboBox {
             id: combo
             objectName: "combo"

@@ -152,6 +152,8 @@ Window {
                 LuChip { text: "!"; kind: LuChip.Warning }
                 LuChip { text: "On"; kind: LuChip.Accent }
             }
+            LuKeyRow { objectName: "keys"; width: 140 * window.wide; text: "Switch to USB-C"; keys: ["Ctrl", "Alt", "U", " ! "]; onClicked: window.note("keys") }
+            LuKeyRow { objectName: "capturing"; width: 140 * window.wide; text: "Increase"; capturing: true; pending: "Ctrl+Alt" }
             LuProgressRing { }
             LuLevelBar { width: 120; level: 9; text: "Volume" }
             LuLabel { width: 200 * window.wide; kind: LuLabel.Notice; wrapMode: Text.WordWrap; text: "Temporarily disabled because of the input." }

@@ -19,6 +19,8 @@ T.Slider {
     property real origin: from
     // Milliseconds for each step while the monitor itself moves the value; 0 jumps.
     property int glideInterval: 0
+    // What a key or the wheel moves where there is no step; 0 means a tenth of the line.
+    property real keyStep: 0
     // The user's value is on its way.
     readonly property bool waiting: wait.running
     property real valueBefore: NaN
@@ -58,7 +60,7 @@ T.Slider {
     Accessible.onDecreaseAction: control.assistiveStep(-1)
 
     function step(): real {
-        return stepSize > 0 ? stepSize : (to - from) / 10
+        return keyStep > 0 ? keyStep : stepSize > 0 ? stepSize : (to - from) / 10
     }
 
     // Takes the monitor's value, unless the user's is on its way.
@@ -102,6 +104,18 @@ T.Slider {
         target: control
         property: "value"
     }
+    // The template knows its own step alone.
+    function stepByKey(by: int, event: var): void {
+        if (keyStep > 0)
+            assistiveStep(by)
+        else
+            event.accepted = false
+    }
+    Keys.onRightPressed: event => control.stepByKey(control.mirrored ? -1 : 1, event)
+    Keys.onLeftPressed: event => control.stepByKey(control.mirrored ? 1 : -1, event)
+    Keys.onUpPressed: event => control.stepByKey(1, event)
+    Keys.onDownPressed: event => control.stepByKey(-1, event)
+
     Timer {
         id: wait
         interval: 2500

@@ -68,63 +68,23 @@ LuWidget {
             width: parent.width
             height: Math.max(title.implicitHeight, LuStyle.controlHeight)
 
-            T.AbstractButton {
+            LuRowTitle {
                 id: title
-                objectName: "LuBrightnessWidget.button"
                 anchors.left: parent.left
                 anchors.leftMargin: -LuStyle.spaceHalf
                 anchors.verticalCenter: parent.verticalCenter
-                implicitWidth: Math.min(_head.implicitWidth + 2 * LuStyle.spaceHalf, parent.width - modes.width)
-                implicitHeight: LuStyle.controlHeight
-                enabled: _self.supported
-                hoverEnabled: enabled
-                focusPolicy: enabled ? Qt.StrongFocus : Qt.NoFocus
-                text: _self.text
-                onClicked: _self.trigger()
-                Accessible.role: enabled ? Accessible.Button : Accessible.StaticText
-                Accessible.name: text
-                Accessible.description: enabled ? qsTr("Color Mode / Brightness") : ""
-                Accessible.onPressAction: title.assistivePress()
-
-                // What a click does, for the return key, assistive software and scripts.
-                function assistivePress(): void {
-                    clicked()
-                }
-                Keys.onReturnPressed: title.assistivePress()
-                Keys.onEnterPressed: title.assistivePress()
-
-                background: Rectangle {
-                    radius: LuStyle.radiusSmall
-                    color: title.down ? LuStyle.press : title.hovered ? LuStyle.hover : "transparent"
-                    LuFocusRing {
-                        control: title
-                    }
-                }
-                contentItem: Item {
-                    Row {
-                        id: _head
-                        x: LuStyle.spaceHalf
-                        height: parent.height
-                        spacing: LuStyle.space
-                        LuIcon {
-                            anchors.verticalCenter: parent.verticalCenter
-                            name: "sun"
-                        }
-                        LuLabel {
-                            anchors.verticalCenter: parent.verticalCenter
-                            kind: LuLabel.Strong
-                            repeatsName: true
-                            text: _self.text
-                        }
-                    }
-                }
+                width: Math.min(implicitWidth, parent.width - modes.width)
+                widget: _self
+                iconName: "sun"
+                strong: true
+                description: qsTr("Color Mode / Brightness")
             }
             ColorModeChoice {
                 id: modes
                 objectName: "colorModeChoice"
                 anchors.right: parent.right
                 anchors.verticalCenter: parent.verticalCenter
-                width: Math.min(implicitWidth, parent.width - _head.implicitWidth - LuStyle.spaceLarge)
+                width: Math.min(implicitWidth, parent.width - title.implicitWidth - LuStyle.spaceLarge)
                 visible: _self.supported && count > 0
                 monitor: _self.monitor
             }

@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import QtQuick.Templates as T
+import LumenDesk.Style
+
+// A function with its key combination, each key a chip; a click changes the combination. While that is going on,
+// `pending` shows the keys pressed so far. A key of `warningKeys` is drawn as a warning.
+T.AbstractButton {
+    id: row
+
+    property var keys: []
+    property var warningKeys: ["!"]
+    property bool capturing: false
+    property string pending
+
+    implicitWidth: 140
+    implicitHeight: words.implicitHeight + chips.implicitHeight + LuStyle.spaceHalf + 2 * LuStyle.spaceHalf
+    focusPolicy: Qt.StrongFocus
+    hoverEnabled: true
+    opacity: LuStyle.dim(row)
+
+    Accessible.role: Accessible.Button
+    Accessible.name: text
+    Accessible.description: capturing ? pending : keys.join("+")
+    Accessible.onPressAction: row.assistivePress()
+
+    // What a click does, for the return key, assistive software and scripts.
+    function assistivePress(): void {
+        clicked()
+    }
+
+    background: Rectangle {
+        radius: LuStyle.radiusSmall
+        color: row.capturing ? LuStyle.accentSoft : row.down ? LuStyle.press : row.hovered ? LuStyle.hover : "transparent"
+        border.width: row.capturing || LuStyle.highContrast ? 1 : 0
+        border.color: row.capturing ? LuStyle.accentText : LuStyle.outline
+        LuFocusRing {
+            control: row
+            gap: -1
+        }
+    }
+    contentItem: Item {
+        LuLabel {
+            id: words
+            x: LuStyle.spaceHalf
+            y: LuStyle.spaceHalf
+            width: row.width - 2 * LuStyle.spaceHalf
+            repeatsName: true
+            kind: LuLabel.Caption
+            color: LuStyle.text
+            wrapMode: Text.WordWrap
+            text: row.text
+        }
+        Flow {
+            id: chips
+            x: LuStyle.spaceHalf
+            anchors.top: words.bottom
+            anchors.topMargin: LuStyle.spaceHalf
+            width: row.width - 2 * LuStyle.spaceHalf
+            spacing: LuStyle.spaceHalf
+            Repeater {
+                model: row.capturing ? [row.pending || "…"] : row.keys
+                LuChip {
+                    required property string modelData
+                    text: modelData.trim()
+                    kind: row.warningKeys.includes(modelData.trim()) ? LuChip.Warning : LuChip.Normal
+                }
+            }
+        }
+    }
+}
