@@ -236,13 +236,23 @@ void TestControls::textHasEnoughContrast_data()
         {"accentText", "raised", 4.5},
         {"accentInk", "accentFill", 4.5},
         {"accentInk", "cautionFill", 4.5},
+        {"textDim", "field", 4.5},
+        {"text", "fieldPress", 4.5},
         {"caution", "card", 4.5},
+        {"notice", "background", 4.5},
+        {"notice", "card", 4.5},
+        {"notice", "raised", 4.5},
+        {"warningInk", "warningFill", 4.5},
+        {"accentInk", "accentFillHover", 4.5},
+        {"accentInk", "cautionFillHover", 4.5},
         {"accentInk", "accent", 3.0},
         {"outline", "card", 3.0},
         {"outline", "background", 3.0},
         {"focus", "background", 3.0},
         {"focus", "card", 3.0},
         {"accent", "card", 3.0},
+        {"accentInk", "accentHover", 3.0},
+        {"accentText", "field", 4.5},
     };
     for (const auto& row : rows)
         QTest::addRow("%s on %s", row.text, row.surface)

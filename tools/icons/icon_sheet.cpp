@@ -83,7 +83,10 @@ void drawCell(QPainter& painter, const QRect& cell, const QByteArray& drawing, c
     if (natural == QSize(96, 96))
         painter.fillRect(QRect(centre - QPoint(34, 24), QSize(68, 43)), Accent);
     if (natural.width() > Grid) {
-        put(centre, natural.boundedTo({CellWidth - 6, 96}), false);
+        put(centre,
+            natural.width() > CellWidth - 6 ? natural.scaled(CellWidth - 6, 96, Qt::KeepAspectRatio)
+                                            : natural,
+            false);
         return;
     }
     painter.setPen(Qt::NoPen);

@@ -35,6 +35,8 @@ T.Slider {
     live: true
     snapMode: stepSize > 0 ? T.Slider.SnapAlways : T.Slider.NoSnap
     opacity: LuStyle.dim(control)
+    // Faded as one picture: the line does not show through the knob.
+    layer.enabled: opacity < 1
     onPressedChanged: {
         if (pressed) {
             valueBefore = value

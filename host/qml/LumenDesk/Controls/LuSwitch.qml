@@ -17,6 +17,7 @@ T.Switch {
     checked: confirmed ?? false
     hoverEnabled: true
     opacity: LuStyle.dim(control)
+    layer.enabled: opacity < 1
 
     Accessible.role: Accessible.CheckBox
     Accessible.name: text

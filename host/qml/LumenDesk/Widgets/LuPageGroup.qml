@@ -11,4 +11,6 @@ Column {
     width: parent ? parent.width : implicitWidth
     spacing: LuStyle.spaceWide
     opacity: enabled ? 1 : fadedOpacity
+    // Faded as one picture: what lies behind a knob does not show through it.
+    layer.enabled: opacity < 1
 }
