@@ -7,6 +7,9 @@ set(TKPACKAGE_QML_FILES
   Helpers/PackageStrings.qml
   Helpers/Walkthrough.qml
   Popups/qmldir
+  Popups/LuPopupBrightnessShortcut.qml
+  Popups/LuPopupColorModeAction.qml
+  Popups/LuPopupIccSyncHint.qml
   Popups/LuPopupLowBlueLightAction.qml
   Popups/LuPopupNightHoursProtectionAction.qml
   Settings/Advanced/qmldir
