@@ -21,7 +21,7 @@ test_packages=(
   mutter kwin-wayland libkf5screen-bin qtwayland5
   dbus python3-dbusmock pulseaudio pulseaudio-utils pipewire pipewire-pulse wireplumber
   xserver-xorg-core xserver-xorg-video-dummy xserver-xorg-dev x11-xserver-utils x11-xkb-utils x11-utils
-  libxcb-shape0-dev openbox xfwm4
+  libxcb-shape0-dev openbox xfwm4 xcompmgr
 )
 
 # To run the fuzzers.

@@ -47,6 +47,19 @@ void Windows::setJoinActiveSpaces(QQuickWindow* window, bool join)
     xcb_flush(*m_connection);
 }
 
+bool Windows::blends() const
+{
+    static const QByteArray name = QByteArrayLiteral("_NET_WM_CM_S0");
+    const Owned<xcb_intern_atom_reply_t> atom(xcb_intern_atom_reply(
+        *m_connection, xcb_intern_atom(*m_connection, 0, std::uint16_t(name.size()), name.constData()),
+        nullptr));
+    if (!atom)
+        return false;
+    const Owned<xcb_get_selection_owner_reply_t> owner(xcb_get_selection_owner_reply(
+        *m_connection, xcb_get_selection_owner(*m_connection, atom->atom), nullptr));
+    return owner && owner->owner != XCB_WINDOW_NONE;
+}
+
 bool Windows::eventFilter(QObject* object, QEvent* event)
 {
     if (auto* window = qobject_cast<QQuickWindow*>(object)) {

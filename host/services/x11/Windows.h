@@ -20,6 +20,8 @@ public:
 
     void setLayer(QQuickWindow* window, int layer) override;
     void setJoinActiveSpaces(QQuickWindow* window, bool join) override;
+    /// A compositing manager owns the selection of the screen. Asked anew each time: it may come and go.
+    bool blends() const override;
 
     /// A window gets its marks anew each time that it is shown: the window manager takes them off a window
     /// that is hidden.
