@@ -542,4 +542,318 @@
         <translation>Vpravo:</translation>
     </message>
 </context>
+<context>
+    <name>LuBrightnessWidget</name>
+    <message>
+        <source>Brightness</source>
+        <translation>Jas</translation>
+    </message>
+    <message>
+        <source>Color Mode / Brightness</source>
+        <translation>Barevný režim / Jas</translation>
+    </message>
+</context>
+<context>
+    <name>BrightnessPage</name>
+    <message>
+        <source>Color Mode / Brightness</source>
+        <translation>Barevný režim / Jas</translation>
+    </message>
+    <message>
+        <source>Color Mode</source>
+        <translation>Barevný režim</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Jas</translation>
+    </message>
+    <message>
+        <source>Software Dimming</source>
+        <translation>Softwarové ztlumení</translation>
+    </message>
+    <message>
+        <source>Darkens the picture below the lowest brightness of the monitor. Ambient brightness functions switch it off for as long as they run.</source>
+        <translation>Ztmaví obraz pod nejnižší jas monitoru. Funkce podle okolního světla ji po dobu svého běhu vypínají.</translation>
+    </message>
+    <message>
+        <source>Brightness Sync</source>
+        <translation>Synchronizace jasu</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Kontrast</translation>
+    </message>
+    <message>
+        <source>Sharpness</source>
+        <translation>Ostrost</translation>
+    </message>
+    <message>
+        <source>Hue</source>
+        <translation>Odstín</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Sytost</translation>
+    </message>
+    <message>
+        <source>Gamma</source>
+        <translation>Gama</translation>
+    </message>
+    <message>
+        <source>Color Gamut</source>
+        <translation>Barevný prostor</translation>
+    </message>
+    <message>
+        <source>Uniformity</source>
+        <translation>Rovnoměrnost</translation>
+    </message>
+    <message>
+        <source>Reset Color</source>
+        <translation>Obnovit barvy</translation>
+    </message>
+</context>
+<context>
+    <name>BrightnessSliders</name>
+    <message>
+        <source>Software Dimming</source>
+        <translation>Softwarové ztlumení</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Jas</translation>
+    </message>
+</context>
+<context>
+    <name>ColorModeChoice</name>
+    <message>
+        <source>Color Mode</source>
+        <translation>Barevný režim</translation>
+    </message>
+</context>
+<context>
+    <name>ColorTemperatureControls</name>
+    <message>
+        <source>Color Temperature</source>
+        <translation>Teplota barev</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Červená</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Zelená</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Modrá</translation>
+    </message>
+</context>
+<context>
+    <name>AxisControls</name>
+    <message>
+        <source>Red</source>
+        <translation>Červená</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Žlutá</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Zelená</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>Azurová</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Modrá</translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation>Purpurová</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ModeBundleHint</name>
+    <message>
+        <source>Brightness</source>
+        <translation>Jas</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Kontrast</translation>
+    </message>
+    <message>
+        <source>Sharpness</source>
+        <translation>Ostrost</translation>
+    </message>
+    <message>
+        <source>Color Temperature</source>
+        <translation>Teplota barev</translation>
+    </message>
+    <message>
+        <source>Hue</source>
+        <translation>Odstín</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Sytost</translation>
+    </message>
+    <message>
+        <source>Gamma</source>
+        <translation>Gama</translation>
+    </message>
+    <message>
+        <source>Color Gamut</source>
+        <translation>Barevný prostor</translation>
+    </message>
+    <message>
+        <source>Uniformity</source>
+        <translation>Rovnoměrnost</translation>
+    </message>
+    <message>
+        <source>Low Blue Light</source>
+        <translation>Redukce modrého světla</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Ochrana v noci</translation>
+    </message>
+    <message>
+        <source>Ambient brightness</source>
+        <translation>Jas podle okolí</translation>
+    </message>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Bundling of Color Mode</source>
+        <translation>Vázáno na barevný režim</translation>
+    </message>
+    <message>
+        <source>Stored for each color mode: %1.</source>
+        <translation>Ukládá se pro každý barevný režim: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>LuBuiltInBrightnessWidget</name>
+    <message>
+        <source>Built-in brightness</source>
+        <translation>Jas vestavěného displeje</translation>
+    </message>
+</context>
+<context>
+    <name>LuColorWeaknessWidget</name>
+    <message>
+        <source>Color Weakness</source>
+        <translation>Porucha barvocitu</translation>
+    </message>
+    <message>
+        <source>Red: %1</source>
+        <translation>Červená: %1</translation>
+    </message>
+    <message>
+        <source>Green: %1</source>
+        <translation>Zelená: %1</translation>
+    </message>
+</context>
+<context>
+    <name>LuHDRWidget</name>
+    <message>
+        <source>HDR</source>
+        <translation>HDR</translation>
+    </message>
+    <message>
+        <source>Due to macOS scaling settings, HDR is temporarily unavailable. Please try turning off HiDPI or lowering the resolution.</source>
+        <translation>HDR je kvůli nastavení měřítka macOS dočasně nedostupné. Zkuste vypnout HiDPI nebo snížit rozlišení.</translation>
+    </message>
+    <message>
+        <source>This monitor has no HDR mode to switch to.</source>
+        <translation>Tento monitor nemá režim HDR, na který by šlo přepnout.</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupColorModeAction</name>
+    <message>
+        <source>Color Mode</source>
+        <translation>Barevný režim</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Jas</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupBrightnessShortcut</name>
+    <message>
+        <source>Brightness</source>
+        <translation>Jas</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupIccSyncHint</name>
+    <message>
+        <source>Color Sync</source>
+        <translation>Synchronizace barev</translation>
+    </message>
+    <message>
+        <source>The color profile of the desktop now follows the color mode of this monitor.</source>
+        <translation>Barevný profil plochy se nyní řídí barevným režimem tohoto monitoru.</translation>
+    </message>
+</context>
+<context>
+    <name>PackageStrings</name>
+    <message>
+        <source>Coding - Light Theme</source>
+        <translation>Kódování – světlý motiv</translation>
+    </message>
+    <message>
+        <source>Coding - Dark Theme</source>
+        <translation>Kódování – tmavý motiv</translation>
+    </message>
+    <message>
+        <source>Coding - Paper Color</source>
+        <translation>Kódování – barva papíru</translation>
+    </message>
+    <message>
+        <source>M-book</source>
+        <translation>M-book</translation>
+    </message>
+    <message>
+        <source>Cinema</source>
+        <translation>Kino</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>Hra</translation>
+    </message>
+    <message>
+        <source>ePaper</source>
+        <translation>ePaper</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Uživatel</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normální</translation>
+    </message>
+    <message>
+        <source>Bluish</source>
+        <translation>Namodralá</translation>
+    </message>
+    <message>
+        <source>Reddish</source>
+        <translation>Načervenalá</translation>
+    </message>
+</context>
 </TS>

@@ -542,4 +542,318 @@
         <translation>Rechts:</translation>
     </message>
 </context>
+<context>
+    <name>LuBrightnessWidget</name>
+    <message>
+        <source>Brightness</source>
+        <translation>Helligkeit</translation>
+    </message>
+    <message>
+        <source>Color Mode / Brightness</source>
+        <translation>Farbmodus / Helligkeit</translation>
+    </message>
+</context>
+<context>
+    <name>BrightnessPage</name>
+    <message>
+        <source>Color Mode / Brightness</source>
+        <translation>Farbmodus / Helligkeit</translation>
+    </message>
+    <message>
+        <source>Color Mode</source>
+        <translation>Farbmodus</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Helligkeit</translation>
+    </message>
+    <message>
+        <source>Software Dimming</source>
+        <translation>Software-Dimmung</translation>
+    </message>
+    <message>
+        <source>Darkens the picture below the lowest brightness of the monitor. Ambient brightness functions switch it off for as long as they run.</source>
+        <translation>Verdunkelt das Bild unter die geringste Helligkeit des Monitors. Umgebungslicht-Funktionen schalten sie aus, solange sie laufen.</translation>
+    </message>
+    <message>
+        <source>Brightness Sync</source>
+        <translation>Helligkeit koppeln</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Kontrast</translation>
+    </message>
+    <message>
+        <source>Sharpness</source>
+        <translation>Schärfe</translation>
+    </message>
+    <message>
+        <source>Hue</source>
+        <translation>Farbton</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Sättigung</translation>
+    </message>
+    <message>
+        <source>Gamma</source>
+        <translation>Gamma</translation>
+    </message>
+    <message>
+        <source>Color Gamut</source>
+        <translation>Farbraum</translation>
+    </message>
+    <message>
+        <source>Uniformity</source>
+        <translation>Gleichmäßigkeit</translation>
+    </message>
+    <message>
+        <source>Reset Color</source>
+        <translation>Farben zurücksetzen</translation>
+    </message>
+</context>
+<context>
+    <name>BrightnessSliders</name>
+    <message>
+        <source>Software Dimming</source>
+        <translation>Software-Dimmung</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Helligkeit</translation>
+    </message>
+</context>
+<context>
+    <name>ColorModeChoice</name>
+    <message>
+        <source>Color Mode</source>
+        <translation>Farbmodus</translation>
+    </message>
+</context>
+<context>
+    <name>ColorTemperatureControls</name>
+    <message>
+        <source>Color Temperature</source>
+        <translation>Farbtemperatur</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Rot</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Grün</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Blau</translation>
+    </message>
+</context>
+<context>
+    <name>AxisControls</name>
+    <message>
+        <source>Red</source>
+        <translation>Rot</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Gelb</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Grün</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>Cyan</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Blau</translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ModeBundleHint</name>
+    <message>
+        <source>Brightness</source>
+        <translation>Helligkeit</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Kontrast</translation>
+    </message>
+    <message>
+        <source>Sharpness</source>
+        <translation>Schärfe</translation>
+    </message>
+    <message>
+        <source>Color Temperature</source>
+        <translation>Farbtemperatur</translation>
+    </message>
+    <message>
+        <source>Hue</source>
+        <translation>Farbton</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Sättigung</translation>
+    </message>
+    <message>
+        <source>Gamma</source>
+        <translation>Gamma</translation>
+    </message>
+    <message>
+        <source>Color Gamut</source>
+        <translation>Farbraum</translation>
+    </message>
+    <message>
+        <source>Uniformity</source>
+        <translation>Gleichmäßigkeit</translation>
+    </message>
+    <message>
+        <source>Low Blue Light</source>
+        <translation>Blaulichtfilter</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Nachtschutz</translation>
+    </message>
+    <message>
+        <source>Ambient brightness</source>
+        <translation>Umgebungslicht</translation>
+    </message>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Bundling of Color Mode</source>
+        <translation>An den Farbmodus gebunden</translation>
+    </message>
+    <message>
+        <source>Stored for each color mode: %1.</source>
+        <translation>Je Farbmodus gespeichert: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>LuBuiltInBrightnessWidget</name>
+    <message>
+        <source>Built-in brightness</source>
+        <translation>Interne Helligkeit</translation>
+    </message>
+</context>
+<context>
+    <name>LuColorWeaknessWidget</name>
+    <message>
+        <source>Color Weakness</source>
+        <translation>Farbschwäche</translation>
+    </message>
+    <message>
+        <source>Red: %1</source>
+        <translation>Rot: %1</translation>
+    </message>
+    <message>
+        <source>Green: %1</source>
+        <translation>Grün: %1</translation>
+    </message>
+</context>
+<context>
+    <name>LuHDRWidget</name>
+    <message>
+        <source>HDR</source>
+        <translation>HDR</translation>
+    </message>
+    <message>
+        <source>Due to macOS scaling settings, HDR is temporarily unavailable. Please try turning off HiDPI or lowering the resolution.</source>
+        <translation>Wegen der Skalierung in macOS ist HDR vorübergehend nicht verfügbar. Schalten Sie HiDPI aus oder wählen Sie eine geringere Auflösung.</translation>
+    </message>
+    <message>
+        <source>This monitor has no HDR mode to switch to.</source>
+        <translation>Dieser Monitor hat keinen HDR-Modus.</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupColorModeAction</name>
+    <message>
+        <source>Color Mode</source>
+        <translation>Farbmodus</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Helligkeit</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupBrightnessShortcut</name>
+    <message>
+        <source>Brightness</source>
+        <translation>Helligkeit</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupIccSyncHint</name>
+    <message>
+        <source>Color Sync</source>
+        <translation>Farbabgleich</translation>
+    </message>
+    <message>
+        <source>The color profile of the desktop now follows the color mode of this monitor.</source>
+        <translation>Das Farbprofil des Desktops folgt jetzt dem Farbmodus dieses Monitors.</translation>
+    </message>
+</context>
+<context>
+    <name>PackageStrings</name>
+    <message>
+        <source>Coding - Light Theme</source>
+        <translation>Programmieren – Hell</translation>
+    </message>
+    <message>
+        <source>Coding - Dark Theme</source>
+        <translation>Programmieren – Dunkel</translation>
+    </message>
+    <message>
+        <source>Coding - Paper Color</source>
+        <translation>Programmieren – Papier</translation>
+    </message>
+    <message>
+        <source>M-book</source>
+        <translation>M-book</translation>
+    </message>
+    <message>
+        <source>Cinema</source>
+        <translation>Kino</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>Spiel</translation>
+    </message>
+    <message>
+        <source>ePaper</source>
+        <translation>ePaper</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Benutzer</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>Bluish</source>
+        <translation>Bläulich</translation>
+    </message>
+    <message>
+        <source>Reddish</source>
+        <translation>Rötlich</translation>
+    </message>
+</context>
 </TS>

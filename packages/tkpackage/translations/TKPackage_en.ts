@@ -542,4 +542,318 @@
         <translation>Right:</translation>
     </message>
 </context>
+<context>
+    <name>LuBrightnessWidget</name>
+    <message>
+        <source>Brightness</source>
+        <translation>Brightness</translation>
+    </message>
+    <message>
+        <source>Color Mode / Brightness</source>
+        <translation>Color Mode / Brightness</translation>
+    </message>
+</context>
+<context>
+    <name>BrightnessPage</name>
+    <message>
+        <source>Color Mode / Brightness</source>
+        <translation>Color Mode / Brightness</translation>
+    </message>
+    <message>
+        <source>Color Mode</source>
+        <translation>Color Mode</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Brightness</translation>
+    </message>
+    <message>
+        <source>Software Dimming</source>
+        <translation>Software Dimming</translation>
+    </message>
+    <message>
+        <source>Darkens the picture below the lowest brightness of the monitor. Ambient brightness functions switch it off for as long as they run.</source>
+        <translation>Darkens the picture below the lowest brightness of the monitor. Ambient brightness functions switch it off for as long as they run.</translation>
+    </message>
+    <message>
+        <source>Brightness Sync</source>
+        <translation>Brightness Sync</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contrast</translation>
+    </message>
+    <message>
+        <source>Sharpness</source>
+        <translation>Sharpness</translation>
+    </message>
+    <message>
+        <source>Hue</source>
+        <translation>Hue</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Saturation</translation>
+    </message>
+    <message>
+        <source>Gamma</source>
+        <translation>Gamma</translation>
+    </message>
+    <message>
+        <source>Color Gamut</source>
+        <translation>Color Gamut</translation>
+    </message>
+    <message>
+        <source>Uniformity</source>
+        <translation>Uniformity</translation>
+    </message>
+    <message>
+        <source>Reset Color</source>
+        <translation>Reset Color</translation>
+    </message>
+</context>
+<context>
+    <name>BrightnessSliders</name>
+    <message>
+        <source>Software Dimming</source>
+        <translation>Software Dimming</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Brightness</translation>
+    </message>
+</context>
+<context>
+    <name>ColorModeChoice</name>
+    <message>
+        <source>Color Mode</source>
+        <translation>Color Mode</translation>
+    </message>
+</context>
+<context>
+    <name>ColorTemperatureControls</name>
+    <message>
+        <source>Color Temperature</source>
+        <translation>Color Temperature</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Red</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Green</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Blue</translation>
+    </message>
+</context>
+<context>
+    <name>AxisControls</name>
+    <message>
+        <source>Red</source>
+        <translation>Red</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Yellow</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Green</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>Cyan</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Blue</translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ModeBundleHint</name>
+    <message>
+        <source>Brightness</source>
+        <translation>Brightness</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contrast</translation>
+    </message>
+    <message>
+        <source>Sharpness</source>
+        <translation>Sharpness</translation>
+    </message>
+    <message>
+        <source>Color Temperature</source>
+        <translation>Color Temperature</translation>
+    </message>
+    <message>
+        <source>Hue</source>
+        <translation>Hue</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Saturation</translation>
+    </message>
+    <message>
+        <source>Gamma</source>
+        <translation>Gamma</translation>
+    </message>
+    <message>
+        <source>Color Gamut</source>
+        <translation>Color Gamut</translation>
+    </message>
+    <message>
+        <source>Uniformity</source>
+        <translation>Uniformity</translation>
+    </message>
+    <message>
+        <source>Low Blue Light</source>
+        <translation>Low Blue Light</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Night Hours Protection</translation>
+    </message>
+    <message>
+        <source>Ambient brightness</source>
+        <translation>Ambient brightness</translation>
+    </message>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Bundling of Color Mode</source>
+        <translation>Bundling of Color Mode</translation>
+    </message>
+    <message>
+        <source>Stored for each color mode: %1.</source>
+        <translation>Stored for each color mode: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>LuBuiltInBrightnessWidget</name>
+    <message>
+        <source>Built-in brightness</source>
+        <translation>Built-in brightness</translation>
+    </message>
+</context>
+<context>
+    <name>LuColorWeaknessWidget</name>
+    <message>
+        <source>Color Weakness</source>
+        <translation>Color Weakness</translation>
+    </message>
+    <message>
+        <source>Red: %1</source>
+        <translation>Red: %1</translation>
+    </message>
+    <message>
+        <source>Green: %1</source>
+        <translation>Green: %1</translation>
+    </message>
+</context>
+<context>
+    <name>LuHDRWidget</name>
+    <message>
+        <source>HDR</source>
+        <translation>HDR</translation>
+    </message>
+    <message>
+        <source>Due to macOS scaling settings, HDR is temporarily unavailable. Please try turning off HiDPI or lowering the resolution.</source>
+        <translation>Due to macOS scaling settings, HDR is temporarily unavailable. Please try turning off HiDPI or lowering the resolution.</translation>
+    </message>
+    <message>
+        <source>This monitor has no HDR mode to switch to.</source>
+        <translation>This monitor has no HDR mode to switch to.</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupColorModeAction</name>
+    <message>
+        <source>Color Mode</source>
+        <translation>Color Mode</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Brightness</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupBrightnessShortcut</name>
+    <message>
+        <source>Brightness</source>
+        <translation>Brightness</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupIccSyncHint</name>
+    <message>
+        <source>Color Sync</source>
+        <translation>Color Sync</translation>
+    </message>
+    <message>
+        <source>The color profile of the desktop now follows the color mode of this monitor.</source>
+        <translation>The color profile of the desktop now follows the color mode of this monitor.</translation>
+    </message>
+</context>
+<context>
+    <name>PackageStrings</name>
+    <message>
+        <source>Coding - Light Theme</source>
+        <translation>Coding - Light Theme</translation>
+    </message>
+    <message>
+        <source>Coding - Dark Theme</source>
+        <translation>Coding - Dark Theme</translation>
+    </message>
+    <message>
+        <source>Coding - Paper Color</source>
+        <translation>Coding - Paper Color</translation>
+    </message>
+    <message>
+        <source>M-book</source>
+        <translation>M-book</translation>
+    </message>
+    <message>
+        <source>Cinema</source>
+        <translation>Cinema</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>Game</translation>
+    </message>
+    <message>
+        <source>ePaper</source>
+        <translation>ePaper</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>User</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>Bluish</source>
+        <translation>Bluish</translation>
+    </message>
+    <message>
+        <source>Reddish</source>
+        <translation>Reddish</translation>
+    </message>
+</context>
 </TS>

@@ -542,4 +542,318 @@
         <translation>Derecha:</translation>
     </message>
 </context>
+<context>
+    <name>LuBrightnessWidget</name>
+    <message>
+        <source>Brightness</source>
+        <translation>Brillo</translation>
+    </message>
+    <message>
+        <source>Color Mode / Brightness</source>
+        <translation>Modo de color / Brillo</translation>
+    </message>
+</context>
+<context>
+    <name>BrightnessPage</name>
+    <message>
+        <source>Color Mode / Brightness</source>
+        <translation>Modo de color / Brillo</translation>
+    </message>
+    <message>
+        <source>Color Mode</source>
+        <translation>Modo de color</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Brillo</translation>
+    </message>
+    <message>
+        <source>Software Dimming</source>
+        <translation>Atenuación por software</translation>
+    </message>
+    <message>
+        <source>Darkens the picture below the lowest brightness of the monitor. Ambient brightness functions switch it off for as long as they run.</source>
+        <translation>Oscurece la imagen por debajo del brillo mínimo del monitor. Las funciones de luz ambiental la desactivan mientras funcionan.</translation>
+    </message>
+    <message>
+        <source>Brightness Sync</source>
+        <translation>Sincronizar brillo</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contraste</translation>
+    </message>
+    <message>
+        <source>Sharpness</source>
+        <translation>Nitidez</translation>
+    </message>
+    <message>
+        <source>Hue</source>
+        <translation>Tono</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Saturación</translation>
+    </message>
+    <message>
+        <source>Gamma</source>
+        <translation>Gamma</translation>
+    </message>
+    <message>
+        <source>Color Gamut</source>
+        <translation>Gama de colores</translation>
+    </message>
+    <message>
+        <source>Uniformity</source>
+        <translation>Uniformidad</translation>
+    </message>
+    <message>
+        <source>Reset Color</source>
+        <translation>Restablecer color</translation>
+    </message>
+</context>
+<context>
+    <name>BrightnessSliders</name>
+    <message>
+        <source>Software Dimming</source>
+        <translation>Atenuación por software</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Brillo</translation>
+    </message>
+</context>
+<context>
+    <name>ColorModeChoice</name>
+    <message>
+        <source>Color Mode</source>
+        <translation>Modo de color</translation>
+    </message>
+</context>
+<context>
+    <name>ColorTemperatureControls</name>
+    <message>
+        <source>Color Temperature</source>
+        <translation>Temperatura de color</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Rojo</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Verde</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Azul</translation>
+    </message>
+</context>
+<context>
+    <name>AxisControls</name>
+    <message>
+        <source>Red</source>
+        <translation>Rojo</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Amarillo</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Verde</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>Cian</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Azul</translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ModeBundleHint</name>
+    <message>
+        <source>Brightness</source>
+        <translation>Brillo</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contraste</translation>
+    </message>
+    <message>
+        <source>Sharpness</source>
+        <translation>Nitidez</translation>
+    </message>
+    <message>
+        <source>Color Temperature</source>
+        <translation>Temperatura de color</translation>
+    </message>
+    <message>
+        <source>Hue</source>
+        <translation>Tono</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Saturación</translation>
+    </message>
+    <message>
+        <source>Gamma</source>
+        <translation>Gamma</translation>
+    </message>
+    <message>
+        <source>Color Gamut</source>
+        <translation>Gama de colores</translation>
+    </message>
+    <message>
+        <source>Uniformity</source>
+        <translation>Uniformidad</translation>
+    </message>
+    <message>
+        <source>Low Blue Light</source>
+        <translation>Luz azul reducida</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Protección nocturna</translation>
+    </message>
+    <message>
+        <source>Ambient brightness</source>
+        <translation>Brillo ambiental</translation>
+    </message>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Bundling of Color Mode</source>
+        <translation>Vinculado al modo de color</translation>
+    </message>
+    <message>
+        <source>Stored for each color mode: %1.</source>
+        <translation>Se guarda para cada modo de color: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>LuBuiltInBrightnessWidget</name>
+    <message>
+        <source>Built-in brightness</source>
+        <translation>Brillo integrado</translation>
+    </message>
+</context>
+<context>
+    <name>LuColorWeaknessWidget</name>
+    <message>
+        <source>Color Weakness</source>
+        <translation>Daltonismo</translation>
+    </message>
+    <message>
+        <source>Red: %1</source>
+        <translation>Rojo: %1</translation>
+    </message>
+    <message>
+        <source>Green: %1</source>
+        <translation>Verde: %1</translation>
+    </message>
+</context>
+<context>
+    <name>LuHDRWidget</name>
+    <message>
+        <source>HDR</source>
+        <translation>HDR</translation>
+    </message>
+    <message>
+        <source>Due to macOS scaling settings, HDR is temporarily unavailable. Please try turning off HiDPI or lowering the resolution.</source>
+        <translation>Debido a la escala de macOS, HDR no está disponible temporalmente. Desactive HiDPI o reduzca la resolución.</translation>
+    </message>
+    <message>
+        <source>This monitor has no HDR mode to switch to.</source>
+        <translation>Este monitor no tiene un modo HDR.</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupColorModeAction</name>
+    <message>
+        <source>Color Mode</source>
+        <translation>Modo de color</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Brillo</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupBrightnessShortcut</name>
+    <message>
+        <source>Brightness</source>
+        <translation>Brillo</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupIccSyncHint</name>
+    <message>
+        <source>Color Sync</source>
+        <translation>Sincronización de color</translation>
+    </message>
+    <message>
+        <source>The color profile of the desktop now follows the color mode of this monitor.</source>
+        <translation>El perfil de color del escritorio sigue ahora el modo de color de este monitor.</translation>
+    </message>
+</context>
+<context>
+    <name>PackageStrings</name>
+    <message>
+        <source>Coding - Light Theme</source>
+        <translation>Código - Tema claro</translation>
+    </message>
+    <message>
+        <source>Coding - Dark Theme</source>
+        <translation>Código - Tema oscuro</translation>
+    </message>
+    <message>
+        <source>Coding - Paper Color</source>
+        <translation>Código - Color papel</translation>
+    </message>
+    <message>
+        <source>M-book</source>
+        <translation>M-book</translation>
+    </message>
+    <message>
+        <source>Cinema</source>
+        <translation>Cine</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>Juego</translation>
+    </message>
+    <message>
+        <source>ePaper</source>
+        <translation>ePaper</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Usuario</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>Bluish</source>
+        <translation>Azulado</translation>
+    </message>
+    <message>
+        <source>Reddish</source>
+        <translation>Rojizo</translation>
+    </message>
+</context>
 </TS>

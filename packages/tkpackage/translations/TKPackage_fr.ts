@@ -542,4 +542,318 @@
         <translation>Droite :</translation>
     </message>
 </context>
+<context>
+    <name>LuBrightnessWidget</name>
+    <message>
+        <source>Brightness</source>
+        <translation>Luminosité</translation>
+    </message>
+    <message>
+        <source>Color Mode / Brightness</source>
+        <translation>Mode couleur / Luminosité</translation>
+    </message>
+</context>
+<context>
+    <name>BrightnessPage</name>
+    <message>
+        <source>Color Mode / Brightness</source>
+        <translation>Mode couleur / Luminosité</translation>
+    </message>
+    <message>
+        <source>Color Mode</source>
+        <translation>Mode couleur</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Luminosité</translation>
+    </message>
+    <message>
+        <source>Software Dimming</source>
+        <translation>Atténuation logicielle</translation>
+    </message>
+    <message>
+        <source>Darkens the picture below the lowest brightness of the monitor. Ambient brightness functions switch it off for as long as they run.</source>
+        <translation>Assombrit l’image en dessous de la luminosité minimale du moniteur. Les fonctions de lumière ambiante la désactivent tant qu’elles sont actives.</translation>
+    </message>
+    <message>
+        <source>Brightness Sync</source>
+        <translation>Synchro luminosité</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contraste</translation>
+    </message>
+    <message>
+        <source>Sharpness</source>
+        <translation>Netteté</translation>
+    </message>
+    <message>
+        <source>Hue</source>
+        <translation>Teinte</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Saturation</translation>
+    </message>
+    <message>
+        <source>Gamma</source>
+        <translation>Gamma</translation>
+    </message>
+    <message>
+        <source>Color Gamut</source>
+        <translation>Gamme de couleurs</translation>
+    </message>
+    <message>
+        <source>Uniformity</source>
+        <translation>Uniformité</translation>
+    </message>
+    <message>
+        <source>Reset Color</source>
+        <translation>Réinitialiser couleurs</translation>
+    </message>
+</context>
+<context>
+    <name>BrightnessSliders</name>
+    <message>
+        <source>Software Dimming</source>
+        <translation>Atténuation logicielle</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Luminosité</translation>
+    </message>
+</context>
+<context>
+    <name>ColorModeChoice</name>
+    <message>
+        <source>Color Mode</source>
+        <translation>Mode couleur</translation>
+    </message>
+</context>
+<context>
+    <name>ColorTemperatureControls</name>
+    <message>
+        <source>Color Temperature</source>
+        <translation>Température de couleur</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Rouge</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Vert</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Bleu</translation>
+    </message>
+</context>
+<context>
+    <name>AxisControls</name>
+    <message>
+        <source>Red</source>
+        <translation>Rouge</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Jaune</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Vert</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>Cyan</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Bleu</translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+</context>
+<context>
+    <name>ModeBundleHint</name>
+    <message>
+        <source>Brightness</source>
+        <translation>Luminosité</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contraste</translation>
+    </message>
+    <message>
+        <source>Sharpness</source>
+        <translation>Netteté</translation>
+    </message>
+    <message>
+        <source>Color Temperature</source>
+        <translation>Température de couleur</translation>
+    </message>
+    <message>
+        <source>Hue</source>
+        <translation>Teinte</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Saturation</translation>
+    </message>
+    <message>
+        <source>Gamma</source>
+        <translation>Gamma</translation>
+    </message>
+    <message>
+        <source>Color Gamut</source>
+        <translation>Gamme de couleurs</translation>
+    </message>
+    <message>
+        <source>Uniformity</source>
+        <translation>Uniformité</translation>
+    </message>
+    <message>
+        <source>Low Blue Light</source>
+        <translation>Lumière bleue réduite</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Protection nocturne</translation>
+    </message>
+    <message>
+        <source>Ambient brightness</source>
+        <translation>Lumière ambiante</translation>
+    </message>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Bundling of Color Mode</source>
+        <translation>Lié au mode couleur</translation>
+    </message>
+    <message>
+        <source>Stored for each color mode: %1.</source>
+        <translation>Enregistré pour chaque mode couleur : %1.</translation>
+    </message>
+</context>
+<context>
+    <name>LuBuiltInBrightnessWidget</name>
+    <message>
+        <source>Built-in brightness</source>
+        <translation>Luminosité intégrée</translation>
+    </message>
+</context>
+<context>
+    <name>LuColorWeaknessWidget</name>
+    <message>
+        <source>Color Weakness</source>
+        <translation>Daltonisme</translation>
+    </message>
+    <message>
+        <source>Red: %1</source>
+        <translation>Rouge : %1</translation>
+    </message>
+    <message>
+        <source>Green: %1</source>
+        <translation>Vert : %1</translation>
+    </message>
+</context>
+<context>
+    <name>LuHDRWidget</name>
+    <message>
+        <source>HDR</source>
+        <translation>HDR</translation>
+    </message>
+    <message>
+        <source>Due to macOS scaling settings, HDR is temporarily unavailable. Please try turning off HiDPI or lowering the resolution.</source>
+        <translation>En raison de la mise à l’échelle de macOS, le HDR est temporairement indisponible. Désactivez HiDPI ou réduisez la résolution.</translation>
+    </message>
+    <message>
+        <source>This monitor has no HDR mode to switch to.</source>
+        <translation>Ce moniteur n’a pas de mode HDR.</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupColorModeAction</name>
+    <message>
+        <source>Color Mode</source>
+        <translation>Mode couleur</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Luminosité</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupBrightnessShortcut</name>
+    <message>
+        <source>Brightness</source>
+        <translation>Luminosité</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupIccSyncHint</name>
+    <message>
+        <source>Color Sync</source>
+        <translation>Synchro des couleurs</translation>
+    </message>
+    <message>
+        <source>The color profile of the desktop now follows the color mode of this monitor.</source>
+        <translation>Le profil de couleur du bureau suit désormais le mode couleur de ce moniteur.</translation>
+    </message>
+</context>
+<context>
+    <name>PackageStrings</name>
+    <message>
+        <source>Coding - Light Theme</source>
+        <translation>Code - Thème clair</translation>
+    </message>
+    <message>
+        <source>Coding - Dark Theme</source>
+        <translation>Code - Thème sombre</translation>
+    </message>
+    <message>
+        <source>Coding - Paper Color</source>
+        <translation>Code - Couleur papier</translation>
+    </message>
+    <message>
+        <source>M-book</source>
+        <translation>M-book</translation>
+    </message>
+    <message>
+        <source>Cinema</source>
+        <translation>Cinéma</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>Jeu</translation>
+    </message>
+    <message>
+        <source>ePaper</source>
+        <translation>ePaper</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Utilisateur</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>Bluish</source>
+        <translation>Bleuté</translation>
+    </message>
+    <message>
+        <source>Reddish</source>
+        <translation>Rougeâtre</translation>
+    </message>
+</context>
 </TS>

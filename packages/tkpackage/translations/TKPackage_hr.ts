@@ -542,4 +542,318 @@
         <translation>Desno:</translation>
     </message>
 </context>
+<context>
+    <name>LuBrightnessWidget</name>
+    <message>
+        <source>Brightness</source>
+        <translation>Svjetlina</translation>
+    </message>
+    <message>
+        <source>Color Mode / Brightness</source>
+        <translation>Način boje / Svjetlina</translation>
+    </message>
+</context>
+<context>
+    <name>BrightnessPage</name>
+    <message>
+        <source>Color Mode / Brightness</source>
+        <translation>Način boje / Svjetlina</translation>
+    </message>
+    <message>
+        <source>Color Mode</source>
+        <translation>Način boje</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Svjetlina</translation>
+    </message>
+    <message>
+        <source>Software Dimming</source>
+        <translation>Softversko zatamnjenje</translation>
+    </message>
+    <message>
+        <source>Darkens the picture below the lowest brightness of the monitor. Ambient brightness functions switch it off for as long as they run.</source>
+        <translation>Zatamnjuje sliku ispod najmanje svjetline monitora. Funkcije ambijentalnog svjetla isključuju je dok rade.</translation>
+    </message>
+    <message>
+        <source>Brightness Sync</source>
+        <translation>Sinkronizacija svjetline</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Kontrast</translation>
+    </message>
+    <message>
+        <source>Sharpness</source>
+        <translation>Oštrina</translation>
+    </message>
+    <message>
+        <source>Hue</source>
+        <translation>Nijansa</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Zasićenost</translation>
+    </message>
+    <message>
+        <source>Gamma</source>
+        <translation>Gama</translation>
+    </message>
+    <message>
+        <source>Color Gamut</source>
+        <translation>Raspon boja</translation>
+    </message>
+    <message>
+        <source>Uniformity</source>
+        <translation>Ujednačenost</translation>
+    </message>
+    <message>
+        <source>Reset Color</source>
+        <translation>Vrati boje</translation>
+    </message>
+</context>
+<context>
+    <name>BrightnessSliders</name>
+    <message>
+        <source>Software Dimming</source>
+        <translation>Softversko zatamnjenje</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Svjetlina</translation>
+    </message>
+</context>
+<context>
+    <name>ColorModeChoice</name>
+    <message>
+        <source>Color Mode</source>
+        <translation>Način boje</translation>
+    </message>
+</context>
+<context>
+    <name>ColorTemperatureControls</name>
+    <message>
+        <source>Color Temperature</source>
+        <translation>Temperatura boje</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Crvena</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Zelena</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Plava</translation>
+    </message>
+</context>
+<context>
+    <name>AxisControls</name>
+    <message>
+        <source>Red</source>
+        <translation>Crvena</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Žuta</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Zelena</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>Cijan</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Plava</translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ModeBundleHint</name>
+    <message>
+        <source>Brightness</source>
+        <translation>Svjetlina</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Kontrast</translation>
+    </message>
+    <message>
+        <source>Sharpness</source>
+        <translation>Oštrina</translation>
+    </message>
+    <message>
+        <source>Color Temperature</source>
+        <translation>Temperatura boje</translation>
+    </message>
+    <message>
+        <source>Hue</source>
+        <translation>Nijansa</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Zasićenost</translation>
+    </message>
+    <message>
+        <source>Gamma</source>
+        <translation>Gama</translation>
+    </message>
+    <message>
+        <source>Color Gamut</source>
+        <translation>Raspon boja</translation>
+    </message>
+    <message>
+        <source>Uniformity</source>
+        <translation>Ujednačenost</translation>
+    </message>
+    <message>
+        <source>Low Blue Light</source>
+        <translation>Smanjeno plavo svjetlo</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Noćna zaštita</translation>
+    </message>
+    <message>
+        <source>Ambient brightness</source>
+        <translation>Ambijentalna svjetlina</translation>
+    </message>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Bundling of Color Mode</source>
+        <translation>Povezano s načinom boje</translation>
+    </message>
+    <message>
+        <source>Stored for each color mode: %1.</source>
+        <translation>Sprema se za svaki način boje: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>LuBuiltInBrightnessWidget</name>
+    <message>
+        <source>Built-in brightness</source>
+        <translation>Ugrađena svjetlina</translation>
+    </message>
+</context>
+<context>
+    <name>LuColorWeaknessWidget</name>
+    <message>
+        <source>Color Weakness</source>
+        <translation>Sljepoća za boje</translation>
+    </message>
+    <message>
+        <source>Red: %1</source>
+        <translation>Crvena: %1</translation>
+    </message>
+    <message>
+        <source>Green: %1</source>
+        <translation>Zelena: %1</translation>
+    </message>
+</context>
+<context>
+    <name>LuHDRWidget</name>
+    <message>
+        <source>HDR</source>
+        <translation>HDR</translation>
+    </message>
+    <message>
+        <source>Due to macOS scaling settings, HDR is temporarily unavailable. Please try turning off HiDPI or lowering the resolution.</source>
+        <translation>Zbog postavki skaliranja sustava macOS HDR trenutačno nije dostupan. Isključite HiDPI ili smanjite razlučivost.</translation>
+    </message>
+    <message>
+        <source>This monitor has no HDR mode to switch to.</source>
+        <translation>Ovaj monitor nema HDR način.</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupColorModeAction</name>
+    <message>
+        <source>Color Mode</source>
+        <translation>Način boje</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Svjetlina</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupBrightnessShortcut</name>
+    <message>
+        <source>Brightness</source>
+        <translation>Svjetlina</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupIccSyncHint</name>
+    <message>
+        <source>Color Sync</source>
+        <translation>Sinkronizacija boja</translation>
+    </message>
+    <message>
+        <source>The color profile of the desktop now follows the color mode of this monitor.</source>
+        <translation>Profil boja radne površine sada prati način boje ovog monitora.</translation>
+    </message>
+</context>
+<context>
+    <name>PackageStrings</name>
+    <message>
+        <source>Coding - Light Theme</source>
+        <translation>Kodiranje – svijetla tema</translation>
+    </message>
+    <message>
+        <source>Coding - Dark Theme</source>
+        <translation>Kodiranje – tamna tema</translation>
+    </message>
+    <message>
+        <source>Coding - Paper Color</source>
+        <translation>Kodiranje – boja papira</translation>
+    </message>
+    <message>
+        <source>M-book</source>
+        <translation>M-book</translation>
+    </message>
+    <message>
+        <source>Cinema</source>
+        <translation>Kino</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>Igra</translation>
+    </message>
+    <message>
+        <source>ePaper</source>
+        <translation>ePaper</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Korisnik</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normalno</translation>
+    </message>
+    <message>
+        <source>Bluish</source>
+        <translation>Plavkasto</translation>
+    </message>
+    <message>
+        <source>Reddish</source>
+        <translation>Crvenkasto</translation>
+    </message>
+</context>
 </TS>

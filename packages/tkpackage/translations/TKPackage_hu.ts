@@ -542,4 +542,318 @@
         <translation>Jobb:</translation>
     </message>
 </context>
+<context>
+    <name>LuBrightnessWidget</name>
+    <message>
+        <source>Brightness</source>
+        <translation>Fényerő</translation>
+    </message>
+    <message>
+        <source>Color Mode / Brightness</source>
+        <translation>Színmód / Fényerő</translation>
+    </message>
+</context>
+<context>
+    <name>BrightnessPage</name>
+    <message>
+        <source>Color Mode / Brightness</source>
+        <translation>Színmód / Fényerő</translation>
+    </message>
+    <message>
+        <source>Color Mode</source>
+        <translation>Színmód</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Fényerő</translation>
+    </message>
+    <message>
+        <source>Software Dimming</source>
+        <translation>Szoftveres sötétítés</translation>
+    </message>
+    <message>
+        <source>Darkens the picture below the lowest brightness of the monitor. Ambient brightness functions switch it off for as long as they run.</source>
+        <translation>A monitor legkisebb fényereje alá sötétíti a képet. A környezeti fényt követő funkciók működésük idejére kikapcsolják.</translation>
+    </message>
+    <message>
+        <source>Brightness Sync</source>
+        <translation>Fényerő-szinkron</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Kontraszt</translation>
+    </message>
+    <message>
+        <source>Sharpness</source>
+        <translation>Élesség</translation>
+    </message>
+    <message>
+        <source>Hue</source>
+        <translation>Árnyalat</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Telítettség</translation>
+    </message>
+    <message>
+        <source>Gamma</source>
+        <translation>Gamma</translation>
+    </message>
+    <message>
+        <source>Color Gamut</source>
+        <translation>Színtér</translation>
+    </message>
+    <message>
+        <source>Uniformity</source>
+        <translation>Egyenletesség</translation>
+    </message>
+    <message>
+        <source>Reset Color</source>
+        <translation>Színek visszaállítása</translation>
+    </message>
+</context>
+<context>
+    <name>BrightnessSliders</name>
+    <message>
+        <source>Software Dimming</source>
+        <translation>Szoftveres sötétítés</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Fényerő</translation>
+    </message>
+</context>
+<context>
+    <name>ColorModeChoice</name>
+    <message>
+        <source>Color Mode</source>
+        <translation>Színmód</translation>
+    </message>
+</context>
+<context>
+    <name>ColorTemperatureControls</name>
+    <message>
+        <source>Color Temperature</source>
+        <translation>Színhőmérséklet</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Vörös</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Zöld</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Kék</translation>
+    </message>
+</context>
+<context>
+    <name>AxisControls</name>
+    <message>
+        <source>Red</source>
+        <translation>Vörös</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Sárga</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Zöld</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>Cián</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Kék</translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation>Bíbor</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ModeBundleHint</name>
+    <message>
+        <source>Brightness</source>
+        <translation>Fényerő</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Kontraszt</translation>
+    </message>
+    <message>
+        <source>Sharpness</source>
+        <translation>Élesség</translation>
+    </message>
+    <message>
+        <source>Color Temperature</source>
+        <translation>Színhőmérséklet</translation>
+    </message>
+    <message>
+        <source>Hue</source>
+        <translation>Árnyalat</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Telítettség</translation>
+    </message>
+    <message>
+        <source>Gamma</source>
+        <translation>Gamma</translation>
+    </message>
+    <message>
+        <source>Color Gamut</source>
+        <translation>Színtér</translation>
+    </message>
+    <message>
+        <source>Uniformity</source>
+        <translation>Egyenletesség</translation>
+    </message>
+    <message>
+        <source>Low Blue Light</source>
+        <translation>Kékfényszűrő</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Éjszakai védelem</translation>
+    </message>
+    <message>
+        <source>Ambient brightness</source>
+        <translation>Környezeti fényerő</translation>
+    </message>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Bundling of Color Mode</source>
+        <translation>Színmódhoz kötve</translation>
+    </message>
+    <message>
+        <source>Stored for each color mode: %1.</source>
+        <translation>Színmódonként tárolva: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>LuBuiltInBrightnessWidget</name>
+    <message>
+        <source>Built-in brightness</source>
+        <translation>Beépített fényerő</translation>
+    </message>
+</context>
+<context>
+    <name>LuColorWeaknessWidget</name>
+    <message>
+        <source>Color Weakness</source>
+        <translation>Színtévesztés</translation>
+    </message>
+    <message>
+        <source>Red: %1</source>
+        <translation>Vörös: %1</translation>
+    </message>
+    <message>
+        <source>Green: %1</source>
+        <translation>Zöld: %1</translation>
+    </message>
+</context>
+<context>
+    <name>LuHDRWidget</name>
+    <message>
+        <source>HDR</source>
+        <translation>HDR</translation>
+    </message>
+    <message>
+        <source>Due to macOS scaling settings, HDR is temporarily unavailable. Please try turning off HiDPI or lowering the resolution.</source>
+        <translation>A macOS méretezési beállításai miatt a HDR átmenetileg nem érhető el. Kapcsolja ki a HiDPI-t, vagy csökkentse a felbontást.</translation>
+    </message>
+    <message>
+        <source>This monitor has no HDR mode to switch to.</source>
+        <translation>Ennek a monitornak nincs HDR módja.</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupColorModeAction</name>
+    <message>
+        <source>Color Mode</source>
+        <translation>Színmód</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Fényerő</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupBrightnessShortcut</name>
+    <message>
+        <source>Brightness</source>
+        <translation>Fényerő</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupIccSyncHint</name>
+    <message>
+        <source>Color Sync</source>
+        <translation>Színszinkron</translation>
+    </message>
+    <message>
+        <source>The color profile of the desktop now follows the color mode of this monitor.</source>
+        <translation>Az asztal színprofilja mostantól követi e monitor színmódját.</translation>
+    </message>
+</context>
+<context>
+    <name>PackageStrings</name>
+    <message>
+        <source>Coding - Light Theme</source>
+        <translation>Kódolás – világos téma</translation>
+    </message>
+    <message>
+        <source>Coding - Dark Theme</source>
+        <translation>Kódolás – sötét téma</translation>
+    </message>
+    <message>
+        <source>Coding - Paper Color</source>
+        <translation>Kódolás – papírszín</translation>
+    </message>
+    <message>
+        <source>M-book</source>
+        <translation>M-book</translation>
+    </message>
+    <message>
+        <source>Cinema</source>
+        <translation>Mozi</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>Játék</translation>
+    </message>
+    <message>
+        <source>ePaper</source>
+        <translation>ePaper</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Felhasználó</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normál</translation>
+    </message>
+    <message>
+        <source>Bluish</source>
+        <translation>Kékes</translation>
+    </message>
+    <message>
+        <source>Reddish</source>
+        <translation>Vöröses</translation>
+    </message>
+</context>
 </TS>

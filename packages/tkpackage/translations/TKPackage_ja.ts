@@ -542,4 +542,318 @@
         <translation>右:</translation>
     </message>
 </context>
+<context>
+    <name>LuBrightnessWidget</name>
+    <message>
+        <source>Brightness</source>
+        <translation>明るさ</translation>
+    </message>
+    <message>
+        <source>Color Mode / Brightness</source>
+        <translation>カラーモード / 明るさ</translation>
+    </message>
+</context>
+<context>
+    <name>BrightnessPage</name>
+    <message>
+        <source>Color Mode / Brightness</source>
+        <translation>カラーモード / 明るさ</translation>
+    </message>
+    <message>
+        <source>Color Mode</source>
+        <translation>カラーモード</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>明るさ</translation>
+    </message>
+    <message>
+        <source>Software Dimming</source>
+        <translation>ソフトウェア調光</translation>
+    </message>
+    <message>
+        <source>Darkens the picture below the lowest brightness of the monitor. Ambient brightness functions switch it off for as long as they run.</source>
+        <translation>モニターの最低輝度よりも画面を暗くします。環境光に応じた機能の動作中はオフになります。</translation>
+    </message>
+    <message>
+        <source>Brightness Sync</source>
+        <translation>明るさの同期</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>コントラスト</translation>
+    </message>
+    <message>
+        <source>Sharpness</source>
+        <translation>シャープネス</translation>
+    </message>
+    <message>
+        <source>Hue</source>
+        <translation>色相</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>彩度</translation>
+    </message>
+    <message>
+        <source>Gamma</source>
+        <translation>ガンマ</translation>
+    </message>
+    <message>
+        <source>Color Gamut</source>
+        <translation>色域</translation>
+    </message>
+    <message>
+        <source>Uniformity</source>
+        <translation>均一性</translation>
+    </message>
+    <message>
+        <source>Reset Color</source>
+        <translation>カラーをリセット</translation>
+    </message>
+</context>
+<context>
+    <name>BrightnessSliders</name>
+    <message>
+        <source>Software Dimming</source>
+        <translation>ソフトウェア調光</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>明るさ</translation>
+    </message>
+</context>
+<context>
+    <name>ColorModeChoice</name>
+    <message>
+        <source>Color Mode</source>
+        <translation>カラーモード</translation>
+    </message>
+</context>
+<context>
+    <name>ColorTemperatureControls</name>
+    <message>
+        <source>Color Temperature</source>
+        <translation>色温度</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>赤</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>緑</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>青</translation>
+    </message>
+</context>
+<context>
+    <name>AxisControls</name>
+    <message>
+        <source>Red</source>
+        <translation>赤</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>黄</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>緑</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>シアン</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>青</translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation>マゼンタ</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ModeBundleHint</name>
+    <message>
+        <source>Brightness</source>
+        <translation>明るさ</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>コントラスト</translation>
+    </message>
+    <message>
+        <source>Sharpness</source>
+        <translation>シャープネス</translation>
+    </message>
+    <message>
+        <source>Color Temperature</source>
+        <translation>色温度</translation>
+    </message>
+    <message>
+        <source>Hue</source>
+        <translation>色相</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>彩度</translation>
+    </message>
+    <message>
+        <source>Gamma</source>
+        <translation>ガンマ</translation>
+    </message>
+    <message>
+        <source>Color Gamut</source>
+        <translation>色域</translation>
+    </message>
+    <message>
+        <source>Uniformity</source>
+        <translation>均一性</translation>
+    </message>
+    <message>
+        <source>Low Blue Light</source>
+        <translation>ブルーライト軽減</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>夜間保護</translation>
+    </message>
+    <message>
+        <source>Ambient brightness</source>
+        <translation>環境光</translation>
+    </message>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Bundling of Color Mode</source>
+        <translation>カラーモードとの連動</translation>
+    </message>
+    <message>
+        <source>Stored for each color mode: %1.</source>
+        <translation>カラーモードごとに保存: %1。</translation>
+    </message>
+</context>
+<context>
+    <name>LuBuiltInBrightnessWidget</name>
+    <message>
+        <source>Built-in brightness</source>
+        <translation>内蔵ディスプレイの明るさ</translation>
+    </message>
+</context>
+<context>
+    <name>LuColorWeaknessWidget</name>
+    <message>
+        <source>Color Weakness</source>
+        <translation>色弱</translation>
+    </message>
+    <message>
+        <source>Red: %1</source>
+        <translation>赤: %1</translation>
+    </message>
+    <message>
+        <source>Green: %1</source>
+        <translation>緑: %1</translation>
+    </message>
+</context>
+<context>
+    <name>LuHDRWidget</name>
+    <message>
+        <source>HDR</source>
+        <translation>HDR</translation>
+    </message>
+    <message>
+        <source>Due to macOS scaling settings, HDR is temporarily unavailable. Please try turning off HiDPI or lowering the resolution.</source>
+        <translation>macOS のスケーリング設定により、HDR は一時的に利用できません。HiDPI をオフにするか、解像度を下げてください。</translation>
+    </message>
+    <message>
+        <source>This monitor has no HDR mode to switch to.</source>
+        <translation>このモニターには HDR モードがありません。</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupColorModeAction</name>
+    <message>
+        <source>Color Mode</source>
+        <translation>カラーモード</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>明るさ</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupBrightnessShortcut</name>
+    <message>
+        <source>Brightness</source>
+        <translation>明るさ</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupIccSyncHint</name>
+    <message>
+        <source>Color Sync</source>
+        <translation>カラー同期</translation>
+    </message>
+    <message>
+        <source>The color profile of the desktop now follows the color mode of this monitor.</source>
+        <translation>デスクトップのカラープロファイルがこのモニターのカラーモードに追従します。</translation>
+    </message>
+</context>
+<context>
+    <name>PackageStrings</name>
+    <message>
+        <source>Coding - Light Theme</source>
+        <translation>コーディング - ライトテーマ</translation>
+    </message>
+    <message>
+        <source>Coding - Dark Theme</source>
+        <translation>コーディング - ダークテーマ</translation>
+    </message>
+    <message>
+        <source>Coding - Paper Color</source>
+        <translation>コーディング - ペーパーカラー</translation>
+    </message>
+    <message>
+        <source>M-book</source>
+        <translation>M-book</translation>
+    </message>
+    <message>
+        <source>Cinema</source>
+        <translation>シネマ</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>ゲーム</translation>
+    </message>
+    <message>
+        <source>ePaper</source>
+        <translation>ePaper</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>ユーザー</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>標準</translation>
+    </message>
+    <message>
+        <source>Bluish</source>
+        <translation>青み</translation>
+    </message>
+    <message>
+        <source>Reddish</source>
+        <translation>赤み</translation>
+    </message>
+</context>
 </TS>

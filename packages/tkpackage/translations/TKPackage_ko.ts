@@ -542,4 +542,318 @@
         <translation>오른쪽:</translation>
     </message>
 </context>
+<context>
+    <name>LuBrightnessWidget</name>
+    <message>
+        <source>Brightness</source>
+        <translation>밝기</translation>
+    </message>
+    <message>
+        <source>Color Mode / Brightness</source>
+        <translation>색상 모드 / 밝기</translation>
+    </message>
+</context>
+<context>
+    <name>BrightnessPage</name>
+    <message>
+        <source>Color Mode / Brightness</source>
+        <translation>색상 모드 / 밝기</translation>
+    </message>
+    <message>
+        <source>Color Mode</source>
+        <translation>색상 모드</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>밝기</translation>
+    </message>
+    <message>
+        <source>Software Dimming</source>
+        <translation>소프트웨어 디밍</translation>
+    </message>
+    <message>
+        <source>Darkens the picture below the lowest brightness of the monitor. Ambient brightness functions switch it off for as long as they run.</source>
+        <translation>모니터의 최저 밝기보다 화면을 더 어둡게 합니다. 주변광 기능이 작동하는 동안에는 꺼집니다.</translation>
+    </message>
+    <message>
+        <source>Brightness Sync</source>
+        <translation>밝기 동기화</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>명암비</translation>
+    </message>
+    <message>
+        <source>Sharpness</source>
+        <translation>선명도</translation>
+    </message>
+    <message>
+        <source>Hue</source>
+        <translation>색조</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>채도</translation>
+    </message>
+    <message>
+        <source>Gamma</source>
+        <translation>감마</translation>
+    </message>
+    <message>
+        <source>Color Gamut</source>
+        <translation>색 영역</translation>
+    </message>
+    <message>
+        <source>Uniformity</source>
+        <translation>균일도</translation>
+    </message>
+    <message>
+        <source>Reset Color</source>
+        <translation>색상 초기화</translation>
+    </message>
+</context>
+<context>
+    <name>BrightnessSliders</name>
+    <message>
+        <source>Software Dimming</source>
+        <translation>소프트웨어 디밍</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>밝기</translation>
+    </message>
+</context>
+<context>
+    <name>ColorModeChoice</name>
+    <message>
+        <source>Color Mode</source>
+        <translation>색상 모드</translation>
+    </message>
+</context>
+<context>
+    <name>ColorTemperatureControls</name>
+    <message>
+        <source>Color Temperature</source>
+        <translation>색온도</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>빨강</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>초록</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>파랑</translation>
+    </message>
+</context>
+<context>
+    <name>AxisControls</name>
+    <message>
+        <source>Red</source>
+        <translation>빨강</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>노랑</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>초록</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>청록</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>파랑</translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation>자홍</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ModeBundleHint</name>
+    <message>
+        <source>Brightness</source>
+        <translation>밝기</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>명암비</translation>
+    </message>
+    <message>
+        <source>Sharpness</source>
+        <translation>선명도</translation>
+    </message>
+    <message>
+        <source>Color Temperature</source>
+        <translation>색온도</translation>
+    </message>
+    <message>
+        <source>Hue</source>
+        <translation>색조</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>채도</translation>
+    </message>
+    <message>
+        <source>Gamma</source>
+        <translation>감마</translation>
+    </message>
+    <message>
+        <source>Color Gamut</source>
+        <translation>색 영역</translation>
+    </message>
+    <message>
+        <source>Uniformity</source>
+        <translation>균일도</translation>
+    </message>
+    <message>
+        <source>Low Blue Light</source>
+        <translation>블루라이트 감소</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>야간 보호</translation>
+    </message>
+    <message>
+        <source>Ambient brightness</source>
+        <translation>주변 밝기</translation>
+    </message>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Bundling of Color Mode</source>
+        <translation>색상 모드와 연동</translation>
+    </message>
+    <message>
+        <source>Stored for each color mode: %1.</source>
+        <translation>색상 모드별로 저장: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>LuBuiltInBrightnessWidget</name>
+    <message>
+        <source>Built-in brightness</source>
+        <translation>내장 화면 밝기</translation>
+    </message>
+</context>
+<context>
+    <name>LuColorWeaknessWidget</name>
+    <message>
+        <source>Color Weakness</source>
+        <translation>색약</translation>
+    </message>
+    <message>
+        <source>Red: %1</source>
+        <translation>빨강: %1</translation>
+    </message>
+    <message>
+        <source>Green: %1</source>
+        <translation>초록: %1</translation>
+    </message>
+</context>
+<context>
+    <name>LuHDRWidget</name>
+    <message>
+        <source>HDR</source>
+        <translation>HDR</translation>
+    </message>
+    <message>
+        <source>Due to macOS scaling settings, HDR is temporarily unavailable. Please try turning off HiDPI or lowering the resolution.</source>
+        <translation>macOS 배율 설정으로 인해 HDR을 일시적으로 사용할 수 없습니다. HiDPI를 끄거나 해상도를 낮춰 보세요.</translation>
+    </message>
+    <message>
+        <source>This monitor has no HDR mode to switch to.</source>
+        <translation>이 모니터에는 HDR 모드가 없습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupColorModeAction</name>
+    <message>
+        <source>Color Mode</source>
+        <translation>색상 모드</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>밝기</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupBrightnessShortcut</name>
+    <message>
+        <source>Brightness</source>
+        <translation>밝기</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupIccSyncHint</name>
+    <message>
+        <source>Color Sync</source>
+        <translation>색상 동기화</translation>
+    </message>
+    <message>
+        <source>The color profile of the desktop now follows the color mode of this monitor.</source>
+        <translation>이제 데스크톱의 색상 프로필이 이 모니터의 색상 모드를 따릅니다.</translation>
+    </message>
+</context>
+<context>
+    <name>PackageStrings</name>
+    <message>
+        <source>Coding - Light Theme</source>
+        <translation>코딩 - 밝은 테마</translation>
+    </message>
+    <message>
+        <source>Coding - Dark Theme</source>
+        <translation>코딩 - 어두운 테마</translation>
+    </message>
+    <message>
+        <source>Coding - Paper Color</source>
+        <translation>코딩 - 종이 색상</translation>
+    </message>
+    <message>
+        <source>M-book</source>
+        <translation>M-book</translation>
+    </message>
+    <message>
+        <source>Cinema</source>
+        <translation>시네마</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>게임</translation>
+    </message>
+    <message>
+        <source>ePaper</source>
+        <translation>ePaper</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>사용자</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>표준</translation>
+    </message>
+    <message>
+        <source>Bluish</source>
+        <translation>푸른빛</translation>
+    </message>
+    <message>
+        <source>Reddish</source>
+        <translation>붉은빛</translation>
+    </message>
+</context>
 </TS>

@@ -542,4 +542,318 @@
         <translation>Rechts:</translation>
     </message>
 </context>
+<context>
+    <name>LuBrightnessWidget</name>
+    <message>
+        <source>Brightness</source>
+        <translation>Helderheid</translation>
+    </message>
+    <message>
+        <source>Color Mode / Brightness</source>
+        <translation>Kleurmodus / Helderheid</translation>
+    </message>
+</context>
+<context>
+    <name>BrightnessPage</name>
+    <message>
+        <source>Color Mode / Brightness</source>
+        <translation>Kleurmodus / Helderheid</translation>
+    </message>
+    <message>
+        <source>Color Mode</source>
+        <translation>Kleurmodus</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Helderheid</translation>
+    </message>
+    <message>
+        <source>Software Dimming</source>
+        <translation>Softwarematig dimmen</translation>
+    </message>
+    <message>
+        <source>Darkens the picture below the lowest brightness of the monitor. Ambient brightness functions switch it off for as long as they run.</source>
+        <translation>Maakt het beeld donkerder dan de laagste helderheid van de monitor. Omgevingslichtfuncties schakelen dit uit zolang ze actief zijn.</translation>
+    </message>
+    <message>
+        <source>Brightness Sync</source>
+        <translation>Helderheid koppelen</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contrast</translation>
+    </message>
+    <message>
+        <source>Sharpness</source>
+        <translation>Scherpte</translation>
+    </message>
+    <message>
+        <source>Hue</source>
+        <translation>Tint</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Verzadiging</translation>
+    </message>
+    <message>
+        <source>Gamma</source>
+        <translation>Gamma</translation>
+    </message>
+    <message>
+        <source>Color Gamut</source>
+        <translation>Kleurbereik</translation>
+    </message>
+    <message>
+        <source>Uniformity</source>
+        <translation>Uniformiteit</translation>
+    </message>
+    <message>
+        <source>Reset Color</source>
+        <translation>Kleuren herstellen</translation>
+    </message>
+</context>
+<context>
+    <name>BrightnessSliders</name>
+    <message>
+        <source>Software Dimming</source>
+        <translation>Softwarematig dimmen</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Helderheid</translation>
+    </message>
+</context>
+<context>
+    <name>ColorModeChoice</name>
+    <message>
+        <source>Color Mode</source>
+        <translation>Kleurmodus</translation>
+    </message>
+</context>
+<context>
+    <name>ColorTemperatureControls</name>
+    <message>
+        <source>Color Temperature</source>
+        <translation>Kleurtemperatuur</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Rood</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Groen</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Blauw</translation>
+    </message>
+</context>
+<context>
+    <name>AxisControls</name>
+    <message>
+        <source>Red</source>
+        <translation>Rood</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Geel</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Groen</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>Cyaan</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Blauw</translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ModeBundleHint</name>
+    <message>
+        <source>Brightness</source>
+        <translation>Helderheid</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contrast</translation>
+    </message>
+    <message>
+        <source>Sharpness</source>
+        <translation>Scherpte</translation>
+    </message>
+    <message>
+        <source>Color Temperature</source>
+        <translation>Kleurtemperatuur</translation>
+    </message>
+    <message>
+        <source>Hue</source>
+        <translation>Tint</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Verzadiging</translation>
+    </message>
+    <message>
+        <source>Gamma</source>
+        <translation>Gamma</translation>
+    </message>
+    <message>
+        <source>Color Gamut</source>
+        <translation>Kleurbereik</translation>
+    </message>
+    <message>
+        <source>Uniformity</source>
+        <translation>Uniformiteit</translation>
+    </message>
+    <message>
+        <source>Low Blue Light</source>
+        <translation>Weinig blauw licht</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Nacht­bescherming</translation>
+    </message>
+    <message>
+        <source>Ambient brightness</source>
+        <translation>Omgevingslicht</translation>
+    </message>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Bundling of Color Mode</source>
+        <translation>Gekoppeld aan kleurmodus</translation>
+    </message>
+    <message>
+        <source>Stored for each color mode: %1.</source>
+        <translation>Per kleurmodus bewaard: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>LuBuiltInBrightnessWidget</name>
+    <message>
+        <source>Built-in brightness</source>
+        <translation>Ingebouwde helderheid</translation>
+    </message>
+</context>
+<context>
+    <name>LuColorWeaknessWidget</name>
+    <message>
+        <source>Color Weakness</source>
+        <translation>Kleurzwakte</translation>
+    </message>
+    <message>
+        <source>Red: %1</source>
+        <translation>Rood: %1</translation>
+    </message>
+    <message>
+        <source>Green: %1</source>
+        <translation>Groen: %1</translation>
+    </message>
+</context>
+<context>
+    <name>LuHDRWidget</name>
+    <message>
+        <source>HDR</source>
+        <translation>HDR</translation>
+    </message>
+    <message>
+        <source>Due to macOS scaling settings, HDR is temporarily unavailable. Please try turning off HiDPI or lowering the resolution.</source>
+        <translation>Door de schaalinstellingen van macOS is HDR tijdelijk niet beschikbaar. Schakel HiDPI uit of verlaag de resolutie.</translation>
+    </message>
+    <message>
+        <source>This monitor has no HDR mode to switch to.</source>
+        <translation>Deze monitor heeft geen HDR-modus.</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupColorModeAction</name>
+    <message>
+        <source>Color Mode</source>
+        <translation>Kleurmodus</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Helderheid</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupBrightnessShortcut</name>
+    <message>
+        <source>Brightness</source>
+        <translation>Helderheid</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupIccSyncHint</name>
+    <message>
+        <source>Color Sync</source>
+        <translation>Kleursynchronisatie</translation>
+    </message>
+    <message>
+        <source>The color profile of the desktop now follows the color mode of this monitor.</source>
+        <translation>Het kleurprofiel van het bureaublad volgt nu de kleurmodus van deze monitor.</translation>
+    </message>
+</context>
+<context>
+    <name>PackageStrings</name>
+    <message>
+        <source>Coding - Light Theme</source>
+        <translation>Coderen - Licht thema</translation>
+    </message>
+    <message>
+        <source>Coding - Dark Theme</source>
+        <translation>Coderen - Donker thema</translation>
+    </message>
+    <message>
+        <source>Coding - Paper Color</source>
+        <translation>Coderen - Papierkleur</translation>
+    </message>
+    <message>
+        <source>M-book</source>
+        <translation>M-book</translation>
+    </message>
+    <message>
+        <source>Cinema</source>
+        <translation>Bioscoop</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>Game</translation>
+    </message>
+    <message>
+        <source>ePaper</source>
+        <translation>ePaper</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Gebruiker</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normaal</translation>
+    </message>
+    <message>
+        <source>Bluish</source>
+        <translation>Blauwachtig</translation>
+    </message>
+    <message>
+        <source>Reddish</source>
+        <translation>Roodachtig</translation>
+    </message>
+</context>
 </TS>

@@ -542,4 +542,318 @@
         <translation>Dreapta:</translation>
     </message>
 </context>
+<context>
+    <name>LuBrightnessWidget</name>
+    <message>
+        <source>Brightness</source>
+        <translation>Luminozitate</translation>
+    </message>
+    <message>
+        <source>Color Mode / Brightness</source>
+        <translation>Mod culoare / Luminozitate</translation>
+    </message>
+</context>
+<context>
+    <name>BrightnessPage</name>
+    <message>
+        <source>Color Mode / Brightness</source>
+        <translation>Mod culoare / Luminozitate</translation>
+    </message>
+    <message>
+        <source>Color Mode</source>
+        <translation>Mod culoare</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Luminozitate</translation>
+    </message>
+    <message>
+        <source>Software Dimming</source>
+        <translation>Diminuare software</translation>
+    </message>
+    <message>
+        <source>Darkens the picture below the lowest brightness of the monitor. Ambient brightness functions switch it off for as long as they run.</source>
+        <translation>Întunecă imaginea sub luminozitatea minimă a monitorului. Funcțiile de lumină ambientală o dezactivează cât timp rulează.</translation>
+    </message>
+    <message>
+        <source>Brightness Sync</source>
+        <translation>Sincronizare luminozitate</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contrast</translation>
+    </message>
+    <message>
+        <source>Sharpness</source>
+        <translation>Claritate</translation>
+    </message>
+    <message>
+        <source>Hue</source>
+        <translation>Nuanță</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Saturație</translation>
+    </message>
+    <message>
+        <source>Gamma</source>
+        <translation>Gamma</translation>
+    </message>
+    <message>
+        <source>Color Gamut</source>
+        <translation>Gamă de culori</translation>
+    </message>
+    <message>
+        <source>Uniformity</source>
+        <translation>Uniformitate</translation>
+    </message>
+    <message>
+        <source>Reset Color</source>
+        <translation>Resetare culori</translation>
+    </message>
+</context>
+<context>
+    <name>BrightnessSliders</name>
+    <message>
+        <source>Software Dimming</source>
+        <translation>Diminuare software</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Luminozitate</translation>
+    </message>
+</context>
+<context>
+    <name>ColorModeChoice</name>
+    <message>
+        <source>Color Mode</source>
+        <translation>Mod culoare</translation>
+    </message>
+</context>
+<context>
+    <name>ColorTemperatureControls</name>
+    <message>
+        <source>Color Temperature</source>
+        <translation>Temperatura culorii</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Roșu</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Verde</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Albastru</translation>
+    </message>
+</context>
+<context>
+    <name>AxisControls</name>
+    <message>
+        <source>Red</source>
+        <translation>Roșu</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Galben</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Verde</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>Cyan</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Albastru</translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ModeBundleHint</name>
+    <message>
+        <source>Brightness</source>
+        <translation>Luminozitate</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contrast</translation>
+    </message>
+    <message>
+        <source>Sharpness</source>
+        <translation>Claritate</translation>
+    </message>
+    <message>
+        <source>Color Temperature</source>
+        <translation>Temperatura culorii</translation>
+    </message>
+    <message>
+        <source>Hue</source>
+        <translation>Nuanță</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Saturație</translation>
+    </message>
+    <message>
+        <source>Gamma</source>
+        <translation>Gamma</translation>
+    </message>
+    <message>
+        <source>Color Gamut</source>
+        <translation>Gamă de culori</translation>
+    </message>
+    <message>
+        <source>Uniformity</source>
+        <translation>Uniformitate</translation>
+    </message>
+    <message>
+        <source>Low Blue Light</source>
+        <translation>Lumină albastră redusă</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Protecție nocturnă</translation>
+    </message>
+    <message>
+        <source>Ambient brightness</source>
+        <translation>Lumină ambientală</translation>
+    </message>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Bundling of Color Mode</source>
+        <translation>Legat de modul culoare</translation>
+    </message>
+    <message>
+        <source>Stored for each color mode: %1.</source>
+        <translation>Salvat pentru fiecare mod culoare: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>LuBuiltInBrightnessWidget</name>
+    <message>
+        <source>Built-in brightness</source>
+        <translation>Luminozitate integrată</translation>
+    </message>
+</context>
+<context>
+    <name>LuColorWeaknessWidget</name>
+    <message>
+        <source>Color Weakness</source>
+        <translation>Daltonism</translation>
+    </message>
+    <message>
+        <source>Red: %1</source>
+        <translation>Roșu: %1</translation>
+    </message>
+    <message>
+        <source>Green: %1</source>
+        <translation>Verde: %1</translation>
+    </message>
+</context>
+<context>
+    <name>LuHDRWidget</name>
+    <message>
+        <source>HDR</source>
+        <translation>HDR</translation>
+    </message>
+    <message>
+        <source>Due to macOS scaling settings, HDR is temporarily unavailable. Please try turning off HiDPI or lowering the resolution.</source>
+        <translation>Din cauza scalării macOS, HDR este temporar indisponibil. Dezactivați HiDPI sau micșorați rezoluția.</translation>
+    </message>
+    <message>
+        <source>This monitor has no HDR mode to switch to.</source>
+        <translation>Acest monitor nu are un mod HDR.</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupColorModeAction</name>
+    <message>
+        <source>Color Mode</source>
+        <translation>Mod culoare</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Luminozitate</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupBrightnessShortcut</name>
+    <message>
+        <source>Brightness</source>
+        <translation>Luminozitate</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupIccSyncHint</name>
+    <message>
+        <source>Color Sync</source>
+        <translation>Sincronizare culori</translation>
+    </message>
+    <message>
+        <source>The color profile of the desktop now follows the color mode of this monitor.</source>
+        <translation>Profilul de culoare al desktopului urmează acum modul culoare al acestui monitor.</translation>
+    </message>
+</context>
+<context>
+    <name>PackageStrings</name>
+    <message>
+        <source>Coding - Light Theme</source>
+        <translation>Programare - Temă deschisă</translation>
+    </message>
+    <message>
+        <source>Coding - Dark Theme</source>
+        <translation>Programare - Temă închisă</translation>
+    </message>
+    <message>
+        <source>Coding - Paper Color</source>
+        <translation>Programare - Culoare hârtie</translation>
+    </message>
+    <message>
+        <source>M-book</source>
+        <translation>M-book</translation>
+    </message>
+    <message>
+        <source>Cinema</source>
+        <translation>Cinema</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>Joc</translation>
+    </message>
+    <message>
+        <source>ePaper</source>
+        <translation>ePaper</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Utilizator</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>Bluish</source>
+        <translation>Albăstrui</translation>
+    </message>
+    <message>
+        <source>Reddish</source>
+        <translation>Roșiatic</translation>
+    </message>
+</context>
 </TS>

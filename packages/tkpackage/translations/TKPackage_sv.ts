@@ -542,4 +542,318 @@
         <translation>Höger:</translation>
     </message>
 </context>
+<context>
+    <name>LuBrightnessWidget</name>
+    <message>
+        <source>Brightness</source>
+        <translation>Ljusstyrka</translation>
+    </message>
+    <message>
+        <source>Color Mode / Brightness</source>
+        <translation>Färgläge / Ljusstyrka</translation>
+    </message>
+</context>
+<context>
+    <name>BrightnessPage</name>
+    <message>
+        <source>Color Mode / Brightness</source>
+        <translation>Färgläge / Ljusstyrka</translation>
+    </message>
+    <message>
+        <source>Color Mode</source>
+        <translation>Färgläge</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Ljusstyrka</translation>
+    </message>
+    <message>
+        <source>Software Dimming</source>
+        <translation>Programvarudimning</translation>
+    </message>
+    <message>
+        <source>Darkens the picture below the lowest brightness of the monitor. Ambient brightness functions switch it off for as long as they run.</source>
+        <translation>Gör bilden mörkare än skärmens lägsta ljusstyrka. Funktioner för omgivningsljus stänger av det så länge de är på.</translation>
+    </message>
+    <message>
+        <source>Brightness Sync</source>
+        <translation>Synka ljusstyrka</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Kontrast</translation>
+    </message>
+    <message>
+        <source>Sharpness</source>
+        <translation>Skärpa</translation>
+    </message>
+    <message>
+        <source>Hue</source>
+        <translation>Nyans</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Mättnad</translation>
+    </message>
+    <message>
+        <source>Gamma</source>
+        <translation>Gamma</translation>
+    </message>
+    <message>
+        <source>Color Gamut</source>
+        <translation>Färgomfång</translation>
+    </message>
+    <message>
+        <source>Uniformity</source>
+        <translation>Jämnhet</translation>
+    </message>
+    <message>
+        <source>Reset Color</source>
+        <translation>Återställ färger</translation>
+    </message>
+</context>
+<context>
+    <name>BrightnessSliders</name>
+    <message>
+        <source>Software Dimming</source>
+        <translation>Programvarudimning</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Ljusstyrka</translation>
+    </message>
+</context>
+<context>
+    <name>ColorModeChoice</name>
+    <message>
+        <source>Color Mode</source>
+        <translation>Färgläge</translation>
+    </message>
+</context>
+<context>
+    <name>ColorTemperatureControls</name>
+    <message>
+        <source>Color Temperature</source>
+        <translation>Färgtemperatur</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Röd</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Grön</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Blå</translation>
+    </message>
+</context>
+<context>
+    <name>AxisControls</name>
+    <message>
+        <source>Red</source>
+        <translation>Röd</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Gul</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Grön</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>Cyan</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Blå</translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ModeBundleHint</name>
+    <message>
+        <source>Brightness</source>
+        <translation>Ljusstyrka</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Kontrast</translation>
+    </message>
+    <message>
+        <source>Sharpness</source>
+        <translation>Skärpa</translation>
+    </message>
+    <message>
+        <source>Color Temperature</source>
+        <translation>Färgtemperatur</translation>
+    </message>
+    <message>
+        <source>Hue</source>
+        <translation>Nyans</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Mättnad</translation>
+    </message>
+    <message>
+        <source>Gamma</source>
+        <translation>Gamma</translation>
+    </message>
+    <message>
+        <source>Color Gamut</source>
+        <translation>Färgomfång</translation>
+    </message>
+    <message>
+        <source>Uniformity</source>
+        <translation>Jämnhet</translation>
+    </message>
+    <message>
+        <source>Low Blue Light</source>
+        <translation>Mindre blått ljus</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Nattskydd</translation>
+    </message>
+    <message>
+        <source>Ambient brightness</source>
+        <translation>Omgivningsljus</translation>
+    </message>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Bundling of Color Mode</source>
+        <translation>Kopplat till färgläget</translation>
+    </message>
+    <message>
+        <source>Stored for each color mode: %1.</source>
+        <translation>Sparas för varje färgläge: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>LuBuiltInBrightnessWidget</name>
+    <message>
+        <source>Built-in brightness</source>
+        <translation>Inbyggd ljusstyrka</translation>
+    </message>
+</context>
+<context>
+    <name>LuColorWeaknessWidget</name>
+    <message>
+        <source>Color Weakness</source>
+        <translation>Färgsvaghet</translation>
+    </message>
+    <message>
+        <source>Red: %1</source>
+        <translation>Röd: %1</translation>
+    </message>
+    <message>
+        <source>Green: %1</source>
+        <translation>Grön: %1</translation>
+    </message>
+</context>
+<context>
+    <name>LuHDRWidget</name>
+    <message>
+        <source>HDR</source>
+        <translation>HDR</translation>
+    </message>
+    <message>
+        <source>Due to macOS scaling settings, HDR is temporarily unavailable. Please try turning off HiDPI or lowering the resolution.</source>
+        <translation>På grund av skalningen i macOS är HDR tillfälligt inte tillgängligt. Stäng av HiDPI eller sänk upplösningen.</translation>
+    </message>
+    <message>
+        <source>This monitor has no HDR mode to switch to.</source>
+        <translation>Den här skärmen har inget HDR-läge.</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupColorModeAction</name>
+    <message>
+        <source>Color Mode</source>
+        <translation>Färgläge</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Ljusstyrka</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupBrightnessShortcut</name>
+    <message>
+        <source>Brightness</source>
+        <translation>Ljusstyrka</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupIccSyncHint</name>
+    <message>
+        <source>Color Sync</source>
+        <translation>Färgsynk</translation>
+    </message>
+    <message>
+        <source>The color profile of the desktop now follows the color mode of this monitor.</source>
+        <translation>Skrivbordets färgprofil följer nu skärmens färgläge.</translation>
+    </message>
+</context>
+<context>
+    <name>PackageStrings</name>
+    <message>
+        <source>Coding - Light Theme</source>
+        <translation>Kodning – ljust tema</translation>
+    </message>
+    <message>
+        <source>Coding - Dark Theme</source>
+        <translation>Kodning – mörkt tema</translation>
+    </message>
+    <message>
+        <source>Coding - Paper Color</source>
+        <translation>Kodning – pappersfärg</translation>
+    </message>
+    <message>
+        <source>M-book</source>
+        <translation>M-book</translation>
+    </message>
+    <message>
+        <source>Cinema</source>
+        <translation>Bio</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>Spel</translation>
+    </message>
+    <message>
+        <source>ePaper</source>
+        <translation>ePaper</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Användare</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>Bluish</source>
+        <translation>Blåaktig</translation>
+    </message>
+    <message>
+        <source>Reddish</source>
+        <translation>Rödaktig</translation>
+    </message>
+</context>
 </TS>

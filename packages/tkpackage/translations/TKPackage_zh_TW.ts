@@ -542,4 +542,318 @@
         <translation>右：</translation>
     </message>
 </context>
+<context>
+    <name>LuBrightnessWidget</name>
+    <message>
+        <source>Brightness</source>
+        <translation>亮度</translation>
+    </message>
+    <message>
+        <source>Color Mode / Brightness</source>
+        <translation>色彩模式 / 亮度</translation>
+    </message>
+</context>
+<context>
+    <name>BrightnessPage</name>
+    <message>
+        <source>Color Mode / Brightness</source>
+        <translation>色彩模式 / 亮度</translation>
+    </message>
+    <message>
+        <source>Color Mode</source>
+        <translation>色彩模式</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>亮度</translation>
+    </message>
+    <message>
+        <source>Software Dimming</source>
+        <translation>軟體調光</translation>
+    </message>
+    <message>
+        <source>Darkens the picture below the lowest brightness of the monitor. Ambient brightness functions switch it off for as long as they run.</source>
+        <translation>使畫面比顯示器的最低亮度更暗。環境光功能執行時會將其關閉。</translation>
+    </message>
+    <message>
+        <source>Brightness Sync</source>
+        <translation>亮度同步</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>對比</translation>
+    </message>
+    <message>
+        <source>Sharpness</source>
+        <translation>銳利度</translation>
+    </message>
+    <message>
+        <source>Hue</source>
+        <translation>色調</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>飽和度</translation>
+    </message>
+    <message>
+        <source>Gamma</source>
+        <translation>伽瑪</translation>
+    </message>
+    <message>
+        <source>Color Gamut</source>
+        <translation>色域</translation>
+    </message>
+    <message>
+        <source>Uniformity</source>
+        <translation>均勻性</translation>
+    </message>
+    <message>
+        <source>Reset Color</source>
+        <translation>重設色彩</translation>
+    </message>
+</context>
+<context>
+    <name>BrightnessSliders</name>
+    <message>
+        <source>Software Dimming</source>
+        <translation>軟體調光</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>亮度</translation>
+    </message>
+</context>
+<context>
+    <name>ColorModeChoice</name>
+    <message>
+        <source>Color Mode</source>
+        <translation>色彩模式</translation>
+    </message>
+</context>
+<context>
+    <name>ColorTemperatureControls</name>
+    <message>
+        <source>Color Temperature</source>
+        <translation>色溫</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>紅</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>綠</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>藍</translation>
+    </message>
+</context>
+<context>
+    <name>AxisControls</name>
+    <message>
+        <source>Red</source>
+        <translation>紅</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>黃</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>綠</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>青</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>藍</translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation>洋紅</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>ModeBundleHint</name>
+    <message>
+        <source>Brightness</source>
+        <translation>亮度</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>對比</translation>
+    </message>
+    <message>
+        <source>Sharpness</source>
+        <translation>銳利度</translation>
+    </message>
+    <message>
+        <source>Color Temperature</source>
+        <translation>色溫</translation>
+    </message>
+    <message>
+        <source>Hue</source>
+        <translation>色調</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>飽和度</translation>
+    </message>
+    <message>
+        <source>Gamma</source>
+        <translation>伽瑪</translation>
+    </message>
+    <message>
+        <source>Color Gamut</source>
+        <translation>色域</translation>
+    </message>
+    <message>
+        <source>Uniformity</source>
+        <translation>均勻性</translation>
+    </message>
+    <message>
+        <source>Low Blue Light</source>
+        <translation>低藍光</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>夜間保護</translation>
+    </message>
+    <message>
+        <source>Ambient brightness</source>
+        <translation>環境亮度</translation>
+    </message>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Bundling of Color Mode</source>
+        <translation>與色彩模式綁定</translation>
+    </message>
+    <message>
+        <source>Stored for each color mode: %1.</source>
+        <translation>每種色彩模式分別儲存：%1。</translation>
+    </message>
+</context>
+<context>
+    <name>LuBuiltInBrightnessWidget</name>
+    <message>
+        <source>Built-in brightness</source>
+        <translation>內建螢幕亮度</translation>
+    </message>
+</context>
+<context>
+    <name>LuColorWeaknessWidget</name>
+    <message>
+        <source>Color Weakness</source>
+        <translation>色弱</translation>
+    </message>
+    <message>
+        <source>Red: %1</source>
+        <translation>紅：%1</translation>
+    </message>
+    <message>
+        <source>Green: %1</source>
+        <translation>綠：%1</translation>
+    </message>
+</context>
+<context>
+    <name>LuHDRWidget</name>
+    <message>
+        <source>HDR</source>
+        <translation>HDR</translation>
+    </message>
+    <message>
+        <source>Due to macOS scaling settings, HDR is temporarily unavailable. Please try turning off HiDPI or lowering the resolution.</source>
+        <translation>由於 macOS 的縮放設定，HDR 暫時無法使用。請嘗試關閉 HiDPI 或降低解析度。</translation>
+    </message>
+    <message>
+        <source>This monitor has no HDR mode to switch to.</source>
+        <translation>此顯示器沒有可切換的 HDR 模式。</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupColorModeAction</name>
+    <message>
+        <source>Color Mode</source>
+        <translation>色彩模式</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>亮度</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupBrightnessShortcut</name>
+    <message>
+        <source>Brightness</source>
+        <translation>亮度</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupIccSyncHint</name>
+    <message>
+        <source>Color Sync</source>
+        <translation>色彩同步</translation>
+    </message>
+    <message>
+        <source>The color profile of the desktop now follows the color mode of this monitor.</source>
+        <translation>桌面的色彩描述檔現在會跟隨此顯示器的色彩模式。</translation>
+    </message>
+</context>
+<context>
+    <name>PackageStrings</name>
+    <message>
+        <source>Coding - Light Theme</source>
+        <translation>編程 - 淺色主題</translation>
+    </message>
+    <message>
+        <source>Coding - Dark Theme</source>
+        <translation>編程 - 深色主題</translation>
+    </message>
+    <message>
+        <source>Coding - Paper Color</source>
+        <translation>編程 - 紙張色</translation>
+    </message>
+    <message>
+        <source>M-book</source>
+        <translation>M-book</translation>
+    </message>
+    <message>
+        <source>Cinema</source>
+        <translation>劇院</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>遊戲</translation>
+    </message>
+    <message>
+        <source>ePaper</source>
+        <translation>ePaper</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>使用者</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>標準</translation>
+    </message>
+    <message>
+        <source>Bluish</source>
+        <translation>偏藍</translation>
+    </message>
+    <message>
+        <source>Reddish</source>
+        <translation>偏紅</translation>
+    </message>
+</context>
 </TS>
