@@ -19,6 +19,7 @@
 #include <QThread>
 
 #include <algorithm>
+#include <cmath>
 #include <cstdio>
 #include <map>
 #include <vector>
@@ -38,6 +39,9 @@ struct Budget
 
 constexpr Budget Budgets[] = {
     {"WriteToWire", "property write to first bit on the wire, idle monitor, median", 3.0, "ms"},
+    {"SliderLastMove", "200 slider moves in 2 s: last move to the wire, longest of 5", 60.0, "ms"},
+    {"SliderWrites", "200 slider moves in 2 s: writes for each 50 ms, most of 5", 1.0, ""},
+    {"SliderError", "200 slider moves in 2 s: distance of the last value on the wire", 0.0, ""},
     {"ReadBack", "read-back of every feature, times the protocol's own waits", 1.05, "x"},
     {"GuiBlocked", "GUI thread blocked by a monitor that hangs, longest", 4.0, "ms"},
     {"Construction", "construction of a model with its 27 modules, bus time excluded, median", 20.0, "ms"},
@@ -100,6 +104,53 @@ void WriteToWire(benchmark::State& state)
     note(state, "WriteToWire", median(times));
 }
 BENCHMARK(WriteToWire)->UseManualTime()->Iterations(50)->Unit(benchmark::kMillisecond);
+
+// A person's drag: a move each 10 ms, the last one to a value that no earlier move had.
+void Slider(benchmark::State& state)
+{
+    constexpr int Moves = 200;
+    constexpr int MoveMs = 10;
+    constexpr int Last = 63;
+    SimulatedBed bed(QStringLiteral("TK30Z"), SimulatedBed::Timing::Real);
+    bed.launch();
+    bed.idle();
+    bed.get("LuBrightness", "softwareDimming").value<QObject*>()->setProperty("state", false);
+    bed.idle();
+    double longest = 0;
+    double most = 0;
+    double error = 0;
+    for ([[maybe_unused]] auto iteration : state) {
+        const quint64 before = bed.monitor().traffic().last().seq;
+        const double start = nowMs();
+        double asked = start;
+        for (int i = 1; i <= Moves; ++i) {
+            asked = nowMs();
+            bed.set("LuBrightness", "displayBrightness", i == Moves ? Last : (i * 7) % Last);
+            QCoreApplication::processEvents();
+            const double due = start + double(i) * MoveMs;
+            if (nowMs() < due)
+                QThread::usleep(static_cast<unsigned long>((due - nowMs()) * 1000));
+        }
+        bed.idle();
+        const QList<sim::TrafficEntry> traffic = bed.monitor().traffic(before);
+        int writes = 0;
+        double last = start;
+        for (const sim::TrafficEntry& entry : traffic) {
+            if (entry.op != sim::Op::Set || entry.code != 0x10)
+                continue;
+            ++writes;
+            last = entry.ms + bed.epochMs();
+        }
+        longest = std::max(longest, last - asked);
+        most = std::max(most, (writes - 1) / ((last - start) / 50.0));
+        error = std::max(error, std::abs(double(bed.monitor().value(0x10).value_or(0)) - Last));
+        state.SetIterationTime((last - asked) / 1000.0);
+    }
+    note(state, "SliderLastMove", longest);
+    note(state, "SliderWrites", most);
+    note(state, "SliderError", error);
+}
+BENCHMARK(Slider)->UseManualTime()->Iterations(5)->Unit(benchmark::kMillisecond);
 
 void ReadBack(benchmark::State& state)
 {

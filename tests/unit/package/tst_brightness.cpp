@@ -3,6 +3,7 @@
 
 #include <ZrCore/ZrDispatch.h>
 
+#include <QElapsedTimer>
 #include <QKeyEvent>
 #include <QSemaphore>
 #include <QSignalSpy>
@@ -126,6 +127,8 @@ private Q_SLOTS:
     void valueIsClamped();
     void setterWritesStoresAndEmits();
     void lastMoveOfASliderIsWritten();
+    void aSliderIsPacedByTheMonitor_data();
+    void aSliderIsPacedByTheMonitor();
     void returnToThePresentValueWritesNothing();
     void switchOfDimmingForcesTheValue();
     void lockedBrightnessIsNeitherWrittenNorRead();
@@ -206,6 +209,67 @@ void TestBrightness::lastMoveOfASliderIsWritten()
     }
     QVERIFY(bed.idle());
     QCOMPARE(bed.wire(), QStringList{sets("10", 99)});
+}
+
+void TestBrightness::aSliderIsPacedByTheMonitor_data()
+{
+    QTest::addColumn<bool>("nacks");
+    QTest::newRow("healthy") << false;
+    QTest::newRow("NACKs every second try") << true;
+}
+
+void TestBrightness::aSliderIsPacedByTheMonitor()
+{
+    QFETCH(bool, nacks);
+    constexpr int BetweenWritesMs = 50; // What the monitor needs after a write.
+    SimulatedBed bed(QStringLiteral("TK30Z"), SimulatedBed::Timing::Real);
+    bed.launch();
+    QVERIFY(bed.idle());
+    bed.get(Module, "softwareDimming").value<QObject*>()->setProperty("state", false);
+    QVERIFY(bed.idle());
+    if (nacks) {
+        sim::Fault fault;
+        fault.kind = sim::FaultKind::Nack;
+        fault.code = 0x10;
+        fault.op = sim::Op::Set;
+        fault.every = 2;
+        bed.monitor().armFault(fault);
+    }
+    const quint64 before = bed.monitor().traffic().last().seq;
+    // 200 moves in the time of 40 writes, each when the event loop comes to it.
+    QElapsedTimer elapsed;
+    elapsed.start();
+    for (int i = 1; i <= 200; ++i) {
+        bed.set(Module, "displayBrightness", i == 200 ? 63 : (i * 7) % 101);
+        const qint64 due = qint64(i) * 10;
+        while (elapsed.elapsed() < due)
+            QCoreApplication::processEvents(QEventLoop::AllEvents, int(due - elapsed.elapsed()));
+    }
+    QVERIFY(bed.idle());
+    QList<sim::TrafficEntry> writes;
+    for (const sim::TrafficEntry& entry : bed.monitor().traffic(before)) {
+        if (entry.op == sim::Op::Set && entry.code == 0x10)
+            writes.append(entry);
+    }
+    QVERIFY(writes.size() >= 5);
+    QVERIFY2(writes.size() <= elapsed.elapsed() / BetweenWritesMs * (nacks ? 2 : 1) + 2,
+             qPrintable(QString::number(writes.size())));
+    QVERIFY(writes.last().ok);
+    QCOMPARE(int(writes.last().value), 63);
+    QCOMPARE(int(bed.monitor().value(0x10).value_or(0)), 63);
+    QCOMPARE(bed.get(Module, "displayBrightness").toInt(), 63);
+    qsizetype refused = 0;
+    for (qsizetype i = 0; i < writes.size(); ++i) {
+        refused += !writes[i].ok;
+        // After a write that was taken the next one waits.
+        if (i > 0 && writes[i - 1].ok)
+            QVERIFY2(writes[i].ms - writes[i - 1].ms >= BetweenWritesMs - 1,
+                     qPrintable(QString::number(writes[i].ms - writes[i - 1].ms)));
+        // What was refused is written again, unless the user has moved on.
+        if (!writes[i].ok)
+            QVERIFY(i + 1 < writes.size());
+    }
+    QCOMPARE(refused > 0, nacks);
 }
 
 void TestBrightness::returnToThePresentValueWritesNothing()

@@ -11,7 +11,6 @@ LuWindow {
 
     text: qsTr("Color Sync")
     timeout: 4000
-    verticalShare: 9 / 10
     width: 280
     height: column.implicitHeight + 2 * LuStyle.spaceLarge
 
