@@ -131,8 +131,7 @@ bool TestDesktopOverlay::overlayShows()
 
 void TestDesktopOverlay::initTestCase()
 {
-    // Of the small window managers the one that keeps notices above a film that fills the screen.
-    QVERIFY(m_windowManager.start(u"xfwm4"_s, {u"--compositor=off"_s}));
+    QVERIFY(m_windowManager.start(u"openbox"_s, {}));
     QTRY_VERIFY_WITH_TIMEOUT(outputOf(u"xprop -root _NET_SUPPORTING_WM_CHECK"_s).contains(u"window id"_s),
                              20000);
     m_compositor = std::make_unique<Beside>();
