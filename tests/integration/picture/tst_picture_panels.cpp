@@ -23,6 +23,7 @@ private Q_SLOTS:
     void gainsShowWithTheUsersTemperature();
     void sixAxesShowAsSliders();
     void hdrLocksBrightnessUnlessBacklightControlAllows();
+    void theLightSensorTakesDimmingAway();
     void resetColorAsksTheMonitor();
     void anUnsupportedMonitorHasItsBrightnessAlone();
     void theBuiltInPanelHasARow();
@@ -273,6 +274,26 @@ void TestPicturePanels::hdrLocksBrightnessUnlessBacklightControlAllows()
     QTRY_COMPARE(desk().get(u"brightness.hardwareBrightnessEnable"_s), QJsonValue(true));
     QTRY_COMPARE(desk().get(u"brightness.softwareDimming.enabled"_s), QJsonValue(true));
     QTRY_COMPARE(desk().get(u"brightness.backlightControlEnabled"_s), QJsonValue(false));
+}
+
+void TestPicturePanels::theLightSensorTakesDimmingAway()
+{
+    startOn(u"TK30Z"_s);
+    QVERIFY(desk().set(u"brightness.displayBrightness"_s, 10));
+    QTRY_VERIFY(desk().overlay().value(u"visible"_s).toBool());
+    QVERIFY(desk().set(u"abPlus.state"_s, true));
+    QTRY_COMPARE(desk().get(u"brightness.softwareDimming.enabled"_s), QJsonValue(false));
+    QTRY_VERIFY(!desk().overlay().value(u"visible"_s).toBool());
+    QTRY_VERIFY(find(u"slider"_s, u"Software Dimming"_s).isEmpty());
+    // The mode lets the brightness be moved beside the sensor.
+    QCOMPARE(desk().get(u"brightness.hardwareBrightnessEnable"_s), QJsonValue(true));
+    QVERIFY(open(u"LuBrightnessWidget"_s));
+    // The plus form leaves no colour temperature in this series, the plain one does.
+    QTRY_VERIFY(!find(u"comboBox"_s, u"Color Temperature"_s).value(u"enabled"_s).toBool());
+    QVERIFY(desk().set(u"abPlus.mode"_s, u"ModeAB"_s));
+    QTRY_VERIFY(find(u"comboBox"_s, u"Color Temperature"_s).value(u"enabled"_s).toBool());
+    QVERIFY(desk().set(u"abPlus.state"_s, false));
+    QTRY_COMPARE(desk().get(u"brightness.softwareDimming.enabled"_s), QJsonValue(true));
 }
 
 void TestPicturePanels::resetColorAsksTheMonitor()

@@ -34,6 +34,7 @@ private Q_SLOTS:
     void aMonitorThatComesBackKeepsItsPlace();
     void theBuiltInPanelTakesPart();
     void dimmingIsAllowedWhereAllCanDim();
+    void theFirstLightSensorLeads();
 
 private:
     PictureDesk& desk() { return *m_desk; }
@@ -311,6 +312,32 @@ void TestPictureSync::dimmingIsAllowedWhereAllCanDim()
     QTRY_COMPARE(desk().client().messages().size(), 1);
     QVERIFY(toggle(false));
     QCOMPARE(sync(u"allowSoftwareDimming"_s), QJsonValue(true));
+}
+
+void TestPictureSync::theFirstLightSensorLeads()
+{
+    QVERIFY2(startBoth(), qPrintable(desk().errors()));
+    QVERIFY(move(A, 60));
+    QVERIFY(move(B, 70));
+    QVERIFY(toggle(true));
+    QCOMPARE(sync(u"sensorSource"_s), QJsonValue(QJsonValue::Null));
+    QVERIFY(desk().set(u"abPlus.state"_s, true, A));
+    QTRY_COMPARE(sync(u"sensorSource.id"_s), QJsonValue(A));
+    QCOMPARE(sync(u"allowSoftwareDimming"_s), QJsonValue(false));
+    // What the light of the room does to the one happens to the other.
+    QVERIFY(desk().menu(0x10, 90, A));
+    QVERIFY(desk().sync(u"LuBrightness"_s, A));
+    const int moved = at(A) - 60;
+    QVERIFY(moved > 10);
+    QTRY_COMPARE(at(B), qMin(100, 70 + moved));
+    QCOMPARE(sync(u"leader"_s), QJsonValue(A));
+    // A second sensor waits its turn.
+    QVERIFY(desk().set(u"abPlus.state"_s, true, B));
+    QCOMPARE(sync(u"sensorSource.id"_s), QJsonValue(A));
+    QVERIFY(desk().set(u"abPlus.state"_s, false, A));
+    QTRY_COMPARE(sync(u"sensorSource.id"_s), QJsonValue(B));
+    QVERIFY(desk().set(u"abPlus.state"_s, false, B));
+    QTRY_COMPARE(sync(u"allowSoftwareDimming"_s), QJsonValue(true));
 }
 
 QTEST_GUILESS_MAIN(TestPictureSync)
