@@ -27,7 +27,7 @@ services::ServiceSet services::nativeServices()
     if (set.name == QLatin1String("x11"))
         windows = x11::addServices(&set);
     else if (set.name.startsWith(QLatin1String("wayland")))
-        wayland::addServices(&set);
+        windows = wayland::addServices(&set);
     set.programs = std::make_shared<Programs>(windows);
     if (set.pointer) {
         KvmChannelOptions channel;

@@ -2,10 +2,11 @@
 #include "services/wayland/WaylandServices.h"
 
 #include "services/wayland/Display.h"
+#include "services/wayland/KWinEvents.h"
 
 #include <QDebug>
 
-void services::wayland::addServices(ServiceSet* set)
+std::shared_ptr<services::ApplicationWindows> services::wayland::addServices(ServiceSet* set)
 {
     const QDBusConnection bus = QDBusConnection::sessionBus();
     std::shared_ptr<OutputControl> control = makeMutterControl(bus);
@@ -14,6 +15,11 @@ void services::wayland::addServices(ServiceSet* set)
     set->display = makeDisplay(control);
     if (!set->display)
         qInfo() << "[Services] this compositor does not let programs change displays";
+    const auto events = KWinEvents::make(bus);
+    set->events = events;
+    if (events)
+        return events;
     qInfo() << "[Services] on Wayland there are no global keys, no windows of other applications, no pointer "
                "at the edge";
+    return nullptr;
 }

@@ -3,11 +3,16 @@
 
 #include "lushared/services/ServiceRegistry.h"
 
+namespace services {
+class ApplicationWindows;
+}
+
 namespace services::wayland {
 
-/// Adds what the compositor offers to the session's services: displays under GNOME and Plasma. What Wayland
-/// keeps from programs (keys and windows of others, the pointer) stays absent, with a line in the log. GUI
-/// thread.
-void addServices(ServiceSet* set);
+/// Adds what the compositor offers to the session's services: displays under GNOME and Plasma, and under
+/// Plasma the windows of other applications and the program's own key combinations. What Wayland keeps from
+/// programs stays absent, with a line in the log. GUI thread.
+/// @return the windows of other applications; null where they are kept.
+std::shared_ptr<ApplicationWindows> addServices(ServiceSet* set);
 
 } // namespace services::wayland

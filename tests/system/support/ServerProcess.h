@@ -55,6 +55,8 @@ public:
         }
     }
 
+    qint64 processId() const { return m_process.processId(); }
+
     bool isRunning() const { return m_process.state() == QProcess::Running; }
 
 private:

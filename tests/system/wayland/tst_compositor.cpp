@@ -2,6 +2,7 @@
 #include <LuShared/LuPlatform.h>
 #include <LuShared/LuPlatformNotifications.h>
 
+#include "KWinServer.h"
 #include "PrivateBus.h"
 #include "ddc/Bus.h"
 #include "lushared/services/ServiceRegistry.h"
@@ -65,6 +66,7 @@ private:
     QTemporaryDir m_home;
     PrivateBus m_bus;
     ServerProcess m_compositor;
+    KWinServer m_kwin;
     ServerProcess m_kscreen;
     QString m_firstName;
     QString m_secondName;
@@ -90,16 +92,7 @@ QString tst_compositor::startKWin()
     m_firstName = u"Virtual-0"_s;
     m_secondName = u"Virtual-1"_s;
     m_size = QSize(1024, 768);
-    // A copy has not the file's capability, which a container may refuse to start.
-    const QString program = m_home.filePath(u"kwin_wayland"_s);
-    if (!QFile::copy(u"/usr/bin/kwin_wayland"_s, program))
-        return u"/usr/bin/kwin_wayland cannot be copied"_s;
-    m_compositor.environment.insert(u"KWIN_COMPOSE"_s, u"Q"_s);
-    m_compositor.environment.remove(u"QT_QPA_PLATFORM"_s);
-    QString problem = m_compositor.start(
-        program, {u"--virtual"_s, u"--output-count"_s, u"2"_s, u"--socket"_s, u"test-wayland"_s},
-        [this] { return QFile::exists(m_home.filePath(u"test-wayland"_s)) && isOnBus(u"org.kde.KWin"_s); },
-        60'000);
+    const QString problem = m_kwin.start(m_home.path());
     if (!problem.isEmpty())
         return problem;
     // What Plasma starts by the bus, with the session's environment.
@@ -114,7 +107,7 @@ QString tst_compositor::startKWin()
     }
     if (launcher.isEmpty())
         return u"KScreen's back end is not installed"_s;
-    m_kscreen.environment.insert(u"WAYLAND_DISPLAY"_s, u"test-wayland"_s);
+    m_kscreen.environment.insert(u"WAYLAND_DISPLAY"_s, KWinServer::display());
     m_kscreen.environment.insert(u"QT_QPA_PLATFORM"_s, u"wayland"_s);
     return m_kscreen.start(
         launcher, {}, [] { return isOnBus(u"org.kde.KScreen"_s); }, 60'000);
@@ -145,6 +138,7 @@ void tst_compositor::cleanupTestCase()
 {
     services::Registry::install({});
     m_kscreen.stop();
+    m_kwin.stop();
     m_compositor.stop();
 }
 
@@ -221,7 +215,8 @@ void tst_compositor::unknownModeIsRefused()
 void tst_compositor::whatWaylandKeepsIsAbsent()
 {
     const services::ServiceSet set = services::Registry::current();
-    QVERIFY(!set.events && !set.windows && !set.clipboardKeys && !set.pointer && !set.kvm);
+    QVERIFY(!set.windows && !set.clipboardKeys && !set.pointer && !set.kvm);
+    QCOMPARE(bool(set.events), useKWin);
     LuPlatform::simulateCopy();
     LuPlatform::simulatePaste();
 }

@@ -1,0 +1,268 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "services/wayland/KWinEvents.h"
+
+#include <LuShared/LuPlatformNotifications.h>
+
+#include "services/wayland/KWinScript.h"
+
+#include <QDBusConnectionInterface>
+#include <QDBusObjectPath>
+#include <QDBusPendingCallWatcher>
+#include <QDebug>
+#include <QFile>
+#include <QKeySequence>
+#include <QRectF>
+#include <QTimer>
+
+namespace services::wayland {
+
+namespace {
+
+const QString KWin = QStringLiteral("org.kde.KWin");
+const QString ScriptingPath = QStringLiteral("/Scripting");
+const QString ScriptingInterface = QStringLiteral("org.kde.kwin.Scripting");
+const QString ScriptInterface = QStringLiteral("org.kde.kwin.Script");
+const QString OwnPath = QStringLiteral("/lumen_desk/KWin");
+const QString OwnInterface = QStringLiteral("org.lumen_desk.KWin");
+const QString WatchName = QStringLiteral("lumen-desk-watch");
+
+const QString Accelerators = QStringLiteral("org.kde.kglobalaccel");
+const QString AcceleratorsPath = QStringLiteral("/kglobalaccel");
+const QString AcceleratorsInterface = QStringLiteral("org.kde.KGlobalAccel");
+const QString ComponentInterface = QStringLiteral("org.kde.kglobalaccel.Component");
+const QString Component = QStringLiteral("lumen-desk");
+
+constexpr int MostTries = 30;
+constexpr int TryMs = 1000;
+
+/// What is set holds now, and is not what an earlier session of KGlobalAccel remembers.
+constexpr uint SetNow = 2 | 4;
+
+QDBusMessage accelerators(const QString& method)
+{
+    return QDBusMessage::createMethodCall(Accelerators, AcceleratorsPath, AcceleratorsInterface, method);
+}
+
+QString number(double value)
+{
+    return QString::number(value, 'f', 0);
+}
+
+} // namespace
+
+std::shared_ptr<KWinEvents> KWinEvents::make(const QDBusConnection& sessionBus)
+{
+    if (!sessionBus.isConnected() || !sessionBus.interface()->isServiceRegistered(KWin))
+        return nullptr;
+    return std::make_shared<KWinEvents>(sessionBus);
+}
+
+KWinEvents::KWinEvents(const QDBusConnection& sessionBus) : m_bus(sessionBus)
+{
+    m_bus.registerObject(OwnPath, this, QDBusConnection::ExportScriptableSlots);
+}
+
+KWinEvents::~KWinEvents()
+{
+    stop();
+    m_bus.unregisterObject(OwnPath);
+}
+
+void KWinEvents::call(const QDBusMessage& message, Next next)
+{
+    auto* const watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(message), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [watcher, message, next = std::move(next)] {
+        watcher->deleteLater();
+        const QDBusMessage reply = watcher->reply();
+        if (reply.type() == QDBusMessage::ErrorMessage)
+            qWarning().noquote() << "[LuPlatform]" << message.member()
+                                 << "of the desktop failed:" << reply.errorMessage();
+        else if (next)
+            next(reply);
+    });
+}
+
+void KWinEvents::runScript(const QString& name, const QString& text, bool stays)
+{
+    const QString file = m_folder.filePath(name + QStringLiteral(".js"));
+    QFile script(file);
+    if (!script.open(QIODevice::WriteOnly) || script.write(text.toUtf8()) < 0) {
+        qWarning().noquote() << "[LuPlatform] a script for KWin cannot be written:" << script.errorString();
+        return;
+    }
+    script.close();
+    QDBusMessage load =
+        QDBusMessage::createMethodCall(KWin, ScriptingPath, ScriptingInterface, QStringLiteral("loadScript"));
+    load << file << name;
+    call(load, [this, name, stays](const QDBusMessage& reply) {
+        const int id = reply.arguments().value(0).toInt();
+        if (id < 0) {
+            qWarning() << "[LuPlatform] KWin does not take a script";
+            return;
+        }
+        const auto unload = [this, name, stays](const QDBusMessage&) {
+            if (stays)
+                return;
+            QDBusMessage message = QDBusMessage::createMethodCall(KWin, ScriptingPath, ScriptingInterface,
+                                                                  QStringLiteral("unloadScript"));
+            message << name;
+            call(message, {});
+            QFile::remove(m_folder.filePath(name + QStringLiteral(".js")));
+        };
+        // KWin 6 keeps its scripts below "/Scripting".
+        const QString old = u'/' + QString::number(id);
+        const QString current = QStringLiteral("/Scripting/Script") + QString::number(id);
+        const auto run = [](const QString& path) {
+            return QDBusMessage::createMethodCall(KWin, path, ScriptInterface, QStringLiteral("run"));
+        };
+        auto* const watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(run(current)), this);
+        connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher, run, old, unload] {
+            watcher->deleteLater();
+            if (watcher->isError())
+                call(run(old), unload);
+            else
+                unload(watcher->reply());
+        });
+    });
+}
+
+void KWinEvents::start()
+{
+    if (m_started)
+        return;
+    m_started = true;
+    m_tries = MostTries;
+    watch();
+}
+
+void KWinEvents::watch()
+{
+    // One that a killed run has left behind would tell an address that nobody has.
+    QDBusMessage message = QDBusMessage::createMethodCall(KWin, ScriptingPath, ScriptingInterface,
+                                                          QStringLiteral("unloadScript"));
+    message << WatchName;
+    auto* const watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(message), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
+        watcher->deleteLater();
+        if (!m_started)
+            return;
+        if (!watcher->isError())
+            runScript(WatchName, watchScript(m_bus.baseService(), OwnPath, OwnInterface), true);
+        else if (--m_tries > 0) // KWin offers scripts some time after it has its name
+            QTimer::singleShot(TryMs, this, [this] { watch(); });
+        else
+            qWarning() << "[LuPlatform] KWin takes no scripts: windows of other applications are not seen";
+    });
+}
+
+void KWinEvents::stop()
+{
+    setActionKeys({});
+    if (!m_started)
+        return;
+    m_started = false;
+    QDBusMessage message = QDBusMessage::createMethodCall(KWin, ScriptingPath, ScriptingInterface,
+                                                          QStringLiteral("unloadScript"));
+    message << WatchName;
+    m_bus.send(message);
+}
+
+void KWinEvents::activated(const QString& text)
+{
+    const unsigned long pid = text.toULong();
+    if (m_started && pid > 0)
+        Q_EMIT LuPlatformNotifications::instance()->activeAppChanged(pid);
+}
+
+void KWinEvents::dragged(const QString& text)
+{
+    const QStringList parts = text.split(u' ');
+    if (m_started && parts.size() == 3 && parts[0].toULong() > 0)
+        Q_EMIT LuPlatformNotifications::instance()->activeAppDragged(
+            parts[0].toULong(), QPointF(parts[1].toDouble(), parts[2].toDouble()));
+}
+
+void KWinEvents::released(const QString& text)
+{
+    const QStringList parts = text.split(u' ');
+    if (m_started && parts.size() == 3 && parts[0].toULong() > 0)
+        Q_EMIT LuPlatformNotifications::instance()->activeAppReleased(
+            parts[0].toULong(), QPointF(parts[1].toDouble(), parts[2].toDouble()));
+}
+
+void KWinEvents::setGeometry(unsigned long pid, const QRectF& geometry)
+{
+    const QString script = placeScript(pid, number(geometry.x()), number(geometry.y()),
+                                       number(geometry.width()), number(geometry.height()));
+    QMetaObject::invokeMethod(this, [this, script] {
+        runScript(QStringLiteral("lumen-desk-place-%1").arg(++m_scripts), script, false);
+    });
+}
+
+void KWinEvents::setActionKeys(const QSet<QKeyCombination>& keys)
+{
+    QHash<QString, QKeyCombination> wanted;
+    for (const QKeyCombination key : keys) {
+        if (key.key() != Qt::Key_unknown && key.key() != Qt::Key(0))
+            wanted.insert(QKeySequence(key).toString(QKeySequence::PortableText), key);
+    }
+    for (auto it = m_keys.constBegin(); it != m_keys.constEnd(); ++it) {
+        if (wanted.contains(it.key()))
+            continue;
+        QDBusMessage message = accelerators(QStringLiteral("unregister"));
+        message << Component << it.key();
+        m_bus.send(message);
+    }
+    for (auto it = wanted.constBegin(); it != wanted.constEnd(); ++it) {
+        if (!m_keys.contains(it.key()))
+            registerKey(it.key(), it->toCombined());
+    }
+    m_keys = wanted;
+}
+
+void KWinEvents::registerKey(const QString& name, int key)
+{
+    const QStringList action{Component, name, QStringLiteral("Lumen Desk"), name};
+    QDBusMessage message = accelerators(QStringLiteral("doRegister"));
+    message << action;
+    call(message, [this, action, key](const QDBusMessage&) {
+        QDBusMessage set = accelerators(QStringLiteral("setShortcut"));
+        set << action << QVariant::fromValue(QList<int>{key}) << SetNow;
+        call(set, [this, action, key](const QDBusMessage& reply) {
+            // What the desktop gives to another program is left out of the answer.
+            if (reply.signature() == QLatin1String("ai") &&
+                !qdbus_cast<QList<int>>(reply.arguments().value(0)).contains(key))
+                qWarning().noquote() << "[LuPlatform] the desktop keeps" << action[1]
+                                     << "for another program";
+            listenToShortcuts();
+        });
+    });
+}
+
+void KWinEvents::listenToShortcuts()
+{
+    if (m_listening)
+        return;
+    m_listening = true;
+    QDBusMessage message = accelerators(QStringLiteral("getComponent"));
+    message << Component;
+    call(message, [this](const QDBusMessage& reply) {
+        m_bus.connect(Accelerators, reply.arguments().value(0).value<QDBusObjectPath>().path(),
+                      ComponentInterface, QStringLiteral("globalShortcutPressed"), this,
+                      SLOT(onShortcut(QString, QString, qlonglong)));
+    });
+}
+
+void KWinEvents::onShortcut(const QString& component, const QString& action, qlonglong)
+{
+    const auto key = m_keys.constFind(action);
+    if (component != Component || key == m_keys.constEnd())
+        return;
+    const QKeyCombination combination = *key;
+    if (m_handler)
+        m_handler(combination.keyboardModifiers(), combination.key(), false);
+    Q_EMIT LuPlatformNotifications::instance()->activeKeyEvent(combination.keyboardModifiers(),
+                                                               combination.key(), false);
+}
+
+} // namespace services::wayland
