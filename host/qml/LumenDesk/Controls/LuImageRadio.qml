@@ -88,6 +88,10 @@ T.RadioButton {
             text: control.text
         }
     }
+    LuToolTip {
+        visible: control.hovered && !control.down && !control.showText
+        text: control.text
+    }
     LuConfirmedState {
         control: control
     }

@@ -60,7 +60,7 @@ LuBasicWidget {
             }
             Row {
                 width: parent.width
-                spacing: Math.floor((width - 4 * 48) / 3)
+                spacing: Math.floor((width - 4 * LuStyle.scaled(48)) / 3)
                 Accessible.role: Accessible.Grouping
                 Accessible.name: qsTr("Screen pivot")
                 Repeater {
@@ -69,7 +69,7 @@ LuBasicWidget {
                         required property int modelData
 
                         text: "%1°".arg(modelData)
-                        width: 48
+                        width: LuStyle.scaled(48)
                         enabled: !_self.active
                         confirmed: _self.autoPivot?.currentPivot === modelData
                         normalImage: LuContext.resolvedResourceUrl("qrc:/images/packages/btn_pivot_%1.svg".arg(modelData), _self, LuStyle.colorScheme)

@@ -27,7 +27,7 @@ LuAdvancedWidget {
 
             Row {
                 width: parent.width
-                spacing: Math.floor((width - 4 * 48) / 3)
+                spacing: Math.floor((width - 4 * LuStyle.scaled(48)) / 3)
                 Accessible.role: Accessible.Grouping
                 Accessible.name: qsTr("Screen pivot")
                 Repeater {
@@ -36,7 +36,7 @@ LuAdvancedWidget {
                         required property int modelData
 
                         text: "%1°".arg(modelData)
-                        width: 48
+                        width: LuStyle.scaled(48)
                         confirmed: _self.currentPivot === modelData
                         normalImage: LuContext.resolvedResourceUrl("qrc:/images/packages/btn_pivot_%1.svg".arg(modelData), _self, LuStyle.colorScheme)
                         checkedImage: LuContext.resolvedResourceUrl("qrc:/images/packages/btn_pivot_%1_active.svg".arg(modelData), _self, LuStyle.colorScheme)

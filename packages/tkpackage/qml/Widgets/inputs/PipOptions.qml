@@ -59,15 +59,10 @@ Column {
 
                 text: modelData.name
                 showText: false
-                width: 48
                 confirmed: options.pipPbp?.pipPosition === modelData.place
                 normalImage: LuContext.resolvedResourceUrl("qrc:/images/packages/%1.svg".arg(modelData.picture), options.widget, LuStyle.colorScheme)
                 checkedImage: LuContext.resolvedResourceUrl("qrc:/images/packages/%1_active.svg".arg(modelData.picture), options.widget, LuStyle.colorScheme)
                 onToggled: options.pipPbp.pipPosition = modelData.place
-                LuToolTip {
-                    visible: parent.hovered && !parent.down
-                    text: parent.text
-                }
             }
         }
     }

@@ -57,14 +57,9 @@ LuPage {
                     text: modelData.name
                     showText: false
                     imageSize: 48
-                    width: 48
                     confirmed: page.mode === modelData.mode
                     normalImage: LuContext.resolvedResourceUrl("qrc:/images/packages/%1.svg".arg(modelData.picture), page.widget, LuStyle.colorScheme)
                     onToggled: page.widget.chooseMode(modelData.mode)
-                    LuToolTip {
-                        visible: parent.hovered && !parent.down
-                        text: parent.text
-                    }
                 }
             }
         }
