@@ -55,8 +55,15 @@ LuWidget {
         Item {
             width: parent.width
             height: Math.max(32, _choice.height)
-            LuLabel {
+            LuIcon {
+                id: _glyph
                 anchors.left: parent.left
+                anchors.verticalCenter: parent.verticalCenter
+                name: "input"
+            }
+            LuLabel {
+                anchors.left: _glyph.right
+                anchors.leftMargin: LuStyle.space
                 anchors.right: _choice.left
                 anchors.rightMargin: LuStyle.space
                 anchors.verticalCenter: parent.verticalCenter

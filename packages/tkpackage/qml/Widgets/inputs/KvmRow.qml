@@ -46,8 +46,15 @@ Item {
             }
         }
     }
-    LuLabel {
+    LuIcon {
+        id: glyph
         anchors.left: parent.left
+        anchors.verticalCenter: parent.verticalCenter
+        name: "kvm"
+    }
+    LuLabel {
+        anchors.left: glyph.right
+        anchors.leftMargin: LuStyle.space
         anchors.right: side.left
         anchors.rightMargin: LuStyle.space
         anchors.verticalCenter: parent.verticalCenter
@@ -77,7 +84,7 @@ Item {
         }
         LuIcon {
             anchors.verticalCenter: parent.verticalCenter
-            name: "forward"
+            name: row.LayoutMirroring.enabled ? "back" : "forward"
             size: 14
             color: LuStyle.textDim
         }
