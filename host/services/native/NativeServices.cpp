@@ -2,6 +2,7 @@
 #include "NativeServices.h"
 
 #include <ZrCore/ZrS.h>
+#include <lushared/LuSettings.h>
 
 #include "services/kvm/NativeKvm.h"
 #include "services/linux/Backlight.h"
@@ -32,6 +33,12 @@ services::ServiceSet services::nativeServices()
     if (set.pointer) {
         KvmChannelOptions channel;
         channel.folder = ZrS::dataPath() + QStringLiteral("/kvm");
+        const QHostAddress address(LuSettings::instance().value(QStringLiteral("kvm/address")).toString());
+        if (!address.isNull())
+            channel.address = address;
+        const int port = LuSettings::instance().value(QStringLiteral("kvm/port"), channel.port).toInt();
+        if (port > 0 && port <= 65535)
+            channel.port = quint16(port);
         set.kvm = std::make_shared<NativeKvm>(set.pointer, channel);
     }
     return set;
