@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "DeskProcess.h"
+
+#include <QtTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A computer of two, with the channel on a loopback address of its own.
+class Computer : public DeskProcess
+{
+public:
+    Computer(const QString& channelAddress, int channelPort) : address(channelAddress), port(channelPort) {}
+
+    bool begin()
+    {
+        QDir().mkpath(filePath(u"config/lumen-desk"_s));
+        QFile settings(filePath(u"config/lumen-desk/lumen-desk.ini"_s));
+        if (!settings.exists()) {
+            if (!settings.open(QIODevice::WriteOnly))
+                return false;
+            settings.write(u"[kvm]\nport=%1\naddress=%2\n"_s.arg(port).arg(address).toUtf8());
+            settings.close();
+        }
+        return start(usualOptions() + QStringList{u"--services"_s, u"native"_s});
+    }
+    QJsonObject status() { return client().call(u"kvm.status"_s).result.toObject(); }
+    bool isConnected() { return status()[u"connected"].toBool(); }
+    QString code() { return status()[u"code"].toString(); }
+
+    QString address;
+    int port;
+};
+
+} // namespace
+
+/// Two whole programs on one X server, paired through their control sockets.
+class tst_desk_kvm : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void simulatedSessionHasNoChannel();
+    void twoComputersArePaired();
+};
+
+void tst_desk_kvm::simulatedSessionHasNoChannel()
+{
+    DeskProcess desk;
+    QVERIFY2(desk.start(), qPrintable(desk.errors()));
+    for (const QString& method :
+         {u"kvm.status"_s, u"kvm.pair"_s, u"kvm.confirm"_s, u"kvm.cancel"_s, u"kvm.forget"_s})
+        QCOMPARE(desk.client().call(method).code, 2);
+    QCOMPARE(desk.client().call(u"kvm.network"_s, {{u"on"_s, true}}).code, 2);
+}
+
+void tst_desk_kvm::twoComputersArePaired()
+{
+    Computer one(u"127.0.0.1"_s, 47901);
+    Computer two(u"127.0.0.2"_s, 47902);
+    QVERIFY2(one.begin(), qPrintable(one.errors()));
+    QVERIFY2(two.begin(), qPrintable(two.errors()));
+
+    QVERIFY(!one.status()[u"network"].toBool());
+    QCOMPARE(one.client().call(u"kvm.pair"_s).code, 3); // off
+    QCOMPARE(one.client().call(u"kvm.network"_s, {{u"on"_s, u"yes"_s}}).code, -32602);
+    for (Computer* computer : {&one, &two})
+        QCOMPARE(computer->client().call(u"kvm.network"_s, {{u"on"_s, true}}).code, 0);
+    QCOMPARE(one.client().call(u"kvm.confirm"_s).code, 3); // no code yet
+    QCOMPARE(two.client().call(u"kvm.pair"_s, {{u"address"_s, u"198.51.100.1"_s}}).code, -32602);
+    QCOMPARE(two.client().call(u"kvm.pair"_s, {{u"address"_s, u"nowhere"_s}}).code, -32602);
+
+    QCOMPARE(one.client().call(u"kvm.pair"_s).code, 0);
+    QCOMPARE(two.client().call(u"kvm.pair"_s, {{u"address"_s, one.address}, {u"port"_s, one.port}}).code, 0);
+    QTRY_COMPARE_WITH_TIMEOUT(one.code().size(), 6, 30'000);
+    QTRY_COMPARE(two.code(), one.code());
+    QCOMPARE(one.client().call(u"kvm.confirm"_s).code, 0);
+    QVERIFY(!one.status()[u"paired"].toBool());
+    QCOMPARE(two.client().call(u"kvm.confirm"_s).code, 0);
+    QTRY_VERIFY_WITH_TIMEOUT(one.isConnected() && two.isConnected(), 30'000);
+    QVERIFY(one.status()[u"pointerHere"].toBool() != two.status()[u"pointerHere"].toBool());
+
+    // They meet again, each with its setting and its pairing.
+    QCOMPARE(one.stop(), 0);
+    QTRY_VERIFY_WITH_TIMEOUT(!two.isConnected(), 30'000);
+    QVERIFY2(one.begin(), qPrintable(one.errors()));
+    QTRY_VERIFY_WITH_TIMEOUT(one.isConnected() && two.isConnected(), 60'000);
+    QCOMPARE(two.client().call(u"kvm.forget"_s).code, 0);
+    QTRY_VERIFY_WITH_TIMEOUT(!one.isConnected(), 30'000);
+}
+
+QTEST_GUILESS_MAIN(tst_desk_kvm)
+#include "tst_desk_kvm.moc"
