@@ -106,7 +106,7 @@ void WriteToWire(benchmark::State& state)
 BENCHMARK(WriteToWire)->UseManualTime()->Iterations(50)->Unit(benchmark::kMillisecond);
 
 // A person's drag: a move each 10 ms, the last one to a value that no earlier move had.
-void Slider(benchmark::State& state)
+void SliderOnTheWire(benchmark::State& state)
 {
     constexpr int Moves = 200;
     constexpr int MoveMs = 10;
@@ -150,7 +150,7 @@ void Slider(benchmark::State& state)
     note(state, "SliderWrites", most);
     note(state, "SliderError", error);
 }
-BENCHMARK(Slider)->UseManualTime()->Iterations(5)->Unit(benchmark::kMillisecond);
+BENCHMARK(SliderOnTheWire)->UseManualTime()->Iterations(5)->Unit(benchmark::kMillisecond);
 
 void ReadBack(benchmark::State& state)
 {
