@@ -164,11 +164,15 @@ LuWindowBridge::Result LuWindowBridge::openPopup(const QString& widget)
         return noWindow();
     QQuickItem* item = widgetItem(widget);
     auto* popup = item ? item->property("popupWindow").value<QObject*>() : nullptr;
+    bool named = false;
     if (!popup)
+        QMetaObject::invokeMethod(window(), "openPopup", Q_RETURN_ARG(bool, named), Q_ARG(QString, widget));
+    if (!popup && !named)
         return failure(NoSuchThing, u"no such popup: %1"_s.arg(widget));
     if (!window()->isVisible())
         show();
-    QMetaObject::invokeMethod(popup, "open");
+    if (popup)
+        QMetaObject::invokeMethod(popup, "open");
     return {};
 }
 
@@ -203,6 +207,14 @@ LuWindowBridge::Result LuWindowBridge::close(const QString& name)
         if (auto* popup = item->property("popupWindow").value<QObject*>())
             QMetaObject::invokeMethod(popup, "close");
         return {};
+    }
+    // Feedback has a window of its own.
+    const QList<QWindow*> windows = QGuiApplication::topLevelWindows();
+    for (QWindow* one : windows) {
+        if (one != window() && one->isVisible() && isTypeOf(one, name)) {
+            one->close();
+            return {};
+        }
     }
     if (sectionItem(name)) {
         QMetaObject::invokeMethod(window(), "closeSettings");

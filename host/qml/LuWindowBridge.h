@@ -64,7 +64,8 @@ public:
     /// Opens an advanced section, or a page of the settings such as "general"; error 2 if there is none of
     /// that name.
     Result openSection(const QString& section);
-    /// Opens the popup of a widget, such as the warning of its colour mode.
+    /// Opens the popup of a widget, such as the warning of its colour mode, or one of the package by its
+    /// name, such as "LuPopupFlowNotify".
     Result openPopup(const QString& widget);
     /// Closes the page of @p name, or whatever page is open for an empty name, or a popup of that type. Its
     /// end, with the event that belongs to it, has run on return.

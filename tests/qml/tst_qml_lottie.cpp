@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QImage>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -97,6 +98,22 @@ void TestLottie::everyCarriedAnimationMoves()
     QImage empty = first;
     empty.fill(Qt::white);
     QVERIFY(differing(first, empty) > 1000);
+    // Kept for a person to see it move.
+    constexpr int Steps = 6;
+    QImage strip(Steps * first.width() / 2, first.height() / 2, QImage::Format_ARGB32_Premultiplied);
+    QPainter painter(&strip);
+    painter.scale(0.5, 0.5);
+    for (int step = 0; step < Steps; ++step) {
+        const double frame =
+            file->firstFrame() + (file->lastFrame() - file->firstFrame()) * step / double(Steps - 1);
+        painter.drawImage(step * first.width(), 0,
+                          pictureOf(*file, std::min(frame, file->lastFrame() - 0.5)));
+    }
+    painter.end();
+    QVERIFY(QDir().mkpath(QStringLiteral(GALLERY_FOLDER)));
+    const QString name =
+        u"%1/animation-%2.png"_s.arg(QStringLiteral(GALLERY_FOLDER), QFileInfo(path).baseName());
+    QVERIFY(strip.save(name));
 }
 
 void TestLottie::aShapeIsWhereItsKeyframesSay_data()

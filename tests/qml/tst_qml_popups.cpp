@@ -172,10 +172,10 @@ QVariant TestPopups::call(const char* function, const QVariantList& arguments)
                        ? QGenericArgument("QVariant", &values[i])
                        : QGenericArgument(method.parameterMetaType(i).name(), values[i].constData());
         };
-        QQuickItem* item = nullptr;
-        method.invoke(m_controller, QGenericReturnArgument(method.returnMetaType().name(), &item),
-                      argument(0), argument(1), argument(2));
-        return QVariant::fromValue(item);
+        QVariant result;
+        method.invoke(m_controller, QGenericReturnArgument("QVariant", &result), argument(0), argument(1),
+                      argument(2));
+        return result;
     }
     return {};
 }

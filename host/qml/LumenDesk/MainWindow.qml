@@ -24,6 +24,7 @@ Window {
     readonly property Window settingsWindow: settings.item as Window
     readonly property Window walkthroughWindow: introduction.item as Window
     property bool movedByUser: false
+    property var popupAccess: null
 
     objectName: "mainWindow"
     title: qsTr("Lumen Desk")
@@ -100,6 +101,18 @@ Window {
     // Lets the user arrange the widgets beside the window.
     function openArrangement(): void {
         showPage(null, arrangement)
+    }
+
+    // Opens a popup of the package by its name; false if there is none.
+    function openPopup(name: string): bool {
+        return popupController()?.openNamed(name) ?? false
+    }
+
+    // Loaded when it is asked for the first time.
+    function popupController(): var {
+        if (!popupAccess)
+            popupAccess = Qt.createComponent(Qt.resolvedUrl("Popups/PopupAccess.qml")).createObject(window)
+        return popupAccess?.controller ?? null
     }
 
     // Shows the introduction of the monitor's package; false if it has none.

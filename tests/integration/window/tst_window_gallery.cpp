@@ -115,6 +115,8 @@ void TestGallery::start(const QString& model, const QByteArray& scale)
         }
     }
     QVERIFY(client().call(u"sync"_s).ok());
+    // Pictures show the end of every transition.
+    QVERIFY(client().call(u"set"_s, {{u"path"_s, u"context.reducedMotion"_s}, {u"value"_s, true}}).ok());
 }
 
 QList<Part> TestGallery::parts()
@@ -169,6 +171,21 @@ void TestGallery::everythingIsDrawn()
             // A tile need not have a page, nor a monitor every section.
             if (picture(part.name, part.name))
                 ++pages;
+        }
+        const QStringList popups = QDir(QStringLiteral(POPUP_FOLDER)).entryList({u"LuPopup*Action.qml"_s});
+        for (const QString& popup : popups) {
+            // The editors belong to features that a foreign panel has not.
+            if (model == "builtin"_L1)
+                break;
+            const QString name = popup.chopped(4);
+            QVERIFY2(client().call(u"ui.open"_s, {{u"popup"_s, name}}).ok(), qPrintable(name));
+            QVERIFY(picture(name, {}));
+            const QImage with(
+                m_folder.absoluteFilePath(u"%1-%2-%3-%4x.png"_s.arg(model, name, theme).arg(factor)));
+            const QImage without(
+                m_folder.absoluteFilePath(u"%1-window-%2-%3x.png"_s.arg(model, theme).arg(factor)));
+            QVERIFY2(differenceOf(without, with) > 10, qPrintable(name));
+            QVERIFY(client().call(u"ui.close"_s, {{u"popup"_s, name}}).ok());
         }
         const QJsonArray widgets = client().call(u"ui.widgets"_s).result.toArray();
         for (const QJsonValue& row : widgets) {

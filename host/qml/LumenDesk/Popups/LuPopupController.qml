@@ -8,8 +8,8 @@ import LumenDesk
 QtObject {
     id: controller
 
-    // The popup that is open, or null: one at a time.
-    property Item current: null
+    // The popup that is open, or null: one at a time. An item, or a window of feedback.
+    property var current: null
     readonly property bool opened: current !== null
     // File of each action's editor in the package's folder "Popups", by the action's title.
     readonly property var editors: ({
@@ -60,7 +60,7 @@ QtObject {
 
     // Shows the popup of a file; null if there is no window for it. The files are no part of this one: they belong to
     // the same module, and would wait for each other.
-    function show(file: url, properties: var): Item {
+    function show(file: url, properties: var): var {
         close()
         const parent = place()
         if (!parent)
@@ -77,7 +77,7 @@ QtObject {
         return popup
     }
 
-    function release(popup: Item): void {
+    function release(popup: var): void {
         if (current === popup)
             current = null
         popup.destroy()
@@ -85,18 +85,21 @@ QtObject {
 
     // Leaves the popup that is open, as its Cancel does.
     function close(): void {
-        current?.cancel()
+        if (typeof current?.cancel === "function")
+            current.cancel()
+        else
+            current?.close()
     }
 
     // Asks for the name of a new flow of the module `flow`.
-    function openFlowAddName(flow: var): Item {
+    function openFlowAddName(flow: var): var {
         const popup = show("LuNamePopup.qml", { "title": qsTr("Add a flow"), "taken": flowNames(flow) })
         popup?.confirmed.connect(() => flow.appendFlowName(popup.wanted))
         return popup
     }
 
     // Asks for another name of the flow `info`.
-    function openFlowRename(flow: var, info: var): Item {
+    function openFlowRename(flow: var, info: var): var {
         const popup = show("LuNamePopup.qml", {
             "title": qsTr("Rename the flow"),
             "name": info.name,
@@ -107,7 +110,7 @@ QtObject {
     }
 
     // Edits `period` of the flow `info`, or adds one where it is null.
-    function openFlowSchedulePopup(info: var, period: var): Item {
+    function openFlowSchedulePopup(info: var, period: var): var {
         const minutes = time => time.getHours() * 60 + time.getMinutes()
         const time = minute => new Date(1970, 0, 1, Math.floor(minute / 60), minute % 60)
         const popup = show("LuSchedulePopup.qml", period ? {
@@ -127,7 +130,7 @@ QtObject {
     }
 
     // Lets the user choose one of the actions that the flow `modeId` lacks, and opens its editor.
-    function openFlowActionSelection(monitor: var, modeId: string): Item {
+    function openFlowActionSelection(monitor: var, modeId: string): var {
         const used = LuFlowActions.titles(monitor, modeId)
         const free = Array.from(monitor?.flow?.actions ?? []).filter(title => !used.includes(title))
         const popup = show("LuActionSelectionPopup.qml", {
@@ -141,7 +144,7 @@ QtObject {
     }
 
     // Opens the editor of the action `title` of the flow `modeId`; null if the package has none.
-    function openFlowAction(monitor: var, modeId: string, title: int): Item {
+    function openFlowAction(monitor: var, modeId: string, title: int): var {
         const url = LuContext.packageFile("Popups/" + (editors[title] ?? "") + ".qml")
         if (!String(url)) {
             console.warn("no editor for the action", title)
@@ -158,6 +161,19 @@ QtObject {
                 console.warn("the action could not be stored:", title)
         })
         return popup
+    }
+
+    // Opens the popup `name` of the current monitor's package, as "LuPopupFlowNotify"; false if it has none.
+    function openNamed(name: string): bool {
+        const url = LuContext.packageFile("Popups/" + name + ".qml")
+        if (!String(url))
+            return false
+        const title = Object.keys(editors).find(key => editors[key] === name)
+        const popup = show(url, title ? {
+            "monitor": LuContext.currentMonitor,
+            "actionTitle": Number(title)
+        } : { "monitor": LuContext.currentMonitor })
+        return popup !== null
     }
 
     function flowNames(flow: var): var {
