@@ -257,7 +257,7 @@ double numberIn(const QByteArray& answer, const char* name)
         .toDouble(-1);
 }
 
-void Slider(benchmark::State& state)
+void SliderFrames(benchmark::State& state)
 {
     for ([[maybe_unused]] auto iteration : state) {
         ProcessProbe window(simulated("TK30Z", false));
@@ -277,7 +277,7 @@ void Slider(benchmark::State& state)
         measured["SliderTurn"] = numberIn(frames, "longestMs");
     }
 }
-BENCHMARK(Slider)->Iterations(1);
+BENCHMARK(SliderFrames)->Iterations(1);
 
 void Memory(benchmark::State& state)
 {
