@@ -73,6 +73,11 @@ T.ComboBox {
         return false
     }
 
+    // A choice that does not fit can be read in full.
+    LuToolTip {
+        visible: control.hovered && !control.opened && (control.contentItem as LuLabel).truncated
+        text: control.displayText
+    }
     Timer {
         interval: 2500
         running: control.confirmedIndex !== undefined && control.currentIndex !== control.confirmedIndex
