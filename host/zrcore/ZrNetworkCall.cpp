@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "ZrCore/ZrNetworkCall.h"
 
+#include "ZrCore/ZrDispatch.h"
+
+#include <QCoreApplication>
 #include <QJsonDocument>
 #include <QList>
 #include <QNetworkAccessManager>
@@ -264,8 +267,11 @@ void ZrNetworkCall::setLocalResponder(const QString& scheme, LocalResponder resp
 void ZrNetworkCall::execute(Callback callback)
 {
     if (QThread::currentThread() != thread()) {
-        QMetaObject::invokeMethod(
-            this, [this, callback = std::move(callback)] { execute(callback); }, Qt::QueuedConnection);
+        auto later = [this, callback = std::move(callback)] { execute(callback); };
+        if (QCoreApplication::instance() && thread() == QCoreApplication::instance()->thread())
+            ZrDispatch::main()->post(this, std::move(later));
+        else
+            QMetaObject::invokeMethod(this, std::move(later), Qt::QueuedConnection);
         return;
     }
     if (d->running) {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <LuShared/LuServerLocation.h>
+#include <ZrCore/ZrDispatch.h>
 
 #include "services/ServiceRegistry.h"
 #include "services/Singleton.h"
@@ -29,13 +30,10 @@ void LuServerLocation::connectNotify(const QMetaMethod& signal)
     if (signal != report)
         return;
     // Also called on a queue's thread, where a module may connect.
-    QMetaObject::invokeMethod(
-        this,
-        [] {
-            if (const auto service = services::Registry::current().location)
-                service->listenerAdded();
-        },
-        Qt::QueuedConnection);
+    ZrDispatch::main()->post(this, [] {
+        if (const auto service = services::Registry::current().location)
+            service->listenerAdded();
+    });
 }
 
 double LuServerLocation::latitude() const

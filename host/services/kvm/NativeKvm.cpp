@@ -2,6 +2,7 @@
 #include "services/kvm/NativeKvm.h"
 
 #include <LuShared/LuKvm.h>
+#include <ZrCore/ZrDispatch.h>
 #include <lushared/LuSettings.h>
 
 #include <QDebug>
@@ -74,7 +75,7 @@ Side NativeKvm::side() const
 
 void NativeKvm::activate()
 {
-    QMetaObject::invokeMethod(this, [this] {
+    ZrDispatch::main()->post(this, [this] {
         m_active = true;
         applySetting();
         watch();
@@ -83,7 +84,7 @@ void NativeKvm::activate()
 
 void NativeKvm::deactivate()
 {
-    QMetaObject::invokeMethod(this, [this] {
+    ZrDispatch::main()->post(this, [this] {
         m_active = false;
         if (m_pointer)
             m_pointer->watch({});
@@ -92,7 +93,7 @@ void NativeKvm::deactivate()
 
 void NativeKvm::setScreenRect(const QRect& rect)
 {
-    QMetaObject::invokeMethod(this, [this, rect] {
+    ZrDispatch::main()->post(this, [this, rect] {
         if (std::exchange(m_screen, rect) != rect && m_active)
             watch();
     });
@@ -102,16 +103,13 @@ void NativeKvm::setDeviceLocation(int location)
 {
     if (m_location.exchange(location) == location)
         return;
-    QMetaObject::invokeMethod(
-        this,
-        [this] {
-            ++m_locationNumber;
-            if (m_active)
-                watch();
-            sendLocation();
-            Q_EMIT LuKvm::instance()->deviceLocationChanged();
-        },
-        Qt::QueuedConnection);
+    ZrDispatch::main()->post(this, [this] {
+        ++m_locationNumber;
+        if (m_active)
+            watch();
+        sendLocation();
+        Q_EMIT LuKvm::instance()->deviceLocationChanged();
+    });
 }
 
 void NativeKvm::watch()
@@ -136,8 +134,7 @@ void NativeKvm::onMove(QPoint position, QPointF motion)
     qInfo() << "[LuKvm] the pointer leaves at" << m_edge.along(position);
     sendTurn(Take, m_edge.along(position));
     // May end the watch, and with it the function that this is called from.
-    QMetaObject::invokeMethod(
-        this, [] { Q_EMIT LuKvm::instance()->kvmChanged(); }, Qt::QueuedConnection);
+    ZrDispatch::main()->post(this, [] { Q_EMIT LuKvm::instance()->kvmChanged(); });
 }
 
 void NativeKvm::sendTurn(const QString& type, qreal along)

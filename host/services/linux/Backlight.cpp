@@ -3,6 +3,7 @@
 
 #include <LuShared/LuPlatformNotifications.h>
 #include <PanelCore/MonitorInfo.h>
+#include <ZrCore/ZrDispatch.h>
 
 #include "services/linux/SysfsBacklight.h"
 
@@ -12,6 +13,7 @@
 #include <QHash>
 #include <QObject>
 #include <QSocketNotifier>
+#include <QThread>
 
 #include <cmath>
 #include <libudev.h>
@@ -48,6 +50,7 @@ private:
 
     void send();
     void finish(const QDBusMessage& reply, const Request& request);
+    void watchConnector(const QString& connector);
     void startUdev();
     void readUdev();
     void look(const QString& connector);
@@ -88,8 +91,7 @@ void LinuxBacklight::setBrightness(const MonitorInfo& panel, double brightness)
         const std::lock_guard lock(m_mutex);
         m_wanted.insert(device->name, Request{*device, value});
     }
-    QMetaObject::invokeMethod(
-        this, [this] { send(); }, Qt::QueuedConnection);
+    ZrDispatch::main()->post(this, [this] { send(); });
 }
 
 // One request at a time: a slider's values on the way replace each other.
@@ -144,16 +146,19 @@ void LinuxBacklight::finish(const QDBusMessage& reply, const Request& request)
 void LinuxBacklight::watch(const MonitorInfo& panel)
 {
     const QString connector = panel.nativeHandle();
-    QMetaObject::invokeMethod(
-        this,
-        [this, connector] {
-            if (m_seen.contains(connector))
-                return;
-            startUdev();
-            const auto device = findBacklight(connector);
-            m_seen.insert(connector, device ? device->value().value_or(-1) : -1);
-        },
-        Qt::AutoConnection);
+    if (QThread::currentThread() == thread())
+        watchConnector(connector);
+    else
+        ZrDispatch::main()->post(this, [this, connector] { watchConnector(connector); });
+}
+
+void LinuxBacklight::watchConnector(const QString& connector)
+{
+    if (m_seen.contains(connector))
+        return;
+    startUdev();
+    const auto device = findBacklight(connector);
+    m_seen.insert(connector, device ? device->value().value_or(-1) : -1);
 }
 
 void LinuxBacklight::startUdev()

@@ -2,6 +2,7 @@
 #include "services/pulse/PulseAudio.h"
 
 #include <LuShared/LuMediaDevices.h>
+#include <ZrCore/ZrDispatch.h>
 
 #include "services/audiodevice/MadeAudioDevice.h"
 #include "services/pulse/PulseConnection.h"
@@ -45,8 +46,7 @@ class PulseAudio : public QObject, public AudioService
 public:
     PulseAudio()
         : m_connection([this](const PulseState& state) {
-              QMetaObject::invokeMethod(
-                  this, [this, state] { take(state); }, Qt::QueuedConnection);
+              ZrDispatch::main()->post(this, [this, state] { take(state); });
           })
     {
     }
@@ -95,8 +95,7 @@ public:
                 output.volume = percent;
         }
         m_connection.setVolume(m_state.defaultName, percent);
-        QMetaObject::invokeMethod(
-            this, [] { Q_EMIT LuMediaDevices::instance()->systemVolumeChanged(); }, Qt::QueuedConnection);
+        ZrDispatch::main()->post(this, [] { Q_EMIT LuMediaDevices::instance()->systemVolumeChanged(); });
     }
 
     void openSettings() override;

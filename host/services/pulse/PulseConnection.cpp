@@ -4,6 +4,7 @@
 #include <QHash>
 
 #include <algorithm>
+#include <mutex>
 #include <pulse/pulseaudio.h>
 #include <utility>
 
@@ -23,16 +24,26 @@ void release(pa_operation* operation)
         pa_operation_unref(operation);
 }
 
-/// Holds the server's thread still while another one talks to it.
+/// Holds the server's thread still while another one talks to it. The library's own lock would do; the second
+/// one lets the thread sanitizer see it, and is taken inside of the first one everywhere.
 class Lock
 {
 public:
-    explicit Lock(pa_threaded_mainloop* loop) : m_loop(loop) { pa_threaded_mainloop_lock(loop); }
-    ~Lock() { pa_threaded_mainloop_unlock(m_loop); }
+    Lock(pa_threaded_mainloop* loop, std::recursive_mutex& mutex) : m_loop(loop)
+    {
+        pa_threaded_mainloop_lock(loop);
+        m_guard = std::unique_lock(mutex);
+    }
+    ~Lock()
+    {
+        m_guard.unlock();
+        pa_threaded_mainloop_unlock(m_loop);
+    }
     Q_DISABLE_COPY_MOVE(Lock)
 
 private:
     pa_threaded_mainloop* m_loop;
+    std::unique_lock<std::recursive_mutex> m_guard;
 };
 
 } // namespace
@@ -49,6 +60,7 @@ public:
     void setVolume(const QString& name, int percent);
 
     pa_threaded_mainloop* loop = nullptr;
+    std::recursive_mutex mutex; ///< Over everything below.
 
 private:
     /// What a sink's own information lacks.
@@ -89,6 +101,7 @@ private:
 
 void PulseConnection::Private::start()
 {
+    const std::lock_guard guard(mutex);
     loop = pa_threaded_mainloop_new();
     pa_threaded_mainloop_set_name(loop, "lumen-sound");
     connectToServer();
@@ -99,6 +112,7 @@ void PulseConnection::Private::stop()
 {
     // No lock: it waits for the thread, which takes it.
     pa_threaded_mainloop_stop(loop);
+    const std::lock_guard guard(mutex);
     m_listener = nullptr;
     if (m_retry)
         pa_threaded_mainloop_get_api(loop)->time_free(m_retry);
@@ -110,11 +124,19 @@ void PulseConnection::Private::connectToServer()
 {
     m_context = pa_context_new(pa_threaded_mainloop_get_api(loop), "Lumen Desk");
     pa_context_set_state_callback(
-        m_context, [](pa_context*, void* self) { static_cast<Private*>(self)->onState(); }, this);
+        m_context,
+        [](pa_context*, void* data) {
+            auto* const self = static_cast<Private*>(data);
+            const std::lock_guard guard(self->mutex);
+            self->onState();
+        },
+        this);
     pa_context_set_subscribe_callback(
         m_context,
-        [](pa_context*, pa_subscription_event_type_t, uint32_t, void* self) {
-            static_cast<Private*>(self)->query();
+        [](pa_context*, pa_subscription_event_type_t, uint32_t, void* data) {
+            auto* const self = static_cast<Private*>(data);
+            const std::lock_guard guard(self->mutex);
+            self->query();
         },
         this);
     // A failure is told through the state.
@@ -142,6 +164,7 @@ void PulseConnection::Private::connectLater()
 {
     const auto retry = [](pa_mainloop_api* api, pa_time_event* event, const timeval*, void* data) {
         auto* const self = static_cast<Private*>(data);
+        const std::lock_guard guard(self->mutex);
         api->time_free(event);
         self->m_retry = nullptr;
         self->disconnectFromServer();
@@ -192,6 +215,7 @@ void PulseConnection::Private::query()
         m_context,
         [](pa_context*, const pa_server_info* info, void* data) {
             auto* const self = static_cast<Private*>(data);
+            const std::lock_guard guard(self->mutex);
             self->m_default = info ? QString::fromUtf8(info->default_sink_name) : QString();
             self->onQueried();
         },
@@ -200,6 +224,7 @@ void PulseConnection::Private::query()
         m_context,
         [](pa_context*, const pa_card_info* info, int end, void* data) {
             auto* const self = static_cast<Private*>(data);
+            const std::lock_guard guard(self->mutex);
             if (end)
                 self->onQueried();
             else
@@ -210,6 +235,7 @@ void PulseConnection::Private::query()
         m_context,
         [](pa_context*, const pa_sink_info* info, int end, void* data) {
             auto* const self = static_cast<Private*>(data);
+            const std::lock_guard guard(self->mutex);
             if (end)
                 self->onQueried();
             else
@@ -307,6 +333,7 @@ void PulseConnection::Private::sendVolume()
         m_context, sink->output.index, &channels,
         [](pa_context*, int, void* data) {
             auto* const self = static_cast<Private*>(data);
+            const std::lock_guard guard(self->mutex);
             const QString done = std::exchange(self->m_settingVolumeOf, QString());
             if (self->m_wantedVolumes.value(done, -1) == self->m_settingPercent)
                 self->m_wantedVolumes.remove(done);
@@ -328,13 +355,13 @@ PulseConnection::~PulseConnection()
 
 void PulseConnection::setDefault(const QString& name)
 {
-    const Lock lock(d->loop);
+    const Lock lock(d->loop, d->mutex);
     d->setDefault(name);
 }
 
 void PulseConnection::setVolume(const QString& name, int percent)
 {
-    const Lock lock(d->loop);
+    const Lock lock(d->loop, d->mutex);
     d->setVolume(name, percent);
 }
 

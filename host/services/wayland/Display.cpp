@@ -4,6 +4,7 @@
 #include <LuShared/LuPlatform.h>
 #include <LuShared/LuPlatformNotifications.h>
 #include <PanelCore/MonitorInfo.h>
+#include <ZrCore/ZrDispatch.h>
 
 #include <QObject>
 #include <QTimer>
@@ -129,8 +130,7 @@ bool Display::change(const Output& output, const OutputChange& change)
         m_known.reset();
     }
     // Also where the compositor tells nothing of what it was asked for.
-    QMetaObject::invokeMethod(
-        this, [this] { m_settle.start(SettleMs); }, Qt::QueuedConnection);
+    ZrDispatch::main()->post(this, [this] { m_settle.start(SettleMs); });
     return done;
 }
 

@@ -2,6 +2,7 @@
 #include "services/wayland/KWinEvents.h"
 
 #include <LuShared/LuPlatformNotifications.h>
+#include <ZrCore/ZrDispatch.h>
 
 #include "services/wayland/KWinScript.h"
 
@@ -194,7 +195,7 @@ void KWinEvents::setGeometry(unsigned long pid, const QRectF& geometry)
 {
     const QString script = placeScript(pid, number(geometry.x()), number(geometry.y()),
                                        number(geometry.width()), number(geometry.height()));
-    QMetaObject::invokeMethod(this, [this, script] {
+    ZrDispatch::main()->post(this, [this, script] {
         runScript(QStringLiteral("lumen-desk-place-%1").arg(++m_scripts), script, false);
     });
 }
