@@ -16,6 +16,11 @@ constexpr int FirstButton = 1;
 /// Between two looks at the pointer, in ms: one frame of a fast monitor.
 constexpr int LookMs = 8;
 
+/// A busy window manager moves the window after the pointer has come to rest: looks until it has, and their
+/// distance in ms.
+constexpr int LateLooks = 20;
+constexpr int LateLookMs = 50;
+
 Owned<xcb_query_pointer_reply_t> pointer(const Connection& connection)
 {
     return Owned<xcb_query_pointer_reply_t>(
@@ -27,7 +32,6 @@ Owned<xcb_query_pointer_reply_t> pointer(const Connection& connection)
 DragWatch::DragWatch(RawInput& input, const WindowList& windows) : m_input(input), m_windows(windows)
 {
     m_soon.setSingleShot(true);
-    m_soon.setInterval(LookMs);
     QObject::connect(&m_soon, &QTimer::timeout, &m_soon, [this] { look(); });
     m_listener = input.listen({
         [this](int button, bool pressed) {
@@ -35,8 +39,9 @@ DragWatch::DragWatch(RawInput& input, const WindowList& windows) : m_input(input
                 pressed ? press() : release();
         },
         [this](QPointF) {
-            if (!m_soon.isActive())
-                m_soon.start();
+            m_lateLooks = LateLooks;
+            if (!m_soon.isActive() || m_soon.interval() != LookMs)
+                m_soon.start(LookMs);
         },
     });
 }
@@ -80,8 +85,11 @@ void DragWatch::look()
     if (rect->size() == m_rect.size() && rect->topLeft() != m_rect.topLeft())
         m_dragging = true;
     m_rect = *rect;
-    if (!m_dragging)
+    if (!m_dragging) {
+        if (m_lateLooks-- > 0)
+            m_soon.start(LateLookMs);
         return;
+    }
     m_lastDragged = m_client;
     Q_EMIT LuPlatformNotifications::instance()->activeAppDragged(
         m_pid, toDesktop(QPoint(where->root_x, where->root_y)));

@@ -40,6 +40,7 @@ private:
     std::atomic<xcb_window_t> m_lastDragged = XCB_WINDOW_NONE;
     QRect m_rect;
     unsigned long m_pid = 0;
+    int m_lateLooks = 0;
     bool m_dragging = false;
 };
 

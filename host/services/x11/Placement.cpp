@@ -116,7 +116,8 @@ bool Placement::isThere() const
 
 void Placement::check()
 {
-    if (m_sent == 0 || (m_sent < MostTries && !isThere()))
+    // A person who maximises it meanwhile has the last word.
+    if (m_sent == 0 || (m_sent < MostTries && !isCovering() && !isThere()))
         send();
     else
         forget();

@@ -39,12 +39,7 @@ void Windows::setJoinActiveSpaces(QQuickWindow* window, bool join)
     window->setProperty(JoinProperty, join);
     window->installEventFilter(this);
     mark(window);
-    if (!window->handle() || !window->isVisible())
-        return;
-    const std::uint32_t desktop =
-        join ? AllDesktops : m_connection->value(m_connection->root(), m_connection->atom(NetCurrentDesktop));
-    m_connection->tellWindowManager(xcb_window_t(window->winId()), NetWmDesktop, {desktop, FromApplication});
-    xcb_flush(*m_connection);
+    tell(window);
 }
 
 bool Windows::blends() const
@@ -65,8 +60,8 @@ bool Windows::eventFilter(QObject* object, QEvent* event)
     if (auto* window = qobject_cast<QQuickWindow*>(object)) {
         if (event->type() == QEvent::Show)
             mark(window);
-        else if (event->type() == QEvent::Expose && isAbove(window))
-            raise(window);
+        else if (event->type() == QEvent::Expose)
+            window->isVisible() && isAbove(window) ? raise(window) : tell(window);
     }
     return QObject::eventFilter(object, event);
 }
@@ -81,9 +76,24 @@ void Windows::mark(QQuickWindow* window)
     const std::uint32_t unmanaged = isAbove(window);
     if (window->property(LayerProperty).isValid())
         xcb_change_window_attributes(*m_connection, id, XCB_CW_OVERRIDE_REDIRECT, &unmanaged);
-    if (window->property(JoinProperty).toBool())
-        m_connection->setValues(id, m_connection->atom(NetWmDesktop), XCB_ATOM_CARDINAL, {AllDesktops});
     m_connection->sync();
+}
+
+// What it is told of a window that it manages. Not beforehand: a window manager takes the mark off a window
+// that is hidden, also when that is shown again already, and xfwm4 takes "all" for the number of a desktop.
+void Windows::tell(QQuickWindow* window)
+{
+    if (!window->handle() || !window->isVisible() || !window->property(JoinProperty).isValid())
+        return;
+    const auto id = xcb_window_t(window->winId());
+    const bool join = window->property(JoinProperty).toBool();
+    const bool isJoined = m_connection->value(id, m_connection->atom(NetWmDesktop)) == AllDesktops;
+    if (join == isJoined)
+        return;
+    const std::uint32_t desktop =
+        join ? AllDesktops : m_connection->value(m_connection->root(), m_connection->atom(NetCurrentDesktop));
+    m_connection->tellWindowManager(id, NetWmDesktop, {desktop, FromApplication});
+    xcb_flush(*m_connection);
 }
 
 void Windows::raise(QQuickWindow* window)

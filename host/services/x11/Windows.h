@@ -29,6 +29,7 @@ public:
 
 private:
     void mark(QQuickWindow* window);
+    void tell(QQuickWindow* window);
     void raise(QQuickWindow* window);
 
     const std::shared_ptr<Connection> m_connection;
