@@ -91,6 +91,21 @@ Result<VcpValue> Transactor::getVcp(std::uint8_t code)
     return VcpValue{reply.current, reply.maximum, reply.momentary};
 }
 
+void Transactor::awaitReady(Ms limit)
+{
+    Call call(*this);
+    WireClock::TimePoint ready;
+    {
+        const Turn turn(*this, call);
+        if (turn.error() != Error::None)
+            return;
+        ready = m_notBefore;
+    }
+    const WireClock::TimePoint now = m_clock->now();
+    if (m_timing.waits && now < ready)
+        (void)m_clock->sleepUntil(std::min(ready, now + limit), call.token);
+}
+
 Error Transactor::setVcp(std::uint8_t code, std::uint16_t value)
 {
     Call call(*this);

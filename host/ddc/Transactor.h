@@ -88,6 +88,9 @@ public:
     /// Reads a VCP code. Error::NullReply after all tries may mean that the monitor lacks the code.
     Result<VcpValue> getVcp(std::uint8_t code);
 
+    /// Returns once the hold that an earlier transfer left is over, at most after @p limit.
+    void awaitReady(Ms limit);
+
     /// Writes a VCP code; returns when the monitor has acknowledged the message. Equal values are written
     /// again.
     Error setVcp(std::uint8_t code, std::uint16_t value);

@@ -7,6 +7,7 @@
 
 #include <LuShared/LuUtils.h>
 #include <panelcore/MonitorLink.h>
+#include <zrcore/QueueGate.h>
 
 #include <QDebug>
 #include <QRegularExpression>
@@ -37,6 +38,15 @@ LuMonitorModelPrivate::LuMonitorModelPrivate(LuMonitorModel* model, LuMonitorMod
       section(sectionOf(*model->info())), engine(*this)
 {
     nickName = LuSettings::instance().value(sectionKey(QStringLiteral("nickName"))).toString();
+    zr::setQueueGate(model->info()->id(), [handle = model->info().toWeakRef()] {
+        if (const QSharedPointer<MonitorInfo> info = handle.toStrongRef())
+            MonitorLink::of(*info).awaitReady();
+    });
+}
+
+LuMonitorModelPrivate::~LuMonitorModelPrivate()
+{
+    zr::setQueueGate(dispatch->name(), {});
 }
 
 QHash<QString, QStringList>& LuMonitorModelPrivate::packageWidgets()

@@ -18,6 +18,7 @@ class LuMonitorModelPrivate
 {
 public:
     LuMonitorModelPrivate(LuMonitorModel* model, LuMonitorModel::NodeFactory factory);
+    ~LuMonitorModelPrivate();
 
     static LuMonitorModelPrivate& of(LuMonitorModel* model) { return *model->d; }
     static const LuMonitorModelPrivate& of(const LuMonitorModel* model) { return *model->d; }

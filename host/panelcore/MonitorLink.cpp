@@ -176,6 +176,14 @@ bool MonitorLink::setVCP(int code, int value)
                              : d->transactor->setVcp(std::uint8_t(code), std::uint16_t(value)));
 }
 
+void MonitorLink::awaitReady()
+{
+    // The usual wait after a write, and what a slow monitor has taught.
+    constexpr ddc::Transactor::Ms UsualHold{100};
+    if (d->transactor)
+        d->transactor->awaitReady(UsualHold);
+}
+
 bool MonitorLink::setVCPWithin(int code, int value, int limitMs)
 {
     if (!d->transactor || !isByte(code) || value < 0 || value > 0xFFFF || !mayAsk(true, code))

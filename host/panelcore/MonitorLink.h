@@ -52,6 +52,9 @@ public:
     /// that sleeps. A person is refused nothing; a display that sleeps gets their write once.
     bool getVCP(int code, int& value, int* maximum = nullptr);
     bool setVCP(int code, int value);
+    /// Waits out what the last transfer left of the usual hold, so that a later choice of a person can still
+    /// replace the next one. Longer holds are not waited for. Blocks.
+    void awaitReady();
     /// A write on a caller's thread that gives up if the bus is not free within @p limitMs.
     bool setVCPWithin(int code, int value, int limitMs);
 

@@ -4,6 +4,7 @@
 #include "zrcore/Asker.h"
 #include "zrcore/IdleHub.h"
 #include "zrcore/MainQueue.h"
+#include "zrcore/QueueGate.h"
 
 #include <QDateTime>
 #include <QMetaObject>
@@ -285,6 +286,16 @@ bool JobQueue::runNext(std::unique_lock<std::mutex>& lock)
     if (m_running.job || m_closed)
         return false;
     moveDue(readClock());
+    if (!jobs(Lane::Front).empty()) {
+        if (const std::function<void()> gate = queueGate(m_name)) {
+            lock.unlock();
+            gate();
+            lock.lock();
+            // What waited may have been replaced or dropped meanwhile.
+            if (m_running.job || m_closed)
+                return false;
+        }
+    }
     Jobs& lane = jobs(Lane::Front).empty() ? jobs(Lane::Back) : jobs(Lane::Front);
     if (lane.empty())
         return false;

@@ -23,6 +23,7 @@ private slots:
     void aFailedWriteIsNotInTheDelayTable();
     void setWithinGivesUpWhereTheHoldIsLonger();
     void setWithinWaitsForAShorterHold();
+    void readinessIsTheEndOfAHoldOrALimit();
     void fragmentsKeepTheirDistance();
     void retriesComeAtGrowingDistances();
     void theStepsGrowToTheLimit();
@@ -184,6 +185,24 @@ void TestDdcWaits::setWithinWaitsForAShorterHold()
     const auto before = bench.clock->now();
     QCOMPARE(bench.monitor.setVcpWithin(0x10, 4, Ms(60)), Error::Busy);
     QVERIFY(bench.clock->now() - before <= Ms(60));
+}
+
+void TestDdcWaits::readinessIsTheEndOfAHoldOrALimit()
+{
+    Bench bench;
+    const auto now = [&bench] {
+        return std::chrono::duration_cast<Ms>(bench.clock->now() - bench.wire->start);
+    };
+    bench.monitor.awaitReady(Ms(100));
+    QCOMPARE(now(), Ms(0));
+    QCOMPARE(bench.monitor.setVcp(0x10, 1), Error::None);
+    bench.monitor.awaitReady(Ms(100));
+    QCOMPARE(now(), Ms(50));
+    bench.monitor.setWriteDelays({{0x08, Ms(5000)}});
+    QCOMPARE(bench.monitor.setVcp(0x08, 1), Error::None);
+    bench.monitor.awaitReady(Ms(100));
+    QCOMPARE(now(), Ms(150));
+    QCOMPARE(bench.wire->times(true).size(), std::size_t(2)); // It sends nothing itself.
 }
 
 void TestDdcWaits::fragmentsKeepTheirDistance()

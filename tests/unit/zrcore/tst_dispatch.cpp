@@ -6,6 +6,8 @@
 #include "ZrCore/ZrDispatch.h"
 #include "ZrCore/ZrIdle.h"
 
+#include "zrcore/QueueGate.h"
+
 #include <QEventLoop>
 #include <QTest>
 #include <QTimer>
@@ -41,6 +43,7 @@ private Q_SLOTS:
     void uniqueReplacesAcrossLanes_data();
     void uniqueReplacesAcrossLanes();
     void replacedJobTakesTheNewPlace();
+    void aJobBehindTheGateIsStillReplaced();
     void uniqueKeepsOtherContextsAndKeys();
     void runningJobIsNotReplaced();
     void jobOfAContextThatIsGoneDoesNotRun();
@@ -673,6 +676,27 @@ void tst_dispatch::runInContextLaterNeedsItsContext()
     }
     ZrDispatch::runInContextLater(this, 0, [&] { record.add(u"here"_s); });
     QTRY_COMPARE(record.joined(), u"here"_s);
+}
+
+void tst_dispatch::aJobBehindTheGateIsStillReplaced()
+{
+    const DispatchPointer queue = makeQueue(u"gated"_s);
+    QObject context;
+    Gate gate;
+    zr::setQueueGate(u"gated"_s, [&gate] { gate.pass(); });
+    std::atomic<int> first = 0;
+    std::atomic<int> second = 0;
+    queue->postUniqueAtFront(&context, u"slider"_s, [&first] { ++first; });
+    QVERIFY(gate.waitUntilReached());
+    QVERIFY(queue->has(&context, u"slider"_s));
+    queue->postUniqueAtFront(&context, u"slider"_s, [&second] { ++second; });
+    gate.open();
+    QTRY_COMPARE(second.load(), 1);
+    QCOMPARE(first.load(), 0);
+    // Work of the back lane needs no gate, and without one nothing waits.
+    zr::setQueueGate(u"gated"_s, {});
+    queue->postUniqueAtFront(&context, u"slider"_s, [&first] { ++first; });
+    QTRY_COMPARE(first.load(), 1);
 }
 
 QTEST_GUILESS_MAIN(tst_dispatch)
