@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "LuFrameWatch.h"
 
-#include <QAbstractEventDispatcher>
 #include <QQuickWindow>
 
 #include <algorithm>
 
 namespace {
+
+constexpr int BeatMs = 2;
+/// Nobody asks any more: the beat is not worth its wake-ups.
+constexpr int LongestWatchMs = 60'000;
 
 double milliseconds(const QElapsedTimer& timer)
 {
@@ -15,29 +18,42 @@ double milliseconds(const QElapsedTimer& timer)
 
 } // namespace
 
+LuFrameWatch::LuFrameWatch(QObject* parent) : QObject(parent)
+{
+    m_beat.setTimerType(Qt::PreciseTimer);
+    m_beat.setInterval(BeatMs);
+    connect(&m_beat, &QTimer::timeout, this, [this] {
+        m_measured.longestMs = std::max(m_measured.longestMs, milliseconds(m_sinceBeat) - BeatMs);
+        m_sinceBeat.start();
+        if (m_sinceStart.elapsed() > LongestWatchMs)
+            m_beat.stop();
+    });
+}
+
 void LuFrameWatch::start(QQuickWindow* window)
 {
     m_measured = {};
-    if (window != m_window) {
-        if (m_window)
-            m_window->disconnect(this);
-        m_window = window;
-        // Direct: where pictures are drawn on a thread of their own, only the part on this thread counts.
-        connect(window, &QQuickWindow::afterAnimating, this, [this] { m_frame.start(); });
-        connect(window, &QQuickWindow::frameSwapped, this, [this] {
-            ++m_measured.frames;
-            if (m_frame.isValid())
-                m_measured.longestFrameMs = std::max(m_measured.longestFrameMs, milliseconds(m_frame));
-        });
-    }
-    if (m_running)
+    m_sinceStart.start();
+    m_sinceBeat.start();
+    m_beat.start();
+    if (window == m_window)
         return;
-    m_running = true;
-    QAbstractEventDispatcher* dispatcher = QAbstractEventDispatcher::instance();
-    connect(dispatcher, &QAbstractEventDispatcher::awake, this, [this] { m_turn.start(); });
-    connect(dispatcher, &QAbstractEventDispatcher::aboutToBlock, this, [this] {
-        if (m_turn.isValid())
-            m_measured.longestMs = std::max(m_measured.longestMs, milliseconds(m_turn));
-        m_turn.invalidate();
+    if (m_window)
+        m_window->disconnect(this);
+    m_window = window;
+    connect(window, &QQuickWindow::afterAnimating, this, [this] { m_frame.start(); });
+    connect(window, &QQuickWindow::frameSwapped, this, [this] {
+        ++m_measured.frames;
+        if (m_frame.isValid())
+            m_measured.longestFrameMs = std::max(m_measured.longestFrameMs, milliseconds(m_frame));
     });
+}
+
+LuFrameWatch::Measured LuFrameWatch::measured() const
+{
+    Measured result = m_measured;
+    // A turn that is not over yet counts as far as it has come.
+    if (m_beat.isActive())
+        result.longestMs = std::max(result.longestMs, milliseconds(m_sinceBeat) - BeatMs);
+    return result;
 }

@@ -4,6 +4,7 @@
 #include <QElapsedTimer>
 #include <QObject>
 #include <QPointer>
+#include <QTimer>
 
 class QQuickWindow;
 
@@ -16,21 +17,22 @@ class LuFrameWatch : public QObject
 public:
     struct Measured
     {
-        int frames = 0;       ///< Pictures that the window drew.
-        double longestMs = 0; ///< The longest time from an event's arrival until the thread was free again.
+        int frames = 0;            ///< Pictures that the window drew.
+        double longestMs = 0;      ///< The longest time for which the thread was at one thing.
         double longestFrameMs = 0; ///< The longest drawing of one picture.
     };
 
-    using QObject::QObject;
+    explicit LuFrameWatch(QObject* parent = nullptr);
 
     /// Begins to measure @p window, or goes on; what was measured so far is forgotten.
     void start(QQuickWindow* window);
-    Measured measured() const { return m_measured; }
+    Measured measured() const;
 
 private:
     QPointer<QQuickWindow> m_window;
-    QElapsedTimer m_turn;
+    QTimer m_beat;
+    QElapsedTimer m_sinceBeat;
+    QElapsedTimer m_sinceStart;
     QElapsedTimer m_frame;
     Measured m_measured;
-    bool m_running = false;
 };

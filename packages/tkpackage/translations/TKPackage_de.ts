@@ -754,7 +754,7 @@
     <name>LuColorWeaknessWidget</name>
     <message>
         <source>Color Weakness</source>
-        <translation>Farbschwäche</translation>
+        <translation>Farb­schwäche</translation>
     </message>
     <message>
         <source>Red: %1</source>

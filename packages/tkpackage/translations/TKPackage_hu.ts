@@ -754,7 +754,7 @@
     <name>LuColorWeaknessWidget</name>
     <message>
         <source>Color Weakness</source>
-        <translation>Színtévesztés</translation>
+        <translation>Szín­tévesztés</translation>
     </message>
     <message>
         <source>Red: %1</source>

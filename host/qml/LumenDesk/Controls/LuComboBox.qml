@@ -19,7 +19,8 @@ T.ComboBox {
     readonly property bool opened: popup.visible
 
     implicitWidth: Math.max(72, Math.ceil(metrics.advanceWidth) + leftPadding + rightPadding + 1)
-    implicitHeight: LuStyle.controlHeight
+    // A long choice in a narrow place takes a second line.
+    implicitHeight: Math.max(LuStyle.controlHeight, Math.ceil(contentItem.implicitHeight) + LuStyle.space)
     leftPadding: mirrored ? 12 + indicator.width : LuStyle.space + 2
     rightPadding: mirrored ? LuStyle.space + 2 : 12 + indicator.width
     focusPolicy: Qt.StrongFocus
@@ -106,6 +107,8 @@ T.ComboBox {
         text: control.displayText || control.placeholder
         color: control.displayText ? LuStyle.text : LuStyle.textDim
         verticalAlignment: Text.AlignVCenter
+        wrapMode: Text.WordWrap
+        maximumLineCount: 2
     }
     indicator: LuIcon {
         x: control.mirrored ? 8 : control.width - width - 8

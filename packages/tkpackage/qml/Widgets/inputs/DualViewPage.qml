@@ -54,7 +54,8 @@ LuPage {
         enabled: page.widget?.active ?? false
         Item {
             id: parts
-            readonly property real side: (width - 96 - 2 * LuStyle.space) / 2
+            readonly property real art: 64
+            readonly property real side: (width - art - 2 * LuStyle.space) / 2
             width: parent.width
             height: 96
             Column {
@@ -80,20 +81,21 @@ LuPage {
             }
             Item {
                 x: parts.side + LuStyle.space
-                width: 96
-                height: 96
+                anchors.verticalCenter: parent.verticalCenter
+                width: parts.art
+                height: parts.art
                 // The part of the screen whose list is open is transparent in the picture.
                 Rectangle {
-                    x: 14
-                    y: 24
-                    width: 68
-                    height: 43
+                    x: Math.round(parts.art * 0.146)
+                    y: Math.round(parts.art * 0.25)
+                    width: Math.round(parts.art * 0.708)
+                    height: Math.round(parts.art * 0.448)
                     color: LuStyle.accent
                     visible: firstChoice.opened || secondChoice.opened
                 }
                 LuImage {
                     objectName: "dualViewPicture"
-                    size: 96
+                    size: parts.art
                     Accessible.ignored: false
                     Accessible.role: Accessible.Graphic
                     Accessible.name: page.title
