@@ -47,7 +47,7 @@ complete -c lumen-deskctl -n '__fish_seen_subcommand_from select' -a '(__lumen_d
 complete -c lumen-deskctl -n '__fish_seen_subcommand_from settings' -a 'set remove'
 complete -c lumen-deskctl -n '__fish_seen_subcommand_from flowActions' -a 'list register unregister'
 complete -c lumen-deskctl -n '__fish_seen_subcommand_from sim' \
-    -a 'get set traffic fault plug unplug reset nack null checksum garbage timeout'
+    -a 'get set traffic fault plug unplug overlay reset nack null checksum garbage timeout'
 complete -c lumen-deskctl -n '__fish_seen_subcommand_from services' -a 'get set emit'
 complete -c lumen-deskctl -n '__fish_seen_subcommand_from clock' -a 'get set advance'
 complete -c lumen-deskctl -n '__fish_seen_subcommand_from ui' \
