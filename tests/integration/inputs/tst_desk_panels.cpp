@@ -58,6 +58,8 @@ private Q_SLOTS:
     void theDaisyChainIsSwitched();
     void panelsExistForTheirModels_data();
     void panelsExistForTheirModels();
+    void everyLayoutIsDrawnInEveryLanguage_data();
+    void everyLayoutIsDrawnInEveryLanguage();
 
 private:
     bool start(const QStringList& options)
@@ -474,13 +476,24 @@ void TestDeskPanels::theHubRestsWhileThePointerDecides()
 
 void TestDeskPanels::theDaisyChainIsSwitched()
 {
-    QVERIFY2(start(u"TK10"_s), qPrintable(m_desk->errors()));
+    QTemporaryDir directory;
+    QFile environment(directory.filePath(u"environment.json"_s));
+    QVERIFY(environment.open(QIODevice::WriteOnly));
+    environment.write(R"({"knowledge": {"daisyChain.api": "https://example.org/chain"}})");
+    environment.close();
+    QVERIFY2(start(windowOptions(u"TK10"_s) + QStringList{u"--environment"_s, environment.fileName()}),
+             qPrintable(m_desk->errors()));
     QVERIFY(open(u"LuDaisyChainWidget"_s));
+    QVERIFY(!pictures().filter(u"img_dv_defaul"_s).isEmpty());
     QVERIFY(shows(u"One cable to easily connect all your monitors."_s));
     QVERIFY(press(u"Daisy Chain (MST)"_s, u"switch"_s).ok());
     QCOMPARE(m_desk->held(0xE6), 1);
     QTRY_VERIFY(tile(u"LuDaisyChainWidget"_s)[u"active"_s].toBool());
     QVERIFY(tile(u"LuDaisyChainWidget"_s)[u"image"_s].toString().contains(u"btn_DC_active"_s));
+    QTRY_VERIFY(!pictures().filter(u"img_dv_action"_s).isEmpty());
+    QVERIFY(press(u"About Daisy Chain (MST)"_s, u"link"_s).ok());
+    QTRY_COMPARE(client().value(u"services.get"_s, {{u"path"_s, u"opened"_s}}),
+                 QJsonValue(QJsonArray{u"https://example.org/chain"_s}));
 }
 
 void TestDeskPanels::panelsExistForTheirModels_data()
@@ -506,6 +519,63 @@ void TestDeskPanels::panelsExistForTheirModels()
         const QJsonObject row = tile(widget);
         QVERIFY2(row[u"supported"_s].toBool() == supported.contains(widget), qPrintable(widget));
     }
+}
+
+void TestDeskPanels::everyLayoutIsDrawnInEveryLanguage_data()
+{
+    QTest::addColumn<QString>("language");
+    for (const char* language : {"cs", "de", "en", "es", "fr", "hr", "hu", "it", "ja", "ko", "nl", "pl", "pt",
+                                 "ro", "ru", "sv", "zh", "zh_TW"})
+        QTest::newRow(language) << QString::fromLatin1(language);
+}
+
+void TestDeskPanels::everyLayoutIsDrawnInEveryLanguage()
+{
+    QFETCH(QString, language);
+    QVERIFY2(start(), qPrintable(m_desk->errors()));
+    QVERIFY(client().call(u"settings.set"_s, {{u"key"_s, u"language"_s}, {u"value"_s, language}}).ok());
+    QCOMPARE(m_desk->stop(), 0);
+    QVERIFY2(m_desk->start(windowOptions(u"TK30Z"_s)), qPrintable(m_desk->errors()));
+    QStringList found;
+    const auto look = [&](const QString& widget, const QString& what) {
+        if (!open(widget))
+            found += u"%1 does not open"_s.arg(widget);
+        // A page that has just opened finds its size with the next frames.
+        QStringList problems;
+        QElapsedTimer elapsed;
+        elapsed.start();
+        do {
+            problems.clear();
+            const QJsonArray told = client().call(u"ui.problems"_s).result.toArray();
+            for (const QJsonValue& problem : told) {
+                // Tiles are looked at with the whole window, elsewhere.
+                if (!problem[u"item"_s].toString().endsWith(u".button"))
+                    problems += u"%1, %2: %3 \"%4\" in %5"_s.arg(
+                        widget, what, problem[u"problem"_s].toString(), problem[u"text"_s].toString(),
+                        problem[u"item"_s].toString());
+            }
+        } while (!problems.isEmpty() && elapsed.elapsed() < 5000);
+        found += problems;
+    };
+    QVERIFY(m_desk->set(u"dualView.state"_s, true));
+    for (const int mode : {1, 2, 5, 6, 7, 8}) {
+        QVERIFY(m_desk->menu(0x7D, mode));
+        QVERIFY(m_desk->sync(u"LuPipPbp"_s));
+        look(u"LuPIPPBPWidget"_s, u"layout %1"_s.arg(mode));
+        look(u"LuDualViewPlusWidget"_s, u"layout %1"_s.arg(mode));
+    }
+    QVERIFY(m_desk->set(u"smartKvmBasic.basicState"_s, true));
+    look(u"LuSmartKvmBasicWidget"_s, u"on"_s);
+    look(u"LuDaisyChainWidget"_s, u"off"_s);
+    QVERIFY(m_desk->set(u"pipPbp.state"_s, false));
+    QVERIFY(client().call(u"ui.close"_s, {{u"widget"_s, u"LuDaisyChainWidget"_s}}).ok());
+    m_within = u"LuInputSourceWidget"_s;
+    QCOMPARE(names(u"comboBox"_s).size(), 1);
+    QVERIFY(choose(names(u"comboBox"_s).first(), u"HDMI"_s).ok());
+    QVERIFY(m_desk->idle());
+    look(u"LuDaisyChainWidget"_s, u"note"_s);
+    found.removeDuplicates();
+    QVERIFY2(found.isEmpty(), qPrintable(u'\n' + found.join(u'\n')));
 }
 
 QTEST_GUILESS_MAIN(TestDeskPanels)

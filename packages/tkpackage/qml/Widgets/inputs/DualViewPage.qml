@@ -52,50 +52,46 @@ LuPage {
 
     LuPageGroup {
         enabled: page.widget?.active ?? false
+        // The names beside the picture, the lists below it: a mode's name needs half the page.
         Item {
             id: parts
-            readonly property real art: 64
-            readonly property real side: (width - art - 2 * LuStyle.space) / 2
+            readonly property real side: (width - LuStyle.spaceHalf) / 2
             width: parent.width
-            height: 96
-            Column {
-                anchors.verticalCenter: parent.verticalCenter
-                width: parts.side
-                spacing: LuStyle.spaceHalf
-                LuLabel {
-                    width: parent.width
-                    repeatsName: true
-                    text: page.leftLabel
-                }
-                LuComboBox {
-                    id: firstChoice
-                    objectName: "dualViewLeft"
-                    width: parent.width
-                    text: page.leftLabel.replace(/\s*:\s*$/, "")
-                    model: page.modes
-                    textOf: mode => page.widget?.translator.colorMode(mode) ?? ""
-                    enabledOf: mode => page.leftAllowed(mode)
-                    confirmedIndex: page.modes.indexOf(page.current)
-                    onActivated: index => page.monitor.colorMode = page.modes[index]
-                }
+            height: 96 + firstChoice.height
+            LuLabel {
+                anchors.left: parent.left
+                anchors.bottom: firstChoice.top
+                anchors.bottomMargin: LuStyle.spaceHalf
+                width: (parent.width - 96) / 2
+                repeatsName: true
+                text: page.leftLabel
+            }
+            LuLabel {
+                anchors.right: parent.right
+                anchors.bottom: secondChoice.top
+                anchors.bottomMargin: LuStyle.spaceHalf
+                width: (parent.width - 96) / 2
+                horizontalAlignment: Text.AlignRight
+                repeatsName: true
+                text: page.rightLabel
             }
             Item {
-                x: parts.side + LuStyle.space
-                anchors.verticalCenter: parent.verticalCenter
-                width: parts.art
-                height: parts.art
+                anchors.horizontalCenter: parent.horizontalCenter
+                y: -LuStyle.spaceHalf
+                width: 96
+                height: 96
                 // The part of the screen whose list is open is transparent in the picture.
                 Rectangle {
-                    x: Math.round(parts.art * 0.146)
-                    y: Math.round(parts.art * 0.25)
-                    width: Math.round(parts.art * 0.708)
-                    height: Math.round(parts.art * 0.448)
+                    x: 14
+                    y: 24
+                    width: 68
+                    height: 43
                     color: LuStyle.accent
                     visible: firstChoice.opened || secondChoice.opened
                 }
                 LuImage {
                     objectName: "dualViewPicture"
-                    size: parts.art
+                    size: 96
                     Accessible.ignored: false
                     Accessible.role: Accessible.Graphic
                     Accessible.name: page.title
@@ -105,27 +101,31 @@ LuPage {
                     }
                 }
             }
-            Column {
-                anchors.right: parent.right
-                anchors.verticalCenter: parent.verticalCenter
+            LuComboBox {
+                id: firstChoice
+                objectName: "dualViewLeft"
+                anchors.left: parent.left
+                anchors.bottom: parent.bottom
                 width: parts.side
-                spacing: LuStyle.spaceHalf
-                LuLabel {
-                    width: parent.width
-                    repeatsName: true
-                    text: page.rightLabel
-                }
-                LuComboBox {
-                    id: secondChoice
-                    objectName: "dualViewRight"
-                    width: parent.width
-                    text: page.rightLabel.replace(/\s*:\s*$/, "")
-                    model: page.seconds
-                    textOf: mode => page.widget?.translator.dualViewMode(mode) ?? ""
-                    enabledOf: mode => page.rightAllowed(mode)
-                    confirmedIndex: page.seconds.indexOf(page.dualView?.currentDualMode ?? null)
-                    onActivated: index => page.dualView.currentDualMode = page.seconds[index]
-                }
+                text: page.leftLabel.replace(/\s*:\s*$/, "")
+                model: page.modes
+                textOf: mode => page.widget?.translator.colorMode(mode) ?? ""
+                enabledOf: mode => page.leftAllowed(mode)
+                confirmedIndex: page.modes.indexOf(page.current)
+                onActivated: index => page.monitor.colorMode = page.modes[index]
+            }
+            LuComboBox {
+                id: secondChoice
+                objectName: "dualViewRight"
+                anchors.right: parent.right
+                anchors.bottom: parent.bottom
+                width: parts.side
+                text: page.rightLabel.replace(/\s*:\s*$/, "")
+                model: page.seconds
+                textOf: mode => page.widget?.translator.dualViewMode(mode) ?? ""
+                enabledOf: mode => page.rightAllowed(mode)
+                confirmedIndex: page.seconds.indexOf(page.dualView?.currentDualMode ?? null)
+                onActivated: index => page.dualView.currentDualMode = page.seconds[index]
             }
         }
     }
