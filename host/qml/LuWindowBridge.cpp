@@ -191,6 +191,16 @@ QQuickItem* LuWindowBridge::popupItem(const QString& type) const
     return nullptr;
 }
 
+QQuickWindow* LuWindowBridge::windowOfType(const QString& type) const
+{
+    const QList<QWindow*> all = QGuiApplication::topLevelWindows();
+    for (QWindow* one : all) {
+        if (one != window() && one->isVisible() && isTypeOf(one, type))
+            return qobject_cast<QQuickWindow*>(one);
+    }
+    return nullptr;
+}
+
 LuWindowBridge::Result LuWindowBridge::close(const QString& name)
 {
     if (!window())
@@ -208,13 +218,9 @@ LuWindowBridge::Result LuWindowBridge::close(const QString& name)
             QMetaObject::invokeMethod(popup, "close");
         return {};
     }
-    // Feedback has a window of its own.
-    const QList<QWindow*> windows = QGuiApplication::topLevelWindows();
-    for (QWindow* one : windows) {
-        if (one != window() && one->isVisible() && isTypeOf(one, name)) {
-            one->close();
-            return {};
-        }
+    if (QQuickWindow* feedback = windowOfType(name)) {
+        feedback->close();
+        return {};
     }
     if (sectionItem(name)) {
         QMetaObject::invokeMethod(window(), "closeSettings");

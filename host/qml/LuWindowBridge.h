@@ -128,6 +128,8 @@ private:
     Found find(const QString& name, const QString& role, const QString& within,
                const std::function<bool(const QQuickItem*)>& accepts = {}) const;
     QQuickItem* popupItem(const QString& type) const;
+    /// The visible window of a popup that has one of its own, or null.
+    QQuickWindow* windowOfType(const QString& type) const;
     QQuickItem* sectionItem(const QString& name) const;
 
     LuFrameWatch m_frames;

@@ -93,6 +93,15 @@ LuWindowBridge::Result LuWindowBridge::openForPicture(const QString& name, Pictu
         panel();
         return {};
     }
+    if (name.startsWith("LuPopup"_L1)) {
+        if (const Result result = openPopup(name); !result.ok())
+            return result;
+        picture->close = [this, name] { close(name); };
+        // Feedback has a window of its own, an editor lies over the main window.
+        if (QQuickWindow* own = windowOfType(name))
+            picture->window = own;
+        return {};
+    }
     if (name == "walkthrough"_L1) {
         bool opened = false;
         QMetaObject::invokeMethod(window(), "openWalkthrough", Q_RETURN_ARG(bool, opened));

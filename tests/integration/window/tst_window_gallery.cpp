@@ -161,9 +161,9 @@ void TestGallery::everythingIsDrawn()
             if (!answer.ok())
                 return false;
             const QImage image(m_folder.absoluteFilePath(file));
-            if (!image.isNull() && image.width() >= 200 * factor)
+            if (!image.isNull() && image.width() >= 100 * factor)
                 m_pictures << file;
-            return !image.isNull() && image.width() >= 200 * factor;
+            return !image.isNull() && image.width() >= 100 * factor;
         };
         QVERIFY(picture(u"window"_s, {}));
         const QList<Part> list = parts();
@@ -172,20 +172,18 @@ void TestGallery::everythingIsDrawn()
             if (picture(part.name, part.name))
                 ++pages;
         }
-        const QStringList popups = QDir(QStringLiteral(POPUP_FOLDER)).entryList({u"LuPopup*Action.qml"_s});
+        const QStringList popups = QDir(QStringLiteral(POPUP_FOLDER)).entryList({u"LuPopup*.qml"_s});
         for (const QString& popup : popups) {
             // The editors belong to features that a foreign panel has not.
             if (model == "builtin"_L1)
                 break;
             const QString name = popup.chopped(4);
-            QVERIFY2(client().call(u"ui.open"_s, {{u"popup"_s, name}}).ok(), qPrintable(name));
-            QVERIFY(picture(name, {}));
+            QVERIFY2(picture(name, name), qPrintable(name));
             const QImage with(
                 m_folder.absoluteFilePath(u"%1-%2-%3-%4x.png"_s.arg(model, name, theme).arg(factor)));
             const QImage without(
                 m_folder.absoluteFilePath(u"%1-window-%2-%3x.png"_s.arg(model, theme).arg(factor)));
-            QVERIFY2(differenceOf(without, with) > 10, qPrintable(name));
-            QVERIFY(client().call(u"ui.close"_s, {{u"popup"_s, name}}).ok());
+            QVERIFY2(with.size() != without.size() || differenceOf(without, with) > 10, qPrintable(name));
         }
         const QJsonArray widgets = client().call(u"ui.widgets"_s).result.toArray();
         for (const QJsonValue& row : widgets) {
