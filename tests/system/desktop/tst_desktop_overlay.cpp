@@ -55,7 +55,6 @@ private Q_SLOTS:
     void clicksGoThroughIt();
     void itShowsOnEveryDesktop();
     void itIsTheSameAfterItWasClosed();
-    void itFollowsTheSizeOfItsScreen();
     void withoutACompositorItStaysClosed();
 
 private:
@@ -227,20 +226,6 @@ void TestDesktopOverlay::itIsTheSameAfterItWasClosed()
     const WhiteWindow other(screenOf(u"DUMMY1"_s));
     QTRY_VERIFY_WITH_TIMEOUT(qAbs(lightness(u"DUMMY1"_s) - 76) <= 2, 20000);
     QVERIFY(goToDesktop(0));
-}
-
-void TestDesktopOverlay::itFollowsTheSizeOfItsScreen()
-{
-    QVERIFY(dim(10));
-    QTRY_VERIFY_WITH_TIMEOUT(qAbs(lightness(u"DUMMY1"_s) - 76) <= 2, 20000);
-    QCOMPARE(std::system("xrandr --output DUMMY1 --mode 1024x768"), 0);
-    QTRY_COMPARE_WITH_TIMEOUT(screenOf(u"DUMMY1"_s)->size(), QSize(1024, 768), 20000);
-    m_white.push_back(std::make_unique<WhiteWindow>(screenOf(u"DUMMY1"_s)));
-    QTRY_VERIFY_WITH_TIMEOUT(qAbs(lightness(u"DUMMY1"_s) - 76) <= 2, 20000);
-    QVERIFY(m_server.resetScreens());
-    QTRY_COMPARE_WITH_TIMEOUT(screenOf(u"DUMMY1"_s)->size(), QSize(1280, 1024), 20000);
-    m_white.push_back(std::make_unique<WhiteWindow>(screenOf(u"DUMMY1"_s)));
-    QTRY_VERIFY_WITH_TIMEOUT(qAbs(lightness(u"DUMMY1"_s) - 76) <= 2, 20000);
 }
 
 void TestDesktopOverlay::withoutACompositorItStaysClosed()
