@@ -33,6 +33,7 @@
 #include <qml/LuDiagnostics.h>
 #include <qml/LuWindowBridge.h>
 #include <services/api/DesktopEvents.h>
+#include <services/linux/DesktopLook.h>
 #include <services/native/NativeServices.h>
 #include <services/native/Session.h>
 #include <services/simulated/SimulatedServices.h>
@@ -226,6 +227,15 @@ void Application::installNativeServices()
 {
     const services::ServiceSet set = services::nativeServices();
     services::Registry::install(set);
+    // Without the address a bus would be started for the question.
+    if (!m_options.headless && qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS")) {
+        auto* look = new services::DesktopLook(QDBusConnection::sessionBus(), this);
+        LuContext* context = LuContext::instance();
+        connect(look, &services::DesktopLook::colorSchemeWished, context, &LuContext::setDesktopColorScheme);
+        connect(look, &services::DesktopLook::contrastWished, context, &LuContext::setHighContrast);
+        connect(look, &services::DesktopLook::motionWished, context, &LuContext::setReducedMotion);
+        look->start();
+    }
     if (!set.events)
         return;
     LuMonitorRegistry* registry = m_registry.get();

@@ -278,6 +278,12 @@ void LuContext::setTheme(const QString& theme)
     updateColorScheme();
 }
 
+void LuContext::setDesktopColorScheme(const QString& scheme)
+{
+    m_desktopColorScheme = scheme;
+    updateColorScheme();
+}
+
 void LuContext::updateColorScheme()
 {
     QString scheme = m_theme;
@@ -286,6 +292,8 @@ void LuContext::updateColorScheme()
         const bool dark =
             palette.color(QPalette::WindowText).lightness() > palette.color(QPalette::Window).lightness();
         scheme = dark ? u"dark"_s : u"light"_s;
+        if (!m_desktopColorScheme.isEmpty())
+            scheme = m_desktopColorScheme;
     }
     if (scheme == m_colorScheme)
         return;

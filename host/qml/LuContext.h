@@ -116,6 +116,8 @@ public:
     /// "system", "light", "dark", or "contrast": high contrast, light or dark as the desktop.
     QString theme() const { return m_theme; }
     void setTheme(const QString& theme);
+    /// What the desktop wishes where the theme is left to it: "light", "dark", or empty for its palette.
+    void setDesktopColorScheme(const QString& scheme);
     /// "light" or "dark": the theme, or what the desktop shows.
     QString colorScheme() const { return m_colorScheme; }
     /// The theme is that of high contrast, or the desktop asks for it.
@@ -230,6 +232,7 @@ private:
     QPointer<QObject> m_brightnessSync;
     QStringList m_notices;
     QString m_theme;
+    QString m_desktopColorScheme;
     QString m_colorScheme;
     bool m_translucentWindows = true;
     bool m_highContrast = false;
