@@ -1,12 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Behaviour.h"
 
+#include "BehaviourSettings.h"
 #include "Firmware.h"
-#include "JsonNumber.h"
-
-#include <QJsonArray>
-
-#include <cmath>
+#include "RoomBehaviours.h"
 
 namespace sim {
 
@@ -30,83 +27,24 @@ int Behaviour::light(const Firmware&, int light) const
     return light;
 }
 
+int Behaviour::rearLight(const Firmware&, int light) const
+{
+    return light;
+}
+
+void Behaviour::follow(const Firmware&) {}
+
+void Behaviour::settle(const Firmware&, int) {}
+
 void Behaviour::powerUp() {}
 
 namespace {
-
-/// Reads settings of a behaviour and notes the first that is missing or names a code that the model lacks.
-class Settings
-{
-public:
-    Settings(const QJsonObject& json, const ModelDescription& model) : m_json(json), m_model(model) {}
-
-    int code(const char* key)
-    {
-        const auto number = numberFrom(m_json.value(QLatin1String(key)));
-        return known(number, key) ? *number : 0;
-    }
-
-    QList<int> codeList(const char* key)
-    {
-        QList<int> result;
-        for (const QJsonValue& entry : m_json.value(QLatin1String(key)).toArray())
-            if (const auto number = numberFrom(entry); known(number, key))
-                result.append(*number);
-        return result;
-    }
-
-    int integer(const char* key)
-    {
-        const auto number = numberFrom(m_json.value(QLatin1String(key)));
-        if (!number)
-            note(QStringLiteral("\"%1\" is not a number").arg(QLatin1String(key)));
-        return number.value_or(0);
-    }
-
-    QMap<int, int> table(const char* key)
-    {
-        QMap<int, int> result;
-        const QJsonObject object = m_json.value(QLatin1String(key)).toObject();
-        for (auto it = object.begin(); it != object.end(); ++it) {
-            const auto from = numberFrom(it.key());
-            const auto to = numberFrom(it.value());
-            if (from && to)
-                result.insert(*from, *to);
-            else
-                note(QStringLiteral("\"%1\" has a wrong entry \"%2\"").arg(QLatin1String(key), it.key()));
-        }
-        return result;
-    }
-
-    QString text(const char* key) const { return m_json.value(QLatin1String(key)).toString(); }
-    const ModelDescription& model() const { return m_model; }
-
-    void note(const QString& message)
-    {
-        if (m_error.isEmpty())
-            m_error = message;
-    }
-    QString error() const { return m_error; }
-
-private:
-    bool known(std::optional<int> number, const char* key)
-    {
-        if (number && m_model.codes.contains(*number))
-            return true;
-        note(QStringLiteral("\"%1\" does not name a code of the model").arg(QLatin1String(key)));
-        return false;
-    }
-
-    const QJsonObject& m_json;
-    const ModelDescription& m_model;
-    QString m_error;
-};
 
 /// The gains of a colour temperature that is not the user's are the factory's business.
 class UserGains : public Behaviour
 {
 public:
-    explicit UserGains(Settings& s)
+    explicit UserGains(BehaviourSettings& s)
         : m_temperature(s.code("temperature")), m_user(s.integer("user")), m_gains(s.codeList("gains"))
     {
     }
@@ -127,7 +65,7 @@ private:
 class Restore : public Behaviour
 {
 public:
-    explicit Restore(Settings& s)
+    explicit Restore(BehaviourSettings& s)
         : m_code(s.code("code")), m_scope(s.text("scope")), m_codes(s.codeList("codes"))
     {
         if (m_scope != QLatin1String("all") && m_scope != QLatin1String("mode") &&
@@ -160,7 +98,7 @@ private:
 class Windows : public Behaviour
 {
 public:
-    explicit Windows(Settings& s)
+    explicit Windows(BehaviourSettings& s)
         : m_select(s.code("select")), m_source(s.code("source")), m_layout(s.code("layout")),
           m_swap(s.code("swap")), m_main(s.code("main")), m_windows(s.model().codes.value(m_source).instances)
     {
@@ -201,7 +139,8 @@ private:
 class Bands : public Behaviour
 {
 public:
-    explicit Bands(Settings& s) : m_code(s.code("code")), m_bands(s.model().codes.value(m_code).instances)
+    explicit Bands(BehaviourSettings& s)
+        : m_code(s.code("code")), m_bands(s.model().codes.value(m_code).instances)
     {
         if (m_bands.isEmpty())
             s.note(QStringLiteral("the code needs \"instances\""));
@@ -238,60 +177,8 @@ private:
     int m_selected = 0;
 };
 
-/// Moves the brightness with the light of the room. The shift is added on reading, so that the user's own
-/// value is back as soon as the function is off.
-class AmbientLight : public Behaviour
-{
-public:
-    explicit AmbientLight(Settings& s)
-        : m_switch(s.code("switch")), m_brightness(s.code("brightness")),
-          m_sensitivity(s.code("sensitivity")), m_span(s.integer("span"))
-    {
-    }
-
-    int shift(const Firmware& firmware, int code) const override
-    {
-        if (code != m_brightness || firmware.stored(m_switch) == 0)
-            return 0;
-        const double room = (firmware.ambientLight() - OfficeLux) / OfficeLux;
-        const int steps = firmware.maximum(m_sensitivity) + 1;
-        const int step = std::min(firmware.stored(m_sensitivity), steps - 1) + 1;
-        return static_cast<int>(std::lround(room * m_span * step / steps));
-    }
-
-private:
-    static constexpr double OfficeLux = 500;
-
-    int m_switch;
-    int m_brightness;
-    int m_sensitivity;
-    int m_span;
-};
-
-/// Dims the panel some time after the user left. The VCP brightness stays: only the light goes down.
-class Presence : public Behaviour
-{
-public:
-    explicit Presence(Settings& s)
-        : m_time(s.code("time")), m_dimmed(s.integer("dimmed")), m_long(s.table("long"))
-    {
-    }
-
-    int light(const Firmware& firmware, int light) const override
-    {
-        const int time = firmware.stored(m_time);
-        const bool away = time != 0 && firmware.absentFor() >= m_long.value(time, time);
-        return away ? light * m_dimmed / 100 : light;
-    }
-
-private:
-    int m_time;
-    int m_dimmed;
-    QMap<int, int> m_long;
-};
-
 template <typename T>
-std::unique_ptr<Behaviour> create(Settings& settings)
+std::unique_ptr<Behaviour> create(BehaviourSettings& settings)
 {
     return std::make_unique<T>(settings);
 }
@@ -299,11 +186,17 @@ std::unique_ptr<Behaviour> create(Settings& settings)
 struct Row
 {
     const char* name;
-    std::unique_ptr<Behaviour> (*create)(Settings&);
+    std::unique_ptr<Behaviour> (*create)(BehaviourSettings&);
 };
 constexpr Row Rows[] = {
-    {"userGains", create<UserGains>}, {"restore", create<Restore>},           {"windows", create<Windows>},
-    {"bands", create<Bands>},         {"ambientLight", create<AmbientLight>}, {"presence", create<Presence>},
+    {"userGains", create<UserGains>},
+    {"restore", create<Restore>},
+    {"windows", create<Windows>},
+    {"bands", create<Bands>},
+    {"ambientLight", makeAmbientLight},
+    {"presence", makePresence},
+    {"nightProtection", makeNightProtection},
+    {"rearLight", makeRearLight},
 };
 
 } // namespace
@@ -316,7 +209,7 @@ std::unique_ptr<Behaviour> makeBehaviour(const BehaviourDescription& description
     for (const Row& row : Rows) {
         if (description.name != QLatin1String(row.name))
             continue;
-        Settings settings(description.settings, model);
+        BehaviourSettings settings(description.settings, model);
         behaviour = row.create(settings);
         reason = settings.error();
         if (!reason.isEmpty()) {

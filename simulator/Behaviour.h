@@ -19,8 +19,10 @@ struct ModelDescription;
 /// "windows"       "source" has one value a window, addressed by "select"; "swap" exchanges with "main" in a
 /// "layout". "bands"         the high byte of a write to "code" names a band; a low byte of 0xFF only selects
 /// it for reading. "ambientLight"  while "switch" is not 0, the light in the room moves "brightness" by up to
-/// "span". "presence"      "time" seconds ("long" translates codes) without a user dim the panel to "dimmed"
-/// percent.
+/// "span", a step each "pace" ms. "presence"      "time" seconds ("long" translates codes) without a user dim
+/// the panel to "dimmed" percent, and the light behind it where "rear" says so. "nightProtection"  "state" 1
+/// takes light off by "level", 2 only below "dark" lux. "rearLight"  "state" and "light" hold the packed
+/// bytes of the light behind the panel.
 class Behaviour
 {
 public:
@@ -41,6 +43,12 @@ public:
     virtual int shift(const Firmware&, int code) const;
     /// Light of the panel, given what it would be without this behaviour.
     virtual int light(const Firmware&, int light) const;
+    /// Light behind the panel, 0 to 100, given what it would be without this behaviour.
+    virtual int rearLight(const Firmware&, int light) const;
+    /// Told after every change of a stored value or of the room's light.
+    virtual void follow(const Firmware&);
+    /// Told before somebody sets @p code: what moves it gradually is at its end then.
+    virtual void settle(const Firmware&, int code);
     /// Forgets its own state, as at power-up.
     virtual void powerUp();
 };

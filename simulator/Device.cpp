@@ -56,8 +56,9 @@ QByteArray toBytes(std::span<const std::uint8_t> bytes)
 Device::Device(std::shared_ptr<const ModelDescription> model, const QString& serial, const Options& options)
     : m_model(std::move(model)), m_serial(serial), m_edid(makeEdid(*m_model, serial)),
       m_capabilities(makeCapabilities(*m_model)), m_strict(options.strictTiming),
-      m_clock(options.clock ? options.clock : [] { return Clock::now(); }), m_firmware(m_model, m_clock),
-      m_faults(options.seed), m_log(options)
+      m_clock(options.clock ? options.clock : [] { return Clock::now(); }),
+      m_firmware(m_model, options.roomClock ? options.roomClock : m_clock), m_faults(options.seed),
+      m_log(options)
 {
 }
 

@@ -81,6 +81,7 @@ void Firmware::store(int code, int value, int instance)
     m_values[slot(code, instance)] = value;
     if (!m_model->codes.value(code).transient)
         ++m_revision;
+    follow();
 }
 
 void Firmware::restoreAll()
@@ -89,6 +90,7 @@ void Firmware::restoreAll()
     for (const auto& behaviour : m_behaviours)
         behaviour->powerUp();
     ++m_revision;
+    follow();
 }
 
 void Firmware::restoreMode()
@@ -96,6 +98,7 @@ void Firmware::restoreMode()
     const int mode = currentMode();
     std::erase_if(m_values, [&](const auto& entry) { return mode != 0 && entry.first.mode == mode; });
     ++m_revision;
+    follow();
 }
 
 void Firmware::restoreCode(int code)
@@ -105,6 +108,7 @@ void Firmware::restoreCode(int code)
         return entry.first.mode == key.mode && entry.first.code == code;
     });
     ++m_revision;
+    follow();
 }
 
 // --- the host's side
@@ -167,6 +171,7 @@ void Firmware::set(int code, std::uint16_t value)
     const auto selection = selected(code);
     if (selection && *selection == 0)
         return;
+    settle(code);
     if (description.type == CodeDescription::Type::Continuous)
         store(code, std::min<int>(value, description.maximum) - shiftOf(code), selection.value_or(0));
     else if (fits(description, value))
@@ -207,8 +212,10 @@ bool Firmware::setByMenu(int code, int value, std::optional<int> window, QString
         return false;
     if (m_model->codes[code].type == CodeDescription::Type::Command)
         runsBehaviour(code, value);
-    else
+    else {
+        settle(code);
         store(code, value - shiftOf(code), instanceFor(code, window));
+    }
     return true;
 }
 
@@ -217,6 +224,24 @@ std::optional<std::uint16_t> Firmware::value(int code, std::optional<int> window
     if (!canSetByMenu(code, 0, window, nullptr))
         return std::nullopt;
     return static_cast<std::uint16_t>(shown(code, stored(code, instanceFor(code, window))));
+}
+
+void Firmware::follow()
+{
+    for (const auto& behaviour : m_behaviours)
+        behaviour->follow(*this);
+}
+
+void Firmware::settle(int code)
+{
+    for (const auto& behaviour : m_behaviours)
+        behaviour->settle(*this, code);
+}
+
+void Firmware::setAmbientLight(int lux)
+{
+    m_ambientLight = lux;
+    follow();
 }
 
 void Firmware::setPresence(bool present)
@@ -237,6 +262,14 @@ int Firmware::lightOutput() const
     int light = supports(0x10) ? std::min<int>(get(0x10), 100) : 100;
     for (const auto& behaviour : m_behaviours)
         light = behaviour->light(*this, light);
+    return light;
+}
+
+int Firmware::rearLightOutput() const
+{
+    int light = 0;
+    for (const auto& behaviour : m_behaviours)
+        light = behaviour->rearLight(*this, light);
     return light;
 }
 
@@ -305,6 +338,10 @@ bool Firmware::fromJson(const QJsonObject& json, QString* error)
         error->clear();
     m_values = std::move(result);
     ++m_revision;
+    // The room was like this before: nothing moves anew.
+    follow();
+    for (auto it = m_model->codes.begin(); it != m_model->codes.end(); ++it)
+        settle(it.key());
     return true;
 }
 

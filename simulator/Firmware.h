@@ -14,6 +14,7 @@ namespace sim {
 class Firmware
 {
 public:
+    /// @param clock time in the room, by which light and presence go.
     Firmware(std::shared_ptr<const ModelDescription> model, std::function<Clock::time_point()> clock);
 
     const ModelDescription& model() const { return *m_model; }
@@ -53,12 +54,15 @@ public:
     /// Rises with every change of a value that is kept.
     quint64 revision() const { return m_revision; }
 
-    void setAmbientLight(int lux) { m_ambientLight = lux; }
+    /// Time in the room.
+    Clock::time_point now() const { return m_clock(); }
+    void setAmbientLight(int lux);
     int ambientLight() const { return m_ambientLight; }
     void setPresence(bool present);
     /// Seconds since the user left, 0 with the user present.
     double absentFor() const;
     int lightOutput() const;
+    int rearLightOutput() const;
 
 private:
     /// Where a value is kept: mode and instance are 0 where they do not matter.
@@ -78,6 +82,8 @@ private:
     int instanceFor(int code, std::optional<int> window) const;
     int shown(int code, int stored) const;
     bool runsBehaviour(int code, int value);
+    void follow();
+    void settle(int code);
 
     std::shared_ptr<const ModelDescription> m_model;
     std::function<Clock::time_point()> m_clock;

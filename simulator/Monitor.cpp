@@ -197,6 +197,11 @@ int Monitor::lightOutput() const
     return m_device->withFirmware([](Firmware& f) { return f.lightOutput(); });
 }
 
+int Monitor::rearLightOutput() const
+{
+    return m_device->withFirmware([](Firmware& f) { return f.rearLightOutput(); });
+}
+
 void Monitor::unplug()
 {
     m_device->unplug();

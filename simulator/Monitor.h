@@ -78,7 +78,8 @@ public:
     /// Factory values in all colour modes, factory colour mode.
     void reset();
 
-    /// Brightness of the room at the light sensor, in lux, 0 to 1000 (factory 300).
+    /// Brightness of the room at the light sensor, in lux, 0 to 1000 (factory 300). What follows it moves
+    /// step by step on Options::roomClock.
     void setAmbientLight(int lux);
 
     /// Whether somebody sits in front of the presence sensor (factory true).
@@ -87,6 +88,9 @@ public:
     /// Light that the panel gives now, 0 to 100: the brightness, dimmed while the presence sensor misses the
     /// user.
     int lightOutput() const;
+
+    /// Light behind the panel, 0 to 100; 0 on a model without one.
+    int rearLightOutput() const;
 
     // Connection
 

@@ -81,10 +81,11 @@ struct Violations
 struct Options
 {
     bool strictTiming = false; ///< Enforce the waits of DDC/CI; otherwise replies are ready at once.
-    std::function<Clock::time_point()> clock; ///< Empty: Clock::now.
-    Clock::time_point epoch{};                ///< Zero of the logs' milliseconds.
-    std::function<quint64()> sequence;        ///< Numbers of the wire log, rising; empty: 1, 2, 3 ...
-    quint32 seed = 1;                         ///< Of the generator for probabilities and garbage.
+    std::function<Clock::time_point()> clock;     ///< Empty: Clock::now.
+    std::function<Clock::time_point()> roomClock; ///< Of light and presence; empty: the same as clock.
+    Clock::time_point epoch{};                    ///< Zero of the logs' milliseconds.
+    std::function<quint64()> sequence;            ///< Numbers of the wire log, rising; empty: 1, 2, 3 ...
+    quint32 seed = 1;                             ///< Of the generator for probabilities and garbage.
 };
 
 /// "nack", "null", "checksum", "garbage", "timeout"; nothing for any other text.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "SimulatedMonitors.h"
 
+#include <ZrCore/ZrClock.h>
 #include <ZrCore/ZrSequence.h>
 #include <ddc/Edid.h>
 #include <lushared/LuMonitorRegistry.h>
@@ -86,6 +87,9 @@ SimulatedMonitors::Device* SimulatedMonitors::makeDevice(const QString& text, QS
     options.strictTiming = !m_fastTiming;
     options.epoch = epoch;
     options.sequence = ZrSequence::next;
+    options.roomClock = [] {
+        return sim::Clock::time_point(std::chrono::milliseconds(ZrClock::instance().monotonicMs()));
+    };
     auto made = std::make_unique<Device>();
     // Twins: equal in everything that they tell of themselves.
     const QString first = identity->model + QLatin1Char('@') + identity->serial;

@@ -3,6 +3,7 @@
 
 #include <LuShared/LuUtils.h>
 #include <ZrCore/ZrAsker.h>
+#include <ZrCore/ZrClock.h>
 #include <ZrCore/ZrIdle.h>
 #include <ZrCore/ZrSequence.h>
 #include <lushared/LuHostOptions.h>
@@ -81,6 +82,9 @@ SimulatedBed::SimulatedBed(const QString& name, Timing timing) : m_timing(timing
     sim::Options options;
     options.strictTiming = timing == Timing::Real;
     options.sequence = ZrSequence::next;
+    options.roomClock = [] {
+        return sim::Clock::time_point(std::chrono::milliseconds(ZrClock::instance().monotonicMs()));
+    };
     options.epoch = sim::Clock::now();
     m_epochMs = std::chrono::duration<double, std::milli>(options.epoch.time_since_epoch()).count();
     QString error;

@@ -175,6 +175,25 @@ QJsonValue unplug(const Simulator& simulator, const Request& request, Dispatcher
     return QJsonObject();
 }
 
+QJsonValue room(const Simulator& simulator, const Request& request)
+{
+    constexpr int MaximumLux = 1000;
+    sim::Monitor& monitor = simulator.device(request);
+    const auto lux = request.parameters.optionalInteger(u"ambientLight"_s, 0, MaximumLux);
+    std::optional<bool> present;
+    if (request.parameters.contains(u"presence"_s)) {
+        const QJsonValue value = request.parameters.value(u"presence"_s);
+        if (!value.isBool())
+            throw RequestError(InvalidParameters, u"parameter \"presence\" must be true or false"_s);
+        present = value.toBool();
+    }
+    if (lux)
+        monitor.setAmbientLight(int(*lux));
+    if (present)
+        monitor.setPresence(*present);
+    return QJsonObject{{u"light"_s, monitor.lightOutput()}, {u"rearLight"_s, monitor.rearLightOutput()}};
+}
+
 /// The overlay that darkens a monitor's screen; it names its monitor.
 QQuickWindow* overlayOf(const QString& monitor)
 {
@@ -224,6 +243,8 @@ void addSimulatorMethods(Server* server, MonitorAccess* access, SimulatedWorld* 
     });
     dispatcher.addMethod(u"sim.overlay"_s, {monitor},
                          [simulator](const Request& request) { return overlay(simulator, request); });
+    dispatcher.addMethod(u"sim.room"_s, {monitor, u"ambientLight"_s, u"presence"_s},
+                         [simulator](const Request& request) { return room(simulator, request); });
     dispatcher.addMethod(u"sim.reset"_s, {monitor}, [simulator](const Request& request) {
         simulator.device(request).reset();
         return QJsonValue(QJsonObject());

@@ -48,6 +48,7 @@ constexpr Command Table[] = {
     {"sim plug", "sim.plug", "monitor:text vcp:object?", false, "plug in a simulated monitor"},
     {"sim unplug", "sim.unplug", "", true, "unplug a simulated monitor"},
     {"sim overlay", "sim.overlay", "", true, "tell of the overlay that darkens the monitor"},
+    {"sim room", "sim.room", "ambientLight:json? presence:json?", true, "change the simulated room, print the monitor's light"},
     {"sim reset", "sim.reset", "", true, "put factory values back"},
     {"services get", "services.get", "path:text", false, "read the simulated session"},
     {"services set", "services.set", "path:text value:json", false, "change the simulated session"},

@@ -27,10 +27,7 @@ private slots:
     void theOrientationIsChangedByHandOnly();
     void restoringColourConcernsThePresentModeOnly();
     void restoringEverythingForgetsAllModes();
-    void theLightInTheRoomMovesTheBrightness_data();
-    void theLightInTheRoomMovesTheBrightness();
     void aBrightnessWrittenUnderAmbientLightIsReadBack();
-    void anAbsentUserDimsThePanelButNotTheBrightness();
 };
 
 void TestSimBehaviour::aWriteIsTakenAsItsCodeAllows_data()
@@ -348,38 +345,6 @@ void TestSimBehaviour::restoringEverythingForgetsAllModes()
     verifyFactory();
 }
 
-void TestSimBehaviour::theLightInTheRoomMovesTheBrightness_data()
-{
-    QTest::addColumn<QByteArray>("model");
-    QTest::addColumn<int>("code");
-    QTest::addColumn<int>("on");
-    QTest::newRow("switch") << QByteArray("TK10") << 0xE2 << 255;
-    QTest::newRow("switch, any value") << QByteArray("TK40") << 0xE2 << 1;
-    QTest::newRow("optimizer") << QByteArray("TK20") << 0x81 << 1;
-    QTest::newRow("optimizer, brightness only") << QByteArray("TK30Z") << 0x81 << 2;
-}
-
-void TestSimBehaviour::theLightInTheRoomMovesTheBrightness()
-{
-    QFETCH(QByteArray, model);
-    QFETCH(int, code);
-    QFETCH(int, on);
-    sim::Monitor monitor(identity(model.constData()));
-    WireHost host(monitor);
-    monitor.setAmbientLight(0);
-    QCOMPARE(host.get(0x10), 50);
-    QCOMPARE(host.set(code, on), BusStatus::Ok);
-    const int dark = host.get(0x10);
-    QVERIFY(dark < 50);
-    monitor.setAmbientLight(1000);
-    QVERIFY(host.get(0x10) > 50);
-    QCOMPARE(host.set(0xE5, 10), BusStatus::Ok);
-    monitor.setAmbientLight(0);
-    QVERIFY(host.get(0x10) < dark);
-    QCOMPARE(host.set(code, 0), BusStatus::Ok);
-    QCOMPARE(host.get(0x10), 50);
-}
-
 void TestSimBehaviour::aBrightnessWrittenUnderAmbientLightIsReadBack()
 {
     sim::Monitor monitor(identity("TK30Z"));
@@ -394,29 +359,6 @@ void TestSimBehaviour::aBrightnessWrittenUnderAmbientLightIsReadBack()
             QCOMPARE(int(*monitor.value(0x10)), value);
         }
     }
-}
-
-void TestSimBehaviour::anAbsentUserDimsThePanelButNotTheBrightness()
-{
-    TestClock clock;
-    sim::Options options;
-    options.clock = clock.function();
-    sim::Monitor monitor(identity("TK30Z"), options);
-    WireHost host(monitor);
-    monitor.setPresence(false);
-    clock.advance(3'600'000);
-    QCOMPARE(monitor.lightOutput(), 50);
-    monitor.setPresence(true);
-    QCOMPARE(host.set(0xE7, 80), BusStatus::Ok); // five minutes
-    monitor.setPresence(false);
-    clock.advance(299'000);
-    monitor.setPresence(false);
-    QCOMPARE(monitor.lightOutput(), 50);
-    clock.advance(1'000);
-    QCOMPARE(monitor.lightOutput(), 10);
-    QCOMPARE(host.get(0x10), 50);
-    monitor.setPresence(true);
-    QCOMPARE(monitor.lightOutput(), 50);
 }
 
 QTEST_GUILESS_MAIN(TestSimBehaviour)
