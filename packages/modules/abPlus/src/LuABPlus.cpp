@@ -76,8 +76,8 @@ void LuABPlus::applyValues()
     Q_EMIT stateChanged();
     Q_EMIT modeChanged();
     qInfo() << "[LuABPlus] apply AB Plus sensitivity: " << m_sensitivity;
-    // A sensitivity that was never read or set is the monitor's own.
-    if (hasModuleSetting(key(SensitivityName)))
+    // A sensitivity out of its range that was never read or set is the monitor's own.
+    if (isSensitivity(m_sensitivity) || hasModuleSetting(key(SensitivityName)))
         setVCP(SensitivityCode, m_sensitivity);
     Q_EMIT sensitivityChanged();
     if (m_lightMeterEnable) {

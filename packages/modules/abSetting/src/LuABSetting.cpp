@@ -67,8 +67,8 @@ void LuABSetting::applyValues()
     setVCP(LightMeterCode, m_lightMeterState ? 1 : 0);
     Q_EMIT lightMeterStateChanged();
     qInfo() << "[LuABSetting] apply AB Sensitivity: " << m_sensitivity;
-    // A sensitivity that was never read or set is the monitor's own.
-    if (hasModuleSetting(key(SensitivityName)))
+    // A sensitivity out of its range that was never read or set is the monitor's own.
+    if ((m_sensitivity >= 0 && m_sensitivity <= m_maxSensitivity) || hasModuleSetting(key(SensitivityName)))
         setVCP(SensitivityCode, m_sensitivity);
     Q_EMIT sensitivityChanged();
     if (!m_previousAB && !m_currentAB)

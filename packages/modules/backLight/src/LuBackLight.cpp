@@ -14,6 +14,8 @@ constexpr int LightCode = 0xD9;
 constexpr int ByteMask = 0xFF;
 constexpr int StateMask = 0xF0;
 constexpr int NonStopMask = 0x0F;
+constexpr int MaximumBrightness = 10;
+constexpr int MaximumTemperature = 7;
 
 const QString StateName = QStringLiteral("state");
 const QString BrightnessName = QStringLiteral("brightness");
@@ -101,8 +103,9 @@ void LuBackLight::applyValues()
     Q_EMIT nonStopModeChanged();
     qInfo() << "[LuBackLight] apply BackLight colorTemperature: " << m_colorTemperature;
     qInfo() << "[LuBackLight] apply BackLight brightness: " << m_brightness;
-    // A pair of which one half was never read or set is the monitor's own.
-    if (hasModuleSetting(key(BrightnessName)) && hasModuleSetting(key(TemperatureName)))
+    // A half out of its range that was never read or set is the monitor's own, and with it the pair.
+    if (isKnown(BrightnessName, m_brightness, MaximumBrightness) &&
+        isKnown(TemperatureName, m_colorTemperature, MaximumTemperature))
         writeLight();
     Q_EMIT brightnessChanged();
     Q_EMIT colorTemperatureChanged();
@@ -110,6 +113,11 @@ void LuBackLight::applyValues()
         model()->setSkipApplyValuesWithLaunchTime(this, true);
     fireState(LuDataCollection::SOURCE_LAUNCH);
     fireNonStop(LuDataCollection::SOURCE_LAUNCH);
+}
+
+bool LuBackLight::isKnown(const QString& name, int value, int maximum) const
+{
+    return (value >= 1 && value <= maximum) || hasModuleSetting(key(name));
 }
 
 void LuBackLight::writeState()
@@ -127,7 +135,9 @@ void LuBackLight::setState(BackLightState state)
 {
     if (!m_backLightEnable || !m_state.set(state))
         return;
+    ++m_directWrites;
     writeState();
+    ++m_directWrites;
     setModuleSetting(key(StateName), int(state));
     Q_EMIT stateChanged();
     fireState(LuDataCollection::setterSource(model()->isOtherFunctionTrigger(this)));
@@ -203,8 +213,12 @@ void LuBackLight::syncLight()
 
 void LuBackLight::syncState(bool firstConnection)
 {
+    const int writes = m_directWrites;
     int value = 0;
     if (!getVCP(StateCode, value))
+        return;
+    // The answer is older than what the user chose while it was on its way: the next round asks again.
+    if (writes % 2 != 0 || writes != m_directWrites)
         return;
     if (takeReported(m_angle, BackLightAngle(highByte(value)), key(AngleName),
                      "[LuBackLight] sync BackLight angle changed:", &LuBackLight::angleChanged))

@@ -6,6 +6,8 @@
 
 #include <QtQml/qqmlregistration.h>
 
+#include <atomic>
+
 /// The light behind the panel: its state, angle and non-stop mode packed in VCP 0xD7, its brightness and
 /// colour temperature in 0xD9, all kept for each colour mode.
 ///
@@ -91,6 +93,7 @@ Q_SIGNALS:
 
 private:
     QString key(const QString& name) const;
+    bool isKnown(const QString& name, int value, int maximum) const;
     void writeLight();
     void writeState();
     template <class T>
@@ -109,6 +112,8 @@ private:
     ZrShared<int> m_colorTemperature{0};
     ZrShared<BackLightAngle> m_angle{Angle_270};
     ZrShared<bool> m_nonStopMode{false};
+    /// Direct writes begun and ended: odd while one is under way.
+    std::atomic<int> m_directWrites{0};
     /// The state before the settings were loaded.
     BackLightState m_previousState = Off;
 };

@@ -114,8 +114,10 @@ void LuEcoPrivacy::setState(bool state)
     const bool triggered = model()->isOtherFunctionTrigger(this);
     postUniqueAtFront(this, job, [this, state, triggered] {
         const bool differs = m_state.set(state);
-        if (m_activeTime != Off)
-            writeTime(state ? int(m_activeTime.get()) : int(Off));
+        if (state)
+            writeTime(m_activeTime);
+        else if (m_activeTime != Off)
+            writeTime(Off);
         setModuleSetting(StateKey, state);
         if (differs)
             Q_EMIT stateChanged();
@@ -125,8 +127,11 @@ void LuEcoPrivacy::setState(bool state)
 
 void LuEcoPrivacy::setActiveTime(ActiveTime time)
 {
-    if (m_ecoPrivacyEnable && m_activeTime != time)
-        writeTime(time);
+    if (!m_ecoPrivacyEnable || m_activeTime == time)
+        return;
+    ++m_directWrites;
+    writeTime(time);
+    ++m_directWrites;
 }
 
 void LuEcoPrivacy::writeTime(int time)
@@ -179,10 +184,12 @@ LuSyncTasks* LuEcoPrivacy::syncPeriodically()
 void LuEcoPrivacy::syncTime(bool firstConnection)
 {
     qInfo() << "[LuEcoPrivacy] sync:" << model()->modelName();
+    const int writes = m_directWrites;
     int value = 0;
     const bool read = getVCP(TimeCode, value);
     qInfo() << "[LuEcoPrivacy] get LuEcoPrivacy state";
-    if (!read)
+    // An answer that is older than the user's choice is none: the next round asks again.
+    if (!read || writes % 2 != 0 || writes != m_directWrites)
         return;
     const bool on = value != Off;
     const bool differs = takeReported(

@@ -6,6 +6,8 @@
 
 #include <QtQml/qqmlregistration.h>
 
+#include <atomic>
+
 /// The monitor's presence sensing: it dims by itself when nobody has been in front of it for a chosen time
 /// (VCP 0xE7). The sensor's reach (0xE9) and, on some models, whether the light behind the panel goes along
 /// (0xE8) can be chosen.
@@ -114,6 +116,8 @@ private:
     ZrShared<ActiveTime> m_activeTime{TenSecs};
     ZrShared<SensorSensitivity> m_sensorSensitivity{Near};
     ZrShared<EcoPrivacyMode> m_mode{Display};
+    /// Direct writes begun and ended: odd while one is under way.
+    std::atomic<int> m_directWrites{0};
     /// The state before the settings were loaded.
     bool m_previousState = false;
 };

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "SimulatedBed.h"
+
+#include <QStringList>
+#include <QTest>
+
+#include <initializer_list>
+
+/// A simulated monitor of which one module is looked at: its properties, settings, codes, events and log.
+class ModuleBed : public SimulatedBed
+{
+public:
+    ModuleBed(const char* module, const QString& name) : SimulatedBed(name), m_module(module) {}
+
+    /// Launched, with the first round behind it.
+    void begin()
+    {
+        launch();
+        QVERIFY(idle());
+    }
+    /// Writes properties one after the other and forgets what came of it.
+    void beginWith(const QList<std::pair<const char*, QVariant>>& values)
+    {
+        begin();
+        for (const auto& [name, value] : values) {
+            put(name, value);
+            QVERIFY(idle());
+        }
+        forget();
+    }
+
+    LuModelModuleInterface* module() { return SimulatedBed::module(m_module); }
+    void put(const char* property, const QVariant& value) { set(m_module, property, value); }
+    int number(const char* property) { return get(m_module, property).toInt(); }
+    bool flag(const char* property) { return get(m_module, property).toBool(); }
+    bool syncModule() { return sync(m_module); }
+
+    /// A key that belongs to the colour mode, and what is stored there.
+    QString key(const char* name)
+    {
+        return QStringLiteral("%1/%2/%3")
+            .arg(QLatin1String(m_module), model().colorMode()->displayName(), QLatin1String(name));
+    }
+    QVariant stored(const char* name) { return setting(key(name)); }
+
+    QStringList told() { return events().filter(QLatin1String(m_module) + QLatin1Char(' ')); }
+    /// The transactions of these codes alone: a change of one module lets others be read, too.
+    QStringList wireOf(std::initializer_list<int> codes)
+    {
+        QStringList result;
+        const QStringList all = wire();
+        for (const QString& entry : all) {
+            for (const int code : codes) {
+                if (entry.section(QLatin1Char(' '), 1, 1).toInt(nullptr, 16) == code)
+                    result.append(entry);
+            }
+        }
+        return result;
+    }
+
+    void fail(int code)
+    {
+        sim::Fault fault;
+        fault.kind = sim::FaultKind::Nack;
+        fault.code = std::uint8_t(code);
+        monitor().armFault(fault);
+    }
+
+private:
+    const char* m_module;
+};
