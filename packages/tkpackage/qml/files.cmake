@@ -10,6 +10,10 @@ set(TKPACKAGE_QML_FILES
   Popups/LuPopupBrightnessShortcut.qml
   Popups/LuPopupColorModeAction.qml
   Popups/LuPopupIccSyncHint.qml
+  Popups/LuPopupABAction.qml
+  Popups/LuPopupABPlusAction.qml
+  Popups/LuPopupBackLightAction.qml
+  Popups/LuPopupEcoPrivacyAction.qml
   Popups/LuPopupLowBlueLightAction.qml
   Popups/LuPopupNightHoursProtectionAction.qml
   Settings/Advanced/qmldir
@@ -36,15 +40,24 @@ set(TKPACKAGE_QML_FILES
   Widgets/picture/BrightnessSliders.qml
   Widgets/picture/ColorModeChoice.qml
   Widgets/picture/ColorTemperatureControls.qml
+  Widgets/LuABPlusWidget.qml
+  Widgets/LuABSettingWidget.qml
   Widgets/LuAiContrastWidget.qml
   Widgets/LuAutoPivotWidget.qml
+  Widgets/LuBackLightWidget.qml
   Widgets/LuBrightnessWidget.qml
   Widgets/LuBuiltInBrightnessWidget.qml
   Widgets/LuColorWeaknessWidget.qml
+  Widgets/LuEcoPrivacyWidget.qml
   Widgets/LuHDRWidget.qml
   Widgets/LuLowBlueLightWidget.qml
   Widgets/LuNightProtectionWidget.qml
+  Widgets/eyecare/BackLightControls.qml
+  Widgets/eyecare/BackLightStateChoice.qml
+  Widgets/eyecare/EcoPrivacyTexts.qml
   Widgets/eyecare/NightStateChoice.qml
+  Widgets/eyecare/SensitivitySlider.qml
+  Widgets/eyecare/SensorRules.qml
   Widgets/eyecare/CircadianControls.qml
   Widgets/eyecare/CircadianPlot.qml
   Widgets/picture/ModeBundleHint.qml

@@ -856,4 +856,264 @@
         <translation>Načervenalá</translation>
     </message>
 </context>
+<context>
+    <name>LuABPlusWidget</name>
+    <message>
+        <source>Visual Optimizer</source>
+        <translation>Visual Optimizer</translation>
+    </message>
+    <message>
+        <source>A.B.+ Gen2</source>
+        <translation>A.B.+ Gen2</translation>
+    </message>
+    <message>
+        <source>About %1</source>
+        <translation>O funkci %1</translation>
+    </message>
+    <message>
+        <source>To meet individual preferences, %1 allows manual control of screen brightness. It learns and records your last adjustment, applying it to optimize its automatic brightness adjustment curve to better match your preferences.</source>
+        <translation>Aby vyhovovala osobním zvyklostem, umožňuje funkce %1 ruční nastavení jasu. Zapamatuje si vaši poslední úpravu a podle ní přizpůsobí křivku automatického jasu.</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>Parametr</translation>
+    </message>
+    <message>
+        <source>Brightness + Color Temperature</source>
+        <translation>Jas + teplota barev</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Jas</translation>
+    </message>
+    <message>
+        <source>Light Meter</source>
+        <translation>Měřič světla</translation>
+    </message>
+</context>
+<context>
+    <name>LuABSettingWidget</name>
+    <message>
+        <source>A.B. Gen2</source>
+        <translation>A.B. Gen2</translation>
+    </message>
+    <message>
+        <source>Light Meter</source>
+        <translation>Měřič světla</translation>
+    </message>
+</context>
+<context>
+    <name>SensitivitySlider</name>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>Citlivost senzoru</translation>
+    </message>
+</context>
+<context>
+    <name>BackLightStateChoice</name>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Auto Dimming</source>
+        <translation>Automatické stmívání</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Zapnuto</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Vypnuto</translation>
+    </message>
+</context>
+<context>
+    <name>BackLightControls</name>
+    <message>
+        <source>Brightness</source>
+        <translation>Jas</translation>
+    </message>
+    <message>
+        <source>Color Temperature</source>
+        <translation>Teplota barev</translation>
+    </message>
+    <message>
+        <source>Light Mode</source>
+        <translation>Režim světla</translation>
+    </message>
+</context>
+<context>
+    <name>LuBackLightWidget</name>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Auto Dimming automatically adjusts BackGlow's brightness based on ambient light detection, safeguarding your eyes in low-light environments. Auto Dimming can only be used when A.B. Gen2 is enabled.</source>
+        <translation>Automatické stmívání upravuje jas BackGlow podle okolního světla a v šeru tak chrání oči. Lze je použít, jen když je zapnuto A.B. Gen2.</translation>
+    </message>
+    <message>
+        <source>Bundling of Color Mode</source>
+        <translation>Svázání s barevným režimem</translation>
+    </message>
+    <message>
+        <source>The system will automatically switch to the bundled BackGlow settings when you change the color mode.</source>
+        <translation>Při změně barevného režimu se samo přepne na nastavení BackGlow, které k němu patří.</translation>
+    </message>
+    <message>
+        <source>Non-stop Mode</source>
+        <translation>Nepřetržitý režim</translation>
+    </message>
+    <message>
+        <source>To activate BackGlow while the monitor is in sleep mode, you can enable the non-stop mode.</source>
+        <translation>Má-li BackGlow svítit i v režimu spánku monitoru, zapněte nepřetržitý režim.</translation>
+    </message>
+</context>
+<context>
+    <name>EcoPrivacyTexts</name>
+    <message>
+        <source>5 sec.</source>
+        <translation>5 s</translation>
+    </message>
+    <message>
+        <source>10 sec.</source>
+        <translation>10 s</translation>
+    </message>
+    <message>
+        <source>20 sec.</source>
+        <translation>20 s</translation>
+    </message>
+    <message>
+        <source>30 sec.</source>
+        <translation>30 s</translation>
+    </message>
+    <message>
+        <source>60 sec.</source>
+        <translation>60 s</translation>
+    </message>
+    <message>
+        <source>5 min.</source>
+        <translation>5 min</translation>
+    </message>
+    <message>
+        <source>10 min.</source>
+        <translation>10 min</translation>
+    </message>
+    <message>
+        <source>Near</source>
+        <translation>Blízko</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation>Středně</translation>
+    </message>
+    <message>
+        <source>Far</source>
+        <translation>Daleko</translation>
+    </message>
+</context>
+<context>
+    <name>LuEcoPrivacyWidget</name>
+    <message>
+        <source>EcoPrivacy</source>
+        <translation>EcoPrivacy</translation>
+    </message>
+    <message>
+        <source>Dim your monitor after a period of inactivity.</source>
+        <translation>Ztlumit monitor po době nečinnosti.</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Režim</translation>
+    </message>
+    <message>
+        <source>Display + BackGlow</source>
+        <translation>Obraz + BackGlow</translation>
+    </message>
+    <message>
+        <source>Display</source>
+        <translation>Obraz</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>Citlivost senzoru</translation>
+    </message>
+    <message>
+        <source>EcoPrivacy helps protect your screen privacy and dims your monitor after inactivity through your built-in monitor sensor.</source>
+        <translation>EcoPrivacy chrání soukromí na obrazovce a při nečinnosti ztlumí monitor pomocí vestavěného senzoru.</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupABPlusAction</name>
+    <message>
+        <source>Visual Optimizer</source>
+        <translation>Visual Optimizer</translation>
+    </message>
+    <message>
+        <source>A.B.+ Gen2</source>
+        <translation>A.B.+ Gen2</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>Citlivost senzoru</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupABAction</name>
+    <message>
+        <source>A.B. Gen2</source>
+        <translation>A.B. Gen2</translation>
+    </message>
+    <message>
+        <source>Light Meter</source>
+        <translation>Měřič světla</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Zapnuto</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Vypnuto</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>Citlivost senzoru</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupBackLightAction</name>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Jas</translation>
+    </message>
+    <message>
+        <source>Color Temperature</source>
+        <translation>Teplota barev</translation>
+    </message>
+    <message>
+        <source>Light Mode</source>
+        <translation>Režim světla</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupEcoPrivacyAction</name>
+    <message>
+        <source>EcoPrivacy</source>
+        <translation>EcoPrivacy</translation>
+    </message>
+    <message>
+        <source>Dim your monitor after %1</source>
+        <translation>Ztlumit monitor po %1</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>Citlivost senzoru</translation>
+    </message>
+</context>
 </TS>

@@ -856,4 +856,264 @@
         <translation>Rötlich</translation>
     </message>
 </context>
+<context>
+    <name>LuABPlusWidget</name>
+    <message>
+        <source>Visual Optimizer</source>
+        <translation>Visual Optimizer</translation>
+    </message>
+    <message>
+        <source>A.B.+ Gen2</source>
+        <translation>A.B.+ Gen2</translation>
+    </message>
+    <message>
+        <source>About %1</source>
+        <translation>Über %1</translation>
+    </message>
+    <message>
+        <source>To meet individual preferences, %1 allows manual control of screen brightness. It learns and records your last adjustment, applying it to optimize its automatic brightness adjustment curve to better match your preferences.</source>
+        <translation>%1 lässt die Helligkeit auch von Hand einstellen. Ihre letzte Einstellung wird gelernt und gespeichert und passt die automatische Helligkeitskurve besser an Ihre Vorlieben an.</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>Parameter</translation>
+    </message>
+    <message>
+        <source>Brightness + Color Temperature</source>
+        <translation>Helligkeit + Farbtemperatur</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Helligkeit</translation>
+    </message>
+    <message>
+        <source>Light Meter</source>
+        <translation>Lichtmesser</translation>
+    </message>
+</context>
+<context>
+    <name>LuABSettingWidget</name>
+    <message>
+        <source>A.B. Gen2</source>
+        <translation>A.B. Gen2</translation>
+    </message>
+    <message>
+        <source>Light Meter</source>
+        <translation>Lichtmesser</translation>
+    </message>
+</context>
+<context>
+    <name>SensitivitySlider</name>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>Sensorempfindlichkeit</translation>
+    </message>
+</context>
+<context>
+    <name>BackLightStateChoice</name>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Auto Dimming</source>
+        <translation>Automatisch dimmen</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+</context>
+<context>
+    <name>BackLightControls</name>
+    <message>
+        <source>Brightness</source>
+        <translation>Helligkeit</translation>
+    </message>
+    <message>
+        <source>Color Temperature</source>
+        <translation>Farbtemperatur</translation>
+    </message>
+    <message>
+        <source>Light Mode</source>
+        <translation>Lichtmodus</translation>
+    </message>
+</context>
+<context>
+    <name>LuBackLightWidget</name>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Auto Dimming automatically adjusts BackGlow's brightness based on ambient light detection, safeguarding your eyes in low-light environments. Auto Dimming can only be used when A.B. Gen2 is enabled.</source>
+        <translation>Automatisch dimmen passt die Helligkeit von BackGlow an das Umgebungslicht an und schont die Augen bei wenig Licht. Es ist nur verfügbar, wenn A.B. Gen2 eingeschaltet ist.</translation>
+    </message>
+    <message>
+        <source>Bundling of Color Mode</source>
+        <translation>Bindung an den Farbmodus</translation>
+    </message>
+    <message>
+        <source>The system will automatically switch to the bundled BackGlow settings when you change the color mode.</source>
+        <translation>Beim Wechsel des Farbmodus werden die zugehörigen BackGlow-Einstellungen übernommen.</translation>
+    </message>
+    <message>
+        <source>Non-stop Mode</source>
+        <translation>Dauerbetrieb</translation>
+    </message>
+    <message>
+        <source>To activate BackGlow while the monitor is in sleep mode, you can enable the non-stop mode.</source>
+        <translation>Soll BackGlow auch im Ruhezustand des Monitors leuchten, schalten Sie den Dauerbetrieb ein.</translation>
+    </message>
+</context>
+<context>
+    <name>EcoPrivacyTexts</name>
+    <message>
+        <source>5 sec.</source>
+        <translation>5 Sek.</translation>
+    </message>
+    <message>
+        <source>10 sec.</source>
+        <translation>10 Sek.</translation>
+    </message>
+    <message>
+        <source>20 sec.</source>
+        <translation>20 Sek.</translation>
+    </message>
+    <message>
+        <source>30 sec.</source>
+        <translation>30 Sek.</translation>
+    </message>
+    <message>
+        <source>60 sec.</source>
+        <translation>60 Sek.</translation>
+    </message>
+    <message>
+        <source>5 min.</source>
+        <translation>5 Min.</translation>
+    </message>
+    <message>
+        <source>10 min.</source>
+        <translation>10 Min.</translation>
+    </message>
+    <message>
+        <source>Near</source>
+        <translation>Nah</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation>Mittel</translation>
+    </message>
+    <message>
+        <source>Far</source>
+        <translation>Fern</translation>
+    </message>
+</context>
+<context>
+    <name>LuEcoPrivacyWidget</name>
+    <message>
+        <source>EcoPrivacy</source>
+        <translation>EcoPrivacy</translation>
+    </message>
+    <message>
+        <source>Dim your monitor after a period of inactivity.</source>
+        <translation>Monitor bei Inaktivität abdunkeln.</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Modus</translation>
+    </message>
+    <message>
+        <source>Display + BackGlow</source>
+        <translation>Bildschirm + BackGlow</translation>
+    </message>
+    <message>
+        <source>Display</source>
+        <translation>Bildschirm</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>Sensorempfindlichkeit</translation>
+    </message>
+    <message>
+        <source>EcoPrivacy helps protect your screen privacy and dims your monitor after inactivity through your built-in monitor sensor.</source>
+        <translation>EcoPrivacy schützt Ihre Privatsphäre am Bildschirm und dunkelt den Monitor bei Abwesenheit über den eingebauten Sensor ab.</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupABPlusAction</name>
+    <message>
+        <source>Visual Optimizer</source>
+        <translation>Visual Optimizer</translation>
+    </message>
+    <message>
+        <source>A.B.+ Gen2</source>
+        <translation>A.B.+ Gen2</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>Sensorempfindlichkeit</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupABAction</name>
+    <message>
+        <source>A.B. Gen2</source>
+        <translation>A.B. Gen2</translation>
+    </message>
+    <message>
+        <source>Light Meter</source>
+        <translation>Lichtmesser</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>Sensorempfindlichkeit</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupBackLightAction</name>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Helligkeit</translation>
+    </message>
+    <message>
+        <source>Color Temperature</source>
+        <translation>Farbtemperatur</translation>
+    </message>
+    <message>
+        <source>Light Mode</source>
+        <translation>Lichtmodus</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupEcoPrivacyAction</name>
+    <message>
+        <source>EcoPrivacy</source>
+        <translation>EcoPrivacy</translation>
+    </message>
+    <message>
+        <source>Dim your monitor after %1</source>
+        <translation>Monitor nach %1 abdunkeln</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>Sensorempfindlichkeit</translation>
+    </message>
+</context>
 </TS>

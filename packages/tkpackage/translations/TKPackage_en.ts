@@ -856,4 +856,264 @@
         <translation>Reddish</translation>
     </message>
 </context>
+<context>
+    <name>LuABPlusWidget</name>
+    <message>
+        <source>Visual Optimizer</source>
+        <translation>Visual Optimizer</translation>
+    </message>
+    <message>
+        <source>A.B.+ Gen2</source>
+        <translation>A.B.+ Gen2</translation>
+    </message>
+    <message>
+        <source>About %1</source>
+        <translation>About %1</translation>
+    </message>
+    <message>
+        <source>To meet individual preferences, %1 allows manual control of screen brightness. It learns and records your last adjustment, applying it to optimize its automatic brightness adjustment curve to better match your preferences.</source>
+        <translation>To meet individual preferences, %1 allows manual control of screen brightness. It learns and records your last adjustment, applying it to optimize its automatic brightness adjustment curve to better match your preferences.</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>Parameter</translation>
+    </message>
+    <message>
+        <source>Brightness + Color Temperature</source>
+        <translation>Brightness + Color Temperature</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Brightness</translation>
+    </message>
+    <message>
+        <source>Light Meter</source>
+        <translation>Light Meter</translation>
+    </message>
+</context>
+<context>
+    <name>LuABSettingWidget</name>
+    <message>
+        <source>A.B. Gen2</source>
+        <translation>A.B. Gen2</translation>
+    </message>
+    <message>
+        <source>Light Meter</source>
+        <translation>Light Meter</translation>
+    </message>
+</context>
+<context>
+    <name>SensitivitySlider</name>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>Sensor Sensitivity</translation>
+    </message>
+</context>
+<context>
+    <name>BackLightStateChoice</name>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Auto Dimming</source>
+        <translation>Auto Dimming</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>On</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Off</translation>
+    </message>
+</context>
+<context>
+    <name>BackLightControls</name>
+    <message>
+        <source>Brightness</source>
+        <translation>Brightness</translation>
+    </message>
+    <message>
+        <source>Color Temperature</source>
+        <translation>Color Temperature</translation>
+    </message>
+    <message>
+        <source>Light Mode</source>
+        <translation>Light Mode</translation>
+    </message>
+</context>
+<context>
+    <name>LuBackLightWidget</name>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Auto Dimming automatically adjusts BackGlow's brightness based on ambient light detection, safeguarding your eyes in low-light environments. Auto Dimming can only be used when A.B. Gen2 is enabled.</source>
+        <translation>Auto Dimming automatically adjusts BackGlow's brightness based on ambient light detection, safeguarding your eyes in low-light environments. Auto Dimming can only be used when A.B. Gen2 is enabled.</translation>
+    </message>
+    <message>
+        <source>Bundling of Color Mode</source>
+        <translation>Bundling of Color Mode</translation>
+    </message>
+    <message>
+        <source>The system will automatically switch to the bundled BackGlow settings when you change the color mode.</source>
+        <translation>The system will automatically switch to the bundled BackGlow settings when you change the color mode.</translation>
+    </message>
+    <message>
+        <source>Non-stop Mode</source>
+        <translation>Non-stop Mode</translation>
+    </message>
+    <message>
+        <source>To activate BackGlow while the monitor is in sleep mode, you can enable the non-stop mode.</source>
+        <translation>To activate BackGlow while the monitor is in sleep mode, you can enable the non-stop mode.</translation>
+    </message>
+</context>
+<context>
+    <name>EcoPrivacyTexts</name>
+    <message>
+        <source>5 sec.</source>
+        <translation>5 sec.</translation>
+    </message>
+    <message>
+        <source>10 sec.</source>
+        <translation>10 sec.</translation>
+    </message>
+    <message>
+        <source>20 sec.</source>
+        <translation>20 sec.</translation>
+    </message>
+    <message>
+        <source>30 sec.</source>
+        <translation>30 sec.</translation>
+    </message>
+    <message>
+        <source>60 sec.</source>
+        <translation>60 sec.</translation>
+    </message>
+    <message>
+        <source>5 min.</source>
+        <translation>5 min.</translation>
+    </message>
+    <message>
+        <source>10 min.</source>
+        <translation>10 min.</translation>
+    </message>
+    <message>
+        <source>Near</source>
+        <translation>Near</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation>Middle</translation>
+    </message>
+    <message>
+        <source>Far</source>
+        <translation>Far</translation>
+    </message>
+</context>
+<context>
+    <name>LuEcoPrivacyWidget</name>
+    <message>
+        <source>EcoPrivacy</source>
+        <translation>EcoPrivacy</translation>
+    </message>
+    <message>
+        <source>Dim your monitor after a period of inactivity.</source>
+        <translation>Dim your monitor after a period of inactivity.</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Mode</translation>
+    </message>
+    <message>
+        <source>Display + BackGlow</source>
+        <translation>Display + BackGlow</translation>
+    </message>
+    <message>
+        <source>Display</source>
+        <translation>Display</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>Sensor Sensitivity</translation>
+    </message>
+    <message>
+        <source>EcoPrivacy helps protect your screen privacy and dims your monitor after inactivity through your built-in monitor sensor.</source>
+        <translation>EcoPrivacy helps protect your screen privacy and dims your monitor after inactivity through your built-in monitor sensor.</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupABPlusAction</name>
+    <message>
+        <source>Visual Optimizer</source>
+        <translation>Visual Optimizer</translation>
+    </message>
+    <message>
+        <source>A.B.+ Gen2</source>
+        <translation>A.B.+ Gen2</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>Sensor Sensitivity</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupABAction</name>
+    <message>
+        <source>A.B. Gen2</source>
+        <translation>A.B. Gen2</translation>
+    </message>
+    <message>
+        <source>Light Meter</source>
+        <translation>Light Meter</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>On</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Off</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>Sensor Sensitivity</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupBackLightAction</name>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Brightness</translation>
+    </message>
+    <message>
+        <source>Color Temperature</source>
+        <translation>Color Temperature</translation>
+    </message>
+    <message>
+        <source>Light Mode</source>
+        <translation>Light Mode</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupEcoPrivacyAction</name>
+    <message>
+        <source>EcoPrivacy</source>
+        <translation>EcoPrivacy</translation>
+    </message>
+    <message>
+        <source>Dim your monitor after %1</source>
+        <translation>Dim your monitor after %1</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>Sensor Sensitivity</translation>
+    </message>
+</context>
 </TS>

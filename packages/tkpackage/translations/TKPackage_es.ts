@@ -856,4 +856,264 @@
         <translation>Rojizo</translation>
     </message>
 </context>
+<context>
+    <name>LuABPlusWidget</name>
+    <message>
+        <source>Visual Optimizer</source>
+        <translation>Visual Optimizer</translation>
+    </message>
+    <message>
+        <source>A.B.+ Gen2</source>
+        <translation>A.B.+ Gen2</translation>
+    </message>
+    <message>
+        <source>About %1</source>
+        <translation>Acerca de %1</translation>
+    </message>
+    <message>
+        <source>To meet individual preferences, %1 allows manual control of screen brightness. It learns and records your last adjustment, applying it to optimize its automatic brightness adjustment curve to better match your preferences.</source>
+        <translation>%1 permite ajustar el brillo a mano según sus preferencias. Aprende y guarda su último ajuste y lo aplica para adaptar mejor la curva de brillo automático.</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>Parámetro</translation>
+    </message>
+    <message>
+        <source>Brightness + Color Temperature</source>
+        <translation>Brillo + temperatura de color</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Brillo</translation>
+    </message>
+    <message>
+        <source>Light Meter</source>
+        <translation>Medidor de luz</translation>
+    </message>
+</context>
+<context>
+    <name>LuABSettingWidget</name>
+    <message>
+        <source>A.B. Gen2</source>
+        <translation>A.B. Gen2</translation>
+    </message>
+    <message>
+        <source>Light Meter</source>
+        <translation>Medidor de luz</translation>
+    </message>
+</context>
+<context>
+    <name>SensitivitySlider</name>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>Sensibilidad del sensor</translation>
+    </message>
+</context>
+<context>
+    <name>BackLightStateChoice</name>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Auto Dimming</source>
+        <translation>Atenuación automática</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Activado</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Desactivado</translation>
+    </message>
+</context>
+<context>
+    <name>BackLightControls</name>
+    <message>
+        <source>Brightness</source>
+        <translation>Brillo</translation>
+    </message>
+    <message>
+        <source>Color Temperature</source>
+        <translation>Temperatura de color</translation>
+    </message>
+    <message>
+        <source>Light Mode</source>
+        <translation>Modo de luz</translation>
+    </message>
+</context>
+<context>
+    <name>LuBackLightWidget</name>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Auto Dimming automatically adjusts BackGlow's brightness based on ambient light detection, safeguarding your eyes in low-light environments. Auto Dimming can only be used when A.B. Gen2 is enabled.</source>
+        <translation>La atenuación automática ajusta el brillo de BackGlow a la luz ambiental y protege la vista con poca luz. Solo puede usarse si A.B. Gen2 está activado.</translation>
+    </message>
+    <message>
+        <source>Bundling of Color Mode</source>
+        <translation>Vinculación al modo de color</translation>
+    </message>
+    <message>
+        <source>The system will automatically switch to the bundled BackGlow settings when you change the color mode.</source>
+        <translation>Al cambiar el modo de color se aplican los ajustes de BackGlow vinculados a él.</translation>
+    </message>
+    <message>
+        <source>Non-stop Mode</source>
+        <translation>Modo continuo</translation>
+    </message>
+    <message>
+        <source>To activate BackGlow while the monitor is in sleep mode, you can enable the non-stop mode.</source>
+        <translation>Para que BackGlow funcione con el monitor en reposo, active el modo continuo.</translation>
+    </message>
+</context>
+<context>
+    <name>EcoPrivacyTexts</name>
+    <message>
+        <source>5 sec.</source>
+        <translation>5 s</translation>
+    </message>
+    <message>
+        <source>10 sec.</source>
+        <translation>10 s</translation>
+    </message>
+    <message>
+        <source>20 sec.</source>
+        <translation>20 s</translation>
+    </message>
+    <message>
+        <source>30 sec.</source>
+        <translation>30 s</translation>
+    </message>
+    <message>
+        <source>60 sec.</source>
+        <translation>60 s</translation>
+    </message>
+    <message>
+        <source>5 min.</source>
+        <translation>5 min</translation>
+    </message>
+    <message>
+        <source>10 min.</source>
+        <translation>10 min</translation>
+    </message>
+    <message>
+        <source>Near</source>
+        <translation>Cerca</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation>Media</translation>
+    </message>
+    <message>
+        <source>Far</source>
+        <translation>Lejos</translation>
+    </message>
+</context>
+<context>
+    <name>LuEcoPrivacyWidget</name>
+    <message>
+        <source>EcoPrivacy</source>
+        <translation>EcoPrivacy</translation>
+    </message>
+    <message>
+        <source>Dim your monitor after a period of inactivity.</source>
+        <translation>Atenuar el monitor tras un tiempo de inactividad.</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Modo</translation>
+    </message>
+    <message>
+        <source>Display + BackGlow</source>
+        <translation>Pantalla + BackGlow</translation>
+    </message>
+    <message>
+        <source>Display</source>
+        <translation>Pantalla</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>Sensibilidad del sensor</translation>
+    </message>
+    <message>
+        <source>EcoPrivacy helps protect your screen privacy and dims your monitor after inactivity through your built-in monitor sensor.</source>
+        <translation>EcoPrivacy protege la privacidad de la pantalla y atenúa el monitor en su ausencia mediante el sensor integrado.</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupABPlusAction</name>
+    <message>
+        <source>Visual Optimizer</source>
+        <translation>Visual Optimizer</translation>
+    </message>
+    <message>
+        <source>A.B.+ Gen2</source>
+        <translation>A.B.+ Gen2</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>Sensibilidad del sensor</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupABAction</name>
+    <message>
+        <source>A.B. Gen2</source>
+        <translation>A.B. Gen2</translation>
+    </message>
+    <message>
+        <source>Light Meter</source>
+        <translation>Medidor de luz</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Activado</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Desactivado</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>Sensibilidad del sensor</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupBackLightAction</name>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Brillo</translation>
+    </message>
+    <message>
+        <source>Color Temperature</source>
+        <translation>Temperatura de color</translation>
+    </message>
+    <message>
+        <source>Light Mode</source>
+        <translation>Modo de luz</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupEcoPrivacyAction</name>
+    <message>
+        <source>EcoPrivacy</source>
+        <translation>EcoPrivacy</translation>
+    </message>
+    <message>
+        <source>Dim your monitor after %1</source>
+        <translation>Atenuar el monitor tras %1</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>Sensibilidad del sensor</translation>
+    </message>
+</context>
 </TS>

@@ -856,4 +856,264 @@
         <translation>Rougeâtre</translation>
     </message>
 </context>
+<context>
+    <name>LuABPlusWidget</name>
+    <message>
+        <source>Visual Optimizer</source>
+        <translation>Visual Optimizer</translation>
+    </message>
+    <message>
+        <source>A.B.+ Gen2</source>
+        <translation>A.B.+ Gen2</translation>
+    </message>
+    <message>
+        <source>About %1</source>
+        <translation>À propos de %1</translation>
+    </message>
+    <message>
+        <source>To meet individual preferences, %1 allows manual control of screen brightness. It learns and records your last adjustment, applying it to optimize its automatic brightness adjustment curve to better match your preferences.</source>
+        <translation>%1 permet de régler la luminosité à la main selon vos préférences. Votre dernier réglage est mémorisé et sert à mieux adapter la courbe de luminosité automatique.</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>Paramètre</translation>
+    </message>
+    <message>
+        <source>Brightness + Color Temperature</source>
+        <translation>Luminosité + température de couleur</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Luminosité</translation>
+    </message>
+    <message>
+        <source>Light Meter</source>
+        <translation>Indicateur de lumière</translation>
+    </message>
+</context>
+<context>
+    <name>LuABSettingWidget</name>
+    <message>
+        <source>A.B. Gen2</source>
+        <translation>A.B. Gen2</translation>
+    </message>
+    <message>
+        <source>Light Meter</source>
+        <translation>Indicateur de lumière</translation>
+    </message>
+</context>
+<context>
+    <name>SensitivitySlider</name>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>Sensibilité du capteur</translation>
+    </message>
+</context>
+<context>
+    <name>BackLightStateChoice</name>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Auto Dimming</source>
+        <translation>Gradation automatique</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Activé</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Désactivé</translation>
+    </message>
+</context>
+<context>
+    <name>BackLightControls</name>
+    <message>
+        <source>Brightness</source>
+        <translation>Luminosité</translation>
+    </message>
+    <message>
+        <source>Color Temperature</source>
+        <translation>Température de couleur</translation>
+    </message>
+    <message>
+        <source>Light Mode</source>
+        <translation>Mode d'éclairage</translation>
+    </message>
+</context>
+<context>
+    <name>LuBackLightWidget</name>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Auto Dimming automatically adjusts BackGlow's brightness based on ambient light detection, safeguarding your eyes in low-light environments. Auto Dimming can only be used when A.B. Gen2 is enabled.</source>
+        <translation>La gradation automatique adapte la luminosité de BackGlow à la lumière ambiante et protège vos yeux dans la pénombre. Elle n'est disponible que si A.B. Gen2 est activé.</translation>
+    </message>
+    <message>
+        <source>Bundling of Color Mode</source>
+        <translation>Liaison au mode de couleur</translation>
+    </message>
+    <message>
+        <source>The system will automatically switch to the bundled BackGlow settings when you change the color mode.</source>
+        <translation>Lorsque vous changez de mode de couleur, les réglages BackGlow associés sont appliqués.</translation>
+    </message>
+    <message>
+        <source>Non-stop Mode</source>
+        <translation>Mode continu</translation>
+    </message>
+    <message>
+        <source>To activate BackGlow while the monitor is in sleep mode, you can enable the non-stop mode.</source>
+        <translation>Pour que BackGlow reste allumé quand le moniteur est en veille, activez le mode continu.</translation>
+    </message>
+</context>
+<context>
+    <name>EcoPrivacyTexts</name>
+    <message>
+        <source>5 sec.</source>
+        <translation>5 s</translation>
+    </message>
+    <message>
+        <source>10 sec.</source>
+        <translation>10 s</translation>
+    </message>
+    <message>
+        <source>20 sec.</source>
+        <translation>20 s</translation>
+    </message>
+    <message>
+        <source>30 sec.</source>
+        <translation>30 s</translation>
+    </message>
+    <message>
+        <source>60 sec.</source>
+        <translation>60 s</translation>
+    </message>
+    <message>
+        <source>5 min.</source>
+        <translation>5 min</translation>
+    </message>
+    <message>
+        <source>10 min.</source>
+        <translation>10 min</translation>
+    </message>
+    <message>
+        <source>Near</source>
+        <translation>Proche</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation>Moyen</translation>
+    </message>
+    <message>
+        <source>Far</source>
+        <translation>Loin</translation>
+    </message>
+</context>
+<context>
+    <name>LuEcoPrivacyWidget</name>
+    <message>
+        <source>EcoPrivacy</source>
+        <translation>EcoPrivacy</translation>
+    </message>
+    <message>
+        <source>Dim your monitor after a period of inactivity.</source>
+        <translation>Assombrir le moniteur après une période d'inactivité.</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Mode</translation>
+    </message>
+    <message>
+        <source>Display + BackGlow</source>
+        <translation>Écran + BackGlow</translation>
+    </message>
+    <message>
+        <source>Display</source>
+        <translation>Écran</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>Sensibilité du capteur</translation>
+    </message>
+    <message>
+        <source>EcoPrivacy helps protect your screen privacy and dims your monitor after inactivity through your built-in monitor sensor.</source>
+        <translation>EcoPrivacy protège la confidentialité de l'écran et assombrit le moniteur en votre absence grâce au capteur intégré.</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupABPlusAction</name>
+    <message>
+        <source>Visual Optimizer</source>
+        <translation>Visual Optimizer</translation>
+    </message>
+    <message>
+        <source>A.B.+ Gen2</source>
+        <translation>A.B.+ Gen2</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>Sensibilité du capteur</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupABAction</name>
+    <message>
+        <source>A.B. Gen2</source>
+        <translation>A.B. Gen2</translation>
+    </message>
+    <message>
+        <source>Light Meter</source>
+        <translation>Indicateur de lumière</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Activé</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Désactivé</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>Sensibilité du capteur</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupBackLightAction</name>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Luminosité</translation>
+    </message>
+    <message>
+        <source>Color Temperature</source>
+        <translation>Température de couleur</translation>
+    </message>
+    <message>
+        <source>Light Mode</source>
+        <translation>Mode d'éclairage</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupEcoPrivacyAction</name>
+    <message>
+        <source>EcoPrivacy</source>
+        <translation>EcoPrivacy</translation>
+    </message>
+    <message>
+        <source>Dim your monitor after %1</source>
+        <translation>Assombrir le moniteur après %1</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>Sensibilité du capteur</translation>
+    </message>
+</context>
 </TS>

@@ -856,4 +856,264 @@
         <translation>Crvenkasto</translation>
     </message>
 </context>
+<context>
+    <name>LuABPlusWidget</name>
+    <message>
+        <source>Visual Optimizer</source>
+        <translation>Visual Optimizer</translation>
+    </message>
+    <message>
+        <source>A.B.+ Gen2</source>
+        <translation>A.B.+ Gen2</translation>
+    </message>
+    <message>
+        <source>About %1</source>
+        <translation>O funkciji %1</translation>
+    </message>
+    <message>
+        <source>To meet individual preferences, %1 allows manual control of screen brightness. It learns and records your last adjustment, applying it to optimize its automatic brightness adjustment curve to better match your preferences.</source>
+        <translation>%1 dopušta ručno podešavanje svjetline prema vašim željama. Pamti vašu zadnju prilagodbu i njome bolje usklađuje krivulju automatske svjetline.</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>Parametar</translation>
+    </message>
+    <message>
+        <source>Brightness + Color Temperature</source>
+        <translation>Svjetlina + temperatura boje</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Svjetlina</translation>
+    </message>
+    <message>
+        <source>Light Meter</source>
+        <translation>Mjerač svjetla</translation>
+    </message>
+</context>
+<context>
+    <name>LuABSettingWidget</name>
+    <message>
+        <source>A.B. Gen2</source>
+        <translation>A.B. Gen2</translation>
+    </message>
+    <message>
+        <source>Light Meter</source>
+        <translation>Mjerač svjetla</translation>
+    </message>
+</context>
+<context>
+    <name>SensitivitySlider</name>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>Osjetljivost senzora</translation>
+    </message>
+</context>
+<context>
+    <name>BackLightStateChoice</name>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Auto Dimming</source>
+        <translation>Automatsko prigušivanje</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Uključeno</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Isključeno</translation>
+    </message>
+</context>
+<context>
+    <name>BackLightControls</name>
+    <message>
+        <source>Brightness</source>
+        <translation>Svjetlina</translation>
+    </message>
+    <message>
+        <source>Color Temperature</source>
+        <translation>Temperatura boje</translation>
+    </message>
+    <message>
+        <source>Light Mode</source>
+        <translation>Način svjetla</translation>
+    </message>
+</context>
+<context>
+    <name>LuBackLightWidget</name>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Auto Dimming automatically adjusts BackGlow's brightness based on ambient light detection, safeguarding your eyes in low-light environments. Auto Dimming can only be used when A.B. Gen2 is enabled.</source>
+        <translation>Automatsko prigušivanje prilagođava svjetlinu BackGlowa svjetlu u prostoriji i čuva oči u polumraku. Može se koristiti samo kad je uključen A.B. Gen2.</translation>
+    </message>
+    <message>
+        <source>Bundling of Color Mode</source>
+        <translation>Vezanje uz način boja</translation>
+    </message>
+    <message>
+        <source>The system will automatically switch to the bundled BackGlow settings when you change the color mode.</source>
+        <translation>Pri promjeni načina boja primjenjuju se postavke BackGlowa koje mu pripadaju.</translation>
+    </message>
+    <message>
+        <source>Non-stop Mode</source>
+        <translation>Neprekidni način</translation>
+    </message>
+    <message>
+        <source>To activate BackGlow while the monitor is in sleep mode, you can enable the non-stop mode.</source>
+        <translation>Da bi BackGlow svijetlio i dok monitor spava, uključite neprekidni način.</translation>
+    </message>
+</context>
+<context>
+    <name>EcoPrivacyTexts</name>
+    <message>
+        <source>5 sec.</source>
+        <translation>5 s</translation>
+    </message>
+    <message>
+        <source>10 sec.</source>
+        <translation>10 s</translation>
+    </message>
+    <message>
+        <source>20 sec.</source>
+        <translation>20 s</translation>
+    </message>
+    <message>
+        <source>30 sec.</source>
+        <translation>30 s</translation>
+    </message>
+    <message>
+        <source>60 sec.</source>
+        <translation>60 s</translation>
+    </message>
+    <message>
+        <source>5 min.</source>
+        <translation>5 min</translation>
+    </message>
+    <message>
+        <source>10 min.</source>
+        <translation>10 min</translation>
+    </message>
+    <message>
+        <source>Near</source>
+        <translation>Blizu</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation>Srednje</translation>
+    </message>
+    <message>
+        <source>Far</source>
+        <translation>Daleko</translation>
+    </message>
+</context>
+<context>
+    <name>LuEcoPrivacyWidget</name>
+    <message>
+        <source>EcoPrivacy</source>
+        <translation>EcoPrivacy</translation>
+    </message>
+    <message>
+        <source>Dim your monitor after a period of inactivity.</source>
+        <translation>Priguši monitor nakon neaktivnosti.</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Način</translation>
+    </message>
+    <message>
+        <source>Display + BackGlow</source>
+        <translation>Zaslon + BackGlow</translation>
+    </message>
+    <message>
+        <source>Display</source>
+        <translation>Zaslon</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>Osjetljivost senzora</translation>
+    </message>
+    <message>
+        <source>EcoPrivacy helps protect your screen privacy and dims your monitor after inactivity through your built-in monitor sensor.</source>
+        <translation>EcoPrivacy štiti privatnost zaslona i ugrađenim senzorom prigušuje monitor pri neaktivnosti.</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupABPlusAction</name>
+    <message>
+        <source>Visual Optimizer</source>
+        <translation>Visual Optimizer</translation>
+    </message>
+    <message>
+        <source>A.B.+ Gen2</source>
+        <translation>A.B.+ Gen2</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>Osjetljivost senzora</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupABAction</name>
+    <message>
+        <source>A.B. Gen2</source>
+        <translation>A.B. Gen2</translation>
+    </message>
+    <message>
+        <source>Light Meter</source>
+        <translation>Mjerač svjetla</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Uključeno</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Isključeno</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>Osjetljivost senzora</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupBackLightAction</name>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Svjetlina</translation>
+    </message>
+    <message>
+        <source>Color Temperature</source>
+        <translation>Temperatura boje</translation>
+    </message>
+    <message>
+        <source>Light Mode</source>
+        <translation>Način svjetla</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupEcoPrivacyAction</name>
+    <message>
+        <source>EcoPrivacy</source>
+        <translation>EcoPrivacy</translation>
+    </message>
+    <message>
+        <source>Dim your monitor after %1</source>
+        <translation>Priguši monitor nakon %1</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>Osjetljivost senzora</translation>
+    </message>
+</context>
 </TS>

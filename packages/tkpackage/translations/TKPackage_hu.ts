@@ -856,4 +856,264 @@
         <translation>Vöröses</translation>
     </message>
 </context>
+<context>
+    <name>LuABPlusWidget</name>
+    <message>
+        <source>Visual Optimizer</source>
+        <translation>Visual Optimizer</translation>
+    </message>
+    <message>
+        <source>A.B.+ Gen2</source>
+        <translation>A.B.+ Gen2</translation>
+    </message>
+    <message>
+        <source>About %1</source>
+        <translation>A(z) %1 névjegye</translation>
+    </message>
+    <message>
+        <source>To meet individual preferences, %1 allows manual control of screen brightness. It learns and records your last adjustment, applying it to optimize its automatic brightness adjustment curve to better match your preferences.</source>
+        <translation>Az egyéni igényekhez a(z) %1 kézi fényerő-beállítást is enged. Megtanulja és tárolja az utolsó beállítást, és ehhez igazítja az automatikus fényerő görbéjét.</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>Paraméter</translation>
+    </message>
+    <message>
+        <source>Brightness + Color Temperature</source>
+        <translation>Fényerő + színhőmérséklet</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Fényerő</translation>
+    </message>
+    <message>
+        <source>Light Meter</source>
+        <translation>Fénymérő</translation>
+    </message>
+</context>
+<context>
+    <name>LuABSettingWidget</name>
+    <message>
+        <source>A.B. Gen2</source>
+        <translation>A.B. Gen2</translation>
+    </message>
+    <message>
+        <source>Light Meter</source>
+        <translation>Fénymérő</translation>
+    </message>
+</context>
+<context>
+    <name>SensitivitySlider</name>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>Érzékelő érzékenysége</translation>
+    </message>
+</context>
+<context>
+    <name>BackLightStateChoice</name>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Auto Dimming</source>
+        <translation>Automatikus fényerő</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Be</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Ki</translation>
+    </message>
+</context>
+<context>
+    <name>BackLightControls</name>
+    <message>
+        <source>Brightness</source>
+        <translation>Fényerő</translation>
+    </message>
+    <message>
+        <source>Color Temperature</source>
+        <translation>Színhőmérséklet</translation>
+    </message>
+    <message>
+        <source>Light Mode</source>
+        <translation>Fénymód</translation>
+    </message>
+</context>
+<context>
+    <name>LuBackLightWidget</name>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Auto Dimming automatically adjusts BackGlow's brightness based on ambient light detection, safeguarding your eyes in low-light environments. Auto Dimming can only be used when A.B. Gen2 is enabled.</source>
+        <translation>Az automatikus fényerő a környezeti fényhez igazítja a BackGlow fényét, és gyenge fényben kíméli a szemet. Csak bekapcsolt A.B. Gen2 mellett használható.</translation>
+    </message>
+    <message>
+        <source>Bundling of Color Mode</source>
+        <translation>Színmódhoz kötés</translation>
+    </message>
+    <message>
+        <source>The system will automatically switch to the bundled BackGlow settings when you change the color mode.</source>
+        <translation>A színmód váltásakor a hozzá tartozó BackGlow-beállítások lépnek életbe.</translation>
+    </message>
+    <message>
+        <source>Non-stop Mode</source>
+        <translation>Folyamatos mód</translation>
+    </message>
+    <message>
+        <source>To activate BackGlow while the monitor is in sleep mode, you can enable the non-stop mode.</source>
+        <translation>Ha a BackGlow a monitor alvó módjában is világítson, kapcsolja be a folyamatos módot.</translation>
+    </message>
+</context>
+<context>
+    <name>EcoPrivacyTexts</name>
+    <message>
+        <source>5 sec.</source>
+        <translation>5 mp</translation>
+    </message>
+    <message>
+        <source>10 sec.</source>
+        <translation>10 mp</translation>
+    </message>
+    <message>
+        <source>20 sec.</source>
+        <translation>20 mp</translation>
+    </message>
+    <message>
+        <source>30 sec.</source>
+        <translation>30 mp</translation>
+    </message>
+    <message>
+        <source>60 sec.</source>
+        <translation>60 mp</translation>
+    </message>
+    <message>
+        <source>5 min.</source>
+        <translation>5 perc</translation>
+    </message>
+    <message>
+        <source>10 min.</source>
+        <translation>10 perc</translation>
+    </message>
+    <message>
+        <source>Near</source>
+        <translation>Közel</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation>Közepes</translation>
+    </message>
+    <message>
+        <source>Far</source>
+        <translation>Távol</translation>
+    </message>
+</context>
+<context>
+    <name>LuEcoPrivacyWidget</name>
+    <message>
+        <source>EcoPrivacy</source>
+        <translation>EcoPrivacy</translation>
+    </message>
+    <message>
+        <source>Dim your monitor after a period of inactivity.</source>
+        <translation>A monitor elsötétítése tétlenség után.</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Mód</translation>
+    </message>
+    <message>
+        <source>Display + BackGlow</source>
+        <translation>Kijelző + BackGlow</translation>
+    </message>
+    <message>
+        <source>Display</source>
+        <translation>Kijelző</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>Érzékelő érzékenysége</translation>
+    </message>
+    <message>
+        <source>EcoPrivacy helps protect your screen privacy and dims your monitor after inactivity through your built-in monitor sensor.</source>
+        <translation>Az EcoPrivacy védi a képernyő titkosságát, és tétlenségkor a beépített érzékelővel elsötétíti a monitort.</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupABPlusAction</name>
+    <message>
+        <source>Visual Optimizer</source>
+        <translation>Visual Optimizer</translation>
+    </message>
+    <message>
+        <source>A.B.+ Gen2</source>
+        <translation>A.B.+ Gen2</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>Érzékelő érzékenysége</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupABAction</name>
+    <message>
+        <source>A.B. Gen2</source>
+        <translation>A.B. Gen2</translation>
+    </message>
+    <message>
+        <source>Light Meter</source>
+        <translation>Fénymérő</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Be</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Ki</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>Érzékelő érzékenysége</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupBackLightAction</name>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Fényerő</translation>
+    </message>
+    <message>
+        <source>Color Temperature</source>
+        <translation>Színhőmérséklet</translation>
+    </message>
+    <message>
+        <source>Light Mode</source>
+        <translation>Fénymód</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupEcoPrivacyAction</name>
+    <message>
+        <source>EcoPrivacy</source>
+        <translation>EcoPrivacy</translation>
+    </message>
+    <message>
+        <source>Dim your monitor after %1</source>
+        <translation>A monitor elsötétítése: %1</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>Érzékelő érzékenysége</translation>
+    </message>
+</context>
 </TS>

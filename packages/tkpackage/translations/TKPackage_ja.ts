@@ -856,4 +856,264 @@
         <translation>赤み</translation>
     </message>
 </context>
+<context>
+    <name>LuABPlusWidget</name>
+    <message>
+        <source>Visual Optimizer</source>
+        <translation>Visual Optimizer</translation>
+    </message>
+    <message>
+        <source>A.B.+ Gen2</source>
+        <translation>A.B.+ Gen2</translation>
+    </message>
+    <message>
+        <source>About %1</source>
+        <translation>%1 について</translation>
+    </message>
+    <message>
+        <source>To meet individual preferences, %1 allows manual control of screen brightness. It learns and records your last adjustment, applying it to optimize its automatic brightness adjustment curve to better match your preferences.</source>
+        <translation>%1 では、好みに合わせて画面の明るさを手動で調整できます。最後の調整を学習して記録し、自動調整のカーブを好みに近づけます。</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>パラメーター</translation>
+    </message>
+    <message>
+        <source>Brightness + Color Temperature</source>
+        <translation>明るさ + 色温度</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>明るさ</translation>
+    </message>
+    <message>
+        <source>Light Meter</source>
+        <translation>照度メーター</translation>
+    </message>
+</context>
+<context>
+    <name>LuABSettingWidget</name>
+    <message>
+        <source>A.B. Gen2</source>
+        <translation>A.B. Gen2</translation>
+    </message>
+    <message>
+        <source>Light Meter</source>
+        <translation>照度メーター</translation>
+    </message>
+</context>
+<context>
+    <name>SensitivitySlider</name>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>センサー感度</translation>
+    </message>
+</context>
+<context>
+    <name>BackLightStateChoice</name>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Auto Dimming</source>
+        <translation>自動調光</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>オン</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>オフ</translation>
+    </message>
+</context>
+<context>
+    <name>BackLightControls</name>
+    <message>
+        <source>Brightness</source>
+        <translation>明るさ</translation>
+    </message>
+    <message>
+        <source>Color Temperature</source>
+        <translation>色温度</translation>
+    </message>
+    <message>
+        <source>Light Mode</source>
+        <translation>ライトモード</translation>
+    </message>
+</context>
+<context>
+    <name>LuBackLightWidget</name>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Auto Dimming automatically adjusts BackGlow's brightness based on ambient light detection, safeguarding your eyes in low-light environments. Auto Dimming can only be used when A.B. Gen2 is enabled.</source>
+        <translation>自動調光は周囲の明るさに応じて BackGlow の明るさを調整し、暗い場所で目をいたわります。A.B. Gen2 がオンのときだけ使えます。</translation>
+    </message>
+    <message>
+        <source>Bundling of Color Mode</source>
+        <translation>カラーモードとの連動</translation>
+    </message>
+    <message>
+        <source>The system will automatically switch to the bundled BackGlow settings when you change the color mode.</source>
+        <translation>カラーモードを変えると、そのモードの BackGlow 設定に自動で切り替わります。</translation>
+    </message>
+    <message>
+        <source>Non-stop Mode</source>
+        <translation>ノンストップモード</translation>
+    </message>
+    <message>
+        <source>To activate BackGlow while the monitor is in sleep mode, you can enable the non-stop mode.</source>
+        <translation>モニターのスリープ中も BackGlow を使うには、ノンストップモードをオンにします。</translation>
+    </message>
+</context>
+<context>
+    <name>EcoPrivacyTexts</name>
+    <message>
+        <source>5 sec.</source>
+        <translation>5秒</translation>
+    </message>
+    <message>
+        <source>10 sec.</source>
+        <translation>10秒</translation>
+    </message>
+    <message>
+        <source>20 sec.</source>
+        <translation>20秒</translation>
+    </message>
+    <message>
+        <source>30 sec.</source>
+        <translation>30秒</translation>
+    </message>
+    <message>
+        <source>60 sec.</source>
+        <translation>60秒</translation>
+    </message>
+    <message>
+        <source>5 min.</source>
+        <translation>5分</translation>
+    </message>
+    <message>
+        <source>10 min.</source>
+        <translation>10分</translation>
+    </message>
+    <message>
+        <source>Near</source>
+        <translation>近い</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation>中間</translation>
+    </message>
+    <message>
+        <source>Far</source>
+        <translation>遠い</translation>
+    </message>
+</context>
+<context>
+    <name>LuEcoPrivacyWidget</name>
+    <message>
+        <source>EcoPrivacy</source>
+        <translation>EcoPrivacy</translation>
+    </message>
+    <message>
+        <source>Dim your monitor after a period of inactivity.</source>
+        <translation>操作がないときにモニターを暗くします。</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>モード</translation>
+    </message>
+    <message>
+        <source>Display + BackGlow</source>
+        <translation>画面 + BackGlow</translation>
+    </message>
+    <message>
+        <source>Display</source>
+        <translation>画面</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>センサー感度</translation>
+    </message>
+    <message>
+        <source>EcoPrivacy helps protect your screen privacy and dims your monitor after inactivity through your built-in monitor sensor.</source>
+        <translation>EcoPrivacy は内蔵センサーで不在を検知してモニターを暗くし、画面のプライバシーを守ります。</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupABPlusAction</name>
+    <message>
+        <source>Visual Optimizer</source>
+        <translation>Visual Optimizer</translation>
+    </message>
+    <message>
+        <source>A.B.+ Gen2</source>
+        <translation>A.B.+ Gen2</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>センサー感度</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupABAction</name>
+    <message>
+        <source>A.B. Gen2</source>
+        <translation>A.B. Gen2</translation>
+    </message>
+    <message>
+        <source>Light Meter</source>
+        <translation>照度メーター</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>オン</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>オフ</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>センサー感度</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupBackLightAction</name>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>明るさ</translation>
+    </message>
+    <message>
+        <source>Color Temperature</source>
+        <translation>色温度</translation>
+    </message>
+    <message>
+        <source>Light Mode</source>
+        <translation>ライトモード</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupEcoPrivacyAction</name>
+    <message>
+        <source>EcoPrivacy</source>
+        <translation>EcoPrivacy</translation>
+    </message>
+    <message>
+        <source>Dim your monitor after %1</source>
+        <translation>%1後にモニターを暗くする</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>センサー感度</translation>
+    </message>
+</context>
 </TS>

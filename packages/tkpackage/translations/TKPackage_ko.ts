@@ -856,4 +856,264 @@
         <translation>붉은빛</translation>
     </message>
 </context>
+<context>
+    <name>LuABPlusWidget</name>
+    <message>
+        <source>Visual Optimizer</source>
+        <translation>Visual Optimizer</translation>
+    </message>
+    <message>
+        <source>A.B.+ Gen2</source>
+        <translation>A.B.+ Gen2</translation>
+    </message>
+    <message>
+        <source>About %1</source>
+        <translation>%1 정보</translation>
+    </message>
+    <message>
+        <source>To meet individual preferences, %1 allows manual control of screen brightness. It learns and records your last adjustment, applying it to optimize its automatic brightness adjustment curve to better match your preferences.</source>
+        <translation>%1은(는) 취향에 맞게 화면 밝기를 직접 조절할 수 있습니다. 마지막 조정을 학습하고 저장하여 자동 밝기 곡선을 취향에 더 가깝게 맞춥니다.</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>매개변수</translation>
+    </message>
+    <message>
+        <source>Brightness + Color Temperature</source>
+        <translation>밝기 + 색온도</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>밝기</translation>
+    </message>
+    <message>
+        <source>Light Meter</source>
+        <translation>조도계</translation>
+    </message>
+</context>
+<context>
+    <name>LuABSettingWidget</name>
+    <message>
+        <source>A.B. Gen2</source>
+        <translation>A.B. Gen2</translation>
+    </message>
+    <message>
+        <source>Light Meter</source>
+        <translation>조도계</translation>
+    </message>
+</context>
+<context>
+    <name>SensitivitySlider</name>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>센서 감도</translation>
+    </message>
+</context>
+<context>
+    <name>BackLightStateChoice</name>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Auto Dimming</source>
+        <translation>자동 조광</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>켬</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>끔</translation>
+    </message>
+</context>
+<context>
+    <name>BackLightControls</name>
+    <message>
+        <source>Brightness</source>
+        <translation>밝기</translation>
+    </message>
+    <message>
+        <source>Color Temperature</source>
+        <translation>색온도</translation>
+    </message>
+    <message>
+        <source>Light Mode</source>
+        <translation>조명 모드</translation>
+    </message>
+</context>
+<context>
+    <name>LuBackLightWidget</name>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Auto Dimming automatically adjusts BackGlow's brightness based on ambient light detection, safeguarding your eyes in low-light environments. Auto Dimming can only be used when A.B. Gen2 is enabled.</source>
+        <translation>자동 조광은 주변 밝기에 따라 BackGlow 밝기를 조절하여 어두운 곳에서 눈을 보호합니다. A.B. Gen2가 켜져 있을 때만 사용할 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>Bundling of Color Mode</source>
+        <translation>색상 모드 연동</translation>
+    </message>
+    <message>
+        <source>The system will automatically switch to the bundled BackGlow settings when you change the color mode.</source>
+        <translation>색상 모드를 바꾸면 해당 모드의 BackGlow 설정으로 자동 전환됩니다.</translation>
+    </message>
+    <message>
+        <source>Non-stop Mode</source>
+        <translation>논스톱 모드</translation>
+    </message>
+    <message>
+        <source>To activate BackGlow while the monitor is in sleep mode, you can enable the non-stop mode.</source>
+        <translation>모니터가 절전 상태일 때도 BackGlow를 켜려면 논스톱 모드를 사용하세요.</translation>
+    </message>
+</context>
+<context>
+    <name>EcoPrivacyTexts</name>
+    <message>
+        <source>5 sec.</source>
+        <translation>5초</translation>
+    </message>
+    <message>
+        <source>10 sec.</source>
+        <translation>10초</translation>
+    </message>
+    <message>
+        <source>20 sec.</source>
+        <translation>20초</translation>
+    </message>
+    <message>
+        <source>30 sec.</source>
+        <translation>30초</translation>
+    </message>
+    <message>
+        <source>60 sec.</source>
+        <translation>60초</translation>
+    </message>
+    <message>
+        <source>5 min.</source>
+        <translation>5분</translation>
+    </message>
+    <message>
+        <source>10 min.</source>
+        <translation>10분</translation>
+    </message>
+    <message>
+        <source>Near</source>
+        <translation>가까움</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation>중간</translation>
+    </message>
+    <message>
+        <source>Far</source>
+        <translation>멂</translation>
+    </message>
+</context>
+<context>
+    <name>LuEcoPrivacyWidget</name>
+    <message>
+        <source>EcoPrivacy</source>
+        <translation>EcoPrivacy</translation>
+    </message>
+    <message>
+        <source>Dim your monitor after a period of inactivity.</source>
+        <translation>사용하지 않으면 모니터를 어둡게 합니다.</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>모드</translation>
+    </message>
+    <message>
+        <source>Display + BackGlow</source>
+        <translation>화면 + BackGlow</translation>
+    </message>
+    <message>
+        <source>Display</source>
+        <translation>화면</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>센서 감도</translation>
+    </message>
+    <message>
+        <source>EcoPrivacy helps protect your screen privacy and dims your monitor after inactivity through your built-in monitor sensor.</source>
+        <translation>EcoPrivacy는 내장 센서로 자리를 비우면 모니터를 어둡게 하여 화면의 개인정보를 보호합니다.</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupABPlusAction</name>
+    <message>
+        <source>Visual Optimizer</source>
+        <translation>Visual Optimizer</translation>
+    </message>
+    <message>
+        <source>A.B.+ Gen2</source>
+        <translation>A.B.+ Gen2</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>센서 감도</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupABAction</name>
+    <message>
+        <source>A.B. Gen2</source>
+        <translation>A.B. Gen2</translation>
+    </message>
+    <message>
+        <source>Light Meter</source>
+        <translation>조도계</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>켬</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>끔</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>센서 감도</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupBackLightAction</name>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>밝기</translation>
+    </message>
+    <message>
+        <source>Color Temperature</source>
+        <translation>색온도</translation>
+    </message>
+    <message>
+        <source>Light Mode</source>
+        <translation>조명 모드</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupEcoPrivacyAction</name>
+    <message>
+        <source>EcoPrivacy</source>
+        <translation>EcoPrivacy</translation>
+    </message>
+    <message>
+        <source>Dim your monitor after %1</source>
+        <translation>%1 후 모니터 어둡게</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>센서 감도</translation>
+    </message>
+</context>
 </TS>

@@ -856,4 +856,264 @@
         <translation>Roodachtig</translation>
     </message>
 </context>
+<context>
+    <name>LuABPlusWidget</name>
+    <message>
+        <source>Visual Optimizer</source>
+        <translation>Visual Optimizer</translation>
+    </message>
+    <message>
+        <source>A.B.+ Gen2</source>
+        <translation>A.B.+ Gen2</translation>
+    </message>
+    <message>
+        <source>About %1</source>
+        <translation>Over %1</translation>
+    </message>
+    <message>
+        <source>To meet individual preferences, %1 allows manual control of screen brightness. It learns and records your last adjustment, applying it to optimize its automatic brightness adjustment curve to better match your preferences.</source>
+        <translation>Met %1 kunt u de helderheid ook zelf regelen. Uw laatste instelling wordt onthouden en gebruikt om de automatische helderheidscurve beter op uw voorkeur af te stemmen.</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>Parameter</translation>
+    </message>
+    <message>
+        <source>Brightness + Color Temperature</source>
+        <translation>Helderheid + kleurtemperatuur</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Helderheid</translation>
+    </message>
+    <message>
+        <source>Light Meter</source>
+        <translation>Lichtmeter</translation>
+    </message>
+</context>
+<context>
+    <name>LuABSettingWidget</name>
+    <message>
+        <source>A.B. Gen2</source>
+        <translation>A.B. Gen2</translation>
+    </message>
+    <message>
+        <source>Light Meter</source>
+        <translation>Lichtmeter</translation>
+    </message>
+</context>
+<context>
+    <name>SensitivitySlider</name>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>Sensorgevoeligheid</translation>
+    </message>
+</context>
+<context>
+    <name>BackLightStateChoice</name>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Auto Dimming</source>
+        <translation>Automatisch dimmen</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Aan</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Uit</translation>
+    </message>
+</context>
+<context>
+    <name>BackLightControls</name>
+    <message>
+        <source>Brightness</source>
+        <translation>Helderheid</translation>
+    </message>
+    <message>
+        <source>Color Temperature</source>
+        <translation>Kleurtemperatuur</translation>
+    </message>
+    <message>
+        <source>Light Mode</source>
+        <translation>Lichtmodus</translation>
+    </message>
+</context>
+<context>
+    <name>LuBackLightWidget</name>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Auto Dimming automatically adjusts BackGlow's brightness based on ambient light detection, safeguarding your eyes in low-light environments. Auto Dimming can only be used when A.B. Gen2 is enabled.</source>
+        <translation>Automatisch dimmen past de helderheid van BackGlow aan het omgevingslicht aan en ontziet uw ogen bij weinig licht. Dit kan alleen als A.B. Gen2 aan staat.</translation>
+    </message>
+    <message>
+        <source>Bundling of Color Mode</source>
+        <translation>Koppeling aan kleurmodus</translation>
+    </message>
+    <message>
+        <source>The system will automatically switch to the bundled BackGlow settings when you change the color mode.</source>
+        <translation>Bij het wisselen van kleurmodus gelden de BackGlow-instellingen van die modus.</translation>
+    </message>
+    <message>
+        <source>Non-stop Mode</source>
+        <translation>Continumodus</translation>
+    </message>
+    <message>
+        <source>To activate BackGlow while the monitor is in sleep mode, you can enable the non-stop mode.</source>
+        <translation>Zet de continumodus aan om BackGlow ook in de slaapstand van de monitor te gebruiken.</translation>
+    </message>
+</context>
+<context>
+    <name>EcoPrivacyTexts</name>
+    <message>
+        <source>5 sec.</source>
+        <translation>5 sec.</translation>
+    </message>
+    <message>
+        <source>10 sec.</source>
+        <translation>10 sec.</translation>
+    </message>
+    <message>
+        <source>20 sec.</source>
+        <translation>20 sec.</translation>
+    </message>
+    <message>
+        <source>30 sec.</source>
+        <translation>30 sec.</translation>
+    </message>
+    <message>
+        <source>60 sec.</source>
+        <translation>60 sec.</translation>
+    </message>
+    <message>
+        <source>5 min.</source>
+        <translation>5 min.</translation>
+    </message>
+    <message>
+        <source>10 min.</source>
+        <translation>10 min.</translation>
+    </message>
+    <message>
+        <source>Near</source>
+        <translation>Dichtbij</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation>Midden</translation>
+    </message>
+    <message>
+        <source>Far</source>
+        <translation>Ver</translation>
+    </message>
+</context>
+<context>
+    <name>LuEcoPrivacyWidget</name>
+    <message>
+        <source>EcoPrivacy</source>
+        <translation>EcoPrivacy</translation>
+    </message>
+    <message>
+        <source>Dim your monitor after a period of inactivity.</source>
+        <translation>Monitor dimmen na een tijd zonder activiteit.</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Modus</translation>
+    </message>
+    <message>
+        <source>Display + BackGlow</source>
+        <translation>Scherm + BackGlow</translation>
+    </message>
+    <message>
+        <source>Display</source>
+        <translation>Scherm</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>Sensorgevoeligheid</translation>
+    </message>
+    <message>
+        <source>EcoPrivacy helps protect your screen privacy and dims your monitor after inactivity through your built-in monitor sensor.</source>
+        <translation>EcoPrivacy beschermt uw privacy en dimt de monitor bij afwezigheid met de ingebouwde sensor.</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupABPlusAction</name>
+    <message>
+        <source>Visual Optimizer</source>
+        <translation>Visual Optimizer</translation>
+    </message>
+    <message>
+        <source>A.B.+ Gen2</source>
+        <translation>A.B.+ Gen2</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>Sensorgevoeligheid</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupABAction</name>
+    <message>
+        <source>A.B. Gen2</source>
+        <translation>A.B. Gen2</translation>
+    </message>
+    <message>
+        <source>Light Meter</source>
+        <translation>Lichtmeter</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Aan</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Uit</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>Sensorgevoeligheid</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupBackLightAction</name>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Helderheid</translation>
+    </message>
+    <message>
+        <source>Color Temperature</source>
+        <translation>Kleurtemperatuur</translation>
+    </message>
+    <message>
+        <source>Light Mode</source>
+        <translation>Lichtmodus</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupEcoPrivacyAction</name>
+    <message>
+        <source>EcoPrivacy</source>
+        <translation>EcoPrivacy</translation>
+    </message>
+    <message>
+        <source>Dim your monitor after %1</source>
+        <translation>Monitor dimmen na %1</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>Sensorgevoeligheid</translation>
+    </message>
+</context>
 </TS>

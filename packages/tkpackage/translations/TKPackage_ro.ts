@@ -856,4 +856,264 @@
         <translation>Roșiatic</translation>
     </message>
 </context>
+<context>
+    <name>LuABPlusWidget</name>
+    <message>
+        <source>Visual Optimizer</source>
+        <translation>Visual Optimizer</translation>
+    </message>
+    <message>
+        <source>A.B.+ Gen2</source>
+        <translation>A.B.+ Gen2</translation>
+    </message>
+    <message>
+        <source>About %1</source>
+        <translation>Despre %1</translation>
+    </message>
+    <message>
+        <source>To meet individual preferences, %1 allows manual control of screen brightness. It learns and records your last adjustment, applying it to optimize its automatic brightness adjustment curve to better match your preferences.</source>
+        <translation>%1 permite reglarea manuală a luminozității după preferințe. Învață și reține ultima reglare și o folosește pentru a adapta mai bine curba luminozității automate.</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>Parametru</translation>
+    </message>
+    <message>
+        <source>Brightness + Color Temperature</source>
+        <translation>Luminozitate + temperatură de culoare</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Luminozitate</translation>
+    </message>
+    <message>
+        <source>Light Meter</source>
+        <translation>Luxmetru</translation>
+    </message>
+</context>
+<context>
+    <name>LuABSettingWidget</name>
+    <message>
+        <source>A.B. Gen2</source>
+        <translation>A.B. Gen2</translation>
+    </message>
+    <message>
+        <source>Light Meter</source>
+        <translation>Luxmetru</translation>
+    </message>
+</context>
+<context>
+    <name>SensitivitySlider</name>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>Sensibilitatea senzorului</translation>
+    </message>
+</context>
+<context>
+    <name>BackLightStateChoice</name>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Auto Dimming</source>
+        <translation>Reglare automată</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Pornit</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Oprit</translation>
+    </message>
+</context>
+<context>
+    <name>BackLightControls</name>
+    <message>
+        <source>Brightness</source>
+        <translation>Luminozitate</translation>
+    </message>
+    <message>
+        <source>Color Temperature</source>
+        <translation>Temperatură de culoare</translation>
+    </message>
+    <message>
+        <source>Light Mode</source>
+        <translation>Mod de lumină</translation>
+    </message>
+</context>
+<context>
+    <name>LuBackLightWidget</name>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Auto Dimming automatically adjusts BackGlow's brightness based on ambient light detection, safeguarding your eyes in low-light environments. Auto Dimming can only be used when A.B. Gen2 is enabled.</source>
+        <translation>Reglarea automată adaptează luminozitatea BackGlow la lumina ambiantă și protejează ochii în semiîntuneric. Poate fi folosită numai când A.B. Gen2 este pornit.</translation>
+    </message>
+    <message>
+        <source>Bundling of Color Mode</source>
+        <translation>Asociere cu modul de culoare</translation>
+    </message>
+    <message>
+        <source>The system will automatically switch to the bundled BackGlow settings when you change the color mode.</source>
+        <translation>La schimbarea modului de culoare se aplică setările BackGlow asociate.</translation>
+    </message>
+    <message>
+        <source>Non-stop Mode</source>
+        <translation>Mod continuu</translation>
+    </message>
+    <message>
+        <source>To activate BackGlow while the monitor is in sleep mode, you can enable the non-stop mode.</source>
+        <translation>Pentru ca BackGlow să lumineze și când monitorul este în repaus, porniți modul continuu.</translation>
+    </message>
+</context>
+<context>
+    <name>EcoPrivacyTexts</name>
+    <message>
+        <source>5 sec.</source>
+        <translation>5 s</translation>
+    </message>
+    <message>
+        <source>10 sec.</source>
+        <translation>10 s</translation>
+    </message>
+    <message>
+        <source>20 sec.</source>
+        <translation>20 s</translation>
+    </message>
+    <message>
+        <source>30 sec.</source>
+        <translation>30 s</translation>
+    </message>
+    <message>
+        <source>60 sec.</source>
+        <translation>60 s</translation>
+    </message>
+    <message>
+        <source>5 min.</source>
+        <translation>5 min</translation>
+    </message>
+    <message>
+        <source>10 min.</source>
+        <translation>10 min</translation>
+    </message>
+    <message>
+        <source>Near</source>
+        <translation>Aproape</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation>Mediu</translation>
+    </message>
+    <message>
+        <source>Far</source>
+        <translation>Departe</translation>
+    </message>
+</context>
+<context>
+    <name>LuEcoPrivacyWidget</name>
+    <message>
+        <source>EcoPrivacy</source>
+        <translation>EcoPrivacy</translation>
+    </message>
+    <message>
+        <source>Dim your monitor after a period of inactivity.</source>
+        <translation>Reduce luminozitatea monitorului după inactivitate.</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Mod</translation>
+    </message>
+    <message>
+        <source>Display + BackGlow</source>
+        <translation>Ecran + BackGlow</translation>
+    </message>
+    <message>
+        <source>Display</source>
+        <translation>Ecran</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>Sensibilitatea senzorului</translation>
+    </message>
+    <message>
+        <source>EcoPrivacy helps protect your screen privacy and dims your monitor after inactivity through your built-in monitor sensor.</source>
+        <translation>EcoPrivacy protejează confidențialitatea ecranului și reduce luminozitatea în lipsa dvs. cu senzorul integrat.</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupABPlusAction</name>
+    <message>
+        <source>Visual Optimizer</source>
+        <translation>Visual Optimizer</translation>
+    </message>
+    <message>
+        <source>A.B.+ Gen2</source>
+        <translation>A.B.+ Gen2</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>Sensibilitatea senzorului</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupABAction</name>
+    <message>
+        <source>A.B. Gen2</source>
+        <translation>A.B. Gen2</translation>
+    </message>
+    <message>
+        <source>Light Meter</source>
+        <translation>Luxmetru</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Pornit</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Oprit</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>Sensibilitatea senzorului</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupBackLightAction</name>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Luminozitate</translation>
+    </message>
+    <message>
+        <source>Color Temperature</source>
+        <translation>Temperatură de culoare</translation>
+    </message>
+    <message>
+        <source>Light Mode</source>
+        <translation>Mod de lumină</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupEcoPrivacyAction</name>
+    <message>
+        <source>EcoPrivacy</source>
+        <translation>EcoPrivacy</translation>
+    </message>
+    <message>
+        <source>Dim your monitor after %1</source>
+        <translation>Reduce luminozitatea după %1</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>Sensibilitatea senzorului</translation>
+    </message>
+</context>
 </TS>

@@ -856,4 +856,264 @@
         <translation>Красноватая</translation>
     </message>
 </context>
+<context>
+    <name>LuABPlusWidget</name>
+    <message>
+        <source>Visual Optimizer</source>
+        <translation>Visual Optimizer</translation>
+    </message>
+    <message>
+        <source>A.B.+ Gen2</source>
+        <translation>A.B.+ Gen2</translation>
+    </message>
+    <message>
+        <source>About %1</source>
+        <translation>О функции %1</translation>
+    </message>
+    <message>
+        <source>To meet individual preferences, %1 allows manual control of screen brightness. It learns and records your last adjustment, applying it to optimize its automatic brightness adjustment curve to better match your preferences.</source>
+        <translation>%1 позволяет настраивать яркость вручную. Последняя настройка запоминается и помогает лучше подстроить кривую автоматической яркости под ваши предпочтения.</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>Параметр</translation>
+    </message>
+    <message>
+        <source>Brightness + Color Temperature</source>
+        <translation>Яркость + цветовая температура</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Яркость</translation>
+    </message>
+    <message>
+        <source>Light Meter</source>
+        <translation>Измеритель света</translation>
+    </message>
+</context>
+<context>
+    <name>LuABSettingWidget</name>
+    <message>
+        <source>A.B. Gen2</source>
+        <translation>A.B. Gen2</translation>
+    </message>
+    <message>
+        <source>Light Meter</source>
+        <translation>Измеритель света</translation>
+    </message>
+</context>
+<context>
+    <name>SensitivitySlider</name>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>Чувствительность датчика</translation>
+    </message>
+</context>
+<context>
+    <name>BackLightStateChoice</name>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Auto Dimming</source>
+        <translation>Автояркость</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Вкл.</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Выкл.</translation>
+    </message>
+</context>
+<context>
+    <name>BackLightControls</name>
+    <message>
+        <source>Brightness</source>
+        <translation>Яркость</translation>
+    </message>
+    <message>
+        <source>Color Temperature</source>
+        <translation>Цветовая температура</translation>
+    </message>
+    <message>
+        <source>Light Mode</source>
+        <translation>Режим света</translation>
+    </message>
+</context>
+<context>
+    <name>LuBackLightWidget</name>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Auto Dimming automatically adjusts BackGlow's brightness based on ambient light detection, safeguarding your eyes in low-light environments. Auto Dimming can only be used when A.B. Gen2 is enabled.</source>
+        <translation>Автояркость подстраивает BackGlow под освещённость и бережёт глаза при слабом свете. Доступна, только когда включена функция A.B. Gen2.</translation>
+    </message>
+    <message>
+        <source>Bundling of Color Mode</source>
+        <translation>Привязка к цветовому режиму</translation>
+    </message>
+    <message>
+        <source>The system will automatically switch to the bundled BackGlow settings when you change the color mode.</source>
+        <translation>При смене цветового режима применяются связанные с ним настройки BackGlow.</translation>
+    </message>
+    <message>
+        <source>Non-stop Mode</source>
+        <translation>Непрерывный режим</translation>
+    </message>
+    <message>
+        <source>To activate BackGlow while the monitor is in sleep mode, you can enable the non-stop mode.</source>
+        <translation>Чтобы BackGlow светил и в спящем режиме монитора, включите непрерывный режим.</translation>
+    </message>
+</context>
+<context>
+    <name>EcoPrivacyTexts</name>
+    <message>
+        <source>5 sec.</source>
+        <translation>5 с</translation>
+    </message>
+    <message>
+        <source>10 sec.</source>
+        <translation>10 с</translation>
+    </message>
+    <message>
+        <source>20 sec.</source>
+        <translation>20 с</translation>
+    </message>
+    <message>
+        <source>30 sec.</source>
+        <translation>30 с</translation>
+    </message>
+    <message>
+        <source>60 sec.</source>
+        <translation>60 с</translation>
+    </message>
+    <message>
+        <source>5 min.</source>
+        <translation>5 мин</translation>
+    </message>
+    <message>
+        <source>10 min.</source>
+        <translation>10 мин</translation>
+    </message>
+    <message>
+        <source>Near</source>
+        <translation>Близко</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation>Средне</translation>
+    </message>
+    <message>
+        <source>Far</source>
+        <translation>Далеко</translation>
+    </message>
+</context>
+<context>
+    <name>LuEcoPrivacyWidget</name>
+    <message>
+        <source>EcoPrivacy</source>
+        <translation>EcoPrivacy</translation>
+    </message>
+    <message>
+        <source>Dim your monitor after a period of inactivity.</source>
+        <translation>Затемнять монитор при бездействии.</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Режим</translation>
+    </message>
+    <message>
+        <source>Display + BackGlow</source>
+        <translation>Экран + BackGlow</translation>
+    </message>
+    <message>
+        <source>Display</source>
+        <translation>Экран</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>Чувствительность датчика</translation>
+    </message>
+    <message>
+        <source>EcoPrivacy helps protect your screen privacy and dims your monitor after inactivity through your built-in monitor sensor.</source>
+        <translation>EcoPrivacy защищает конфиденциальность экрана и затемняет монитор в ваше отсутствие по встроенному датчику.</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupABPlusAction</name>
+    <message>
+        <source>Visual Optimizer</source>
+        <translation>Visual Optimizer</translation>
+    </message>
+    <message>
+        <source>A.B.+ Gen2</source>
+        <translation>A.B.+ Gen2</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>Чувствительность датчика</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupABAction</name>
+    <message>
+        <source>A.B. Gen2</source>
+        <translation>A.B. Gen2</translation>
+    </message>
+    <message>
+        <source>Light Meter</source>
+        <translation>Измеритель света</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Вкл.</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Выкл.</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>Чувствительность датчика</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupBackLightAction</name>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Яркость</translation>
+    </message>
+    <message>
+        <source>Color Temperature</source>
+        <translation>Цветовая температура</translation>
+    </message>
+    <message>
+        <source>Light Mode</source>
+        <translation>Режим света</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupEcoPrivacyAction</name>
+    <message>
+        <source>EcoPrivacy</source>
+        <translation>EcoPrivacy</translation>
+    </message>
+    <message>
+        <source>Dim your monitor after %1</source>
+        <translation>Затемнять монитор через %1</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>Чувствительность датчика</translation>
+    </message>
+</context>
 </TS>

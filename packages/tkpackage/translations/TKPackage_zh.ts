@@ -856,4 +856,264 @@
         <translation>偏红</translation>
     </message>
 </context>
+<context>
+    <name>LuABPlusWidget</name>
+    <message>
+        <source>Visual Optimizer</source>
+        <translation>Visual Optimizer</translation>
+    </message>
+    <message>
+        <source>A.B.+ Gen2</source>
+        <translation>A.B.+ Gen2</translation>
+    </message>
+    <message>
+        <source>About %1</source>
+        <translation>关于 %1</translation>
+    </message>
+    <message>
+        <source>To meet individual preferences, %1 allows manual control of screen brightness. It learns and records your last adjustment, applying it to optimize its automatic brightness adjustment curve to better match your preferences.</source>
+        <translation>为满足个人喜好，%1 允许手动调节屏幕亮度。它会学习并记录您的上一次调节，据此优化自动亮度曲线，使其更符合您的喜好。</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>参数</translation>
+    </message>
+    <message>
+        <source>Brightness + Color Temperature</source>
+        <translation>亮度 + 色温</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>亮度</translation>
+    </message>
+    <message>
+        <source>Light Meter</source>
+        <translation>光度计</translation>
+    </message>
+</context>
+<context>
+    <name>LuABSettingWidget</name>
+    <message>
+        <source>A.B. Gen2</source>
+        <translation>A.B. Gen2</translation>
+    </message>
+    <message>
+        <source>Light Meter</source>
+        <translation>光度计</translation>
+    </message>
+</context>
+<context>
+    <name>SensitivitySlider</name>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>传感器灵敏度</translation>
+    </message>
+</context>
+<context>
+    <name>BackLightStateChoice</name>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Auto Dimming</source>
+        <translation>自动调光</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>开</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>关</translation>
+    </message>
+</context>
+<context>
+    <name>BackLightControls</name>
+    <message>
+        <source>Brightness</source>
+        <translation>亮度</translation>
+    </message>
+    <message>
+        <source>Color Temperature</source>
+        <translation>色温</translation>
+    </message>
+    <message>
+        <source>Light Mode</source>
+        <translation>灯光模式</translation>
+    </message>
+</context>
+<context>
+    <name>LuBackLightWidget</name>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Auto Dimming automatically adjusts BackGlow's brightness based on ambient light detection, safeguarding your eyes in low-light environments. Auto Dimming can only be used when A.B. Gen2 is enabled.</source>
+        <translation>自动调光会根据环境光调节 BackGlow 的亮度，在弱光环境中保护您的眼睛。仅在启用 A.B. Gen2 时可用。</translation>
+    </message>
+    <message>
+        <source>Bundling of Color Mode</source>
+        <translation>色彩模式绑定</translation>
+    </message>
+    <message>
+        <source>The system will automatically switch to the bundled BackGlow settings when you change the color mode.</source>
+        <translation>切换色彩模式时，系统会自动切换到绑定的 BackGlow 设置。</translation>
+    </message>
+    <message>
+        <source>Non-stop Mode</source>
+        <translation>不间断模式</translation>
+    </message>
+    <message>
+        <source>To activate BackGlow while the monitor is in sleep mode, you can enable the non-stop mode.</source>
+        <translation>若要在显示器睡眠时启用 BackGlow，可开启不间断模式。</translation>
+    </message>
+</context>
+<context>
+    <name>EcoPrivacyTexts</name>
+    <message>
+        <source>5 sec.</source>
+        <translation>5 秒</translation>
+    </message>
+    <message>
+        <source>10 sec.</source>
+        <translation>10 秒</translation>
+    </message>
+    <message>
+        <source>20 sec.</source>
+        <translation>20 秒</translation>
+    </message>
+    <message>
+        <source>30 sec.</source>
+        <translation>30 秒</translation>
+    </message>
+    <message>
+        <source>60 sec.</source>
+        <translation>60 秒</translation>
+    </message>
+    <message>
+        <source>5 min.</source>
+        <translation>5 分钟</translation>
+    </message>
+    <message>
+        <source>10 min.</source>
+        <translation>10 分钟</translation>
+    </message>
+    <message>
+        <source>Near</source>
+        <translation>近</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation>中</translation>
+    </message>
+    <message>
+        <source>Far</source>
+        <translation>远</translation>
+    </message>
+</context>
+<context>
+    <name>LuEcoPrivacyWidget</name>
+    <message>
+        <source>EcoPrivacy</source>
+        <translation>EcoPrivacy</translation>
+    </message>
+    <message>
+        <source>Dim your monitor after a period of inactivity.</source>
+        <translation>闲置一段时间后调暗显示器。</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>模式</translation>
+    </message>
+    <message>
+        <source>Display + BackGlow</source>
+        <translation>屏幕 + BackGlow</translation>
+    </message>
+    <message>
+        <source>Display</source>
+        <translation>屏幕</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>传感器灵敏度</translation>
+    </message>
+    <message>
+        <source>EcoPrivacy helps protect your screen privacy and dims your monitor after inactivity through your built-in monitor sensor.</source>
+        <translation>EcoPrivacy 通过内置传感器在您离开后调暗显示器，帮助保护屏幕隐私。</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupABPlusAction</name>
+    <message>
+        <source>Visual Optimizer</source>
+        <translation>Visual Optimizer</translation>
+    </message>
+    <message>
+        <source>A.B.+ Gen2</source>
+        <translation>A.B.+ Gen2</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>传感器灵敏度</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupABAction</name>
+    <message>
+        <source>A.B. Gen2</source>
+        <translation>A.B. Gen2</translation>
+    </message>
+    <message>
+        <source>Light Meter</source>
+        <translation>光度计</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>开</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>关</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>传感器灵敏度</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupBackLightAction</name>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>亮度</translation>
+    </message>
+    <message>
+        <source>Color Temperature</source>
+        <translation>色温</translation>
+    </message>
+    <message>
+        <source>Light Mode</source>
+        <translation>灯光模式</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupEcoPrivacyAction</name>
+    <message>
+        <source>EcoPrivacy</source>
+        <translation>EcoPrivacy</translation>
+    </message>
+    <message>
+        <source>Dim your monitor after %1</source>
+        <translation>%1后调暗显示器</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>传感器灵敏度</translation>
+    </message>
+</context>
 </TS>

@@ -856,4 +856,264 @@
         <translation>偏紅</translation>
     </message>
 </context>
+<context>
+    <name>LuABPlusWidget</name>
+    <message>
+        <source>Visual Optimizer</source>
+        <translation>Visual Optimizer</translation>
+    </message>
+    <message>
+        <source>A.B.+ Gen2</source>
+        <translation>A.B.+ Gen2</translation>
+    </message>
+    <message>
+        <source>About %1</source>
+        <translation>關於 %1</translation>
+    </message>
+    <message>
+        <source>To meet individual preferences, %1 allows manual control of screen brightness. It learns and records your last adjustment, applying it to optimize its automatic brightness adjustment curve to better match your preferences.</source>
+        <translation>為符合個人喜好，%1 允許手動調整螢幕亮度。它會學習並記錄您的上一次調整，據此最佳化自動亮度曲線，使其更符合您的喜好。</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>參數</translation>
+    </message>
+    <message>
+        <source>Brightness + Color Temperature</source>
+        <translation>亮度 + 色溫</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>亮度</translation>
+    </message>
+    <message>
+        <source>Light Meter</source>
+        <translation>光度計</translation>
+    </message>
+</context>
+<context>
+    <name>LuABSettingWidget</name>
+    <message>
+        <source>A.B. Gen2</source>
+        <translation>A.B. Gen2</translation>
+    </message>
+    <message>
+        <source>Light Meter</source>
+        <translation>光度計</translation>
+    </message>
+</context>
+<context>
+    <name>SensitivitySlider</name>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>感應器靈敏度</translation>
+    </message>
+</context>
+<context>
+    <name>BackLightStateChoice</name>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Auto Dimming</source>
+        <translation>自動調光</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>開</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>關</translation>
+    </message>
+</context>
+<context>
+    <name>BackLightControls</name>
+    <message>
+        <source>Brightness</source>
+        <translation>亮度</translation>
+    </message>
+    <message>
+        <source>Color Temperature</source>
+        <translation>色溫</translation>
+    </message>
+    <message>
+        <source>Light Mode</source>
+        <translation>燈光模式</translation>
+    </message>
+</context>
+<context>
+    <name>LuBackLightWidget</name>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Auto Dimming automatically adjusts BackGlow's brightness based on ambient light detection, safeguarding your eyes in low-light environments. Auto Dimming can only be used when A.B. Gen2 is enabled.</source>
+        <translation>自動調光會依環境光調整 BackGlow 的亮度，在弱光環境中保護您的眼睛。僅在啟用 A.B. Gen2 時可用。</translation>
+    </message>
+    <message>
+        <source>Bundling of Color Mode</source>
+        <translation>色彩模式綁定</translation>
+    </message>
+    <message>
+        <source>The system will automatically switch to the bundled BackGlow settings when you change the color mode.</source>
+        <translation>切換色彩模式時，系統會自動切換到綁定的 BackGlow 設定。</translation>
+    </message>
+    <message>
+        <source>Non-stop Mode</source>
+        <translation>不中斷模式</translation>
+    </message>
+    <message>
+        <source>To activate BackGlow while the monitor is in sleep mode, you can enable the non-stop mode.</source>
+        <translation>若要在螢幕睡眠時啟用 BackGlow，可開啟不中斷模式。</translation>
+    </message>
+</context>
+<context>
+    <name>EcoPrivacyTexts</name>
+    <message>
+        <source>5 sec.</source>
+        <translation>5 秒</translation>
+    </message>
+    <message>
+        <source>10 sec.</source>
+        <translation>10 秒</translation>
+    </message>
+    <message>
+        <source>20 sec.</source>
+        <translation>20 秒</translation>
+    </message>
+    <message>
+        <source>30 sec.</source>
+        <translation>30 秒</translation>
+    </message>
+    <message>
+        <source>60 sec.</source>
+        <translation>60 秒</translation>
+    </message>
+    <message>
+        <source>5 min.</source>
+        <translation>5 分鐘</translation>
+    </message>
+    <message>
+        <source>10 min.</source>
+        <translation>10 分鐘</translation>
+    </message>
+    <message>
+        <source>Near</source>
+        <translation>近</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation>中</translation>
+    </message>
+    <message>
+        <source>Far</source>
+        <translation>遠</translation>
+    </message>
+</context>
+<context>
+    <name>LuEcoPrivacyWidget</name>
+    <message>
+        <source>EcoPrivacy</source>
+        <translation>EcoPrivacy</translation>
+    </message>
+    <message>
+        <source>Dim your monitor after a period of inactivity.</source>
+        <translation>閒置一段時間後調暗螢幕。</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>模式</translation>
+    </message>
+    <message>
+        <source>Display + BackGlow</source>
+        <translation>螢幕 + BackGlow</translation>
+    </message>
+    <message>
+        <source>Display</source>
+        <translation>螢幕</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>感應器靈敏度</translation>
+    </message>
+    <message>
+        <source>EcoPrivacy helps protect your screen privacy and dims your monitor after inactivity through your built-in monitor sensor.</source>
+        <translation>EcoPrivacy 透過內建感應器在您離開後調暗螢幕，協助保護螢幕隱私。</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupABPlusAction</name>
+    <message>
+        <source>Visual Optimizer</source>
+        <translation>Visual Optimizer</translation>
+    </message>
+    <message>
+        <source>A.B.+ Gen2</source>
+        <translation>A.B.+ Gen2</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>感應器靈敏度</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupABAction</name>
+    <message>
+        <source>A.B. Gen2</source>
+        <translation>A.B. Gen2</translation>
+    </message>
+    <message>
+        <source>Light Meter</source>
+        <translation>光度計</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>開</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>關</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>感應器靈敏度</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupBackLightAction</name>
+    <message>
+        <source>BackGlow</source>
+        <translation>BackGlow</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>亮度</translation>
+    </message>
+    <message>
+        <source>Color Temperature</source>
+        <translation>色溫</translation>
+    </message>
+    <message>
+        <source>Light Mode</source>
+        <translation>燈光模式</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupEcoPrivacyAction</name>
+    <message>
+        <source>EcoPrivacy</source>
+        <translation>EcoPrivacy</translation>
+    </message>
+    <message>
+        <source>Dim your monitor after %1</source>
+        <translation>%1後調暗螢幕</translation>
+    </message>
+    <message>
+        <source>Sensor Sensitivity</source>
+        <translation>感應器靈敏度</translation>
+    </message>
+</context>
 </TS>

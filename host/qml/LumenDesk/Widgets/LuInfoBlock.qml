@@ -34,7 +34,8 @@ Rectangle {
                 LuLabel {
                     id: name
                     anchors.left: parent.left
-                    width: Math.min(implicitWidth, parent.width * 0.62)
+                    // A sentence without a value has the line for itself.
+                    width: Math.min(implicitWidth, parent.width * (row.modelData.value ? 0.62 : 1))
                     kind: LuLabel.Caption
                     wrapMode: Text.WordWrap
                     color: LuStyle.text
