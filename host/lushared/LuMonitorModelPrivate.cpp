@@ -7,7 +7,7 @@
 
 #include <LuShared/LuUtils.h>
 #include <panelcore/MonitorLink.h>
-#include <zrcore/QueueGate.h>
+#include <ZrCore/ZrQueueGate.h>
 
 #include <QDebug>
 #include <QRegularExpression>

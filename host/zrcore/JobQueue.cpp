@@ -4,7 +4,7 @@
 #include "zrcore/Asker.h"
 #include "zrcore/IdleHub.h"
 #include "zrcore/MainQueue.h"
-#include "zrcore/QueueGate.h"
+#include "ZrCore/ZrQueueGate.h"
 
 #include <QDateTime>
 #include <QMetaObject>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "zrcore/QueueGate.h"
+#include "ZrCore/ZrQueueGate.h"
 
 #include <QHash>
 

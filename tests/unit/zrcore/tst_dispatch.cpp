@@ -6,7 +6,7 @@
 #include "ZrCore/ZrDispatch.h"
 #include "ZrCore/ZrIdle.h"
 
-#include "zrcore/QueueGate.h"
+#include "ZrCore/ZrQueueGate.h"
 
 #include <QEventLoop>
 #include <QTest>

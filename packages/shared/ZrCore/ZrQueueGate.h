@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "ZrCore/ZrCoreGlobal.h"
+#include <ZrCore/ZrCoreGlobal.h>
 
 #include <QString>
 
