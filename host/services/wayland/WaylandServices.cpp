@@ -3,6 +3,7 @@
 
 #include "services/wayland/Display.h"
 #include "services/wayland/KWinEvents.h"
+#include "services/wayland/PortalKeys.h"
 
 #include <QDebug>
 
@@ -19,7 +20,9 @@ std::shared_ptr<services::ApplicationWindows> services::wayland::addServices(Ser
     set->events = events;
     if (events)
         return events;
-    qInfo() << "[Services] on Wayland there are no global keys, no windows of other applications, no pointer "
-               "at the edge";
+    set->events = PortalKeys::make(bus);
+    qInfo().noquote() << "[Services] on Wayland there are"
+                      << (set->events ? "global keys of the portal, but" : "no global keys and")
+                      << "no windows of other applications, no pointer at the edge";
     return nullptr;
 }
