@@ -100,7 +100,7 @@
     </message>
     <message>
         <source>Sub: </source>
-        <translation>Дополнительный: </translation>
+        <translation>Второй: </translation>
     </message>
     <message>
         <source>Right: </source>
@@ -523,7 +523,7 @@
     </message>
     <message>
         <source>Sub:</source>
-        <translation>Дополнительный:</translation>
+        <translation>Второй:</translation>
     </message>
     <message>
         <source>16 : 9</source>

@@ -80,6 +80,10 @@ Item {
             anchors.verticalCenter: parent.verticalCenter
             visible: row.kvmOn
             kind: LuLabel.Value
+            // The row keeps its name: a long text takes two lines.
+            width: Math.min(implicitWidth, row.width - 120)
+            horizontalAlignment: Text.AlignRight
+            wrapMode: Text.WordWrap
             text: row.enabledText
         }
         LuIcon {
