@@ -73,7 +73,10 @@ void prepare(SimulatedBed& bed, const QString& module, const QMetaProperty& prop
 /// Properties that are the state of the panel, not of the feature.
 bool isTransient(const QMetaProperty& property)
 {
-    return QLatin1String(property.name()) == QLatin1String("syncEnable");
+    // The choice of other keys ends with the page.
+    static const QStringList names{QStringLiteral("syncEnable"), QStringLiteral("modifyShortcuts"),
+                                   QStringLiteral("repeatShortcuts")};
+    return names.contains(QLatin1String(property.name()));
 }
 
 /// What a restart is to bring back, by module and property; what else is writable is told in the module's own
