@@ -12,6 +12,7 @@
 #include <LuShared/LuDataCollection.h>
 #include <LuShared/LuModelModuleInterface.h>
 #include <LuShared/LuMonitorModel.h>
+#include <LuShared/LuShortcutAction.h>
 #include <LuShared/LuVCPNode.h>
 #endif
 
@@ -65,6 +66,8 @@ void registerTypes()
     qmlRegisterUncreatableType<LuMonitorModel>("LumenDesk", 1, 0, "LuMonitorModel", reason);
     qmlRegisterUncreatableType<LuModelModuleInterface>("LumenDesk", 1, 0, "LuModelModuleInterface", reason);
     qmlRegisterUncreatableType<LuVCPNode>("LumenDesk", 1, 0, "LuVCPNode", reason);
+    qmlRegisterUncreatableType<LuActionInterface>("LumenDesk", 1, 0, "LuActionInterface", reason);
+    qmlRegisterUncreatableType<LuShortcutAction>("LumenDesk", 1, 0, "LuShortcutAction", reason);
     qmlRegisterUncreatableType<LuDataCollection>("LumenDesk", 1, 0, "LuDataCollection",
                                                  u"Only enumerations"_s);
 #endif

@@ -63,4 +63,7 @@ set(TKPACKAGE_QML_FILES
   Widgets/picture/ModeBundleHint.qml
   Widgets/picture/NumberChoice.qml
   Widgets/picture/PictureRules.qml
-  Widgets/LuPivotWidget.qml)
+  Widgets/LuPivotWidget.qml
+  Widgets/LuShortcutsWidget.qml
+  Widgets/automation/ShortcutGroup.qml
+  Widgets/automation/ShortcutRows.qml)

@@ -83,7 +83,7 @@ void TestShortcutsClipboard::contents()
     QTest::addColumn<QJsonObject>("users");
     const QJsonObject html{{u"html"_s, u"<b>bold</b>"_s}, {u"text"_s, u"bold"_s}};
     const QJsonObject files{{u"urls"_s, QJsonArray{u"file:///tmp/a b.txt"_s, u"file:///tmp/c.png"_s}}};
-    const QJsonObject address{{u"urls"_s, QJsonArray{u"https://example.org/?q=1&r=%20"_s}}};
+    const QJsonObject address{{u"urls"_s, QJsonArray{u"https://example.org/?q=1&r=a%2Bb"_s}}};
     QTest::newRow("text") << text(u"selected"_s) << text(u"the user's"_s);
     QTest::newRow("text of many lines") << text(u"a\nb\tc ü\u2028"_s) << text(u" "_s);
     QTest::newRow("HTML") << html << text(u"the user's"_s);

@@ -209,6 +209,11 @@ bool LuShortcuts::hasShortcut(ActionName name) const
     return findAction(name);
 }
 
+bool LuShortcuts::hasWidget(const QString& widget) const
+{
+    return model()->inWidgets(widget);
+}
+
 LuSyncTasks* LuShortcuts::syncPeriodically()
 {
     if (m_active && model()->isFirstTimeConnected())

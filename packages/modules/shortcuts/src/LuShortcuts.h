@@ -71,6 +71,8 @@ public:
     Q_INVOKABLE LuShortcutAction::ActionName stringToColorMode(const QString& name) const;
     /// Whether the monitor has the action, with or without keys.
     Q_INVOKABLE bool hasShortcut(LuShortcutAction::ActionName name) const;
+    /// Whether the package has the widget of that name.
+    Q_INVOKABLE bool hasWidget(const QString& widget) const;
 
     void readSchema(const QByteArray& schema) override;
     LuSyncTasks* syncPeriodically() override;

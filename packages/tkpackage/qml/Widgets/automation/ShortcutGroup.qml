@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import LumenDesk.Controls
+import LumenDesk.Style
+import LumenDesk.Widgets
+
+// One topic of the shortcuts page: its functions, two to a line.
+Column {
+    id: group
+
+    required property var shortcuts
+    // {"text", "note", "rows": [{"title", "name", "text"}]}
+    required property var topic
+    // Counts changes of combinations, which the module does not tell one by one.
+    required property int revision
+
+    width: parent ? parent.width : implicitWidth
+    spacing: LuStyle.space
+    Accessible.role: Accessible.Grouping
+    Accessible.name: topic.text
+
+    function isCaptured(row: var): bool {
+        return revision >= 0 && shortcuts.modifyShortcuts && shortcuts.checkModifyShortcuts(row.title, row.name)
+    }
+
+    function keysOf(row: var, captured: bool, pressed: string): var {
+        if (captured)
+            return shortcuts.displayKeyList(pressed)
+        const keys = revision >= 0 ? shortcuts.shortcutCombo(row.title, row.name) : ""
+        return shortcuts.displayKeyList(isDuplicated(row) ? keys + "+ ! " : keys)
+    }
+
+    function isDuplicated(row: var): bool {
+        return revision >= 0 && shortcuts.isShortcutDuplicated(row.title, row.name)
+    }
+
+    LuLabel {
+        width: parent.width
+        kind: LuLabel.Strong
+        repeatsName: true
+        text: group.topic.text
+    }
+    Grid {
+        width: parent.width
+        columns: 2
+        spacing: LuStyle.space
+        Repeater {
+            model: group.topic.rows
+            LuKeyCapture {
+                required property var modelData
+
+                objectName: "shortcut" + modelData.name
+                width: (parent.width - parent.spacing) / 2
+                text: modelData.text
+                capturing: group.isCaptured(modelData)
+                warning: !capturing && group.isDuplicated(modelData)
+                keys: group.keysOf(modelData, capturing, group.shortcuts.pressKeyName)
+                onClicked: {
+                    group.shortcuts.registerShortcuts(modelData.title, modelData.name, true)
+                    group.shortcuts.clearSetShortcutsName()
+                }
+                onCaptureCanceled: group.shortcuts.modifyShortcuts = false
+            }
+        }
+    }
+    LuLabel {
+        width: parent.width
+        visible: text.length > 0
+        kind: LuLabel.Caption
+        wrapMode: Text.WordWrap
+        text: group.topic.note
+    }
+}
