@@ -4,7 +4,10 @@ import QtQuick.Templates as T
 import LumenDesk.Style
 
 // A function with its key combination, each key a chip; a click changes the combination. While that is going on,
-// `pending` shows the keys pressed so far. A key of `warningKeys` is drawn as a warning.
+// `pending` shows the keys pressed so far, no key that is pressed here means anything else, and Escape gives up. A key of
+// `warningKeys` is drawn as a warning.
+//
+// Who listens to the keys fills `pending`: they may go to another program's window.
 T.AbstractButton {
     id: row
 
@@ -12,6 +15,7 @@ T.AbstractButton {
     property var warningKeys: ["!"]
     property bool capturing: false
     property string pending
+    signal captureCanceled()
 
     implicitWidth: 140
     implicitHeight: words.implicitHeight + chips.implicitHeight + LuStyle.spaceHalf + 2 * LuStyle.spaceHalf
@@ -22,12 +26,28 @@ T.AbstractButton {
     Accessible.role: Accessible.Button
     Accessible.name: text
     Accessible.description: capturing ? pending : keys.join("+")
+    Accessible.checkable: true
+    Accessible.checked: capturing
     Accessible.onPressAction: row.assistivePress()
 
     // What a click does, for the return key, assistive software and scripts.
     function assistivePress(): void {
         clicked()
     }
+
+    Keys.onShortcutOverride: event => event.accepted = row.capturing
+    Keys.onPressed: event => {
+        if (row.capturing) {
+            event.accepted = true
+            if (event.key === Qt.Key_Escape && event.modifiers === Qt.NoModifier)
+                row.captureCanceled()
+        } else if (event.key === Qt.Key_Return || event.key === Qt.Key_Enter) {
+            event.accepted = true
+            if (!event.isAutoRepeat)
+                row.assistivePress()
+        }
+    }
+    Keys.onReleased: event => event.accepted = row.capturing
 
     background: Rectangle {
         radius: LuStyle.radiusSmall
@@ -59,7 +79,7 @@ T.AbstractButton {
             width: row.width - 2 * LuStyle.spaceHalf
             spacing: LuStyle.spaceHalf
             Repeater {
-                model: row.capturing ? [row.pending || "…"] : row.keys
+                model: row.capturing ? row.pending ? row.pending.split("+") : ["…"] : row.keys
                 LuChip {
                     required property string modelData
                     text: modelData.trim()

@@ -23,15 +23,11 @@ Column {
         return revision >= 0 && shortcuts.modifyShortcuts && shortcuts.checkModifyShortcuts(row.title, row.name)
     }
 
-    function keysOf(row: var, captured: bool, pressed: string): var {
-        if (captured)
-            return shortcuts.displayKeyList(pressed)
+    function keysOf(row: var): var {
         const keys = revision >= 0 ? shortcuts.shortcutCombo(row.title, row.name) : ""
-        return shortcuts.displayKeyList(isDuplicated(row) ? keys + "+ ! " : keys)
-    }
-
-    function isDuplicated(row: var): bool {
-        return revision >= 0 && shortcuts.isShortcutDuplicated(row.title, row.name)
+        if (!keys)
+            return ["–"]
+        return shortcuts.displayKeyList(shortcuts.isShortcutDuplicated(row.title, row.name) ? keys + "+ ! " : keys)
     }
 
     LuLabel {
@@ -46,15 +42,15 @@ Column {
         spacing: LuStyle.space
         Repeater {
             model: group.topic.rows
-            LuKeyCapture {
+            LuKeyRow {
                 required property var modelData
 
                 objectName: "shortcut" + modelData.name
                 width: (parent.width - parent.spacing) / 2
                 text: modelData.text
                 capturing: group.isCaptured(modelData)
-                warning: !capturing && group.isDuplicated(modelData)
-                keys: group.keysOf(modelData, capturing, group.shortcuts.pressKeyName)
+                pending: capturing ? group.shortcuts.pressKeyName : ""
+                keys: group.keysOf(modelData)
                 onClicked: {
                     group.shortcuts.registerShortcuts(modelData.title, modelData.name, true)
                     group.shortcuts.clearSetShortcutsName()
