@@ -1116,4 +1116,118 @@
         <translation>Citlivost senzoru</translation>
     </message>
 </context>
+<context>
+    <name>LuShortcutsWidget</name>
+    <message>
+        <source>Shortcuts</source>
+        <translation>Klávesové zkratky</translation>
+    </message>
+    <message>
+        <source>The key combination can not be used.</source>
+        <translation>Tuto kombinaci kláves nelze použít.</translation>
+    </message>
+    <message>
+        <source>This shortcut cannot be used as it is currently being used by another function.</source>
+        <translation>Tuto zkratku nelze použít, protože ji právě používá jiná funkce.</translation>
+    </message>
+    <message>
+        <source>Reset All Shortcuts</source>
+        <translation>Obnovit všechny zkratky</translation>
+    </message>
+    <message>
+        <source>To reset your keyboard shortcuts, click on the 'Reset' button below. Once confirmed, the app will immediately restore the default settings.</source>
+        <translation>Chcete-li obnovit klávesové zkratky, klikněte níže na „Obnovit“. Po potvrzení aplikace ihned vrátí výchozí nastavení.</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Obnovit</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Zrušit</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutRows</name>
+    <message>
+        <source>Input</source>
+        <translation>Vstup</translation>
+    </message>
+    <message>
+        <source>Color mode</source>
+        <translation>Režim barev</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Jas</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Hlasitost</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Ochrana v noci</translation>
+    </message>
+    <message>
+        <source>EcoPrivacy</source>
+        <translation>EcoPrivacy</translation>
+    </message>
+    <message>
+        <source>KVM</source>
+        <translation>KVM</translation>
+    </message>
+    <message>
+        <source>Extra Copy/Paste</source>
+        <translation>Další kopírování a vkládání</translation>
+    </message>
+    <message>
+        <source>Decrease</source>
+        <translation>Snížit</translation>
+    </message>
+    <message>
+        <source>Increase</source>
+        <translation>Zvýšit</translation>
+    </message>
+    <message>
+        <source>TurnOn/Off</source>
+        <translation>Zapnout/vypnout</translation>
+    </message>
+    <message>
+        <source>Loop all KVM switch</source>
+        <translation>Přepínat všechny vstupy KVM</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopírovat</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Vložit</translation>
+    </message>
+    <message>
+        <source>This function supports image, text, file, and URL formats. Copying other types of content may impact the content of the clipboard.</source>
+        <translation>Tato funkce podporuje obrázky, text, soubory a adresy URL. Kopírování jiného obsahu může ovlivnit obsah schránky.</translation>
+    </message>
+    <message>
+        <source>Switch to %1</source>
+        <translation>Přepnout na %1</translation>
+    </message>
+    <message>
+        <source>Loop all color mode</source>
+        <translation>Přepínat všechny režimy barev</translation>
+    </message>
+    <message>
+        <source>Loop all Audio Mode</source>
+        <translation>Přepínat všechny režimy zvuku</translation>
+    </message>
+    <message>
+        <source>Loop all speaker output</source>
+        <translation>Přepínat všechny reproduktory</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Ztlumit</translation>
+    </message>
+</context>
 </TS>

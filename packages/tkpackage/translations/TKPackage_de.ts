@@ -1116,4 +1116,118 @@
         <translation>Sensorempfindlichkeit</translation>
     </message>
 </context>
+<context>
+    <name>LuShortcutsWidget</name>
+    <message>
+        <source>Shortcuts</source>
+        <translation>Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>The key combination can not be used.</source>
+        <translation>Diese Tastenkombination kann nicht verwendet werden.</translation>
+    </message>
+    <message>
+        <source>This shortcut cannot be used as it is currently being used by another function.</source>
+        <translation>Dieses Tastenkürzel kann nicht verwendet werden, weil es bereits für eine andere Funktion steht.</translation>
+    </message>
+    <message>
+        <source>Reset All Shortcuts</source>
+        <translation>Alle Tastenkürzel zurücksetzen</translation>
+    </message>
+    <message>
+        <source>To reset your keyboard shortcuts, click on the 'Reset' button below. Once confirmed, the app will immediately restore the default settings.</source>
+        <translation>Um die Tastenkürzel zurückzusetzen, klicken Sie unten auf „Zurücksetzen“. Nach der Bestätigung stellt die App sofort die Standardeinstellungen wieder her.</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutRows</name>
+    <message>
+        <source>Input</source>
+        <translation>Eingang</translation>
+    </message>
+    <message>
+        <source>Color mode</source>
+        <translation>Farbmodus</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Helligkeit</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Lautstärke</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Nachtschutz</translation>
+    </message>
+    <message>
+        <source>EcoPrivacy</source>
+        <translation>EcoPrivacy</translation>
+    </message>
+    <message>
+        <source>KVM</source>
+        <translation>KVM</translation>
+    </message>
+    <message>
+        <source>Extra Copy/Paste</source>
+        <translation>Zusätzliches Kopieren/Einfügen</translation>
+    </message>
+    <message>
+        <source>Decrease</source>
+        <translation>Verringern</translation>
+    </message>
+    <message>
+        <source>Increase</source>
+        <translation>Erhöhen</translation>
+    </message>
+    <message>
+        <source>TurnOn/Off</source>
+        <translation>Ein-/Ausschalten</translation>
+    </message>
+    <message>
+        <source>Loop all KVM switch</source>
+        <translation>Alle KVM-Anschlüsse durchschalten</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>This function supports image, text, file, and URL formats. Copying other types of content may impact the content of the clipboard.</source>
+        <translation>Diese Funktion unterstützt Bilder, Text, Dateien und Adressen. Das Kopieren anderer Inhalte kann den Inhalt der Zwischenablage beeinflussen.</translation>
+    </message>
+    <message>
+        <source>Switch to %1</source>
+        <translation>Zu %1 wechseln</translation>
+    </message>
+    <message>
+        <source>Loop all color mode</source>
+        <translation>Alle Farbmodi durchschalten</translation>
+    </message>
+    <message>
+        <source>Loop all Audio Mode</source>
+        <translation>Alle Audiomodi durchschalten</translation>
+    </message>
+    <message>
+        <source>Loop all speaker output</source>
+        <translation>Alle Lautsprecher durchschalten</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Stumm</translation>
+    </message>
+</context>
 </TS>

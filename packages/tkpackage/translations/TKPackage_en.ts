@@ -1116,4 +1116,118 @@
         <translation>Sensor Sensitivity</translation>
     </message>
 </context>
+<context>
+    <name>LuShortcutsWidget</name>
+    <message>
+        <source>Shortcuts</source>
+        <translation>Shortcuts</translation>
+    </message>
+    <message>
+        <source>The key combination can not be used.</source>
+        <translation>The key combination can not be used.</translation>
+    </message>
+    <message>
+        <source>This shortcut cannot be used as it is currently being used by another function.</source>
+        <translation>This shortcut cannot be used as it is currently being used by another function.</translation>
+    </message>
+    <message>
+        <source>Reset All Shortcuts</source>
+        <translation>Reset All Shortcuts</translation>
+    </message>
+    <message>
+        <source>To reset your keyboard shortcuts, click on the 'Reset' button below. Once confirmed, the app will immediately restore the default settings.</source>
+        <translation>To reset your keyboard shortcuts, click on the 'Reset' button below. Once confirmed, the app will immediately restore the default settings.</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Reset</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutRows</name>
+    <message>
+        <source>Input</source>
+        <translation>Input</translation>
+    </message>
+    <message>
+        <source>Color mode</source>
+        <translation>Color mode</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Brightness</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volume</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Night Hours Protection</translation>
+    </message>
+    <message>
+        <source>EcoPrivacy</source>
+        <translation>EcoPrivacy</translation>
+    </message>
+    <message>
+        <source>KVM</source>
+        <translation>KVM</translation>
+    </message>
+    <message>
+        <source>Extra Copy/Paste</source>
+        <translation>Extra Copy/Paste</translation>
+    </message>
+    <message>
+        <source>Decrease</source>
+        <translation>Decrease</translation>
+    </message>
+    <message>
+        <source>Increase</source>
+        <translation>Increase</translation>
+    </message>
+    <message>
+        <source>TurnOn/Off</source>
+        <translation>TurnOn/Off</translation>
+    </message>
+    <message>
+        <source>Loop all KVM switch</source>
+        <translation>Loop all KVM switch</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copy</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Paste</translation>
+    </message>
+    <message>
+        <source>This function supports image, text, file, and URL formats. Copying other types of content may impact the content of the clipboard.</source>
+        <translation>This function supports image, text, file, and URL formats. Copying other types of content may impact the content of the clipboard.</translation>
+    </message>
+    <message>
+        <source>Switch to %1</source>
+        <translation>Switch to %1</translation>
+    </message>
+    <message>
+        <source>Loop all color mode</source>
+        <translation>Loop all color mode</translation>
+    </message>
+    <message>
+        <source>Loop all Audio Mode</source>
+        <translation>Loop all Audio Mode</translation>
+    </message>
+    <message>
+        <source>Loop all speaker output</source>
+        <translation>Loop all speaker output</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Mute</translation>
+    </message>
+</context>
 </TS>

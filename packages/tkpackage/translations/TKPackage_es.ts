@@ -1116,4 +1116,118 @@
         <translation>Sensibilidad del sensor</translation>
     </message>
 </context>
+<context>
+    <name>LuShortcutsWidget</name>
+    <message>
+        <source>Shortcuts</source>
+        <translation>Atajos</translation>
+    </message>
+    <message>
+        <source>The key combination can not be used.</source>
+        <translation>No se puede usar esta combinación de teclas.</translation>
+    </message>
+    <message>
+        <source>This shortcut cannot be used as it is currently being used by another function.</source>
+        <translation>Este atajo no se puede usar porque ya lo utiliza otra función.</translation>
+    </message>
+    <message>
+        <source>Reset All Shortcuts</source>
+        <translation>Restablecer todos los atajos</translation>
+    </message>
+    <message>
+        <source>To reset your keyboard shortcuts, click on the 'Reset' button below. Once confirmed, the app will immediately restore the default settings.</source>
+        <translation>Para restablecer los atajos de teclado, haga clic en «Restablecer». Al confirmar, la aplicación recupera de inmediato los ajustes predeterminados.</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Restablecer</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutRows</name>
+    <message>
+        <source>Input</source>
+        <translation>Entrada</translation>
+    </message>
+    <message>
+        <source>Color mode</source>
+        <translation>Modo de color</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Brillo</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volumen</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Protección nocturna</translation>
+    </message>
+    <message>
+        <source>EcoPrivacy</source>
+        <translation>EcoPrivacy</translation>
+    </message>
+    <message>
+        <source>KVM</source>
+        <translation>KVM</translation>
+    </message>
+    <message>
+        <source>Extra Copy/Paste</source>
+        <translation>Copiar/pegar adicional</translation>
+    </message>
+    <message>
+        <source>Decrease</source>
+        <translation>Reducir</translation>
+    </message>
+    <message>
+        <source>Increase</source>
+        <translation>Aumentar</translation>
+    </message>
+    <message>
+        <source>TurnOn/Off</source>
+        <translation>Activar/desactivar</translation>
+    </message>
+    <message>
+        <source>Loop all KVM switch</source>
+        <translation>Recorrer todos los puertos KVM</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Pegar</translation>
+    </message>
+    <message>
+        <source>This function supports image, text, file, and URL formats. Copying other types of content may impact the content of the clipboard.</source>
+        <translation>Esta función admite imágenes, texto, archivos y URL. Copiar otros contenidos puede afectar al portapapeles.</translation>
+    </message>
+    <message>
+        <source>Switch to %1</source>
+        <translation>Cambiar a %1</translation>
+    </message>
+    <message>
+        <source>Loop all color mode</source>
+        <translation>Recorrer todos los modos de color</translation>
+    </message>
+    <message>
+        <source>Loop all Audio Mode</source>
+        <translation>Recorrer todos los modos de audio</translation>
+    </message>
+    <message>
+        <source>Loop all speaker output</source>
+        <translation>Recorrer todas las salidas de audio</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Silenciar</translation>
+    </message>
+</context>
 </TS>

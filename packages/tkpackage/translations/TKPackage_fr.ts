@@ -1116,4 +1116,118 @@
         <translation>Sensibilité du capteur</translation>
     </message>
 </context>
+<context>
+    <name>LuShortcutsWidget</name>
+    <message>
+        <source>Shortcuts</source>
+        <translation>Raccourcis</translation>
+    </message>
+    <message>
+        <source>The key combination can not be used.</source>
+        <translation>Cette combinaison de touches ne peut pas être utilisée.</translation>
+    </message>
+    <message>
+        <source>This shortcut cannot be used as it is currently being used by another function.</source>
+        <translation>Ce raccourci ne peut pas être utilisé, car une autre fonction l'utilise déjà.</translation>
+    </message>
+    <message>
+        <source>Reset All Shortcuts</source>
+        <translation>Réinitialiser tous les raccourcis</translation>
+    </message>
+    <message>
+        <source>To reset your keyboard shortcuts, click on the 'Reset' button below. Once confirmed, the app will immediately restore the default settings.</source>
+        <translation>Pour réinitialiser les raccourcis clavier, cliquez sur « Réinitialiser » ci-dessous. Après confirmation, l'application rétablit aussitôt les réglages par défaut.</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Réinitialiser</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutRows</name>
+    <message>
+        <source>Input</source>
+        <translation>Entrée</translation>
+    </message>
+    <message>
+        <source>Color mode</source>
+        <translation>Mode couleur</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Luminosité</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volume</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Protection nocturne</translation>
+    </message>
+    <message>
+        <source>EcoPrivacy</source>
+        <translation>EcoPrivacy</translation>
+    </message>
+    <message>
+        <source>KVM</source>
+        <translation>KVM</translation>
+    </message>
+    <message>
+        <source>Extra Copy/Paste</source>
+        <translation>Copier/coller supplémentaire</translation>
+    </message>
+    <message>
+        <source>Decrease</source>
+        <translation>Diminuer</translation>
+    </message>
+    <message>
+        <source>Increase</source>
+        <translation>Augmenter</translation>
+    </message>
+    <message>
+        <source>TurnOn/Off</source>
+        <translation>Activer/désactiver</translation>
+    </message>
+    <message>
+        <source>Loop all KVM switch</source>
+        <translation>Parcourir les ports KVM</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Coller</translation>
+    </message>
+    <message>
+        <source>This function supports image, text, file, and URL formats. Copying other types of content may impact the content of the clipboard.</source>
+        <translation>Cette fonction prend en charge images, textes, fichiers et URL. La copie d'autres contenus peut modifier le presse-papiers.</translation>
+    </message>
+    <message>
+        <source>Switch to %1</source>
+        <translation>Passer à %1</translation>
+    </message>
+    <message>
+        <source>Loop all color mode</source>
+        <translation>Parcourir les modes couleur</translation>
+    </message>
+    <message>
+        <source>Loop all Audio Mode</source>
+        <translation>Parcourir les modes audio</translation>
+    </message>
+    <message>
+        <source>Loop all speaker output</source>
+        <translation>Parcourir les sorties audio</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Muet</translation>
+    </message>
+</context>
 </TS>

@@ -1116,4 +1116,118 @@
         <translation>Osjetljivost senzora</translation>
     </message>
 </context>
+<context>
+    <name>LuShortcutsWidget</name>
+    <message>
+        <source>Shortcuts</source>
+        <translation>Prečaci</translation>
+    </message>
+    <message>
+        <source>The key combination can not be used.</source>
+        <translation>Ova se kombinacija tipki ne može koristiti.</translation>
+    </message>
+    <message>
+        <source>This shortcut cannot be used as it is currently being used by another function.</source>
+        <translation>Ovaj se prečac ne može koristiti jer ga već koristi druga funkcija.</translation>
+    </message>
+    <message>
+        <source>Reset All Shortcuts</source>
+        <translation>Vrati sve prečace</translation>
+    </message>
+    <message>
+        <source>To reset your keyboard shortcuts, click on the 'Reset' button below. Once confirmed, the app will immediately restore the default settings.</source>
+        <translation>Za vraćanje prečaca kliknite „Vrati“ u nastavku. Nakon potvrde aplikacija odmah vraća zadane postavke.</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Vrati</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Odustani</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutRows</name>
+    <message>
+        <source>Input</source>
+        <translation>Ulaz</translation>
+    </message>
+    <message>
+        <source>Color mode</source>
+        <translation>Način boja</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Svjetlina</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Glasnoća</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Noćna zaštita</translation>
+    </message>
+    <message>
+        <source>EcoPrivacy</source>
+        <translation>EcoPrivacy</translation>
+    </message>
+    <message>
+        <source>KVM</source>
+        <translation>KVM</translation>
+    </message>
+    <message>
+        <source>Extra Copy/Paste</source>
+        <translation>Dodatno kopiranje/lijepljenje</translation>
+    </message>
+    <message>
+        <source>Decrease</source>
+        <translation>Smanji</translation>
+    </message>
+    <message>
+        <source>Increase</source>
+        <translation>Povećaj</translation>
+    </message>
+    <message>
+        <source>TurnOn/Off</source>
+        <translation>Uključi/isključi</translation>
+    </message>
+    <message>
+        <source>Loop all KVM switch</source>
+        <translation>Prolazi kroz sve KVM priključke</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopiraj</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Zalijepi</translation>
+    </message>
+    <message>
+        <source>This function supports image, text, file, and URL formats. Copying other types of content may impact the content of the clipboard.</source>
+        <translation>Ova funkcija podržava slike, tekst, datoteke i URL-ove. Kopiranje drugih sadržaja može utjecati na međuspremnik.</translation>
+    </message>
+    <message>
+        <source>Switch to %1</source>
+        <translation>Prebaci na %1</translation>
+    </message>
+    <message>
+        <source>Loop all color mode</source>
+        <translation>Prolazi kroz sve načine boja</translation>
+    </message>
+    <message>
+        <source>Loop all Audio Mode</source>
+        <translation>Prolazi kroz sve načine zvuka</translation>
+    </message>
+    <message>
+        <source>Loop all speaker output</source>
+        <translation>Prolazi kroz sve zvučnike</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Utišaj</translation>
+    </message>
+</context>
 </TS>

@@ -1116,4 +1116,118 @@
         <translation>Érzékelő érzékenysége</translation>
     </message>
 </context>
+<context>
+    <name>LuShortcutsWidget</name>
+    <message>
+        <source>Shortcuts</source>
+        <translation>Billentyűparancsok</translation>
+    </message>
+    <message>
+        <source>The key combination can not be used.</source>
+        <translation>Ez a billentyűkombináció nem használható.</translation>
+    </message>
+    <message>
+        <source>This shortcut cannot be used as it is currently being used by another function.</source>
+        <translation>Ez a billentyűparancs nem használható, mert már egy másik funkcióhoz tartozik.</translation>
+    </message>
+    <message>
+        <source>Reset All Shortcuts</source>
+        <translation>Összes billentyűparancs visszaállítása</translation>
+    </message>
+    <message>
+        <source>To reset your keyboard shortcuts, click on the 'Reset' button below. Once confirmed, the app will immediately restore the default settings.</source>
+        <translation>A billentyűparancsok visszaállításához kattintson alább a „Visszaállítás” gombra. Megerősítés után az alkalmazás azonnal visszaállítja az alapértékeket.</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Visszaállítás</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Mégse</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutRows</name>
+    <message>
+        <source>Input</source>
+        <translation>Bemenet</translation>
+    </message>
+    <message>
+        <source>Color mode</source>
+        <translation>Színmód</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Fényerő</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Hangerő</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Éjszakai védelem</translation>
+    </message>
+    <message>
+        <source>EcoPrivacy</source>
+        <translation>EcoPrivacy</translation>
+    </message>
+    <message>
+        <source>KVM</source>
+        <translation>KVM</translation>
+    </message>
+    <message>
+        <source>Extra Copy/Paste</source>
+        <translation>Külön másolás/beillesztés</translation>
+    </message>
+    <message>
+        <source>Decrease</source>
+        <translation>Csökkentés</translation>
+    </message>
+    <message>
+        <source>Increase</source>
+        <translation>Növelés</translation>
+    </message>
+    <message>
+        <source>TurnOn/Off</source>
+        <translation>Be-/kikapcsolás</translation>
+    </message>
+    <message>
+        <source>Loop all KVM switch</source>
+        <translation>KVM-portok léptetése</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Másolás</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Beillesztés</translation>
+    </message>
+    <message>
+        <source>This function supports image, text, file, and URL formats. Copying other types of content may impact the content of the clipboard.</source>
+        <translation>A funkció képet, szöveget, fájlt és URL-t támogat. Más tartalom másolása hatással lehet a vágólapra.</translation>
+    </message>
+    <message>
+        <source>Switch to %1</source>
+        <translation>Váltás: %1</translation>
+    </message>
+    <message>
+        <source>Loop all color mode</source>
+        <translation>Színmódok léptetése</translation>
+    </message>
+    <message>
+        <source>Loop all Audio Mode</source>
+        <translation>Hangmódok léptetése</translation>
+    </message>
+    <message>
+        <source>Loop all speaker output</source>
+        <translation>Hangkimenetek léptetése</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Némítás</translation>
+    </message>
+</context>
 </TS>

@@ -1116,4 +1116,118 @@
         <translation>Sensibilità del sensore</translation>
     </message>
 </context>
+<context>
+    <name>LuShortcutsWidget</name>
+    <message>
+        <source>Shortcuts</source>
+        <translation>Scorciatoie</translation>
+    </message>
+    <message>
+        <source>The key combination can not be used.</source>
+        <translation>Questa combinazione di tasti non può essere usata.</translation>
+    </message>
+    <message>
+        <source>This shortcut cannot be used as it is currently being used by another function.</source>
+        <translation>Questa scorciatoia non può essere usata perché è già assegnata a un'altra funzione.</translation>
+    </message>
+    <message>
+        <source>Reset All Shortcuts</source>
+        <translation>Reimposta tutte le scorciatoie</translation>
+    </message>
+    <message>
+        <source>To reset your keyboard shortcuts, click on the 'Reset' button below. Once confirmed, the app will immediately restore the default settings.</source>
+        <translation>Per reimpostare le scorciatoie fare clic su “Reimposta” qui sotto. Dopo la conferma l'app ripristina subito le impostazioni predefinite.</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Reimposta</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutRows</name>
+    <message>
+        <source>Input</source>
+        <translation>Ingresso</translation>
+    </message>
+    <message>
+        <source>Color mode</source>
+        <translation>Modalità colore</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Luminosità</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volume</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Protezione notturna</translation>
+    </message>
+    <message>
+        <source>EcoPrivacy</source>
+        <translation>EcoPrivacy</translation>
+    </message>
+    <message>
+        <source>KVM</source>
+        <translation>KVM</translation>
+    </message>
+    <message>
+        <source>Extra Copy/Paste</source>
+        <translation>Copia/incolla aggiuntivo</translation>
+    </message>
+    <message>
+        <source>Decrease</source>
+        <translation>Diminuisci</translation>
+    </message>
+    <message>
+        <source>Increase</source>
+        <translation>Aumenta</translation>
+    </message>
+    <message>
+        <source>TurnOn/Off</source>
+        <translation>Attiva/disattiva</translation>
+    </message>
+    <message>
+        <source>Loop all KVM switch</source>
+        <translation>Scorri tutte le porte KVM</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copia</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Incolla</translation>
+    </message>
+    <message>
+        <source>This function supports image, text, file, and URL formats. Copying other types of content may impact the content of the clipboard.</source>
+        <translation>Questa funzione supporta immagini, testo, file e URL. Copiare altri contenuti può alterare gli Appunti.</translation>
+    </message>
+    <message>
+        <source>Switch to %1</source>
+        <translation>Passa a %1</translation>
+    </message>
+    <message>
+        <source>Loop all color mode</source>
+        <translation>Scorri tutte le modalità colore</translation>
+    </message>
+    <message>
+        <source>Loop all Audio Mode</source>
+        <translation>Scorri tutte le modalità audio</translation>
+    </message>
+    <message>
+        <source>Loop all speaker output</source>
+        <translation>Scorri tutte le uscite audio</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Disattiva audio</translation>
+    </message>
+</context>
 </TS>

@@ -1116,4 +1116,118 @@
         <translation>センサー感度</translation>
     </message>
 </context>
+<context>
+    <name>LuShortcutsWidget</name>
+    <message>
+        <source>Shortcuts</source>
+        <translation>ショートカット</translation>
+    </message>
+    <message>
+        <source>The key combination can not be used.</source>
+        <translation>このキーの組み合わせは使用できません。</translation>
+    </message>
+    <message>
+        <source>This shortcut cannot be used as it is currently being used by another function.</source>
+        <translation>このショートカットは別の機能で使用されているため、使用できません。</translation>
+    </message>
+    <message>
+        <source>Reset All Shortcuts</source>
+        <translation>すべてのショートカットをリセット</translation>
+    </message>
+    <message>
+        <source>To reset your keyboard shortcuts, click on the 'Reset' button below. Once confirmed, the app will immediately restore the default settings.</source>
+        <translation>ショートカットをリセットするには、下の「リセット」をクリックしてください。確認後、すぐに既定の設定に戻ります。</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>リセット</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutRows</name>
+    <message>
+        <source>Input</source>
+        <translation>入力</translation>
+    </message>
+    <message>
+        <source>Color mode</source>
+        <translation>カラーモード</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>明るさ</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>音量</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>夜間保護</translation>
+    </message>
+    <message>
+        <source>EcoPrivacy</source>
+        <translation>EcoPrivacy</translation>
+    </message>
+    <message>
+        <source>KVM</source>
+        <translation>KVM</translation>
+    </message>
+    <message>
+        <source>Extra Copy/Paste</source>
+        <translation>追加のコピー/貼り付け</translation>
+    </message>
+    <message>
+        <source>Decrease</source>
+        <translation>下げる</translation>
+    </message>
+    <message>
+        <source>Increase</source>
+        <translation>上げる</translation>
+    </message>
+    <message>
+        <source>TurnOn/Off</source>
+        <translation>オン/オフ</translation>
+    </message>
+    <message>
+        <source>Loop all KVM switch</source>
+        <translation>KVMを順に切り替え</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>コピー</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>貼り付け</translation>
+    </message>
+    <message>
+        <source>This function supports image, text, file, and URL formats. Copying other types of content may impact the content of the clipboard.</source>
+        <translation>この機能は画像、テキスト、ファイル、URLに対応しています。その他の内容をコピーすると、クリップボードの内容に影響することがあります。</translation>
+    </message>
+    <message>
+        <source>Switch to %1</source>
+        <translation>%1に切り替え</translation>
+    </message>
+    <message>
+        <source>Loop all color mode</source>
+        <translation>カラーモードを順に切り替え</translation>
+    </message>
+    <message>
+        <source>Loop all Audio Mode</source>
+        <translation>オーディオモードを順に切り替え</translation>
+    </message>
+    <message>
+        <source>Loop all speaker output</source>
+        <translation>スピーカー出力を順に切り替え</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>消音</translation>
+    </message>
+</context>
 </TS>

@@ -1116,4 +1116,118 @@
         <translation>센서 감도</translation>
     </message>
 </context>
+<context>
+    <name>LuShortcutsWidget</name>
+    <message>
+        <source>Shortcuts</source>
+        <translation>단축키</translation>
+    </message>
+    <message>
+        <source>The key combination can not be used.</source>
+        <translation>이 키 조합은 사용할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>This shortcut cannot be used as it is currently being used by another function.</source>
+        <translation>이 단축키는 다른 기능에서 사용 중이므로 사용할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Reset All Shortcuts</source>
+        <translation>모든 단축키 초기화</translation>
+    </message>
+    <message>
+        <source>To reset your keyboard shortcuts, click on the 'Reset' button below. Once confirmed, the app will immediately restore the default settings.</source>
+        <translation>단축키를 초기화하려면 아래의 '초기화' 단추를 누르세요. 확인하면 앱이 기본 설정을 바로 되돌립니다.</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>초기화</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutRows</name>
+    <message>
+        <source>Input</source>
+        <translation>입력</translation>
+    </message>
+    <message>
+        <source>Color mode</source>
+        <translation>색상 모드</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>밝기</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>음량</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>야간 보호</translation>
+    </message>
+    <message>
+        <source>EcoPrivacy</source>
+        <translation>EcoPrivacy</translation>
+    </message>
+    <message>
+        <source>KVM</source>
+        <translation>KVM</translation>
+    </message>
+    <message>
+        <source>Extra Copy/Paste</source>
+        <translation>추가 복사/붙여넣기</translation>
+    </message>
+    <message>
+        <source>Decrease</source>
+        <translation>낮추기</translation>
+    </message>
+    <message>
+        <source>Increase</source>
+        <translation>높이기</translation>
+    </message>
+    <message>
+        <source>TurnOn/Off</source>
+        <translation>켜기/끄기</translation>
+    </message>
+    <message>
+        <source>Loop all KVM switch</source>
+        <translation>모든 KVM 순환</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>복사</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>붙여넣기</translation>
+    </message>
+    <message>
+        <source>This function supports image, text, file, and URL formats. Copying other types of content may impact the content of the clipboard.</source>
+        <translation>이 기능은 이미지, 텍스트, 파일, URL 형식을 지원합니다. 다른 내용을 복사하면 클립보드 내용에 영향을 줄 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>Switch to %1</source>
+        <translation>%1(으)로 전환</translation>
+    </message>
+    <message>
+        <source>Loop all color mode</source>
+        <translation>모든 색상 모드 순환</translation>
+    </message>
+    <message>
+        <source>Loop all Audio Mode</source>
+        <translation>모든 오디오 모드 순환</translation>
+    </message>
+    <message>
+        <source>Loop all speaker output</source>
+        <translation>모든 스피커 출력 순환</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>음소거</translation>
+    </message>
+</context>
 </TS>

@@ -1116,4 +1116,118 @@
         <translation>Sensorgevoeligheid</translation>
     </message>
 </context>
+<context>
+    <name>LuShortcutsWidget</name>
+    <message>
+        <source>Shortcuts</source>
+        <translation>Sneltoetsen</translation>
+    </message>
+    <message>
+        <source>The key combination can not be used.</source>
+        <translation>Deze toetsencombinatie kan niet worden gebruikt.</translation>
+    </message>
+    <message>
+        <source>This shortcut cannot be used as it is currently being used by another function.</source>
+        <translation>Deze sneltoets kan niet worden gebruikt omdat een andere functie hem al gebruikt.</translation>
+    </message>
+    <message>
+        <source>Reset All Shortcuts</source>
+        <translation>Alle sneltoetsen herstellen</translation>
+    </message>
+    <message>
+        <source>To reset your keyboard shortcuts, click on the 'Reset' button below. Once confirmed, the app will immediately restore the default settings.</source>
+        <translation>Klik hieronder op ‘Herstellen’ om de sneltoetsen te herstellen. Na bevestiging zet de app direct de standaardinstellingen terug.</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Herstellen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutRows</name>
+    <message>
+        <source>Input</source>
+        <translation>Ingang</translation>
+    </message>
+    <message>
+        <source>Color mode</source>
+        <translation>Kleurmodus</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Helderheid</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volume</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Nachtbescherming</translation>
+    </message>
+    <message>
+        <source>EcoPrivacy</source>
+        <translation>EcoPrivacy</translation>
+    </message>
+    <message>
+        <source>KVM</source>
+        <translation>KVM</translation>
+    </message>
+    <message>
+        <source>Extra Copy/Paste</source>
+        <translation>Extra kopiëren/plakken</translation>
+    </message>
+    <message>
+        <source>Decrease</source>
+        <translation>Verlagen</translation>
+    </message>
+    <message>
+        <source>Increase</source>
+        <translation>Verhogen</translation>
+    </message>
+    <message>
+        <source>TurnOn/Off</source>
+        <translation>In-/uitschakelen</translation>
+    </message>
+    <message>
+        <source>Loop all KVM switch</source>
+        <translation>Alle KVM-poorten doorlopen</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopiëren</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Plakken</translation>
+    </message>
+    <message>
+        <source>This function supports image, text, file, and URL formats. Copying other types of content may impact the content of the clipboard.</source>
+        <translation>Deze functie ondersteunt afbeeldingen, tekst, bestanden en URL's. Het kopiëren van andere inhoud kan het klembord beïnvloeden.</translation>
+    </message>
+    <message>
+        <source>Switch to %1</source>
+        <translation>Overschakelen naar %1</translation>
+    </message>
+    <message>
+        <source>Loop all color mode</source>
+        <translation>Alle kleurmodi doorlopen</translation>
+    </message>
+    <message>
+        <source>Loop all Audio Mode</source>
+        <translation>Alle audiomodi doorlopen</translation>
+    </message>
+    <message>
+        <source>Loop all speaker output</source>
+        <translation>Alle luidsprekers doorlopen</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Dempen</translation>
+    </message>
+</context>
 </TS>

@@ -1116,4 +1116,118 @@
         <translation>Czułość czujnika</translation>
     </message>
 </context>
+<context>
+    <name>LuShortcutsWidget</name>
+    <message>
+        <source>Shortcuts</source>
+        <translation>Skróty</translation>
+    </message>
+    <message>
+        <source>The key combination can not be used.</source>
+        <translation>Nie można użyć tej kombinacji klawiszy.</translation>
+    </message>
+    <message>
+        <source>This shortcut cannot be used as it is currently being used by another function.</source>
+        <translation>Nie można użyć tego skrótu, ponieważ korzysta z niego inna funkcja.</translation>
+    </message>
+    <message>
+        <source>Reset All Shortcuts</source>
+        <translation>Przywróć wszystkie skróty</translation>
+    </message>
+    <message>
+        <source>To reset your keyboard shortcuts, click on the 'Reset' button below. Once confirmed, the app will immediately restore the default settings.</source>
+        <translation>Aby przywrócić skróty klawiszowe, kliknij poniżej „Przywróć”. Po potwierdzeniu aplikacja natychmiast wróci do ustawień domyślnych.</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Przywróć</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Anuluj</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutRows</name>
+    <message>
+        <source>Input</source>
+        <translation>Wejście</translation>
+    </message>
+    <message>
+        <source>Color mode</source>
+        <translation>Tryb kolorów</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Jasność</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Głośność</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Ochrona nocna</translation>
+    </message>
+    <message>
+        <source>EcoPrivacy</source>
+        <translation>EcoPrivacy</translation>
+    </message>
+    <message>
+        <source>KVM</source>
+        <translation>KVM</translation>
+    </message>
+    <message>
+        <source>Extra Copy/Paste</source>
+        <translation>Dodatkowe kopiowanie/wklejanie</translation>
+    </message>
+    <message>
+        <source>Decrease</source>
+        <translation>Zmniejsz</translation>
+    </message>
+    <message>
+        <source>Increase</source>
+        <translation>Zwiększ</translation>
+    </message>
+    <message>
+        <source>TurnOn/Off</source>
+        <translation>Włącz/wyłącz</translation>
+    </message>
+    <message>
+        <source>Loop all KVM switch</source>
+        <translation>Przełączaj kolejno porty KVM</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopiuj</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Wklej</translation>
+    </message>
+    <message>
+        <source>This function supports image, text, file, and URL formats. Copying other types of content may impact the content of the clipboard.</source>
+        <translation>Ta funkcja obsługuje obrazy, tekst, pliki i adresy URL. Kopiowanie innych treści może wpłynąć na zawartość schowka.</translation>
+    </message>
+    <message>
+        <source>Switch to %1</source>
+        <translation>Przełącz na %1</translation>
+    </message>
+    <message>
+        <source>Loop all color mode</source>
+        <translation>Przełączaj kolejno tryby kolorów</translation>
+    </message>
+    <message>
+        <source>Loop all Audio Mode</source>
+        <translation>Przełączaj kolejno tryby dźwięku</translation>
+    </message>
+    <message>
+        <source>Loop all speaker output</source>
+        <translation>Przełączaj kolejno głośniki</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Wycisz</translation>
+    </message>
+</context>
 </TS>

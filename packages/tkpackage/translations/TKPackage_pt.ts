@@ -1116,4 +1116,118 @@
         <translation>Sensibilidade do sensor</translation>
     </message>
 </context>
+<context>
+    <name>LuShortcutsWidget</name>
+    <message>
+        <source>Shortcuts</source>
+        <translation>Atalhos</translation>
+    </message>
+    <message>
+        <source>The key combination can not be used.</source>
+        <translation>Não é possível usar esta combinação de teclas.</translation>
+    </message>
+    <message>
+        <source>This shortcut cannot be used as it is currently being used by another function.</source>
+        <translation>Este atalho não pode ser usado porque já é utilizado por outra função.</translation>
+    </message>
+    <message>
+        <source>Reset All Shortcuts</source>
+        <translation>Repor todos os atalhos</translation>
+    </message>
+    <message>
+        <source>To reset your keyboard shortcuts, click on the 'Reset' button below. Once confirmed, the app will immediately restore the default settings.</source>
+        <translation>Para repor os atalhos de teclado, clique em “Repor” abaixo. Depois de confirmar, a aplicação volta logo às predefinições.</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Repor</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutRows</name>
+    <message>
+        <source>Input</source>
+        <translation>Entrada</translation>
+    </message>
+    <message>
+        <source>Color mode</source>
+        <translation>Modo de cor</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Brilho</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volume</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Proteção noturna</translation>
+    </message>
+    <message>
+        <source>EcoPrivacy</source>
+        <translation>EcoPrivacy</translation>
+    </message>
+    <message>
+        <source>KVM</source>
+        <translation>KVM</translation>
+    </message>
+    <message>
+        <source>Extra Copy/Paste</source>
+        <translation>Copiar/colar adicional</translation>
+    </message>
+    <message>
+        <source>Decrease</source>
+        <translation>Diminuir</translation>
+    </message>
+    <message>
+        <source>Increase</source>
+        <translation>Aumentar</translation>
+    </message>
+    <message>
+        <source>TurnOn/Off</source>
+        <translation>Ligar/desligar</translation>
+    </message>
+    <message>
+        <source>Loop all KVM switch</source>
+        <translation>Percorrer todas as portas KVM</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Colar</translation>
+    </message>
+    <message>
+        <source>This function supports image, text, file, and URL formats. Copying other types of content may impact the content of the clipboard.</source>
+        <translation>Esta função suporta imagens, texto, ficheiros e URL. Copiar outros conteúdos pode afetar a área de transferência.</translation>
+    </message>
+    <message>
+        <source>Switch to %1</source>
+        <translation>Mudar para %1</translation>
+    </message>
+    <message>
+        <source>Loop all color mode</source>
+        <translation>Percorrer todos os modos de cor</translation>
+    </message>
+    <message>
+        <source>Loop all Audio Mode</source>
+        <translation>Percorrer todos os modos de áudio</translation>
+    </message>
+    <message>
+        <source>Loop all speaker output</source>
+        <translation>Percorrer todas as saídas de som</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Silenciar</translation>
+    </message>
+</context>
 </TS>

@@ -1116,4 +1116,118 @@
         <translation>Sensibilitatea senzorului</translation>
     </message>
 </context>
+<context>
+    <name>LuShortcutsWidget</name>
+    <message>
+        <source>Shortcuts</source>
+        <translation>Comenzi rapide</translation>
+    </message>
+    <message>
+        <source>The key combination can not be used.</source>
+        <translation>Această combinație de taste nu poate fi folosită.</translation>
+    </message>
+    <message>
+        <source>This shortcut cannot be used as it is currently being used by another function.</source>
+        <translation>Această comandă rapidă nu poate fi folosită, deoarece aparține deja altei funcții.</translation>
+    </message>
+    <message>
+        <source>Reset All Shortcuts</source>
+        <translation>Resetați toate comenzile rapide</translation>
+    </message>
+    <message>
+        <source>To reset your keyboard shortcuts, click on the 'Reset' button below. Once confirmed, the app will immediately restore the default settings.</source>
+        <translation>Pentru a reseta comenzile rapide, faceți clic pe „Resetare” mai jos. După confirmare, aplicația revine imediat la setările implicite.</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Resetare</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Anulare</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutRows</name>
+    <message>
+        <source>Input</source>
+        <translation>Intrare</translation>
+    </message>
+    <message>
+        <source>Color mode</source>
+        <translation>Mod de culoare</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Luminozitate</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volum</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Protecție nocturnă</translation>
+    </message>
+    <message>
+        <source>EcoPrivacy</source>
+        <translation>EcoPrivacy</translation>
+    </message>
+    <message>
+        <source>KVM</source>
+        <translation>KVM</translation>
+    </message>
+    <message>
+        <source>Extra Copy/Paste</source>
+        <translation>Copiere/lipire suplimentară</translation>
+    </message>
+    <message>
+        <source>Decrease</source>
+        <translation>Micșorare</translation>
+    </message>
+    <message>
+        <source>Increase</source>
+        <translation>Mărire</translation>
+    </message>
+    <message>
+        <source>TurnOn/Off</source>
+        <translation>Pornire/oprire</translation>
+    </message>
+    <message>
+        <source>Loop all KVM switch</source>
+        <translation>Parcurgere porturi KVM</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiere</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Lipire</translation>
+    </message>
+    <message>
+        <source>This function supports image, text, file, and URL formats. Copying other types of content may impact the content of the clipboard.</source>
+        <translation>Această funcție acceptă imagini, text, fișiere și adrese URL. Copierea altor conținuturi poate afecta clipboardul.</translation>
+    </message>
+    <message>
+        <source>Switch to %1</source>
+        <translation>Comutare la %1</translation>
+    </message>
+    <message>
+        <source>Loop all color mode</source>
+        <translation>Parcurgere moduri de culoare</translation>
+    </message>
+    <message>
+        <source>Loop all Audio Mode</source>
+        <translation>Parcurgere moduri audio</translation>
+    </message>
+    <message>
+        <source>Loop all speaker output</source>
+        <translation>Parcurgere ieșiri audio</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Fără sunet</translation>
+    </message>
+</context>
 </TS>

@@ -1116,4 +1116,118 @@
         <translation>Чувствительность датчика</translation>
     </message>
 </context>
+<context>
+    <name>LuShortcutsWidget</name>
+    <message>
+        <source>Shortcuts</source>
+        <translation>Сочетания клавиш</translation>
+    </message>
+    <message>
+        <source>The key combination can not be used.</source>
+        <translation>Это сочетание клавиш нельзя использовать.</translation>
+    </message>
+    <message>
+        <source>This shortcut cannot be used as it is currently being used by another function.</source>
+        <translation>Это сочетание нельзя использовать: оно уже занято другой функцией.</translation>
+    </message>
+    <message>
+        <source>Reset All Shortcuts</source>
+        <translation>Сбросить все сочетания</translation>
+    </message>
+    <message>
+        <source>To reset your keyboard shortcuts, click on the 'Reset' button below. Once confirmed, the app will immediately restore the default settings.</source>
+        <translation>Чтобы сбросить сочетания клавиш, нажмите ниже «Сбросить». После подтверждения программа сразу вернёт стандартные настройки.</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Сбросить</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutRows</name>
+    <message>
+        <source>Input</source>
+        <translation>Вход</translation>
+    </message>
+    <message>
+        <source>Color mode</source>
+        <translation>Цветовой режим</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Яркость</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Громкость</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Ночная защита</translation>
+    </message>
+    <message>
+        <source>EcoPrivacy</source>
+        <translation>EcoPrivacy</translation>
+    </message>
+    <message>
+        <source>KVM</source>
+        <translation>KVM</translation>
+    </message>
+    <message>
+        <source>Extra Copy/Paste</source>
+        <translation>Доп. копирование и вставка</translation>
+    </message>
+    <message>
+        <source>Decrease</source>
+        <translation>Уменьшить</translation>
+    </message>
+    <message>
+        <source>Increase</source>
+        <translation>Увеличить</translation>
+    </message>
+    <message>
+        <source>TurnOn/Off</source>
+        <translation>Вкл./выкл.</translation>
+    </message>
+    <message>
+        <source>Loop all KVM switch</source>
+        <translation>Переключать KVM по кругу</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Копировать</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Вставить</translation>
+    </message>
+    <message>
+        <source>This function supports image, text, file, and URL formats. Copying other types of content may impact the content of the clipboard.</source>
+        <translation>Поддерживаются изображения, текст, файлы и адреса. Копирование другого содержимого может повлиять на буфер обмена.</translation>
+    </message>
+    <message>
+        <source>Switch to %1</source>
+        <translation>Переключить на %1</translation>
+    </message>
+    <message>
+        <source>Loop all color mode</source>
+        <translation>Переключать режимы по кругу</translation>
+    </message>
+    <message>
+        <source>Loop all Audio Mode</source>
+        <translation>Переключать режимы звука по кругу</translation>
+    </message>
+    <message>
+        <source>Loop all speaker output</source>
+        <translation>Переключать динамики по кругу</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Без звука</translation>
+    </message>
+</context>
 </TS>

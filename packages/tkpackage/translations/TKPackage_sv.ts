@@ -1116,4 +1116,118 @@
         <translation>Sensorns känslighet</translation>
     </message>
 </context>
+<context>
+    <name>LuShortcutsWidget</name>
+    <message>
+        <source>Shortcuts</source>
+        <translation>Kortkommandon</translation>
+    </message>
+    <message>
+        <source>The key combination can not be used.</source>
+        <translation>Den här tangentkombinationen kan inte användas.</translation>
+    </message>
+    <message>
+        <source>This shortcut cannot be used as it is currently being used by another function.</source>
+        <translation>Kortkommandot kan inte användas eftersom en annan funktion redan använder det.</translation>
+    </message>
+    <message>
+        <source>Reset All Shortcuts</source>
+        <translation>Återställ alla kortkommandon</translation>
+    </message>
+    <message>
+        <source>To reset your keyboard shortcuts, click on the 'Reset' button below. Once confirmed, the app will immediately restore the default settings.</source>
+        <translation>Klicka på ”Återställ” nedan för att återställa kortkommandona. Efter bekräftelsen går appen genast tillbaka till standardinställningarna.</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Återställ</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Avbryt</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutRows</name>
+    <message>
+        <source>Input</source>
+        <translation>Ingång</translation>
+    </message>
+    <message>
+        <source>Color mode</source>
+        <translation>Färgläge</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Ljusstyrka</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volym</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Nattskydd</translation>
+    </message>
+    <message>
+        <source>EcoPrivacy</source>
+        <translation>EcoPrivacy</translation>
+    </message>
+    <message>
+        <source>KVM</source>
+        <translation>KVM</translation>
+    </message>
+    <message>
+        <source>Extra Copy/Paste</source>
+        <translation>Extra kopiera/klistra in</translation>
+    </message>
+    <message>
+        <source>Decrease</source>
+        <translation>Minska</translation>
+    </message>
+    <message>
+        <source>Increase</source>
+        <translation>Öka</translation>
+    </message>
+    <message>
+        <source>TurnOn/Off</source>
+        <translation>Slå på/av</translation>
+    </message>
+    <message>
+        <source>Loop all KVM switch</source>
+        <translation>Växla mellan alla KVM-portar</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopiera</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Klistra in</translation>
+    </message>
+    <message>
+        <source>This function supports image, text, file, and URL formats. Copying other types of content may impact the content of the clipboard.</source>
+        <translation>Funktionen stöder bilder, text, filer och webbadresser. Om annat innehåll kopieras kan urklippets innehåll påverkas.</translation>
+    </message>
+    <message>
+        <source>Switch to %1</source>
+        <translation>Byt till %1</translation>
+    </message>
+    <message>
+        <source>Loop all color mode</source>
+        <translation>Växla mellan alla färglägen</translation>
+    </message>
+    <message>
+        <source>Loop all Audio Mode</source>
+        <translation>Växla mellan alla ljudlägen</translation>
+    </message>
+    <message>
+        <source>Loop all speaker output</source>
+        <translation>Växla mellan alla högtalare</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Tyst</translation>
+    </message>
+</context>
 </TS>

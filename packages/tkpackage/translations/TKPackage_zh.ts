@@ -1116,4 +1116,118 @@
         <translation>传感器灵敏度</translation>
     </message>
 </context>
+<context>
+    <name>LuShortcutsWidget</name>
+    <message>
+        <source>Shortcuts</source>
+        <translation>快捷键</translation>
+    </message>
+    <message>
+        <source>The key combination can not be used.</source>
+        <translation>无法使用此组合键。</translation>
+    </message>
+    <message>
+        <source>This shortcut cannot be used as it is currently being used by another function.</source>
+        <translation>此快捷键正被其他功能使用，因此无法使用。</translation>
+    </message>
+    <message>
+        <source>Reset All Shortcuts</source>
+        <translation>重置所有快捷键</translation>
+    </message>
+    <message>
+        <source>To reset your keyboard shortcuts, click on the 'Reset' button below. Once confirmed, the app will immediately restore the default settings.</source>
+        <translation>要重置快捷键，请点击下面的“重置”按钮。确认后，应用会立即恢复默认设置。</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>重置</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutRows</name>
+    <message>
+        <source>Input</source>
+        <translation>输入</translation>
+    </message>
+    <message>
+        <source>Color mode</source>
+        <translation>色彩模式</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>亮度</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>音量</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>夜间保护</translation>
+    </message>
+    <message>
+        <source>EcoPrivacy</source>
+        <translation>EcoPrivacy</translation>
+    </message>
+    <message>
+        <source>KVM</source>
+        <translation>KVM</translation>
+    </message>
+    <message>
+        <source>Extra Copy/Paste</source>
+        <translation>额外复制/粘贴</translation>
+    </message>
+    <message>
+        <source>Decrease</source>
+        <translation>降低</translation>
+    </message>
+    <message>
+        <source>Increase</source>
+        <translation>提高</translation>
+    </message>
+    <message>
+        <source>TurnOn/Off</source>
+        <translation>开启/关闭</translation>
+    </message>
+    <message>
+        <source>Loop all KVM switch</source>
+        <translation>循环切换 KVM</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>粘贴</translation>
+    </message>
+    <message>
+        <source>This function supports image, text, file, and URL formats. Copying other types of content may impact the content of the clipboard.</source>
+        <translation>此功能支持图像、文本、文件和网址。复制其他类型的内容可能会影响剪贴板的内容。</translation>
+    </message>
+    <message>
+        <source>Switch to %1</source>
+        <translation>切换到 %1</translation>
+    </message>
+    <message>
+        <source>Loop all color mode</source>
+        <translation>循环切换色彩模式</translation>
+    </message>
+    <message>
+        <source>Loop all Audio Mode</source>
+        <translation>循环切换音频模式</translation>
+    </message>
+    <message>
+        <source>Loop all speaker output</source>
+        <translation>循环切换扬声器输出</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>静音</translation>
+    </message>
+</context>
 </TS>

@@ -1116,4 +1116,118 @@
         <translation>感應器靈敏度</translation>
     </message>
 </context>
+<context>
+    <name>LuShortcutsWidget</name>
+    <message>
+        <source>Shortcuts</source>
+        <translation>快速鍵</translation>
+    </message>
+    <message>
+        <source>The key combination can not be used.</source>
+        <translation>無法使用此組合鍵。</translation>
+    </message>
+    <message>
+        <source>This shortcut cannot be used as it is currently being used by another function.</source>
+        <translation>此快速鍵正由其他功能使用，因此無法使用。</translation>
+    </message>
+    <message>
+        <source>Reset All Shortcuts</source>
+        <translation>重設所有快速鍵</translation>
+    </message>
+    <message>
+        <source>To reset your keyboard shortcuts, click on the 'Reset' button below. Once confirmed, the app will immediately restore the default settings.</source>
+        <translation>若要重設快速鍵，請按下方的「重設」按鈕。確認後，應用程式會立即還原預設設定。</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>重設</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutRows</name>
+    <message>
+        <source>Input</source>
+        <translation>輸入</translation>
+    </message>
+    <message>
+        <source>Color mode</source>
+        <translation>色彩模式</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>亮度</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>音量</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>夜間保護</translation>
+    </message>
+    <message>
+        <source>EcoPrivacy</source>
+        <translation>EcoPrivacy</translation>
+    </message>
+    <message>
+        <source>KVM</source>
+        <translation>KVM</translation>
+    </message>
+    <message>
+        <source>Extra Copy/Paste</source>
+        <translation>額外複製/貼上</translation>
+    </message>
+    <message>
+        <source>Decrease</source>
+        <translation>降低</translation>
+    </message>
+    <message>
+        <source>Increase</source>
+        <translation>提高</translation>
+    </message>
+    <message>
+        <source>TurnOn/Off</source>
+        <translation>開啟/關閉</translation>
+    </message>
+    <message>
+        <source>Loop all KVM switch</source>
+        <translation>循環切換 KVM</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>複製</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>貼上</translation>
+    </message>
+    <message>
+        <source>This function supports image, text, file, and URL formats. Copying other types of content may impact the content of the clipboard.</source>
+        <translation>此功能支援影像、文字、檔案與網址。複製其他類型的內容可能會影響剪貼簿的內容。</translation>
+    </message>
+    <message>
+        <source>Switch to %1</source>
+        <translation>切換至 %1</translation>
+    </message>
+    <message>
+        <source>Loop all color mode</source>
+        <translation>循環切換色彩模式</translation>
+    </message>
+    <message>
+        <source>Loop all Audio Mode</source>
+        <translation>循環切換音訊模式</translation>
+    </message>
+    <message>
+        <source>Loop all speaker output</source>
+        <translation>循環切換喇叭輸出</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>靜音</translation>
+    </message>
+</context>
 </TS>
