@@ -36,8 +36,10 @@ Column {
         repeatsName: true
         text: group.topic.text
     }
+    // The texts of the rows stand below the heading; their own margin is beside them.
     Grid {
-        width: parent.width
+        x: -LuStyle.spaceHalf
+        width: parent.width + 2 * LuStyle.spaceHalf
         columns: 2
         spacing: LuStyle.space
         Repeater {
