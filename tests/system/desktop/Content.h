@@ -45,6 +45,8 @@ inline QString describe(const QMimeData* data)
     }
     if (data && data->hasImage()) {
         const auto image = data->imageData().value<QImage>();
+        if (image.isNull())
+            return {}; // its owner has just changed
         parts.append(QStringLiteral("image=%1x%2 %3")
                          .arg(image.width())
                          .arg(image.height())
