@@ -3,16 +3,22 @@
 
 #include "SimulatedBed.h"
 
+#include <QDeadlineTimer>
 #include <QStringList>
 #include <QTest>
 
+#include <chrono>
 #include <initializer_list>
+#include <thread>
 
 /// A simulated monitor of which one module is looked at: its properties, settings, codes, events and log.
 class ModuleBed : public SimulatedBed
 {
 public:
-    ModuleBed(const char* module, const QString& name) : SimulatedBed(name), m_module(module) {}
+    ModuleBed(const char* module, const QString& name, Timing timing = Timing::Fast)
+        : SimulatedBed(name, timing), m_module(module)
+    {
+    }
 
     /// Launched, with the first round behind it.
     void begin()
@@ -60,6 +66,32 @@ public:
         return result;
     }
 
+    /// Starts a read-back and returns as soon as @p code has been read in it.
+    bool beginReadBackUntil(int code)
+    {
+        const quint64 before = lastTraffic();
+        module()->forceSyncHardwareState(false);
+        QDeadlineTimer limit(10'000);
+        while (!limit.hasExpired()) {
+            const QList<sim::TrafficEntry> entries = monitor().traffic(before);
+            for (const sim::TrafficEntry& entry : entries) {
+                if (entry.code == code)
+                    return true;
+            }
+            std::this_thread::yield();
+        }
+        return false;
+    }
+
+    /// Every transfer holds the bus for a while and fails.
+    void hang(std::chrono::milliseconds blocks)
+    {
+        sim::Fault fault;
+        fault.kind = sim::FaultKind::Timeout;
+        fault.blocks = blocks;
+        monitor().armFault(fault);
+    }
+
     void fail(int code)
     {
         sim::Fault fault;
@@ -69,5 +101,11 @@ public:
     }
 
 private:
+    quint64 lastTraffic()
+    {
+        const QList<sim::TrafficEntry> entries = monitor().traffic();
+        return entries.isEmpty() ? 0 : entries.last().seq;
+    }
+
     const char* m_module;
 };

@@ -2,6 +2,7 @@
 #include "module_bed.h"
 
 #include <QDateTime>
+#include <QElapsedTimer>
 #include <QSignalSpy>
 
 using namespace Qt::StringLiterals;
@@ -23,7 +24,10 @@ constexpr int packed(int high, int low)
 
 struct Bed : ModuleBed
 {
-    explicit Bed(const QString& name = u"TK30Z"_s) : ModuleBed("LuBackLight", name) {}
+    explicit Bed(const QString& name = u"TK30Z"_s, Timing timing = Timing::Fast)
+        : ModuleBed("LuBackLight", name, timing)
+    {
+    }
 
     /// Angle 270, brightness 5 and colour temperature 4, as the monitor comes from the factory.
     void beginAt(int state, bool nonStop = false)
@@ -61,6 +65,8 @@ private Q_SLOTS:
     void withoutTheFeatureNothingHappens();
     void stateIsOnTheWireWhenTheSetterReturns_data();
     void stateIsOnTheWireWhenTheSetterReturns();
+    void aReadBackUnderWayDoesNotUndoTheState();
+    void aHangingBusHoldsTheSetterForAMomentOnly();
     void queuedValuesAreWrittenAndStored_data();
     void queuedValuesAreWrittenAndStored();
     void presentValuesWriteNothing();
@@ -167,6 +173,35 @@ void TestBackLight::stateIsOnTheWireWhenTheSetterReturns()
     QCOMPARE(bed.stored("state").toInt(), to);
     QCOMPARE(spy.count(), 1);
     QCOMPARE(bed.told(), QStringList{event});
+}
+
+void TestBackLight::aReadBackUnderWayDoesNotUndoTheState()
+{
+    Bed bed(u"TK30Z"_s, SimulatedBed::Timing::Real);
+    bed.beginAt(Off);
+    // The light is read first, so that the state's own answer is on its way now.
+    QVERIFY(bed.beginReadBackUntil(LightCode));
+    bed.put("state", On);
+    QCOMPARE(bed.number("state"), On);
+    QVERIFY(bed.idle());
+    QCOMPARE(bed.number("state"), On);
+    QCOMPARE(bed.held(StateCode), packed(Angle270, On));
+    QCOMPARE(bed.told(), QStringList{u"LuBackLight 43 on 0 [270_degree]"_s});
+}
+
+void TestBackLight::aHangingBusHoldsTheSetterForAMomentOnly()
+{
+    using namespace std::chrono_literals;
+    Bed bed;
+    bed.beginAt(Off);
+    bed.hang(3s);
+    bed.module()->forceSyncHardwareState(false);
+    QElapsedTimer elapsed;
+    elapsed.start();
+    bed.put("state", On);
+    QVERIFY2(elapsed.elapsed() < 2000, qPrintable(QString::number(elapsed.elapsed())));
+    QCOMPARE(bed.number("state"), On);
+    bed.monitor().clearFaults();
 }
 
 void TestBackLight::queuedValuesAreWrittenAndStored_data()

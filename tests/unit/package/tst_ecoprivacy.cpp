@@ -18,7 +18,10 @@ constexpr int DisplayOnly = 2;
 
 struct Bed : ModuleBed
 {
-    explicit Bed(const QString& name = u"TK30Z"_s) : ModuleBed("LuEcoPrivacy", name) {}
+    explicit Bed(const QString& name = u"TK30Z"_s, Timing timing = Timing::Fast)
+        : ModuleBed("LuEcoPrivacy", name, timing)
+    {
+    }
 
     /// Twenty seconds, and the middle reach that the monitor comes with.
     void beginAt(bool state) { beginWith({{"state", true}, {"activeTime", 20}, {"state", state}}); }
@@ -70,6 +73,7 @@ private Q_SLOTS:
     void offAndOnKeepsTheTime();
     void timeIsOnTheWireWhenTheSetterReturns_data();
     void timeIsOnTheWireWhenTheSetterReturns();
+    void readBacksDoNotUndoTheTime();
     void aTimeWhileOffTurnsTheMonitorOn();
     void timeZeroChangesTheMonitorOnly();
     void presentValuesWriteNothing();
@@ -227,6 +231,21 @@ void TestEcoPrivacy::timeIsOnTheWireWhenTheSetterReturns()
     QCOMPARE(spy.count(), 1);
     QCOMPARE(bed.told(), QStringList());
     QVERIFY(bed.logged(u"[LuEcoPrivacy] set EcoPrivacy activeTime: "_s));
+}
+
+void TestEcoPrivacy::readBacksDoNotUndoTheTime()
+{
+    Bed bed(u"TK30Z"_s, SimulatedBed::Timing::Real);
+    bed.beginAt(true);
+    bed.module()->forceSyncHardwareState(false);
+    for (const int time : {5, 10, 30, 60}) {
+        bed.put("activeTime", time);
+        QCOMPARE(bed.number("activeTime"), time);
+    }
+    QVERIFY(bed.idle());
+    QCOMPARE(bed.number("activeTime"), 60);
+    QCOMPARE(int(*bed.monitor().value(TimeCode)), 60);
+    QCOMPARE(bed.plain("activeTime").toInt(), 60);
 }
 
 void TestEcoPrivacy::aTimeWhileOffTurnsTheMonitorOn()
