@@ -59,7 +59,12 @@ LuBasicWidget {
                         onActivated: index => _self.ecoPrivacy.activeTime = _self.times[index].time
                     }
                 }
-                LuSeparator { }
+            }
+            LuSeparator { }
+            LuPageGroup {
+                enabled: _self.active
+                fadedOpacity: 0.3
+
                 Column {
                     width: parent.width
                     spacing: LuStyle.space
