@@ -80,6 +80,9 @@ public:
         return m_accepted->isEmpty() ? QVariantMap() : plain(m_accepted->last().at(1)).toMap();
     }
 
+    /// The module for which it was handed over.
+    QObject* acceptedModule() const { return plain(m_accepted->last().at(0)).value<QObject*>(); }
+
 private:
     static QQuickItem* find(QQuickItem* from, const QByteArray& type, const QString& text)
     {
@@ -149,6 +152,10 @@ void TestEyeCarePopups::aChoiceIsLiveAndSaved_data()
     QTest::newRow("back light by the sensor")
         << u"LuPopupBackLightAction"_s << u"TK30Z"_s << u"BackGlow"_s << QByteArray("LuBackLight")
         << QByteArray("state") << QByteArray("LuRadio") << u"Auto Dimming"_s << 16 << 48;
+    QTest::newRow("night hours protection")
+        << u"LuPopupNightHoursProtectionAction"_s << u"TK30Z"_s << u"Night Hours Protection"_s
+        << QByteArray("LuNightProtection") << QByteArray("state") << QByteArray("LuRadio") << u"On"_s << 2
+        << 1;
     QTest::newRow("eco privacy") << u"LuPopupEcoPrivacyAction"_s << u"TK30Z"_s << u"EcoPrivacy"_s
                                  << QByteArray("LuEcoPrivacy") << QByteArray("state")
                                  << QByteArray("LuSwitch") << u"EcoPrivacy"_s << 0 << 1;
@@ -175,6 +182,7 @@ void TestEyeCarePopups::aChoiceIsLiveAndSaved()
     QCOMPARE(bed.get(module, property).toInt(), after);
     QVERIFY(editor.press("LuButton", u"Save"_s));
     QCOMPARE(editor.acceptedCount(), 1);
+    QCOMPARE(editor.acceptedModule(), bed.module(module));
     QCOMPARE(editor.accepted().keys(), QStringList{QString::fromLatin1(property)});
     QCOMPARE(editor.accepted().value(QString::fromLatin1(property)).toInt(), after);
     QCOMPARE(bed.get(module, property).toInt(), after);

@@ -13,6 +13,7 @@ LuPopupAction {
     readonly property var abSetting: monitor?.abSetting ?? null
     property bool recordedState: false
 
+    module: abSetting
     title: qsTr("A.B. Gen2")
 
     function recordProps(): void {

@@ -13,6 +13,7 @@ LuPopupAction {
     readonly property var abPlus: monitor?.abPlus ?? null
     property bool recordedState: false
 
+    module: abPlus
     title: abPlus?.displayNameType === LuABPlus.NameVisualOptimizer ? qsTr("Visual Optimizer") : qsTr("A.B.+ Gen2")
 
     function recordProps(): void {

@@ -14,6 +14,7 @@ LuPopupAction {
     readonly property var backLight: monitor?.backLight ?? null
     property int recordedState: LuBackLight.Off
 
+    module: backLight
     title: qsTr("BackGlow")
 
     function recordProps(): void {

@@ -12,6 +12,7 @@ LuPopupAction {
     readonly property var brightness: monitor?.brightness ?? null
     property string recordedMode
 
+    module: brightness
     title: qsTr("Color Mode")
 
     function recordProps(): void {

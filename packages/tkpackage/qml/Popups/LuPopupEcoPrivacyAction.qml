@@ -15,6 +15,7 @@ LuPopupAction {
     readonly property EcoPrivacyTexts words: EcoPrivacyTexts { }
     property bool recordedState: false
 
+    module: ecoPrivacy
     title: qsTr("EcoPrivacy")
 
     function recordProps(): void {

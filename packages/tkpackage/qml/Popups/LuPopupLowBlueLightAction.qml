@@ -14,6 +14,7 @@ LuPopupAction {
     readonly property var lowBlueLight: monitor?.lowBlueLight ?? null
     property var recorded: ({})
 
+    module: lowBlueLight
     title: lowBlueLight?.type === LuLowBlueLight.LowBlueLightPlus ? qsTr("Low Blue Light Plus") : qsTr("Low Blue Light")
 
     function recordProps(): void {

@@ -13,6 +13,7 @@ LuPopupAction {
     readonly property var nightProtection: monitor?.nightProtection ?? null
     property int recordedState: LuNightProtection.Off
 
+    module: nightProtection
     title: qsTr("Night Hours Protection")
 
     function recordProps(): void {
