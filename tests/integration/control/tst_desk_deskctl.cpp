@@ -131,6 +131,8 @@ void TestDeskctl::everyCommandReachesItsMethod_data()
                              "sim fault",
                              "sim plug TK20@CTL",
                              "-m TK20@CTL sim unplug",
+                             "sim room",
+                             "sim room 300 true",
                              "sim reset",
                              "services get pivot",
                              "services set pivot 90",

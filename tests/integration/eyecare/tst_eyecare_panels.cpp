@@ -48,6 +48,8 @@ private Q_SLOTS:
     void presenceOnItsPage();
     void aTimeThatIsNotOfferedShowsNoSelection();
     void presenceWithoutARearLight();
+    void anEditorIsLiveAndLeavingItRestores_data();
+    void anEditorIsLiveAndLeavingItRestores();
 
 private:
     PictureDesk& desk() { return *m_desk; }
@@ -362,6 +364,46 @@ void TestEyeCarePanels::presenceWithoutARearLight()
     QVERIFY(!setTo(u"Dim your monitor after a period of inactivity."_s, u"10 min."_s));
     QVERIFY(setTo(u"Dim your monitor after a period of inactivity."_s, u"60 sec."_s));
     QCOMPARE(desk().held(0xE7), 60);
+}
+
+void TestEyeCarePanels::anEditorIsLiveAndLeavingItRestores_data()
+{
+    QTest::addColumn<QString>("monitor");
+    QTest::addColumn<QString>("popup");
+    QTest::addColumn<QString>("role");
+    QTest::addColumn<QString>("choice");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<int>("value");
+    QTest::newRow("AB Plus") << u"TK30Z"_s << u"LuPopupABPlusAction"_s << u"switch"_s << u"Visual Optimizer"_s
+                             << 0x81 << 1;
+    QTest::newRow("AB setting") << u"TK40X"_s << u"LuPopupABAction"_s << u"switch"_s << u"A.B. Gen2"_s << 0xE2
+                                << 255;
+    QTest::newRow("back light") << u"TK30Z"_s << u"LuPopupBackLightAction"_s << u"radio"_s
+                                << u"Auto Dimming"_s << 0xD7 << 0x0130;
+    QTest::newRow("eco privacy") << u"TK30Z"_s << u"LuPopupEcoPrivacyAction"_s << u"switch"_s
+                                 << u"EcoPrivacy"_s << 0xE7 << 10;
+    QTest::newRow("night protection")
+        << u"TK30Z"_s << u"LuPopupNightHoursProtectionAction"_s << u"radio"_s << u"On"_s << 0xD1 << 1;
+}
+
+void TestEyeCarePanels::anEditorIsLiveAndLeavingItRestores()
+{
+    QFETCH(QString, monitor);
+    QFETCH(QString, role);
+    QFETCH(QString, choice);
+    QFETCH(int, code);
+    QFETCH(int, value);
+    startOn(monitor);
+    QFETCH(QString, popup);
+    m_page = popup;
+    const int before = desk().held(code);
+    QVERIFY(client().call(u"ui.show"_s).ok());
+    QVERIFY(client().call(u"ui.open"_s, {{u"popup"_s, popup}}).ok());
+    QVERIFY(press(choice, role));
+    QCOMPARE(desk().held(code), value);
+    QVERIFY(press(u"Cancel"_s, u"button"_s));
+    QCOMPARE(desk().held(code), before);
+    QTRY_VERIFY(!press(u"Cancel"_s, u"button"_s));
 }
 
 QTEST_GUILESS_MAIN(TestEyeCarePanels)
