@@ -7,7 +7,6 @@
 #include <QStringList>
 #include <QTest>
 
-#include <chrono>
 #include <initializer_list>
 #include <thread>
 
@@ -81,15 +80,6 @@ public:
             std::this_thread::yield();
         }
         return false;
-    }
-
-    /// Every transfer holds the bus for a while and fails.
-    void hang(std::chrono::milliseconds blocks)
-    {
-        sim::Fault fault;
-        fault.kind = sim::FaultKind::Timeout;
-        fault.blocks = blocks;
-        monitor().armFault(fault);
     }
 
     void fail(int code)

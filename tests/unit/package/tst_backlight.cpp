@@ -2,7 +2,6 @@
 #include "module_bed.h"
 
 #include <QDateTime>
-#include <QElapsedTimer>
 #include <QSignalSpy>
 
 using namespace Qt::StringLiterals;
@@ -66,7 +65,6 @@ private Q_SLOTS:
     void stateIsOnTheWireWhenTheSetterReturns_data();
     void stateIsOnTheWireWhenTheSetterReturns();
     void aReadBackUnderWayDoesNotUndoTheState();
-    void aHangingBusHoldsTheSetterForAMomentOnly();
     void queuedValuesAreWrittenAndStored_data();
     void queuedValuesAreWrittenAndStored();
     void presentValuesWriteNothing();
@@ -187,21 +185,6 @@ void TestBackLight::aReadBackUnderWayDoesNotUndoTheState()
     QCOMPARE(bed.number("state"), On);
     QCOMPARE(bed.held(StateCode), packed(Angle270, On));
     QCOMPARE(bed.told(), QStringList{u"LuBackLight 43 on 0 [270_degree]"_s});
-}
-
-void TestBackLight::aHangingBusHoldsTheSetterForAMomentOnly()
-{
-    using namespace std::chrono_literals;
-    Bed bed;
-    bed.beginAt(Off);
-    bed.hang(3s);
-    bed.module()->forceSyncHardwareState(false);
-    QElapsedTimer elapsed;
-    elapsed.start();
-    bed.put("state", On);
-    QVERIFY2(elapsed.elapsed() < 2000, qPrintable(QString::number(elapsed.elapsed())));
-    QCOMPARE(bed.number("state"), On);
-    bed.monitor().clearFaults();
 }
 
 void TestBackLight::queuedValuesAreWrittenAndStored_data()
