@@ -60,6 +60,7 @@ private Q_SLOTS:
     void leavingThePageEndsTheChoice();
     void switchingOffEndsTheChoice();
     void escapeGivesUp();
+    void aStepShowsTheBrightnessOnTheMonitor();
 
 private:
     QJsonObject find(const QString& role, const QString& name, bool onPage = true)
@@ -262,6 +263,31 @@ void TestShortcutsDeskPage::escapeGivesUp()
     QVERIFY(key(u"Escape"_s));
     QTRY_COMPARE(m_desk->get(u"shortcuts.modifyShortcuts"_s), QJsonValue(false));
     QVERIFY(!find(u"button"_s, u"Copy"_s).isEmpty()); // the page is still there
+}
+
+void TestShortcutsDeskPage::aStepShowsTheBrightnessOnTheMonitor()
+{
+    QVERIFY2(m_desk->startWith(u"TK30Z"_s, true), qPrintable(m_desk->errors()));
+    QVERIFY(m_desk->set(u"shortcuts.active"_s, true));
+    const auto shown = [this] {
+        for (const QJsonValue& each : m_desk->call(u"ui.windows"_s).result.toArray()) {
+            const QJsonObject window = each.toObject();
+            const QJsonObject rect = window.value(u"rect"_s).toObject();
+            if (window.value(u"visible"_s).toBool() && rect.value(u"width"_s).toInt() == 172 &&
+                rect.value(u"height"_s).toInt() == 177)
+                return true;
+        }
+        return false;
+    };
+    QVERIFY(m_desk->press(u"Ctrl+Alt"_s, u"K"_s));
+    QVERIFY(!shown());
+    QVERIFY(m_desk->press(u"Ctrl+Shift"_s, u"F5"_s));
+    QTRY_VERIFY(shown());
+    // It goes by itself.
+    QTRY_VERIFY_WITH_TIMEOUT(!shown(), 20'000);
+    QVERIFY(m_desk->call(u"ui.hide"_s).ok());
+    QVERIFY(m_desk->press(u"Ctrl+Shift"_s, u"F4"_s));
+    QTRY_VERIFY(shown());
 }
 
 QTEST_GUILESS_MAIN(TestShortcutsDeskPage)

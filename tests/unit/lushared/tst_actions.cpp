@@ -65,15 +65,16 @@ void TestActions::registrationKeepsItsOrder()
 {
     SimulatedBed bed;
     LuMonitorModel& model = bed.launch();
+    // Actions that the model's own modules do not register.
     LuModelModuleInterface* module = bed.module("LuKvmSwitch");
-    module->registerShortcutAction(LuShortcutAction::Kvm_LoopAllKvmSwitch,
+    module->registerShortcutAction(LuShortcutAction::Input_SwitchtoThunderbolt3,
                                    [](const QKeyEvent&) { return true; });
-    module->registerShortcutAction(LuShortcutAction::Input_SwitchtoHDMI,
+    module->registerShortcutAction(LuShortcutAction::Input_SwitchtoHDMI3,
                                    [](const QKeyEvent&) { return true; });
-    module->registerShortcutAction(LuShortcutAction::Kvm_LoopAllKvmSwitch,
+    module->registerShortcutAction(LuShortcutAction::Input_SwitchtoThunderbolt3,
                                    [](const QKeyEvent&) { return false; });
-    const auto first = actionsOf(model, LuShortcutAction::Kvm_LoopAllKvmSwitch);
-    const auto second = actionsOf(model, LuShortcutAction::Input_SwitchtoHDMI);
+    const auto first = actionsOf(model, LuShortcutAction::Input_SwitchtoThunderbolt3);
+    const auto second = actionsOf(model, LuShortcutAction::Input_SwitchtoHDMI3);
     QCOMPARE(first.size(), 1);
     QCOMPARE(second.size(), 1);
     QVERIFY(model.shortcutActions().indexOf(first[0]) < model.shortcutActions().indexOf(second[0]));

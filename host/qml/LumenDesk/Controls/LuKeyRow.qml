@@ -15,10 +15,11 @@ T.AbstractButton {
     property var warningKeys: ["!"]
     property bool capturing: false
     property string pending
+    readonly property int margin: 6
     signal captureCanceled()
 
     implicitWidth: 140
-    implicitHeight: words.implicitHeight + chips.implicitHeight + LuStyle.spaceHalf + 2 * LuStyle.spaceHalf
+    implicitHeight: words.implicitHeight + chips.implicitHeight + LuStyle.spaceHalf + 2 * row.margin
     focusPolicy: Qt.StrongFocus
     hoverEnabled: true
     opacity: LuStyle.dim(row)
@@ -62,9 +63,9 @@ T.AbstractButton {
     contentItem: Item {
         LuLabel {
             id: words
-            x: LuStyle.spaceHalf
-            y: LuStyle.spaceHalf
-            width: row.width - 2 * LuStyle.spaceHalf
+            x: LuStyle.space
+            y: row.margin
+            width: row.width - 2 * LuStyle.space
             repeatsName: true
             kind: LuLabel.Caption
             color: LuStyle.text
@@ -73,10 +74,10 @@ T.AbstractButton {
         }
         Flow {
             id: chips
-            x: LuStyle.spaceHalf
+            x: LuStyle.space
             anchors.top: words.bottom
             anchors.topMargin: LuStyle.spaceHalf
-            width: row.width - 2 * LuStyle.spaceHalf
+            width: row.width - 2 * LuStyle.space
             spacing: LuStyle.spaceHalf
             Repeater {
                 model: row.capturing ? row.pending ? row.pending.split("+") : ["…"] : row.keys

@@ -377,19 +377,16 @@ void LuShortcuts::executeShortcut(int index, bool repeated)
     const LuShortcutAction* action = model()->shortcutActions().value(index);
     if (!action)
         return;
-    if (LuShortcutTables::hasOwner(action->title())) {
-        fireUsage(QStringLiteral("use_hotkey"), action->name());
-        return;
-    }
-    if (repeated)
-        return;
-    if (action->title() == Titles::ColorMode) {
-        if (!switchColorMode(action->name()))
+    if (!LuShortcutTables::hasOwner(action->title())) {
+        if (repeated)
             return;
-    } else if (action->title() == Titles::ExtraCopyPaste) {
-        useClipboard(action->name());
+        if (action->title() == Titles::ColorMode && !switchColorMode(action->name()))
+            return;
+        if (action->title() == Titles::ExtraCopyPaste)
+            useClipboard(action->name());
     }
     fireUsage(QStringLiteral("use_hotkey"), action->name());
+    Q_EMIT shortcutUsed(action->name());
 }
 
 bool LuShortcuts::switchColorMode(ActionName name)

@@ -83,6 +83,8 @@ Q_SIGNALS:
     void activeChanged();
     void repeatShortcutsChanged();
     void modifyShortcutsChanged();
+    /// A press of this monitor's keys set the action off, or repeats it.
+    void shortcutUsed(LuShortcutAction::ActionName name);
 
 private:
     // Keys of the actions

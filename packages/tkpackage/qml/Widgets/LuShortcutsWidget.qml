@@ -26,6 +26,26 @@ LuBasicWidget {
             shortcuts.modifyShortcuts = false
     }
 
+    // Tells on the monitor how far a step has gone. It has no parent: a window below one that is hidden stays hidden, too.
+    property LuPopupBrightnessShortcut brightnessFeedback: null
+    Component.onDestruction: brightnessFeedback?.destroy()
+    Component {
+        id: _brightnessFeedback
+        LuPopupBrightnessShortcut {
+            monitor: _self.monitor
+        }
+    }
+    Connections {
+        target: _self.inMainWindow ? _self.shortcuts : null
+        function onShortcutUsed(name: int): void {
+            if (name !== LuShortcutAction.Brightness_Decrease && name !== LuShortcutAction.Brightness_Increase)
+                return
+            if (!_self.brightnessFeedback)
+                _self.brightnessFeedback = _brightnessFeedback.createObject(null)
+            _self.brightnessFeedback.open()
+        }
+    }
+
     page: Component {
         LuPage {
             id: _page

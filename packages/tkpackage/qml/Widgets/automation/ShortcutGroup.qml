@@ -38,17 +38,18 @@ Column {
     }
     // The texts of the rows stand below the heading; their own margin is beside them.
     Grid {
-        x: -LuStyle.spaceHalf
-        width: parent.width + 2 * LuStyle.spaceHalf
+        x: -LuStyle.space
+        width: parent.width + 2 * LuStyle.space
         columns: 2
-        spacing: LuStyle.space
+        columnSpacing: LuStyle.space
+        rowSpacing: LuStyle.spaceHalf
         Repeater {
             model: group.topic.rows
             LuKeyRow {
                 required property var modelData
 
                 objectName: "shortcut" + modelData.name
-                width: (parent.width - parent.spacing) / 2
+                width: (parent.width - parent.columnSpacing) / 2
                 text: modelData.text
                 capturing: group.isCaptured(modelData)
                 pending: capturing ? group.shortcuts.pressKeyName : ""
