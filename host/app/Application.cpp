@@ -6,6 +6,7 @@
 #include "InputNotice.h"
 #include "RealMonitors.h"
 #include "SimulatedMonitors.h"
+#include "WindowKeys.h"
 #include "adapters/ClockMethods.h"
 #include "adapters/KvmMethods.h"
 #include "adapters/ServiceMethods.h"
@@ -244,6 +245,7 @@ void Application::installNativeServices()
         return current && LuModelHost::handleKey(current, modifiers, key, repeated);
     });
     const std::weak_ptr<services::DesktopEvents> events = set.events;
+    qGuiApp->installEventFilter(new WindowKeys(events, this));
     m_actionKeys = std::make_unique<ActionKeys>(*registry, [events](const QSet<QKeyCombination>& keys) {
         if (const auto session = events.lock())
             session->setActionKeys(keys);

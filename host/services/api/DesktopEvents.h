@@ -29,6 +29,9 @@ public:
     /// too.
     virtual void setActionKeys(const QSet<QKeyCombination>& keys) { Q_UNUSED(keys) }
 
+    /// Whether it raises every key, and not only those of setActionKeys().
+    virtual bool hearsEveryKey() const { return true; }
+
     /// Called once when the first model exists, and once as the program ends. Nothing is raised outside of
     /// the two by itself.
     virtual void start() = 0;

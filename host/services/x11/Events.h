@@ -28,6 +28,7 @@ public:
 
     void setKeyHandler(KeyHandler handler) override { m_handler = std::move(handler); }
     void setActionKeys(const QSet<QKeyCombination>& keys) override;
+    bool hearsEveryKey() const override { return m_recorder != nullptr; }
     void start() override;
     void stop() override;
 
