@@ -1120,7 +1120,7 @@
     <name>LuShortcutsWidget</name>
     <message>
         <source>Shortcuts</source>
-        <translation>Gyorsgombok</translation>
+        <translation>Gyorsgomb</translation>
     </message>
     <message>
         <source>The key combination can not be used.</source>
