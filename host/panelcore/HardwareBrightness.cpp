@@ -16,9 +16,7 @@ constexpr int Code = 0x10;
 
 } // namespace
 
-HardwareBrightness::HardwareBrightness(MonitorLink& link, const QString& group) : m_link(link), m_group(group)
-{
-}
+HardwareBrightness::HardwareBrightness(MonitorLink& link) : m_link(link) {}
 
 HardwareBrightness::~HardwareBrightness() = default;
 
@@ -47,10 +45,8 @@ bool HardwareBrightness::write(double fraction)
 
 void HardwareBrightness::writeLater(double fraction)
 {
-    if (!m_queue)
-        m_queue = QSharedPointer<ZrDispatch>::create(QStringLiteral("brightness"), m_group);
     const unsigned asked = ++m_asked;
-    m_queue->postUnique(nullptr, QStringLiteral("write"), [this, fraction, asked] {
+    m_link.makeOwnQueue()->postUnique(nullptr, QStringLiteral("write"), [this, fraction, asked] {
         if (asked == m_asked)
             transfer(fraction);
     });

@@ -3,21 +3,16 @@
 
 #include <PanelCore/PanelCoreGlobal.h>
 
-#include <QSharedPointer>
-#include <QString>
-
 #include <atomic>
 #include <optional>
 
 class MonitorLink;
-class ZrDispatch;
 
 /// A monitor's own brightness (VCP 0x10) as a fraction of the maximum that the monitor names.
 class PANELCORE_EXPORT HardwareBrightness
 {
 public:
-    /// @p group is that of the queue: the monitor's id.
-    HardwareBrightness(MonitorLink& link, const QString& group);
+    explicit HardwareBrightness(MonitorLink& link);
     ~HardwareBrightness();
 
     /// Asks the monitor: 0 to 1; nothing if it gives no usable answer. Blocks. Any thread but the GUI's.
@@ -28,11 +23,9 @@ public:
     /// Writes @p fraction, 0 to 1; the maximum is read before the first write. False if the monitor told no
     /// maximum, or did not take the value. Blocks. Any thread but the GUI's.
     bool write(double fraction);
-    /// As write(), on a thread of the monitor's own; returns at once. Of several calls that wait, the last
+    /// As write(), on the link's own queue; returns at once. Of several calls that wait, the last
     /// one counts. GUI thread.
     void writeLater(double fraction);
-    /// The thread of writeLater(); null before the first. GUI thread.
-    QSharedPointer<ZrDispatch> queue() const { return m_queue; }
 
 private:
     bool transfer(double fraction);
@@ -41,6 +34,4 @@ private:
     std::atomic<int> m_maximum{0};   ///< 0: not read yet.
     std::atomic<double> m_known{-1}; ///< Negative: not known.
     std::atomic<unsigned> m_asked{0};
-    const QString m_group;
-    QSharedPointer<ZrDispatch> m_queue; ///< Made with the first writeLater().
 };

@@ -8,6 +8,7 @@
 
 #include <ZrCore/ZrAsker.h>
 #include <ZrCore/ZrClock.h>
+#include <ZrCore/ZrDispatch.h>
 #include <ZrCore/ZrShared.h>
 #include <ddc/Breaker.h>
 #include <ddc/Transactor.h>
@@ -18,6 +19,8 @@
 
 #include <algorithm>
 #include <atomic>
+#include <chrono>
+#include <condition_variable>
 #include <mutex>
 
 using namespace Qt::StringLiterals;
@@ -73,7 +76,8 @@ struct MonitorLink::Private
     ddc::Statistics before; ///< Of earlier runs.
     std::mutex breakerMutex;
     ddc::Breaker breaker;
-    std::unique_ptr<HardwareBrightness> brightness; ///< Last: its queue uses the others.
+    std::unique_ptr<HardwareBrightness> brightness;
+    QSharedPointer<ZrDispatch> queue; ///< Last: its jobs use the others.
 
     bool passesBreaker(int code)
     {
@@ -131,7 +135,7 @@ struct MonitorLink::Private
 
 MonitorLink::MonitorLink(const QString& id, std::unique_ptr<ddc::Bus> bus, Waits waits) : d(new Private(id))
 {
-    d->brightness = std::make_unique<HardwareBrightness>(*this, id);
+    d->brightness = std::make_unique<HardwareBrightness>(*this);
     if (!bus)
         return;
     d->transactor = std::make_unique<ddc::Transactor>(
@@ -188,15 +192,47 @@ bool MonitorLink::setVCPWithin(int code, int value, int limitMs)
 {
     if (!d->transactor || !isByte(code) || value < 0 || value > 0xFFFF || !mayAsk(true, code))
         return false;
-    const ddc::Error error =
-        d->transactor->setVcpWithin(std::uint8_t(code), std::uint16_t(value), ddc::Transactor::Ms(limitMs));
-    // A bus that somebody else holds says nothing about the monitor.
-    return error != ddc::Error::Busy && d->note(error);
+    struct Attempt
+    {
+        std::mutex mutex;
+        std::condition_variable ended;
+        bool isAbandoned = false;
+        std::optional<bool> written;
+    };
+    // An adapter that hangs holds its thread as long as it likes: it must not be the caller's.
+    const auto attempt = std::make_shared<Attempt>();
+    makeOwnQueue()->postUniqueAtFront(
+        nullptr, QStringLiteral("direct"), [this, attempt, code, value, limitMs] {
+            {
+                const std::lock_guard lock(attempt->mutex);
+                if (attempt->isAbandoned)
+                    return;
+            }
+            const ddc::Error error = d->transactor->setVcpWithin(std::uint8_t(code), std::uint16_t(value),
+                                                                 ddc::Transactor::Ms(limitMs));
+            // A bus that somebody else holds says nothing about the monitor.
+            const bool written = error != ddc::Error::Busy && d->note(error);
+            const std::lock_guard lock(attempt->mutex);
+            attempt->written = written;
+            attempt->ended.notify_all();
+        });
+    std::unique_lock lock(attempt->mutex);
+    const bool ended = attempt->ended.wait_for(lock, std::chrono::milliseconds(limitMs),
+                                               [&] { return attempt->written.has_value(); });
+    attempt->isAbandoned = !ended;
+    return ended && *attempt->written;
 }
 
 QSharedPointer<ZrDispatch> MonitorLink::ownQueue() const
 {
-    return d->brightness->queue();
+    return d->queue;
+}
+
+QSharedPointer<ZrDispatch> MonitorLink::makeOwnQueue()
+{
+    if (!d->queue)
+        d->queue = QSharedPointer<ZrDispatch>::create(QStringLiteral("direct"), d->id);
+    return d->queue;
 }
 
 HardwareBrightness& MonitorLink::brightness()

@@ -55,13 +55,17 @@ public:
     /// Waits out what the last transfer left of the usual hold, so that a later choice of a person can still
     /// replace the next one. Longer holds are not waited for. Blocks.
     void awaitReady();
-    /// A write on a caller's thread that gives up if the bus is not free within @p limitMs.
+    /// A write for a caller that must not wait: false after @p limitMs, whoever holds the bus or however long
+    /// the adapter hangs. A transfer that hangs then may still reach the monitor. GUI thread.
     bool setVCPWithin(int code, int value, int limitMs);
 
     /// The monitor's own brightness, for monitors that no package knows.
     HardwareBrightness& brightness();
-    /// A queue that this handle uses the bus on, beside the model's; null if there is none. GUI thread.
+    /// The queue on which this handle uses the bus for callers that must not wait, beside the model's; null
+    /// if there is none yet. GUI thread.
     QSharedPointer<ZrDispatch> ownQueue() const;
+    /// The same, made if there is none.
+    QSharedPointer<ZrDispatch> makeOwnQueue();
 
     /// Called after every transfer with all its tries, on the thread of the caller: a simulated device counts
     /// faults by it. Set before the handle is in use.

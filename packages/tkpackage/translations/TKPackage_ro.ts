@@ -880,7 +880,7 @@
     </message>
     <message>
         <source>Brightness + Color Temperature</source>
-        <translation>Luminozitate + temperatură de culoare</translation>
+        <translation>Luminozitate + temp. culoare</translation>
     </message>
     <message>
         <source>Brightness</source>

@@ -2,6 +2,7 @@
 #include "module_bed.h"
 
 #include <QDateTime>
+#include <QElapsedTimer>
 #include <QSignalSpy>
 
 using namespace Qt::StringLiterals;
@@ -68,6 +69,7 @@ private Q_SLOTS:
     void queuedValuesAreWrittenAndStored_data();
     void queuedValuesAreWrittenAndStored();
     void presentValuesWriteNothing();
+    void hangingBusHoldsTheSetterForItsLimitAlone();
     void fastChangesLoseNothing();
     void whatDoesNotFitIntoAByteIsRefused_data();
     void whatDoesNotFitIntoAByteIsRefused();
@@ -228,6 +230,25 @@ void TestBackLight::presentValuesWriteNothing()
     QVERIFY(bed.idle());
     QCOMPARE(bed.own(), QStringList());
     QCOMPARE(bed.told(), QStringList());
+}
+
+void TestBackLight::hangingBusHoldsTheSetterForItsLimitAlone()
+{
+    Bed bed;
+    bed.beginAt(Off);
+    // The setter's own transfer is the one that hangs: nobody else holds the bus.
+    sim::Fault fault;
+    fault.kind = sim::FaultKind::Timeout;
+    fault.blocks = std::chrono::milliseconds(5000);
+    fault.code = StateCode;
+    bed.monitor().armFault(fault);
+    QElapsedTimer timer;
+    timer.start();
+    bed.set("state", On);
+    const qint64 took = timer.elapsed();
+    QVERIFY2(took >= 140 && took < 2500, qPrintable(QString::number(took)));
+    QCOMPARE(bed.number("state"), int(On));
+    bed.monitor().unplug();
 }
 
 void TestBackLight::fastChangesLoseNothing()

@@ -23,6 +23,9 @@ QVariant anotherValue(const QMetaProperty& property, const QVariant& present)
     // Off is what the state says: as a time it is none.
     if (QLatin1String(property.name()) == QLatin1String("activeTime"))
         return present.toInt() == 20 ? 30 : 20;
+    // The ports that the monitor has.
+    if (QLatin1String(property.name()) == QLatin1String("kvmSwitch"))
+        return present.toInt() == 3 ? 2 : 3;
     if (property.isEnumType()) {
         const QMetaEnum names = property.enumerator();
         return names.value(0) == present.toInt() ? names.value(1) : names.value(0);
