@@ -20,6 +20,7 @@
 #include <QMetaProperty>
 #include <QQmlApplicationEngine>
 #include <QQuickWindow>
+#include <QScopedValueRollback>
 
 using namespace Qt::StringLiterals;
 
@@ -134,6 +135,8 @@ void DesktopShell::fillContext(const QList<LuPackagesInterface*>& packages)
     connect(&m_registry, &LuMonitorRegistry::monitorAboutToBeRemoved, this, &DesktopShell::fillMonitors);
     // The window's monitor switcher and the registry name the same monitor.
     connect(context, &LuContext::currentMonitorChanged, this, [this, context] {
+        if (m_isFilling)
+            return; // the registry's own choice on its way to the window
         if (const auto* model = qobject_cast<LuMonitorModel*>(context->currentMonitor());
             model && model != m_registry.current())
             m_registry.select(model->id());
@@ -220,6 +223,7 @@ void DesktopShell::fillMonitors()
     for (LuMonitorModel* model : models)
         monitors.append(model);
     LuContext* context = LuContext::instance();
+    const QScopedValueRollback filling(m_isFilling, true);
     context->setMonitors(monitors);
     if (m_registry.current())
         context->setCurrentMonitor(m_registry.current());

@@ -61,4 +61,5 @@ private:
     std::unique_ptr<QQmlApplicationEngine> m_engine;
     std::unique_ptr<LuWindowBridge> m_bridge;
     std::unique_ptr<Tray> m_tray;
+    bool m_isFilling = false; ///< fillMonitors() runs: what the window then tells is no choice of a person.
 };

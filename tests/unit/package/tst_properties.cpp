@@ -113,6 +113,10 @@ bool survivesRestart(const QString& module, const QMetaProperty& property)
     if (module == QLatin1String("LuSmartKvmBasic") &&
         QLatin1String(property.name()) == QLatin1String("basicState"))
         return false;
+    // At launch the pointer feature, which is off, brings the hub back to its automatic.
+    if (module == QLatin1String("LuKvmSwitch") &&
+        QLatin1String(property.name()) == QLatin1String("kvmSwitch"))
+        return false;
     // What dims without a user is the monitor's own.
     if (module == QLatin1String("LuEcoPrivacy") && QLatin1String(property.name()) == QLatin1String("mode"))
         return false;

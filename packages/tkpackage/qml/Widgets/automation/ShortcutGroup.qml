@@ -38,6 +38,7 @@ Column {
     }
     // The texts of the rows stand below the heading; their own margin is beside them.
     Grid {
+        id: grid
         x: -LuStyle.space
         width: parent.width + 2 * LuStyle.space
         columns: 2
@@ -49,7 +50,7 @@ Column {
                 required property var modelData
 
                 objectName: "shortcut" + modelData.name
-                width: (parent.width - parent.columnSpacing) / 2
+                width: (grid.width - grid.columnSpacing) / 2
                 text: modelData.text
                 capturing: group.isCaptured(modelData)
                 pending: capturing ? group.shortcuts.pressKeyName : ""

@@ -64,8 +64,8 @@ QtObject {
     function isListed(title: int, name: int): bool {
         if (shortcuts.shortcutCombo(title, name) !== "")
             return true
-        const loops = [LuShortcutAction.Volume_LoopAllSpeakerOutput, LuShortcutAction.Volume_LoopAllAudioMode]
-        return loops.includes(name) && shortcuts.hasShortcut(name)
+        const isLoop = name === LuShortcutAction.Volume_LoopAllSpeakerOutput || name === LuShortcutAction.Volume_LoopAllAudioMode
+        return isLoop && shortcuts.hasShortcut(name)
     }
 
     function inputRows(): var {
