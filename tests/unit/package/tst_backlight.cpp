@@ -244,7 +244,7 @@ void TestBackLight::hangingBusHoldsTheSetterForItsLimitAlone()
     bed.monitor().armFault(fault);
     QElapsedTimer timer;
     timer.start();
-    bed.set("state", On);
+    bed.put("state", On);
     const qint64 took = timer.elapsed();
     QVERIFY2(took >= 140 && took < 2500, qPrintable(QString::number(took)));
     QCOMPARE(bed.number("state"), int(On));
