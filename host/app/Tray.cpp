@@ -14,6 +14,7 @@ namespace {
 
 constexpr int Notch = 120;     // of a wheel
 constexpr int StepPercent = 5; // of brightness, a notch
+constexpr int WayMs = 1000;    // in which a value is on its way to the monitor
 
 } // namespace
 
@@ -66,8 +67,12 @@ void Tray::turn(int delta)
     m_rest += delta;
     const int notches = m_rest / Notch;
     m_rest -= notches * Notch;
-    const int before = module->property("displayBrightness").toInt();
-    const int after = std::clamp(before + notches * StepPercent, 0, 100);
-    if (after != before)
-        module->setProperty("displayBrightness", after);
+    // A turn goes on from what the turn before has asked for, also while that is on its way.
+    const bool goesOn = m_turned == module && m_sinceTurn.isValid() && !m_sinceTurn.hasExpired(WayMs);
+    const int before = goesOn ? m_wanted : module->property("displayBrightness").toInt();
+    m_wanted = std::clamp(before + notches * StepPercent, 0, 100);
+    m_turned = module;
+    m_sinceTurn.start();
+    if (m_wanted != before)
+        module->setProperty("displayBrightness", m_wanted);
 }

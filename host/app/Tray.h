@@ -3,7 +3,9 @@
 
 #include "tray/StatusNotifier.h"
 
+#include <QElapsedTimer>
 #include <QObject>
+#include <QPointer>
 
 class LuMonitorRegistry;
 
@@ -32,5 +34,8 @@ private:
 
     LuMonitorRegistry& m_registry;
     StatusNotifier m_notifier;
-    int m_rest = 0; ///< What fine wheels have turned short of a step.
+    int m_rest = 0;             ///< What fine wheels have turned short of a step.
+    QPointer<QObject> m_turned; ///< What the last turn was for, what it asked for, and when.
+    int m_wanted = 0;
+    QElapsedTimer m_sinceTurn;
 };

@@ -284,6 +284,7 @@ void TestTray::fineWheelsAddUp()
     QVERIFY(m_desk->client()
                 .call(u"set"_s, {{u"path"_s, u"brightness.displayBrightness"_s}, {u"value"_s, 40}})
                 .ok());
+    QVERIFY(m_desk->client().call(u"idle"_s).ok());
     for (int i = 0; i < 5; ++i)
         call(u"/StatusNotifierItem"_s, u"org.kde.StatusNotifierItem"_s, u"Scroll"_s, {50, u"vertical"_s});
     QVERIFY(m_desk->client().call(u"idle"_s).ok());
