@@ -24,7 +24,7 @@ find_program(LUMEN_CCACHE ccache)
 if(LUMEN_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
   # Paths relative to the tree and no folder in the hash: another clone finds what this one has compiled.
   set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_BASEDIR=${PROJECT_SOURCE_DIR} CCACHE_NOHASHDIR=1
-      CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime ${LUMEN_CCACHE})
+      CCACHE_SLOPPINESS=pch_defines,time_macros ${LUMEN_CCACHE})
 endif()
 
 find_program(LUMEN_LLD ld.lld)
