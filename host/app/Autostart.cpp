@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// As the desktop entry specification has it: these are escaped inside quotes, twice where a backslash is
+// As freedesktop.org has it for desktop entries: these are escaped inside quotes, twice where a backslash is
 // meant.
 QString quoted(const QString& path)
 {

@@ -8,7 +8,7 @@
 
 namespace services {
 
-/// An application as its desktop entry describes it (freedesktop.org, Desktop Entry Specification 1.5).
+/// An application as its desktop entry describes it (freedesktop.org, Desktop Entry 1.5).
 struct DesktopEntry
 {
     QString id;   ///< Name of its file below "applications", such as "org.gnome.Terminal.desktop".
@@ -26,7 +26,7 @@ struct DesktopEntry
     static std::optional<DesktopEntry> read(const QString& file, const QString& locale);
 
     /// Program and arguments of the command line without files to open; empty if it is damaged. No shell is
-    /// involved: quotes and field codes are taken as the specification says.
+    /// involved: quotes and field codes are taken as that standard says.
     QStringList command() const;
 
     /// Absolute path of the program, symbolic links followed; empty if it is not installed.

@@ -34,7 +34,7 @@ public:
     void start() override;
     void stop() override;
 
-    /// A combination as the portal reads it, "CTRL+ALT+Left" (XDG shortcuts specification); empty for a key
+    /// A combination as the portal reads it, "CTRL+ALT+Left" (XDG shortcuts standard); empty for a key
     /// without a name there.
     static QString trigger(QKeyCombination keys);
 
