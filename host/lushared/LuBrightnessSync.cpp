@@ -22,7 +22,8 @@ const QString MembersKey = QStringLiteral("brightnessSync/members");
 
 using Member = LuBrightnessSyncMember;
 
-LuBrightnessSync::LuBrightnessSync(LuMonitorRegistry* registry, QObject* parent) : QObject(parent)
+LuBrightnessSync::LuBrightnessSync(LuMonitorRegistry* registry, QObject* parent)
+    : QObject(parent), m_registry(registry)
 {
     const LuSettings& settings = LuSettings::instance();
     m_state = settings.value(StateKey, false).toBool();
@@ -116,7 +117,12 @@ void LuBrightnessSync::add(LuMonitorModel* model)
         connect(member.get(), &Member::dimmingChanged, this, &LuBrightnessSync::spreadDimming);
         if (member->sensorIsOn())
             m_sensors.push_back(member.get());
-        m_members.push_back(std::move(member));
+        // Models come in the order in which their monitors answer, which is another one at every start.
+        const QList<LuMonitorModel*> order = m_registry->monitors();
+        const auto later = [&order, place = order.indexOf(model)](const auto& other) {
+            return order.indexOf(other->model()) > place;
+        };
+        m_members.insert(std::find_if(m_members.begin(), m_members.end(), later), std::move(member));
     });
 }
 

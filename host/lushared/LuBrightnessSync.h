@@ -31,7 +31,7 @@ class LUSHARED_EXPORT LuBrightnessSync : public QObject
     Q_PROPERTY(bool available READ isAvailable NOTIFY availableChanged)
     /// Wanted and available.
     Q_PROPERTY(bool active READ isActive NOTIFY activeChanged)
-    /// Ids of the monitors that take part, in the order in which they came.
+    /// Ids of the monitors that take part, in the registry's order.
     Q_PROPERTY(QStringList members READ members NOTIFY membersChanged)
     /// Id of the monitor that moved the others last; empty if none has.
     Q_PROPERTY(QString leader READ leader NOTIFY leaderChanged)
@@ -84,11 +84,12 @@ private:
     template <class Change>
     void changing(Change change);
 
+    LuMonitorRegistry* m_registry;
     bool m_state = false;
     int m_delta = 0; ///< How far the group is from its baselines.
     QStringList m_stored;
     QString m_leader;
-    std::vector<std::unique_ptr<LuBrightnessSyncMember>> m_members;
-    std::vector<LuBrightnessSyncMember*> m_sensors; ///< In the order in which they went on.
+    std::vector<std::unique_ptr<LuBrightnessSyncMember>> m_members; ///< In the registry's order.
+    std::vector<LuBrightnessSyncMember*> m_sensors;                 ///< In the order in which they went on.
     QPointer<QObject> m_dimmingSource;
 };

@@ -29,6 +29,7 @@ private Q_SLOTS:
     void readBackOfTheSamePictureMovesNobody();
     void offMeansThatNobodyFollows();
     void alone_nothingIsActive();
+    void theOrderIsNotThatOfTheAnswers();
     void aThirdMonitorJoinsAsItIs();
     void theStateAndTheDifferenceOutliveARestart();
     void aMonitorThatComesBackKeepsItsPlace();
@@ -223,6 +224,24 @@ void TestPictureSync::alone_nothingIsActive()
     const QJsonValue before = desk().get(u"brightness.displayBrightness"_s, u"ACME24"_s);
     QVERIFY(move(A, 33));
     QCOMPARE(desk().get(u"brightness.displayBrightness"_s, u"ACME24"_s), before);
+}
+
+// The first monitor answers late at the start, so that the second one's model is there before its own.
+void TestPictureSync::theOrderIsNotThatOfTheAnswers()
+{
+    const QString late =
+        desk().write(u"late.json"_s,
+                     R"({"faults": [{"monitor": "TK30Z@A", "code": 220, "kind": "timeout", "count": 1}]})");
+    QVERIFY2(startBoth({u"--ddc-timing"_s, u"real"_s, u"--state"_s, late}), qPrintable(desk().errors()));
+    QTRY_COMPARE(sync(u"members"_s).toArray().size(), 2);
+    QStringList lines;
+    const QJsonArray log = desk().client().call(u"log"_s).result.toArray();
+    for (const QJsonValue& line : log)
+        lines.append(line.toObject().value(u"text"_s).toString());
+    const qsizetype addedA = lines.indexOf(u"[LuMonitorRegistry] monitor TK30Z@A is supported"_s);
+    const qsizetype addedB = lines.indexOf(u"[LuMonitorRegistry] monitor TK20@B is supported"_s);
+    QVERIFY2(addedB >= 0 && addedB < addedA, qPrintable(lines.join(u'\n')));
+    QCOMPARE(sync(u"members"_s), (QJsonValue(QJsonArray{A, B})));
 }
 
 void TestPictureSync::aThirdMonitorJoinsAsItIs()
