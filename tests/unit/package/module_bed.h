@@ -8,6 +8,7 @@
 #include <QTest>
 
 #include <initializer_list>
+#include <optional>
 #include <thread>
 
 /// A simulated monitor of which one module is looked at: its properties, settings, codes, events and log.
@@ -50,6 +51,23 @@ public:
     }
     QVariant stored(const char* name) { return setting(key(name)); }
 
+    /// A key that is the same in all colour modes.
+    QVariant plain(const char* name) { return setting(QLatin1String(m_module) + u'/' + QLatin1String(name)); }
+    /// As put(); @p triggered: by another function of the program instead of a person.
+    void putBy(bool triggered, const char* property, const QVariant& value)
+    {
+        std::optional<LuMonitorModel::OtherFunctionScope> scope;
+        if (triggered)
+            scope.emplace(module());
+        put(property, value);
+    }
+
+    /// Whether a line with @p text was logged since forget() was called last.
+    bool logged(const QString& text)
+    {
+        m_lines += log();
+        return !m_lines.filter(text).isEmpty();
+    }
     QStringList told() { return events().filter(QLatin1String(m_module) + QLatin1Char(' ')); }
     /// The transactions of these codes alone: a change of one module lets others be read, too.
     QStringList wireOf(std::initializer_list<int> codes)
@@ -63,6 +81,21 @@ public:
             }
         }
         return result;
+    }
+
+    /// The next program run; what was stored, read or written before it is forgotten.
+    bool relaunchAnew()
+    {
+        forget();
+        relaunch();
+        return idle();
+    }
+    /// The events of the program's end.
+    QStringList toldAtExit()
+    {
+        forget();
+        module()->fireExitEvent();
+        return told();
     }
 
     /// Starts a read-back and returns as soon as @p code has been read in it.
@@ -98,4 +131,5 @@ private:
     }
 
     const char* m_module;
+    QStringList m_lines;
 };

@@ -32,14 +32,6 @@ struct Bed : ModuleBed
         forget();
     }
     QStringList own() { return wireOf({StateCode, MeterCode, SensitivityCode}); }
-    bool logged(const QString& start)
-    {
-        m_lines += log();
-        return !m_lines.filter(start).isEmpty();
-    }
-
-private:
-    QStringList m_lines;
 };
 
 } // namespace
@@ -150,12 +142,7 @@ void TestABPlus::stateIsWrittenStoredAndReported()
     Bed bed;
     bed.beginAt(!to, mode);
     QSignalSpy spy(bed.module(), SIGNAL(stateChanged()));
-    {
-        std::optional<LuMonitorModel::OtherFunctionScope> scope;
-        if (triggered)
-            scope.emplace(bed.module());
-        bed.put("state", to);
-    }
+    bed.putBy(triggered, "state", to);
     QVERIFY(bed.idle());
     QCOMPARE(bed.own(), QStringList{u"set 0x81 %1"_s.arg(value)});
     QCOMPARE(bed.stored("state").toBool(), to);
@@ -453,17 +440,12 @@ void TestABPlus::whatStaysOffIsNotAppliedAgain()
 {
     Bed bed;
     bed.begin();
-    bed.relaunch();
-    QVERIFY(bed.idle());
-    bed.forget();
-    bed.relaunch();
-    QVERIFY(bed.idle());
+    QVERIFY(bed.relaunchAnew());
+    QVERIFY(bed.relaunchAnew());
     QCOMPARE(bed.own().filter(u"set"_s), QStringList());
     bed.put("state", true);
     QVERIFY(bed.idle());
-    bed.forget();
-    bed.relaunch();
-    QVERIFY(bed.idle());
+    QVERIFY(bed.relaunchAnew());
     QVERIFY(bed.own().contains(u"set 0x81 1"_s));
 }
 
@@ -505,13 +487,10 @@ void TestABPlus::exitReportsOff()
 {
     Bed bed;
     bed.beginAt(false);
-    bed.module()->fireExitEvent();
-    QCOMPARE(bed.told(), QStringList());
+    QCOMPARE(bed.toldAtExit(), QStringList());
     bed.put("state", true);
     QVERIFY(bed.idle());
-    bed.forget();
-    bed.module()->fireExitEvent();
-    QCOMPARE(bed.told(), QStringList{u"LuABPlus 39 off 2 []"_s});
+    QCOMPARE(bed.toldAtExit(), QStringList{u"LuABPlus 39 off 2 []"_s});
 }
 
 QTEST_MAIN(TestABPlus)

@@ -18,14 +18,6 @@ struct Bed : ModuleBed
     /// The sensitivity of the monitor is 5.
     void beginAt(bool on) { beginWith({{"sensitivity", 4}, {"sensitivity", 5}, {"currentAB", on}}); }
     QStringList own() { return wireOf({StateCode, MeterCode, SensitivityCode}); }
-    bool logged(const QString& start)
-    {
-        m_lines += log();
-        return !m_lines.filter(start).isEmpty();
-    }
-
-private:
-    QStringList m_lines;
 };
 
 } // namespace
@@ -121,12 +113,7 @@ void TestABSetting::stateIsWrittenStoredAndReported()
     Bed bed;
     bed.beginAt(!to);
     QSignalSpy spy(bed.module(), SIGNAL(currentABChanged()));
-    {
-        std::optional<LuMonitorModel::OtherFunctionScope> scope;
-        if (triggered)
-            scope.emplace(bed.module());
-        bed.put("currentAB", to);
-    }
+    bed.putBy(triggered, "currentAB", to);
     QVERIFY(bed.idle());
     QCOMPARE(bed.own(), QStringList{u"set 0xE2 %1"_s.arg(value)});
     QCOMPARE(bed.stored("currentAB").toBool(), to);
@@ -356,17 +343,12 @@ void TestABSetting::whatStaysOffIsNotAppliedAgain()
 {
     Bed bed;
     bed.begin();
-    bed.relaunch();
-    QVERIFY(bed.idle());
-    bed.forget();
-    bed.relaunch();
-    QVERIFY(bed.idle());
+    QVERIFY(bed.relaunchAnew());
+    QVERIFY(bed.relaunchAnew());
     QCOMPARE(bed.own().filter(u"set"_s), QStringList());
     bed.put("currentAB", true);
     QVERIFY(bed.idle());
-    bed.forget();
-    bed.relaunch();
-    QVERIFY(bed.idle());
+    QVERIFY(bed.relaunchAnew());
     QVERIFY(bed.own().contains(u"set 0xE2 255"_s));
 }
 
@@ -385,13 +367,10 @@ void TestABSetting::exitReportsOff()
 {
     Bed bed;
     bed.beginAt(false);
-    bed.module()->fireExitEvent();
-    QCOMPARE(bed.told(), QStringList());
+    QCOMPARE(bed.toldAtExit(), QStringList());
     bed.put("currentAB", true);
     QVERIFY(bed.idle());
-    bed.forget();
-    bed.module()->fireExitEvent();
-    QCOMPARE(bed.told(), QStringList{u"LuABSetting 14 off 2 []"_s});
+    QCOMPARE(bed.toldAtExit(), QStringList{u"LuABSetting 14 off 2 []"_s});
 }
 
 QTEST_MAIN(TestABSetting)

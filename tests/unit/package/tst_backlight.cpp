@@ -38,14 +38,6 @@ struct Bed : ModuleBed
     }
     QStringList own() { return wireOf({StateCode, LightCode}); }
     int held(int code) { return monitor().value(code).value_or(0xFFFF); }
-    bool logged(const QString& start)
-    {
-        m_lines += log();
-        return !m_lines.filter(start).isEmpty();
-    }
-
-private:
-    QStringList m_lines;
 };
 
 QString sets(int code, int value)
@@ -161,12 +153,7 @@ void TestBackLight::stateIsOnTheWireWhenTheSetterReturns()
     Bed bed;
     bed.beginAt(from, nonStop);
     QSignalSpy spy(bed.module(), SIGNAL(stateChanged()));
-    {
-        std::optional<LuMonitorModel::OtherFunctionScope> scope;
-        if (triggered)
-            scope.emplace(bed.module());
-        bed.put("state", to);
-    }
+    bed.putBy(triggered, "state", to);
     // Nothing has waited for the queue.
     QCOMPARE(bed.own(), QStringList{sets(StateCode, packed(Angle270, to + int(nonStop)))});
     QCOMPARE(bed.number("state"), to);
@@ -533,17 +520,12 @@ void TestBackLight::whatStaysOffIsNotAppliedAgain()
 {
     Bed bed;
     bed.begin();
-    bed.relaunch();
-    QVERIFY(bed.idle());
-    bed.forget();
-    bed.relaunch();
-    QVERIFY(bed.idle());
+    QVERIFY(bed.relaunchAnew());
+    QVERIFY(bed.relaunchAnew());
     QCOMPARE(bed.own().filter(u"set"_s), QStringList());
     bed.put("state", On);
     QVERIFY(bed.idle());
-    bed.forget();
-    bed.relaunch();
-    QVERIFY(bed.idle());
+    QVERIFY(bed.relaunchAnew());
     QVERIFY(bed.own().contains(sets(StateCode, packed(Angle270, On))));
 }
 
@@ -600,12 +582,9 @@ void TestBackLight::exitReportsOff()
 {
     Bed bed;
     bed.beginAt(Off, true);
-    bed.module()->fireExitEvent();
-    QCOMPARE(bed.told(), QStringList());
+    QCOMPARE(bed.toldAtExit(), QStringList());
     bed.put("state", Auto);
-    bed.forget();
-    bed.module()->fireExitEvent();
-    QCOMPARE(bed.told(), QStringList{u"LuBackLight 43 off 2 []"_s});
+    QCOMPARE(bed.toldAtExit(), QStringList{u"LuBackLight 43 off 2 []"_s});
 }
 
 QTEST_MAIN(TestBackLight)

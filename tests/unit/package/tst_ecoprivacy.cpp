@@ -26,12 +26,6 @@ struct Bed : ModuleBed
     /// Twenty seconds, and the middle reach that the monitor comes with.
     void beginAt(bool state) { beginWith({{"state", true}, {"activeTime", 20}, {"state", state}}); }
     QStringList own() { return wireOf({TimeCode, ModeCode, SensitivityCode}); }
-    QVariant plain(const char* name) { return setting(u"LuEcoPrivacy/"_s + QLatin1String(name)); }
-    bool logged(const QString& start)
-    {
-        m_lines += log();
-        return !m_lines.filter(start).isEmpty();
-    }
     bool press(bool repeated = false)
     {
         const QKeyEvent event(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier, QString(), repeated);
@@ -51,9 +45,6 @@ struct Bed : ModuleBed
             result.append(time.toInt());
         return result;
     }
-
-private:
-    QStringList m_lines;
 };
 
 } // namespace
@@ -179,12 +170,7 @@ void TestEcoPrivacy::stateIsWrittenStoredAndReported()
     Bed bed;
     bed.beginAt(!to);
     QSignalSpy spy(bed.module(), SIGNAL(stateChanged()));
-    {
-        std::optional<LuMonitorModel::OtherFunctionScope> scope;
-        if (triggered)
-            scope.emplace(bed.module());
-        bed.put("state", to);
-    }
+    bed.putBy(triggered, "state", to);
     QVERIFY(bed.idle());
     QCOMPARE(bed.own(), QStringList{u"set 0xE7 %1"_s.arg(value)});
     QCOMPARE(bed.plain("state").toBool(), to);
@@ -499,17 +485,12 @@ void TestEcoPrivacy::whatStaysOffIsNotAppliedAgain()
 {
     Bed bed;
     bed.begin();
-    bed.relaunch();
-    QVERIFY(bed.idle());
-    bed.forget();
-    bed.relaunch();
-    QVERIFY(bed.idle());
+    QVERIFY(bed.relaunchAnew());
+    QVERIFY(bed.relaunchAnew());
     QCOMPARE(bed.own().filter(u"set"_s), QStringList());
     bed.put("state", true);
     QVERIFY(bed.idle());
-    bed.forget();
-    bed.relaunch();
-    QVERIFY(bed.idle());
+    QVERIFY(bed.relaunchAnew());
     QVERIFY(bed.own().contains(u"set 0xE7 10"_s));
 }
 
@@ -517,13 +498,10 @@ void TestEcoPrivacy::exitReportsOff()
 {
     Bed bed;
     bed.beginAt(false);
-    bed.module()->fireExitEvent();
-    QCOMPARE(bed.told(), QStringList());
+    QCOMPARE(bed.toldAtExit(), QStringList());
     bed.put("state", true);
     QVERIFY(bed.idle());
-    bed.forget();
-    bed.module()->fireExitEvent();
-    QCOMPARE(bed.told(), QStringList{u"LuEcoPrivacy 16 off 2 []"_s});
+    QCOMPARE(bed.toldAtExit(), QStringList{u"LuEcoPrivacy 16 off 2 []"_s});
 }
 
 QTEST_MAIN(TestEcoPrivacy)
