@@ -10,8 +10,8 @@ namespace services {
 /// The applications of the desktop.
 ///
 /// Called by LuPlatformProgram, from the GUI thread and from monitors' queues. When the list of applications
-/// is complete the service sets LuPlatformProgram::appListReady and raises appListInitialized(), on the GUI
-/// thread.
+/// is complete the service sets LuPlatformProgram::appListReady and raises appListInitialized(), and
+/// appListChanged() whenever applications have come or gone since, on the GUI thread.
 class ProgramService
 {
 public:
@@ -37,6 +37,9 @@ public:
     /// Starts a program by its path or its desktop entry, or opens a document or an address with the
     /// application for it. Never through a shell, and without waiting; false if nothing was started.
     virtual bool open(const QString& path) = 0;
+
+    /// Whether setGeometry() can do anything in this session.
+    virtual bool placesWindows() const { return true; }
 
     /// Moves and sizes a process's main window, in desktop coordinates. The rectangle is valid.
     virtual void setGeometry(unsigned long pid, const QRectF& geometry) = 0;

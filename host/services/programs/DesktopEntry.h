@@ -21,6 +21,8 @@ struct DesktopEntry
     bool terminal = false;
     bool hidden = false; ///< Not shown in menus.
 
+    bool operator==(const DesktopEntry&) const = default;
+
     /// Reads an entry of an application. Nothing for another kind, a deleted one, or a file that is none.
     /// @param locale such as "de_AT".
     static std::optional<DesktopEntry> read(const QString& file, const QString& locale);

@@ -3,9 +3,11 @@
 
 #include <LuShared/LuPlatformNotifications.h>
 #include <LuShared/LuPlatformProgram.h>
+#include <ZrCore/ZrDispatch.h>
 
 #include <QCoreApplication>
 #include <QDebug>
+#include <QDirIterator>
 #include <QEvent>
 #include <QFile>
 #include <QFileInfo>
@@ -82,18 +84,13 @@ QString scriptOf(unsigned long pid)
 
 } // namespace
 
-Programs::Programs(std::shared_ptr<ApplicationWindows> windows) : m_windows(std::move(windows))
+Programs::Programs(std::shared_ptr<ApplicationWindows> windows)
+    : m_windows(std::move(windows)),
+      m_folders(QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation))
 {
-    const QStringList folders = QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation);
-    const QString locale = QLocale().name();
-    m_reader = std::thread([this, folders, locale] {
-        auto read = std::make_shared<const ApplicationList>(ApplicationList::read(folders, locale));
-        {
-            const std::lock_guard lock(m_mutex);
-            m_list = std::move(read);
-        }
-        QCoreApplication::postEvent(this, new QEvent(QEvent::User));
-    });
+    connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this, &Programs::readLater);
+    watch();
+    read();
 }
 
 Programs::~Programs()
@@ -101,13 +98,76 @@ Programs::~Programs()
     m_reader.join();
 }
 
+void Programs::watch()
+{
+    QStringList wanted;
+    for (const QString& folder : m_folders) {
+        const QString applications = folder + QStringLiteral("/applications");
+        // A folder that is not there yet shows in the one above it.
+        if (!QFileInfo(applications).isDir()) {
+            wanted.append(folder);
+            continue;
+        }
+        wanted.append(applications);
+        QDirIterator below(applications, QDir::Dirs | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
+        while (below.hasNext())
+            wanted.append(below.next());
+    }
+    const QStringList before = m_watcher.directories();
+    for (const QString& folder : std::as_const(wanted)) {
+        if (!before.contains(folder) && QFileInfo(folder).isDir())
+            m_watcher.addPath(folder);
+    }
+    for (const QString& folder : before) {
+        if (!wanted.contains(folder))
+            m_watcher.removePath(folder);
+    }
+}
+
+void Programs::readLater()
+{
+    ZrDispatch::main()->postUniqueLater(this, QStringLiteral("readApplications"), QuietMs, [this] {
+        watch();
+        read();
+    });
+}
+
+void Programs::read()
+{
+    m_readAgain = m_reading;
+    if (std::exchange(m_reading, true))
+        return;
+    if (m_reader.joinable())
+        m_reader.join();
+    m_reader = std::thread([this, folders = m_folders, locale = QLocale().name()] {
+        auto read = std::make_shared<const ApplicationList>(ApplicationList::read(folders, locale));
+        {
+            const std::lock_guard lock(m_mutex);
+            m_differs = !m_list || m_list->entries() != read->entries();
+            m_list = std::move(read);
+        }
+        QCoreApplication::postEvent(this, new QEvent(QEvent::User));
+    });
+}
+
 bool Programs::event(QEvent* event)
 {
     if (event->type() != QEvent::User)
         return QObject::event(event);
-    m_told = true;
-    LuPlatformProgram::instance()->appListReady = true;
-    Q_EMIT LuPlatformNotifications::instance()->appListInitialized();
+    m_reading = false;
+    bool differs = false;
+    {
+        const std::lock_guard lock(m_mutex);
+        differs = m_differs;
+    }
+    if (!std::exchange(m_told, true)) {
+        LuPlatformProgram::instance()->appListReady = true;
+        Q_EMIT LuPlatformNotifications::instance()->appListInitialized();
+    } else if (differs) {
+        Q_EMIT LuPlatformNotifications::instance()->appListChanged();
+    }
+    if (std::exchange(m_readAgain, false))
+        read();
     return true;
 }
 

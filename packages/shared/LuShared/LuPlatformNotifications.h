@@ -32,6 +32,9 @@ Q_SIGNALS:
     /// The list of applications is complete: LuPlatformProgram::appListReady holds from now on.
     void appListInitialized();
 
+    /// Applications were installed, changed or removed after that: names, places and icons may be others.
+    void appListChanged();
+
     /// A key was pressed, or repeats itself while held down, whichever application has the focus.
     void activeKeyEvent(Qt::KeyboardModifiers modifiers, Qt::Key key, bool repeated);
 

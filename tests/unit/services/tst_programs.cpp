@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <LuShared/LuPlatformNotifications.h>
 #include <LuShared/LuPlatformProgram.h>
+#include <ZrCore/ZrClock.h>
+#include <ZrCore/ZrDispatch.h>
 #include <lushared/services/ServiceRegistry.h>
 #include <services/programs/Programs.h>
 
@@ -59,8 +61,12 @@ private Q_SLOTS:
     void refused_data();
     void refused();
     void windowsArePlaced();
+    void installationsAreFollowed();
+    void oneInstallationIsReadOnce();
 
 private:
+    /// Whether the folders' change has been seen; then lets the quiet pass.
+    bool changeIsRead();
     QString write(const QString& name, const QByteArray& content, bool executable = false);
     QString path(const QString& name) const { return m_folder.filePath(name); }
     QByteArray content(const QString& name) const
@@ -121,7 +127,8 @@ void TestPrograms::initTestCase()
           "[Desktop Entry]\nType=Application\nName=Absent\nExec=no-such-program\n");
 
     qputenv("XDG_DATA_HOME", path(u"home"_s).toUtf8());
-    qputenv("XDG_DATA_DIRS", path(u"system"_s).toUtf8());
+    QVERIFY(QDir().mkpath(path(u"later"_s)));
+    qputenv("XDG_DATA_DIRS", (path(u"system"_s) + u':' + path(u"later"_s)).toUtf8());
     qputenv("PATH", path(u"bin"_s).toUtf8() + ":/usr/bin:/bin");
     qputenv("NOTE", path(u"note"_s).toUtf8());
 
@@ -350,6 +357,68 @@ void TestPrograms::windowsArePlaced()
     QCOMPARE(m_windows->where, QRectF(1, 2, 3, 4));
     const Programs without(nullptr);
     QCOMPARE(without.appId(4711ul), QString());
+}
+
+bool TestPrograms::changeIsRead()
+{
+    const bool seen = QTest::qWaitFor(
+        [this] { return ZrDispatch::main()->has(m_programs.get(), u"readApplications"_s); }, 30'000);
+    ZrClock::instance().advance(Programs::QuietMs);
+    return seen;
+}
+
+void TestPrograms::installationsAreFollowed()
+{
+    ZrClock::instance().set(QDateTime(QDate(2026, 3, 2), QTime(8, 0)));
+    const auto release = qScopeGuard([] { ZrClock::instance().release(); });
+    QSignalSpy changed(LuPlatformNotifications::instance(), &LuPlatformNotifications::appListChanged);
+    const QByteArray entry = "[Desktop Entry]\nType=Application\nExec=plain\nIcon=new-icon\nName=";
+    const auto nameOf = [](const QString& id) { return LuPlatformProgram::instance()->appDisplayName(id); };
+
+    write(u"home/applications/new.desktop"_s, entry + "New\n");
+    QVERIFY(changeIsRead());
+    QTRY_COMPARE(changed.count(), 1);
+    QCOMPARE(nameOf(u"new.desktop"_s), u"New"_s);
+    QCOMPARE(m_programs->icon(u"new.desktop"_s), u"new-icon"_s);
+    // As package tools do: a file takes the place of another one.
+    write(u"newer"_s, entry + "Newer\n");
+    QVERIFY(QFile::remove(path(u"home/applications/new.desktop"_s)));
+    QVERIFY(QFile::rename(path(u"newer"_s), path(u"home/applications/new.desktop"_s)));
+    QVERIFY(changeIsRead());
+    QTRY_COMPARE(changed.count(), 2);
+    QCOMPARE(nameOf(u"new.desktop"_s), u"Newer"_s);
+    QVERIFY(QFile::remove(path(u"home/applications/new.desktop"_s)));
+    QVERIFY(changeIsRead());
+    QTRY_COMPARE(changed.count(), 3);
+    QCOMPARE(m_programs->icon(u"new.desktop"_s), QString());
+
+    // A folder that is not there at the start, and one below it.
+    QVERIFY(QDir().mkpath(path(u"later/applications/vendor"_s)));
+    QVERIFY(changeIsRead());
+    write(u"later/applications/vendor/late.desktop"_s, entry + "Late\n");
+    QVERIFY(changeIsRead());
+    QTRY_COMPARE(changed.count(), 4);
+    QCOMPARE(nameOf(u"vendor-late.desktop"_s), u"Late"_s);
+    QVERIFY(QDir(path(u"later/applications"_s)).removeRecursively());
+    QVERIFY(changeIsRead());
+    QTRY_COMPARE(changed.count(), 5);
+}
+
+void TestPrograms::oneInstallationIsReadOnce()
+{
+    ZrClock::instance().set(QDateTime(QDate(2026, 3, 2), QTime(8, 0)));
+    const auto release = qScopeGuard([] { ZrClock::instance().release(); });
+    QSignalSpy changed(LuPlatformNotifications::instance(), &LuPlatformNotifications::appListChanged);
+    // What is no application is no change.
+    write(u"home/applications/mimeinfo.cache"_s, "x");
+    QVERIFY(changeIsRead());
+    for (int i = 0; i < 20; ++i)
+        write(u"home/applications/many%1.desktop"_s.arg(i),
+              "[Desktop Entry]\nType=Application\nName=Many\nExec=plain\n");
+    QVERIFY(changeIsRead());
+    QTRY_COMPARE(changed.count(), 1);
+    QCOMPARE(LuPlatformProgram::instance()->appDisplayName(u"many19.desktop"_s), u"Many"_s);
+    QCOMPARE(m_told, 1);
 }
 
 QTEST_GUILESS_MAIN(TestPrograms)
