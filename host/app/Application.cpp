@@ -13,6 +13,7 @@
 #include "adapters/SimulatorMethods.h"
 #include "adapters/WindowMethods.h"
 
+#include <LuShared/LuMediaDevices.h>
 #include <LuShared/LuMonitorModel.h>
 #include <ZrCore/ZrDispatch.h>
 #include <ZrCore/ZrEnvironment.h>
@@ -28,12 +29,15 @@
 #include <lushared/LuMonitorRegistry.h>
 #include <lushared/LuSettings.h>
 #include <lushared/LuStatisticsStore.h>
+#include <lushared/services/Abilities.h>
 #include <lushared/services/ServiceRegistry.h>
 #include <panelcore/MonitorLink.h>
 #include <qml/LuContext.h>
 #include <qml/LuDiagnostics.h>
+#include <qml/LuProgramIcons.h>
 #include <qml/LuWindowBridge.h>
 #include <services/api/DesktopEvents.h>
+#include <services/api/ProgramService.h>
 #include <services/linux/DesktopLook.h>
 #include <services/native/NativeServices.h>
 #include <services/native/Session.h>
@@ -189,6 +193,23 @@ bool Application::isDiscovering() const
 void Application::installServices()
 {
     services::answerSunForecasts();
+    chooseServices();
+    const QString session = services::Registry::current().name;
+    const bool simulated = m_services != nullptr;
+    const bool wayland = session.startsWith(QLatin1String("wayland"));
+    LuContext* context = LuContext::instance();
+    context->setAbsenceSource(&services::absentAbilities,
+                              simulated || wayland || session == QLatin1String("x11"), wayland);
+    connect(LuMediaDevices::instance(), &QMediaDevices::audioOutputsChanged, context,
+            &LuContext::touchAbsences);
+    LuProgramIcons::setLookup([](const QString& appId) {
+        const auto programs = services::Registry::current().programs;
+        return programs ? programs->icon(appId) : QString();
+    });
+}
+
+void Application::chooseServices()
+{
     const bool native =
         m_options.nativeServices.value_or(m_hasDisplay && !(m_options.headless && m_options.simulate));
     if (native) {

@@ -54,6 +54,7 @@ private:
     /// Monitors that are there at the start have no model yet.
     bool isDiscovering() const;
     void installServices();
+    void chooseServices();
     void installNativeServices();
     LuDiagnosticFacts diagnosticFacts() const;
     void openWindow();

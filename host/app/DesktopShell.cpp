@@ -152,6 +152,7 @@ void DesktopShell::fillContext(const QList<LuPackagesInterface*>& packages)
         if (m_tray)
             m_tray->refresh();
         LuContext::instance()->touchFacts();
+        LuContext::instance()->touchAbsences();
     });
 }
 

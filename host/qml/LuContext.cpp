@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "LuContext.h"
 
+#include "LuAbsences.h"
+
 #include <QDir>
 #include <QEvent>
 #include <QFile>
@@ -160,6 +162,25 @@ bool LuContext::isRightToLeft() const
     return QGuiApplication::isRightToLeft();
 }
 
+QVariantMap LuContext::absences() const
+{
+    QVariantMap all;
+    const QStringList absent = m_absent ? m_absent() : QStringList();
+    for (const QString& ability : absent)
+        all.insert(ability, LuAbsences::text(ability, m_hasDesktop, m_isWayland));
+    if (!m_notices.isEmpty())
+        all.insert(u"monitorControl"_s, m_notices.join(u'\n'));
+    return all;
+}
+
+void LuContext::setAbsenceSource(std::function<QStringList()> absent, bool desktop, bool wayland)
+{
+    m_absent = std::move(absent);
+    m_hasDesktop = desktop;
+    m_isWayland = wayland;
+    Q_EMIT absencesChanged();
+}
+
 void LuContext::setDiscovering(bool on)
 {
     if (on == m_discovering)
@@ -260,6 +281,7 @@ void LuContext::setNotices(const QStringList& notices)
         return;
     m_notices = notices;
     Q_EMIT noticesChanged();
+    Q_EMIT absencesChanged();
 }
 
 void LuContext::setTheme(const QString& theme)

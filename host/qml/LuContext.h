@@ -13,6 +13,7 @@
 #include <QStringList>
 #include <QUrl>
 #include <QVariant>
+#include <QVariantMap>
 
 #include <functional>
 
@@ -55,6 +56,7 @@ class LuContext : public QObject
     Q_PROPERTY(double fontScale READ fontScale WRITE setFontScale NOTIFY fontScaleChanged)
     Q_PROPERTY(QStringList notices READ notices NOTIFY noticesChanged)
     Q_PROPERTY(QString fontFamily READ fontFamily CONSTANT)
+    Q_PROPERTY(QVariantMap absences READ absences NOTIFY absencesChanged)
 
 public:
     using Lookup = std::function<QVariant(const QString& key)>;
@@ -132,6 +134,14 @@ public:
     /// What keeps monitors from being controlled until the user does something about it, in plain words.
     QStringList notices() const { return m_notices; }
     void setNotices(const QStringList& notices);
+    /// What this session cannot do, in plain words: names of services::absentAbilities(), and
+    /// "monitorControl" where notices() keep monitors from being controlled. Looked up at each call.
+    QVariantMap absences() const;
+    /// @param absent names what is missing now. @param wayland the session is one of a Wayland compositor,
+    /// @param desktop there is a session at all.
+    void setAbsenceSource(std::function<QStringList()> absent, bool desktop, bool wayland);
+    /// Services or the language have changed.
+    void touchAbsences() { Q_EMIT absencesChanged(); }
     /// The language in use is written from right to left: windows are mirrored.
     bool isRightToLeft() const;
 
@@ -183,6 +193,7 @@ Q_SIGNALS:
     void monitorsChanged();
     void widgetUrlsChanged();
     void noticesChanged();
+    void absencesChanged();
     void mainWindowChanged();
     void multiMonitorSyncControlChanged();
     void brightnessSyncChanged();
@@ -224,6 +235,9 @@ private:
     std::function<QList<QUrl>(QObject*)> m_widgetUrlSource;
     std::function<QScreen*(QObject*)> m_screenSource;
     std::function<QString(QObject*)> m_connectionSource;
+    std::function<QStringList()> m_absent;
+    bool m_hasDesktop = true;
+    bool m_isWayland = false;
     int m_factsStamp = 0;
     bool m_discovering = false;
     bool m_canSimulate = false;

@@ -7,6 +7,7 @@
 #include "LuIconProvider.h"
 #include "LuLottieItem.h"
 #include "LuPreferences.h"
+#include "LuProgramIcons.h"
 
 #ifdef LUMEN_QML_SHARED_TYPES
 #include <LuShared/LuDataCollection.h>
@@ -98,6 +99,7 @@ void lumenQmlInit(QQmlEngine* engine, const QStringList& packages)
     paths.append(u"qrc:/lumendesk/fallback"_s);
     engine->setImportPathList(paths);
     engine->addImageProvider(u"lumen"_s, new LuIconProvider);
+    engine->addImageProvider(u"programicon"_s, new LuProgramIcons);
 }
 
 void lumenQmlRelease()

@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: Apache-2.0
 # Fronts of the operating-system services, relative to host/lushared.
 set(LUSHARED_SERVICE_SOURCES
+    services/Abilities.cpp
     services/LuKvm.cpp
     services/LuMediaDevices.cpp
     services/LuPlatform.cpp

@@ -653,4 +653,59 @@
         <translation>Prvky lze uspořádat, když je připojen podporovaný monitor.</translation>
     </message>
 </context>
+<context>
+    <name>LuAbsences</name>
+    <message>
+        <source>This session does not let programs change the resolution.</source>
+        <translation>Tato relace nedovoluje programům měnit rozlišení.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs turn the picture.</source>
+        <translation>Tato relace nedovoluje programům otáčet obraz.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs change the scaling.</source>
+        <translation>Tato relace nedovoluje programům měnit měřítko.</translation>
+    </message>
+    <message>
+        <source>This session gives programs no keys while another window is in front: shortcuts work only in the windows of Lumen Desk.</source>
+        <translation>Tato relace nepředává programům klávesy, když je vpředu jiné okno: zkratky fungují jen v oknech Lumen Desk.</translation>
+    </message>
+    <message>
+        <source>This session does not tell which application is in front.</source>
+        <translation>Tato relace nesděluje, která aplikace je vpředu.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs move the windows of other applications.</source>
+        <translation>Tato relace nedovoluje programům přesouvat okna jiných aplikací.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs press the keys of copy and paste: the second clipboard does not work.</source>
+        <translation>Tato relace nedovoluje programům stisknout klávesy pro kopírování a vložení: druhá schránka nefunguje.</translation>
+    </message>
+    <message>
+        <source>This session does not tell where the pointer is: keyboard and mouse do not change over at the edge of the screen.</source>
+        <translation>Tato relace nesděluje, kde je ukazatel: klávesnice a myš se na okraji obrazovky nepřepnou.</translation>
+    </message>
+    <message>
+        <source>No sound output was found: the system volume and the choice of the output need PulseAudio or PipeWire.</source>
+        <translation>Nebyl nalezen žádný zvukový výstup: hlasitost systému a volba výstupu potřebují PulseAudio nebo PipeWire.</translation>
+    </message>
+    <message>
+        <source>Nothing composes this desktop: the picture cannot be darkened further than the monitor's own brightness.</source>
+        <translation>Tuto plochu nic neskládá: obraz nelze ztmavit více, než dovolí jas monitoru.</translation>
+    </message>
+    <message>
+        <source>This session keeps no window above all others: what comes to the front later may not be darkened.</source>
+        <translation>Tato relace neudrží žádné okno nad všemi ostatními: co se později dostane dopředu, nemusí být ztmaveno.</translation>
+    </message>
+    <message>
+        <source>There is no desktop session.</source>
+        <translation>Neběží žádná relace plochy.</translation>
+    </message>
+    <message>
+        <source>In an X11 session it works.</source>
+        <translation>V relaci X11 to funguje.</translation>
+    </message>
+</context>
 </TS>

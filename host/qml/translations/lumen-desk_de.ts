@@ -653,4 +653,59 @@
         <translation>Elemente lassen sich anordnen, solange ein unterstützter Monitor angeschlossen ist.</translation>
     </message>
 </context>
+<context>
+    <name>LuAbsences</name>
+    <message>
+        <source>This session does not let programs change the resolution.</source>
+        <translation>Diese Sitzung lässt Programme die Auflösung nicht ändern.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs turn the picture.</source>
+        <translation>Diese Sitzung lässt Programme das Bild nicht drehen.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs change the scaling.</source>
+        <translation>Diese Sitzung lässt Programme die Skalierung nicht ändern.</translation>
+    </message>
+    <message>
+        <source>This session gives programs no keys while another window is in front: shortcuts work only in the windows of Lumen Desk.</source>
+        <translation>Diese Sitzung gibt Programmen keine Tasten, solange ein anderes Fenster vorn ist: Tastenkürzel wirken nur in den Fenstern von Lumen Desk.</translation>
+    </message>
+    <message>
+        <source>This session does not tell which application is in front.</source>
+        <translation>Diese Sitzung verrät nicht, welche Anwendung vorn ist.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs move the windows of other applications.</source>
+        <translation>Diese Sitzung lässt Programme die Fenster anderer Anwendungen nicht verschieben.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs press the keys of copy and paste: the second clipboard does not work.</source>
+        <translation>Diese Sitzung lässt Programme die Tasten für Kopieren und Einfügen nicht drücken: Die zweite Zwischenablage funktioniert nicht.</translation>
+    </message>
+    <message>
+        <source>This session does not tell where the pointer is: keyboard and mouse do not change over at the edge of the screen.</source>
+        <translation>Diese Sitzung verrät nicht, wo der Zeiger ist: Tastatur und Maus wechseln am Bildschirmrand nicht.</translation>
+    </message>
+    <message>
+        <source>No sound output was found: the system volume and the choice of the output need PulseAudio or PipeWire.</source>
+        <translation>Keine Tonausgabe gefunden: Systemlautstärke und Wahl der Ausgabe brauchen PulseAudio oder PipeWire.</translation>
+    </message>
+    <message>
+        <source>Nothing composes this desktop: the picture cannot be darkened further than the monitor's own brightness.</source>
+        <translation>Dieser Desktop läuft ohne Compositor: Das Bild lässt sich nicht weiter abdunkeln, als die Helligkeit des Monitors reicht.</translation>
+    </message>
+    <message>
+        <source>This session keeps no window above all others: what comes to the front later may not be darkened.</source>
+        <translation>Diese Sitzung hält kein Fenster über allen anderen: Was später nach vorn kommt, wird möglicherweise nicht abgedunkelt.</translation>
+    </message>
+    <message>
+        <source>There is no desktop session.</source>
+        <translation>Es läuft keine Desktopsitzung.</translation>
+    </message>
+    <message>
+        <source>In an X11 session it works.</source>
+        <translation>In einer X11-Sitzung geht es.</translation>
+    </message>
+</context>
 </TS>

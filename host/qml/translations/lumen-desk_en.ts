@@ -653,4 +653,59 @@
         <translation>Widgets can be arranged while a supported monitor is connected.</translation>
     </message>
 </context>
+<context>
+    <name>LuAbsences</name>
+    <message>
+        <source>This session does not let programs change the resolution.</source>
+        <translation>This session does not let programs change the resolution.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs turn the picture.</source>
+        <translation>This session does not let programs turn the picture.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs change the scaling.</source>
+        <translation>This session does not let programs change the scaling.</translation>
+    </message>
+    <message>
+        <source>This session gives programs no keys while another window is in front: shortcuts work only in the windows of Lumen Desk.</source>
+        <translation>This session gives programs no keys while another window is in front: shortcuts work only in the windows of Lumen Desk.</translation>
+    </message>
+    <message>
+        <source>This session does not tell which application is in front.</source>
+        <translation>This session does not tell which application is in front.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs move the windows of other applications.</source>
+        <translation>This session does not let programs move the windows of other applications.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs press the keys of copy and paste: the second clipboard does not work.</source>
+        <translation>This session does not let programs press the keys of copy and paste: the second clipboard does not work.</translation>
+    </message>
+    <message>
+        <source>This session does not tell where the pointer is: keyboard and mouse do not change over at the edge of the screen.</source>
+        <translation>This session does not tell where the pointer is: keyboard and mouse do not change over at the edge of the screen.</translation>
+    </message>
+    <message>
+        <source>No sound output was found: the system volume and the choice of the output need PulseAudio or PipeWire.</source>
+        <translation>No sound output was found: the system volume and the choice of the output need PulseAudio or PipeWire.</translation>
+    </message>
+    <message>
+        <source>Nothing composes this desktop: the picture cannot be darkened further than the monitor's own brightness.</source>
+        <translation>Nothing composes this desktop: the picture cannot be darkened further than the monitor's own brightness.</translation>
+    </message>
+    <message>
+        <source>This session keeps no window above all others: what comes to the front later may not be darkened.</source>
+        <translation>This session keeps no window above all others: what comes to the front later may not be darkened.</translation>
+    </message>
+    <message>
+        <source>There is no desktop session.</source>
+        <translation>There is no desktop session.</translation>
+    </message>
+    <message>
+        <source>In an X11 session it works.</source>
+        <translation>In an X11 session it works.</translation>
+    </message>
+</context>
 </TS>

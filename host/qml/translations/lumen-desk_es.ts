@@ -653,4 +653,59 @@
         <translation>Los elementos se organizan con un monitor compatible conectado.</translation>
     </message>
 </context>
+<context>
+    <name>LuAbsences</name>
+    <message>
+        <source>This session does not let programs change the resolution.</source>
+        <translation>Esta sesión no permite que los programas cambien la resolución.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs turn the picture.</source>
+        <translation>Esta sesión no permite que los programas giren la imagen.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs change the scaling.</source>
+        <translation>Esta sesión no permite que los programas cambien la escala.</translation>
+    </message>
+    <message>
+        <source>This session gives programs no keys while another window is in front: shortcuts work only in the windows of Lumen Desk.</source>
+        <translation>Esta sesión no da teclas a los programas mientras otra ventana está delante: los atajos solo funcionan en las ventanas de Lumen Desk.</translation>
+    </message>
+    <message>
+        <source>This session does not tell which application is in front.</source>
+        <translation>Esta sesión no indica qué aplicación está delante.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs move the windows of other applications.</source>
+        <translation>Esta sesión no permite que los programas muevan las ventanas de otras aplicaciones.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs press the keys of copy and paste: the second clipboard does not work.</source>
+        <translation>Esta sesión no permite que los programas pulsen las teclas de copiar y pegar: el segundo portapapeles no funciona.</translation>
+    </message>
+    <message>
+        <source>This session does not tell where the pointer is: keyboard and mouse do not change over at the edge of the screen.</source>
+        <translation>Esta sesión no indica dónde está el puntero: el teclado y el ratón no cambian en el borde de la pantalla.</translation>
+    </message>
+    <message>
+        <source>No sound output was found: the system volume and the choice of the output need PulseAudio or PipeWire.</source>
+        <translation>No se encontró ninguna salida de sonido: el volumen del sistema y la elección de la salida necesitan PulseAudio o PipeWire.</translation>
+    </message>
+    <message>
+        <source>Nothing composes this desktop: the picture cannot be darkened further than the monitor's own brightness.</source>
+        <translation>Este escritorio no tiene compositor: la imagen no se puede oscurecer más allá del brillo del monitor.</translation>
+    </message>
+    <message>
+        <source>This session keeps no window above all others: what comes to the front later may not be darkened.</source>
+        <translation>Esta sesión no mantiene ninguna ventana por encima de todas: lo que pase delante después puede no oscurecerse.</translation>
+    </message>
+    <message>
+        <source>There is no desktop session.</source>
+        <translation>No hay ninguna sesión de escritorio.</translation>
+    </message>
+    <message>
+        <source>In an X11 session it works.</source>
+        <translation>En una sesión X11 funciona.</translation>
+    </message>
+</context>
 </TS>

@@ -653,4 +653,59 @@
         <translation>Les éléments s’organisent avec un moniteur pris en charge branché.</translation>
     </message>
 </context>
+<context>
+    <name>LuAbsences</name>
+    <message>
+        <source>This session does not let programs change the resolution.</source>
+        <translation>Cette session ne laisse pas les programmes changer la résolution.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs turn the picture.</source>
+        <translation>Cette session ne laisse pas les programmes pivoter l'image.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs change the scaling.</source>
+        <translation>Cette session ne laisse pas les programmes changer l'échelle.</translation>
+    </message>
+    <message>
+        <source>This session gives programs no keys while another window is in front: shortcuts work only in the windows of Lumen Desk.</source>
+        <translation>Cette session ne transmet aucune touche aux programmes quand une autre fenêtre est au premier plan : les raccourcis ne fonctionnent que dans les fenêtres de Lumen Desk.</translation>
+    </message>
+    <message>
+        <source>This session does not tell which application is in front.</source>
+        <translation>Cette session n'indique pas quelle application est au premier plan.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs move the windows of other applications.</source>
+        <translation>Cette session ne laisse pas les programmes déplacer les fenêtres d'autres applications.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs press the keys of copy and paste: the second clipboard does not work.</source>
+        <translation>Cette session ne laisse pas les programmes actionner les touches copier et coller : le second presse-papiers ne fonctionne pas.</translation>
+    </message>
+    <message>
+        <source>This session does not tell where the pointer is: keyboard and mouse do not change over at the edge of the screen.</source>
+        <translation>Cette session n'indique pas où est le pointeur : le clavier et la souris ne changent pas au bord de l'écran.</translation>
+    </message>
+    <message>
+        <source>No sound output was found: the system volume and the choice of the output need PulseAudio or PipeWire.</source>
+        <translation>Aucune sortie audio trouvée : le volume du système et le choix de la sortie ont besoin de PulseAudio ou PipeWire.</translation>
+    </message>
+    <message>
+        <source>Nothing composes this desktop: the picture cannot be darkened further than the monitor's own brightness.</source>
+        <translation>Ce bureau n'a pas de compositeur : l'image ne peut pas être assombrie au-delà de la luminosité du moniteur.</translation>
+    </message>
+    <message>
+        <source>This session keeps no window above all others: what comes to the front later may not be darkened.</source>
+        <translation>Cette session ne garde aucune fenêtre au-dessus de toutes les autres : ce qui passe ensuite devant peut ne pas être assombri.</translation>
+    </message>
+    <message>
+        <source>There is no desktop session.</source>
+        <translation>Il n'y a pas de session de bureau.</translation>
+    </message>
+    <message>
+        <source>In an X11 session it works.</source>
+        <translation>Dans une session X11, cela fonctionne.</translation>
+    </message>
+</context>
 </TS>

@@ -653,4 +653,59 @@
         <translation>Elementi se mogu rasporediti dok je spojen podržani monitor.</translation>
     </message>
 </context>
+<context>
+    <name>LuAbsences</name>
+    <message>
+        <source>This session does not let programs change the resolution.</source>
+        <translation>Ova sesija ne dopušta programima promjenu razlučivosti.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs turn the picture.</source>
+        <translation>Ova sesija ne dopušta programima okretanje slike.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs change the scaling.</source>
+        <translation>Ova sesija ne dopušta programima promjenu skaliranja.</translation>
+    </message>
+    <message>
+        <source>This session gives programs no keys while another window is in front: shortcuts work only in the windows of Lumen Desk.</source>
+        <translation>Ova sesija ne daje programima tipke dok je drugi prozor sprijeda: prečaci rade samo u prozorima Lumen Deska.</translation>
+    </message>
+    <message>
+        <source>This session does not tell which application is in front.</source>
+        <translation>Ova sesija ne govori koja je aplikacija sprijeda.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs move the windows of other applications.</source>
+        <translation>Ova sesija ne dopušta programima pomicanje prozora drugih aplikacija.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs press the keys of copy and paste: the second clipboard does not work.</source>
+        <translation>Ova sesija ne dopušta programima pritisnuti tipke za kopiranje i lijepljenje: drugi međuspremnik ne radi.</translation>
+    </message>
+    <message>
+        <source>This session does not tell where the pointer is: keyboard and mouse do not change over at the edge of the screen.</source>
+        <translation>Ova sesija ne govori gdje je pokazivač: tipkovnica i miš ne prebacuju se na rubu zaslona.</translation>
+    </message>
+    <message>
+        <source>No sound output was found: the system volume and the choice of the output need PulseAudio or PipeWire.</source>
+        <translation>Nije pronađen zvučni izlaz: glasnoća sustava i odabir izlaza trebaju PulseAudio ili PipeWire.</translation>
+    </message>
+    <message>
+        <source>Nothing composes this desktop: the picture cannot be darkened further than the monitor's own brightness.</source>
+        <translation>Ova radna površina nema slagatelja: slika se ne može zatamniti više od svjetline monitora.</translation>
+    </message>
+    <message>
+        <source>This session keeps no window above all others: what comes to the front later may not be darkened.</source>
+        <translation>Ova sesija ne drži nijedan prozor iznad svih ostalih: ono što kasnije dođe naprijed možda neće biti zatamnjeno.</translation>
+    </message>
+    <message>
+        <source>There is no desktop session.</source>
+        <translation>Nema sesije radne površine.</translation>
+    </message>
+    <message>
+        <source>In an X11 session it works.</source>
+        <translation>U sesiji X11 to radi.</translation>
+    </message>
+</context>
 </TS>

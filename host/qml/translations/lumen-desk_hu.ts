@@ -653,4 +653,59 @@
         <translation>Az elemek támogatott monitor csatlakoztatásakor rendezhetők.</translation>
     </message>
 </context>
+<context>
+    <name>LuAbsences</name>
+    <message>
+        <source>This session does not let programs change the resolution.</source>
+        <translation>Ez a munkamenet nem engedi a programoknak a felbontás módosítását.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs turn the picture.</source>
+        <translation>Ez a munkamenet nem engedi a programoknak a kép elforgatását.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs change the scaling.</source>
+        <translation>Ez a munkamenet nem engedi a programoknak a méretezés módosítását.</translation>
+    </message>
+    <message>
+        <source>This session gives programs no keys while another window is in front: shortcuts work only in the windows of Lumen Desk.</source>
+        <translation>Ez a munkamenet nem ad billentyűket a programoknak, amíg másik ablak van elöl: a gyorsbillentyűk csak a Lumen Desk ablakaiban működnek.</translation>
+    </message>
+    <message>
+        <source>This session does not tell which application is in front.</source>
+        <translation>Ez a munkamenet nem árulja el, melyik alkalmazás van elöl.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs move the windows of other applications.</source>
+        <translation>Ez a munkamenet nem engedi a programoknak más alkalmazások ablakainak mozgatását.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs press the keys of copy and paste: the second clipboard does not work.</source>
+        <translation>Ez a munkamenet nem engedi a programoknak a másolás és beillesztés billentyűinek lenyomását: a második vágólap nem működik.</translation>
+    </message>
+    <message>
+        <source>This session does not tell where the pointer is: keyboard and mouse do not change over at the edge of the screen.</source>
+        <translation>Ez a munkamenet nem árulja el, hol van a mutató: a billentyűzet és az egér nem vált át a képernyő szélén.</translation>
+    </message>
+    <message>
+        <source>No sound output was found: the system volume and the choice of the output need PulseAudio or PipeWire.</source>
+        <translation>Nem található hangkimenet: a rendszer hangerejéhez és a kimenet választásához PulseAudio vagy PipeWire kell.</translation>
+    </message>
+    <message>
+        <source>Nothing composes this desktop: the picture cannot be darkened further than the monitor's own brightness.</source>
+        <translation>Ezt az asztalt semmi sem kompozitálja: a kép nem sötétíthető a monitor saját fényerejénél tovább.</translation>
+    </message>
+    <message>
+        <source>This session keeps no window above all others: what comes to the front later may not be darkened.</source>
+        <translation>Ez a munkamenet egyetlen ablakot sem tart a többi felett: ami később előre kerül, nem biztos, hogy sötétül.</translation>
+    </message>
+    <message>
+        <source>There is no desktop session.</source>
+        <translation>Nincs asztali munkamenet.</translation>
+    </message>
+    <message>
+        <source>In an X11 session it works.</source>
+        <translation>X11-munkamenetben működik.</translation>
+    </message>
+</context>
 </TS>

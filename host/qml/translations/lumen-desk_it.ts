@@ -653,4 +653,59 @@
         <translation>Gli elementi si dispongono con un monitor supportato collegato.</translation>
     </message>
 </context>
+<context>
+    <name>LuAbsences</name>
+    <message>
+        <source>This session does not let programs change the resolution.</source>
+        <translation>Questa sessione non permette ai programmi di cambiare la risoluzione.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs turn the picture.</source>
+        <translation>Questa sessione non permette ai programmi di ruotare l'immagine.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs change the scaling.</source>
+        <translation>Questa sessione non permette ai programmi di cambiare la scala.</translation>
+    </message>
+    <message>
+        <source>This session gives programs no keys while another window is in front: shortcuts work only in the windows of Lumen Desk.</source>
+        <translation>Questa sessione non dà tasti ai programmi mentre un'altra finestra è in primo piano: le scorciatoie funzionano solo nelle finestre di Lumen Desk.</translation>
+    </message>
+    <message>
+        <source>This session does not tell which application is in front.</source>
+        <translation>Questa sessione non dice quale applicazione è in primo piano.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs move the windows of other applications.</source>
+        <translation>Questa sessione non permette ai programmi di spostare le finestre di altre applicazioni.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs press the keys of copy and paste: the second clipboard does not work.</source>
+        <translation>Questa sessione non permette ai programmi di premere i tasti copia e incolla: il secondo blocco appunti non funziona.</translation>
+    </message>
+    <message>
+        <source>This session does not tell where the pointer is: keyboard and mouse do not change over at the edge of the screen.</source>
+        <translation>Questa sessione non dice dove si trova il puntatore: tastiera e mouse non cambiano al bordo dello schermo.</translation>
+    </message>
+    <message>
+        <source>No sound output was found: the system volume and the choice of the output need PulseAudio or PipeWire.</source>
+        <translation>Nessuna uscita audio trovata: il volume di sistema e la scelta dell'uscita richiedono PulseAudio o PipeWire.</translation>
+    </message>
+    <message>
+        <source>Nothing composes this desktop: the picture cannot be darkened further than the monitor's own brightness.</source>
+        <translation>Questo desktop non ha un compositore: l'immagine non può essere scurita oltre la luminosità del monitor.</translation>
+    </message>
+    <message>
+        <source>This session keeps no window above all others: what comes to the front later may not be darkened.</source>
+        <translation>Questa sessione non tiene alcuna finestra sopra tutte le altre: ciò che passa davanti in seguito potrebbe non essere scurito.</translation>
+    </message>
+    <message>
+        <source>There is no desktop session.</source>
+        <translation>Non c'è alcuna sessione desktop.</translation>
+    </message>
+    <message>
+        <source>In an X11 session it works.</source>
+        <translation>In una sessione X11 funziona.</translation>
+    </message>
+</context>
 </TS>

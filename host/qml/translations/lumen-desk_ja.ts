@@ -653,4 +653,59 @@
         <translation>対応モニターの接続中に配置できます。</translation>
     </message>
 </context>
+<context>
+    <name>LuAbsences</name>
+    <message>
+        <source>This session does not let programs change the resolution.</source>
+        <translation>このセッションでは、プログラムから解像度を変更できません。</translation>
+    </message>
+    <message>
+        <source>This session does not let programs turn the picture.</source>
+        <translation>このセッションでは、プログラムから画面を回転できません。</translation>
+    </message>
+    <message>
+        <source>This session does not let programs change the scaling.</source>
+        <translation>このセッションでは、プログラムから拡大率を変更できません。</translation>
+    </message>
+    <message>
+        <source>This session gives programs no keys while another window is in front: shortcuts work only in the windows of Lumen Desk.</source>
+        <translation>このセッションでは、ほかのウィンドウが前面にある間、プログラムにキーが渡されません。ショートカットは Lumen Desk のウィンドウでのみ使えます。</translation>
+    </message>
+    <message>
+        <source>This session does not tell which application is in front.</source>
+        <translation>このセッションでは、前面のアプリケーションがわかりません。</translation>
+    </message>
+    <message>
+        <source>This session does not let programs move the windows of other applications.</source>
+        <translation>このセッションでは、プログラムからほかのアプリケーションのウィンドウを動かせません。</translation>
+    </message>
+    <message>
+        <source>This session does not let programs press the keys of copy and paste: the second clipboard does not work.</source>
+        <translation>このセッションでは、プログラムからコピーと貼り付けのキーを押せません。2 つ目のクリップボードは使えません。</translation>
+    </message>
+    <message>
+        <source>This session does not tell where the pointer is: keyboard and mouse do not change over at the edge of the screen.</source>
+        <translation>このセッションでは、ポインターの位置がわかりません。画面の端でキーボードとマウスは切り替わりません。</translation>
+    </message>
+    <message>
+        <source>No sound output was found: the system volume and the choice of the output need PulseAudio or PipeWire.</source>
+        <translation>音声出力が見つかりません。システム音量と出力の選択には PulseAudio または PipeWire が必要です。</translation>
+    </message>
+    <message>
+        <source>Nothing composes this desktop: the picture cannot be darkened further than the monitor's own brightness.</source>
+        <translation>このデスクトップでは合成が行われていません。モニター自体の明るさより暗くすることはできません。</translation>
+    </message>
+    <message>
+        <source>This session keeps no window above all others: what comes to the front later may not be darkened.</source>
+        <translation>このセッションでは、ウィンドウを常に最前面に保てません。後から前面に来るものは暗くならないことがあります。</translation>
+    </message>
+    <message>
+        <source>There is no desktop session.</source>
+        <translation>デスクトップセッションがありません。</translation>
+    </message>
+    <message>
+        <source>In an X11 session it works.</source>
+        <translation>X11 セッションでは使えます。</translation>
+    </message>
+</context>
 </TS>

@@ -653,4 +653,59 @@
         <translation>지원되는 모니터가 연결되어 있을 때 배치할 수 있습니다.</translation>
     </message>
 </context>
+<context>
+    <name>LuAbsences</name>
+    <message>
+        <source>This session does not let programs change the resolution.</source>
+        <translation>이 세션에서는 프로그램이 해상도를 바꿀 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs turn the picture.</source>
+        <translation>이 세션에서는 프로그램이 화면을 회전할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs change the scaling.</source>
+        <translation>이 세션에서는 프로그램이 배율을 바꿀 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>This session gives programs no keys while another window is in front: shortcuts work only in the windows of Lumen Desk.</source>
+        <translation>이 세션에서는 다른 창이 앞에 있는 동안 프로그램에 키가 전달되지 않습니다. 단축키는 Lumen Desk 창에서만 작동합니다.</translation>
+    </message>
+    <message>
+        <source>This session does not tell which application is in front.</source>
+        <translation>이 세션에서는 앞에 있는 애플리케이션을 알 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs move the windows of other applications.</source>
+        <translation>이 세션에서는 프로그램이 다른 애플리케이션의 창을 옮길 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs press the keys of copy and paste: the second clipboard does not work.</source>
+        <translation>이 세션에서는 프로그램이 복사와 붙여넣기 키를 누를 수 없습니다. 두 번째 클립보드가 작동하지 않습니다.</translation>
+    </message>
+    <message>
+        <source>This session does not tell where the pointer is: keyboard and mouse do not change over at the edge of the screen.</source>
+        <translation>이 세션에서는 포인터의 위치를 알 수 없습니다. 화면 가장자리에서 키보드와 마우스가 전환되지 않습니다.</translation>
+    </message>
+    <message>
+        <source>No sound output was found: the system volume and the choice of the output need PulseAudio or PipeWire.</source>
+        <translation>소리 출력을 찾지 못했습니다. 시스템 음량과 출력 선택에는 PulseAudio 또는 PipeWire가 필요합니다.</translation>
+    </message>
+    <message>
+        <source>Nothing composes this desktop: the picture cannot be darkened further than the monitor's own brightness.</source>
+        <translation>이 데스크톱에는 합성기가 없습니다. 모니터 자체 밝기보다 더 어둡게 할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>This session keeps no window above all others: what comes to the front later may not be darkened.</source>
+        <translation>이 세션에서는 창을 항상 맨 위에 둘 수 없습니다. 나중에 앞으로 오는 것은 어두워지지 않을 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>There is no desktop session.</source>
+        <translation>데스크톱 세션이 없습니다.</translation>
+    </message>
+    <message>
+        <source>In an X11 session it works.</source>
+        <translation>X11 세션에서는 작동합니다.</translation>
+    </message>
+</context>
 </TS>

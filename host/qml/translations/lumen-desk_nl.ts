@@ -653,4 +653,59 @@
         <translation>Onderdelen kun je indelen als een ondersteunde monitor is aangesloten.</translation>
     </message>
 </context>
+<context>
+    <name>LuAbsences</name>
+    <message>
+        <source>This session does not let programs change the resolution.</source>
+        <translation>Deze sessie laat programma's de resolutie niet wijzigen.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs turn the picture.</source>
+        <translation>Deze sessie laat programma's het beeld niet draaien.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs change the scaling.</source>
+        <translation>Deze sessie laat programma's de schaal niet wijzigen.</translation>
+    </message>
+    <message>
+        <source>This session gives programs no keys while another window is in front: shortcuts work only in the windows of Lumen Desk.</source>
+        <translation>Deze sessie geeft programma's geen toetsen zolang een ander venster vooraan staat: sneltoetsen werken alleen in de vensters van Lumen Desk.</translation>
+    </message>
+    <message>
+        <source>This session does not tell which application is in front.</source>
+        <translation>Deze sessie vertelt niet welke toepassing vooraan staat.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs move the windows of other applications.</source>
+        <translation>Deze sessie laat programma's de vensters van andere toepassingen niet verplaatsen.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs press the keys of copy and paste: the second clipboard does not work.</source>
+        <translation>Deze sessie laat programma's de toetsen voor kopiëren en plakken niet indrukken: het tweede klembord werkt niet.</translation>
+    </message>
+    <message>
+        <source>This session does not tell where the pointer is: keyboard and mouse do not change over at the edge of the screen.</source>
+        <translation>Deze sessie vertelt niet waar de aanwijzer is: toetsenbord en muis wisselen niet aan de rand van het scherm.</translation>
+    </message>
+    <message>
+        <source>No sound output was found: the system volume and the choice of the output need PulseAudio or PipeWire.</source>
+        <translation>Geen geluidsuitvoer gevonden: het systeemvolume en de keuze van de uitvoer hebben PulseAudio of PipeWire nodig.</translation>
+    </message>
+    <message>
+        <source>Nothing composes this desktop: the picture cannot be darkened further than the monitor's own brightness.</source>
+        <translation>Dit bureaublad heeft geen compositor: het beeld kan niet donkerder dan de helderheid van de monitor zelf.</translation>
+    </message>
+    <message>
+        <source>This session keeps no window above all others: what comes to the front later may not be darkened.</source>
+        <translation>Deze sessie houdt geen venster boven alle andere: wat later vooraan komt, wordt mogelijk niet verduisterd.</translation>
+    </message>
+    <message>
+        <source>There is no desktop session.</source>
+        <translation>Er is geen bureaubladsessie.</translation>
+    </message>
+    <message>
+        <source>In an X11 session it works.</source>
+        <translation>In een X11-sessie werkt het.</translation>
+    </message>
+</context>
 </TS>

@@ -653,4 +653,59 @@
         <translation>Elementy można rozmieścić, gdy podłączony jest obsługiwany monitor.</translation>
     </message>
 </context>
+<context>
+    <name>LuAbsences</name>
+    <message>
+        <source>This session does not let programs change the resolution.</source>
+        <translation>Ta sesja nie pozwala programom zmieniać rozdzielczości.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs turn the picture.</source>
+        <translation>Ta sesja nie pozwala programom obracać obrazu.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs change the scaling.</source>
+        <translation>Ta sesja nie pozwala programom zmieniać skalowania.</translation>
+    </message>
+    <message>
+        <source>This session gives programs no keys while another window is in front: shortcuts work only in the windows of Lumen Desk.</source>
+        <translation>Ta sesja nie przekazuje programom klawiszy, gdy inne okno jest z przodu: skróty działają tylko w oknach Lumen Desk.</translation>
+    </message>
+    <message>
+        <source>This session does not tell which application is in front.</source>
+        <translation>Ta sesja nie podaje, która aplikacja jest z przodu.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs move the windows of other applications.</source>
+        <translation>Ta sesja nie pozwala programom przesuwać okien innych aplikacji.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs press the keys of copy and paste: the second clipboard does not work.</source>
+        <translation>Ta sesja nie pozwala programom naciskać klawiszy kopiowania i wklejania: drugi schowek nie działa.</translation>
+    </message>
+    <message>
+        <source>This session does not tell where the pointer is: keyboard and mouse do not change over at the edge of the screen.</source>
+        <translation>Ta sesja nie podaje, gdzie jest wskaźnik: klawiatura i mysz nie przełączają się na krawędzi ekranu.</translation>
+    </message>
+    <message>
+        <source>No sound output was found: the system volume and the choice of the output need PulseAudio or PipeWire.</source>
+        <translation>Nie znaleziono wyjścia dźwięku: głośność systemu i wybór wyjścia wymagają PulseAudio lub PipeWire.</translation>
+    </message>
+    <message>
+        <source>Nothing composes this desktop: the picture cannot be darkened further than the monitor's own brightness.</source>
+        <translation>Ten pulpit nie ma kompozytora: obrazu nie można przyciemnić bardziej, niż pozwala jasność monitora.</translation>
+    </message>
+    <message>
+        <source>This session keeps no window above all others: what comes to the front later may not be darkened.</source>
+        <translation>Ta sesja nie utrzymuje żadnego okna nad wszystkimi innymi: to, co później znajdzie się z przodu, może nie być przyciemnione.</translation>
+    </message>
+    <message>
+        <source>There is no desktop session.</source>
+        <translation>Nie ma sesji pulpitu.</translation>
+    </message>
+    <message>
+        <source>In an X11 session it works.</source>
+        <translation>W sesji X11 to działa.</translation>
+    </message>
+</context>
 </TS>

@@ -653,4 +653,59 @@
         <translation>Os elementos organizam-se com um monitor suportado ligado.</translation>
     </message>
 </context>
+<context>
+    <name>LuAbsences</name>
+    <message>
+        <source>This session does not let programs change the resolution.</source>
+        <translation>Esta sessão não permite que os programas mudem a resolução.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs turn the picture.</source>
+        <translation>Esta sessão não permite que os programas rodem a imagem.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs change the scaling.</source>
+        <translation>Esta sessão não permite que os programas mudem a escala.</translation>
+    </message>
+    <message>
+        <source>This session gives programs no keys while another window is in front: shortcuts work only in the windows of Lumen Desk.</source>
+        <translation>Esta sessão não dá teclas aos programas enquanto outra janela está à frente: os atalhos só funcionam nas janelas do Lumen Desk.</translation>
+    </message>
+    <message>
+        <source>This session does not tell which application is in front.</source>
+        <translation>Esta sessão não diz que aplicação está à frente.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs move the windows of other applications.</source>
+        <translation>Esta sessão não permite que os programas movam as janelas de outras aplicações.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs press the keys of copy and paste: the second clipboard does not work.</source>
+        <translation>Esta sessão não permite que os programas premam as teclas de copiar e colar: a segunda área de transferência não funciona.</translation>
+    </message>
+    <message>
+        <source>This session does not tell where the pointer is: keyboard and mouse do not change over at the edge of the screen.</source>
+        <translation>Esta sessão não diz onde está o ponteiro: o teclado e o rato não mudam na margem do ecrã.</translation>
+    </message>
+    <message>
+        <source>No sound output was found: the system volume and the choice of the output need PulseAudio or PipeWire.</source>
+        <translation>Nenhuma saída de som encontrada: o volume do sistema e a escolha da saída precisam do PulseAudio ou do PipeWire.</translation>
+    </message>
+    <message>
+        <source>Nothing composes this desktop: the picture cannot be darkened further than the monitor's own brightness.</source>
+        <translation>Este ambiente não tem compositor: a imagem não pode ser escurecida além do brilho do próprio monitor.</translation>
+    </message>
+    <message>
+        <source>This session keeps no window above all others: what comes to the front later may not be darkened.</source>
+        <translation>Esta sessão não mantém nenhuma janela acima de todas: o que vier depois para a frente pode não ser escurecido.</translation>
+    </message>
+    <message>
+        <source>There is no desktop session.</source>
+        <translation>Não há nenhuma sessão de ambiente de trabalho.</translation>
+    </message>
+    <message>
+        <source>In an X11 session it works.</source>
+        <translation>Numa sessão X11 funciona.</translation>
+    </message>
+</context>
 </TS>

@@ -653,4 +653,59 @@
         <translation>Elementele se pot aranja cu un monitor acceptat conectat.</translation>
     </message>
 </context>
+<context>
+    <name>LuAbsences</name>
+    <message>
+        <source>This session does not let programs change the resolution.</source>
+        <translation>Această sesiune nu permite programelor să schimbe rezoluția.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs turn the picture.</source>
+        <translation>Această sesiune nu permite programelor să rotească imaginea.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs change the scaling.</source>
+        <translation>Această sesiune nu permite programelor să schimbe scalarea.</translation>
+    </message>
+    <message>
+        <source>This session gives programs no keys while another window is in front: shortcuts work only in the windows of Lumen Desk.</source>
+        <translation>Această sesiune nu dă taste programelor cât timp altă fereastră este în față: comenzile rapide funcționează doar în ferestrele Lumen Desk.</translation>
+    </message>
+    <message>
+        <source>This session does not tell which application is in front.</source>
+        <translation>Această sesiune nu spune ce aplicație este în față.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs move the windows of other applications.</source>
+        <translation>Această sesiune nu permite programelor să mute ferestrele altor aplicații.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs press the keys of copy and paste: the second clipboard does not work.</source>
+        <translation>Această sesiune nu permite programelor să apese tastele de copiere și lipire: al doilea clipboard nu funcționează.</translation>
+    </message>
+    <message>
+        <source>This session does not tell where the pointer is: keyboard and mouse do not change over at the edge of the screen.</source>
+        <translation>Această sesiune nu spune unde este indicatorul: tastatura și mausul nu comută la marginea ecranului.</translation>
+    </message>
+    <message>
+        <source>No sound output was found: the system volume and the choice of the output need PulseAudio or PipeWire.</source>
+        <translation>Nu s-a găsit nicio ieșire audio: volumul sistemului și alegerea ieșirii au nevoie de PulseAudio sau PipeWire.</translation>
+    </message>
+    <message>
+        <source>Nothing composes this desktop: the picture cannot be darkened further than the monitor's own brightness.</source>
+        <translation>Acest desktop nu are compozitor: imaginea nu poate fi întunecată mai mult decât luminozitatea monitorului.</translation>
+    </message>
+    <message>
+        <source>This session keeps no window above all others: what comes to the front later may not be darkened.</source>
+        <translation>Această sesiune nu ține nicio fereastră deasupra tuturor: ce vine mai târziu în față poate să nu fie întunecat.</translation>
+    </message>
+    <message>
+        <source>There is no desktop session.</source>
+        <translation>Nu există o sesiune desktop.</translation>
+    </message>
+    <message>
+        <source>In an X11 session it works.</source>
+        <translation>Într-o sesiune X11 funcționează.</translation>
+    </message>
+</context>
 </TS>

@@ -653,4 +653,59 @@
         <translation>Элементы можно упорядочить, когда подключён поддерживаемый монитор.</translation>
     </message>
 </context>
+<context>
+    <name>LuAbsences</name>
+    <message>
+        <source>This session does not let programs change the resolution.</source>
+        <translation>Этот сеанс не позволяет программам менять разрешение.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs turn the picture.</source>
+        <translation>Этот сеанс не позволяет программам поворачивать изображение.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs change the scaling.</source>
+        <translation>Этот сеанс не позволяет программам менять масштаб.</translation>
+    </message>
+    <message>
+        <source>This session gives programs no keys while another window is in front: shortcuts work only in the windows of Lumen Desk.</source>
+        <translation>Этот сеанс не передаёт программам клавиши, пока впереди другое окно: сочетания работают только в окнах Lumen Desk.</translation>
+    </message>
+    <message>
+        <source>This session does not tell which application is in front.</source>
+        <translation>Этот сеанс не сообщает, какое приложение впереди.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs move the windows of other applications.</source>
+        <translation>Этот сеанс не позволяет программам перемещать окна других приложений.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs press the keys of copy and paste: the second clipboard does not work.</source>
+        <translation>Этот сеанс не позволяет программам нажимать клавиши копирования и вставки: второй буфер обмена не работает.</translation>
+    </message>
+    <message>
+        <source>This session does not tell where the pointer is: keyboard and mouse do not change over at the edge of the screen.</source>
+        <translation>Этот сеанс не сообщает, где указатель: клавиатура и мышь не переключаются у края экрана.</translation>
+    </message>
+    <message>
+        <source>No sound output was found: the system volume and the choice of the output need PulseAudio or PipeWire.</source>
+        <translation>Звуковой выход не найден: для громкости системы и выбора выхода нужен PulseAudio или PipeWire.</translation>
+    </message>
+    <message>
+        <source>Nothing composes this desktop: the picture cannot be darkened further than the monitor's own brightness.</source>
+        <translation>У этого рабочего стола нет композитора: изображение нельзя затемнить сильнее яркости самого монитора.</translation>
+    </message>
+    <message>
+        <source>This session keeps no window above all others: what comes to the front later may not be darkened.</source>
+        <translation>Этот сеанс не удерживает окно поверх всех остальных: то, что позже окажется впереди, может не затемняться.</translation>
+    </message>
+    <message>
+        <source>There is no desktop session.</source>
+        <translation>Сеанса рабочего стола нет.</translation>
+    </message>
+    <message>
+        <source>In an X11 session it works.</source>
+        <translation>В сеансе X11 это работает.</translation>
+    </message>
+</context>
 </TS>

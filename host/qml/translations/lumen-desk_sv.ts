@@ -653,4 +653,59 @@
         <translation>Element kan ordnas när en skärm som stöds är ansluten.</translation>
     </message>
 </context>
+<context>
+    <name>LuAbsences</name>
+    <message>
+        <source>This session does not let programs change the resolution.</source>
+        <translation>Den här sessionen låter inte program ändra upplösningen.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs turn the picture.</source>
+        <translation>Den här sessionen låter inte program vrida bilden.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs change the scaling.</source>
+        <translation>Den här sessionen låter inte program ändra skalningen.</translation>
+    </message>
+    <message>
+        <source>This session gives programs no keys while another window is in front: shortcuts work only in the windows of Lumen Desk.</source>
+        <translation>Den här sessionen ger inte program några tangenter medan ett annat fönster är främst: kortkommandon fungerar bara i Lumen Desks fönster.</translation>
+    </message>
+    <message>
+        <source>This session does not tell which application is in front.</source>
+        <translation>Den här sessionen berättar inte vilket program som är främst.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs move the windows of other applications.</source>
+        <translation>Den här sessionen låter inte program flytta andra programs fönster.</translation>
+    </message>
+    <message>
+        <source>This session does not let programs press the keys of copy and paste: the second clipboard does not work.</source>
+        <translation>Den här sessionen låter inte program trycka på tangenterna för kopiera och klistra in: det andra urklippet fungerar inte.</translation>
+    </message>
+    <message>
+        <source>This session does not tell where the pointer is: keyboard and mouse do not change over at the edge of the screen.</source>
+        <translation>Den här sessionen berättar inte var pekaren är: tangentbord och mus växlar inte vid skärmens kant.</translation>
+    </message>
+    <message>
+        <source>No sound output was found: the system volume and the choice of the output need PulseAudio or PipeWire.</source>
+        <translation>Ingen ljudutgång hittades: systemvolymen och valet av utgång behöver PulseAudio eller PipeWire.</translation>
+    </message>
+    <message>
+        <source>Nothing composes this desktop: the picture cannot be darkened further than the monitor's own brightness.</source>
+        <translation>Det här skrivbordet har ingen kompositor: bilden kan inte göras mörkare än bildskärmens egen ljusstyrka.</translation>
+    </message>
+    <message>
+        <source>This session keeps no window above all others: what comes to the front later may not be darkened.</source>
+        <translation>Den här sessionen håller inget fönster över alla andra: det som senare kommer främst kanske inte mörkas.</translation>
+    </message>
+    <message>
+        <source>There is no desktop session.</source>
+        <translation>Det finns ingen skrivbordssession.</translation>
+    </message>
+    <message>
+        <source>In an X11 session it works.</source>
+        <translation>I en X11-session fungerar det.</translation>
+    </message>
+</context>
 </TS>

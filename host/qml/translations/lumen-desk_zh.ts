@@ -653,4 +653,59 @@
         <translation>连接受支持的显示器后即可排列小组件。</translation>
     </message>
 </context>
+<context>
+    <name>LuAbsences</name>
+    <message>
+        <source>This session does not let programs change the resolution.</source>
+        <translation>此会话不允许程序更改分辨率。</translation>
+    </message>
+    <message>
+        <source>This session does not let programs turn the picture.</source>
+        <translation>此会话不允许程序旋转画面。</translation>
+    </message>
+    <message>
+        <source>This session does not let programs change the scaling.</source>
+        <translation>此会话不允许程序更改缩放。</translation>
+    </message>
+    <message>
+        <source>This session gives programs no keys while another window is in front: shortcuts work only in the windows of Lumen Desk.</source>
+        <translation>当其他窗口在前面时,此会话不会把按键交给程序:快捷键只在 Lumen Desk 的窗口中有效。</translation>
+    </message>
+    <message>
+        <source>This session does not tell which application is in front.</source>
+        <translation>此会话不告知哪个应用程序在前面。</translation>
+    </message>
+    <message>
+        <source>This session does not let programs move the windows of other applications.</source>
+        <translation>此会话不允许程序移动其他应用程序的窗口。</translation>
+    </message>
+    <message>
+        <source>This session does not let programs press the keys of copy and paste: the second clipboard does not work.</source>
+        <translation>此会话不允许程序按下复制和粘贴键:第二剪贴板无法使用。</translation>
+    </message>
+    <message>
+        <source>This session does not tell where the pointer is: keyboard and mouse do not change over at the edge of the screen.</source>
+        <translation>此会话不告知指针的位置:键盘和鼠标不会在屏幕边缘切换。</translation>
+    </message>
+    <message>
+        <source>No sound output was found: the system volume and the choice of the output need PulseAudio or PipeWire.</source>
+        <translation>找不到声音输出:系统音量和输出的选择需要 PulseAudio 或 PipeWire。</translation>
+    </message>
+    <message>
+        <source>Nothing composes this desktop: the picture cannot be darkened further than the monitor's own brightness.</source>
+        <translation>此桌面没有合成器:画面无法调得比显示器自身的亮度更暗。</translation>
+    </message>
+    <message>
+        <source>This session keeps no window above all others: what comes to the front later may not be darkened.</source>
+        <translation>此会话不能让窗口保持在所有窗口之上:之后来到前面的内容可能不会变暗。</translation>
+    </message>
+    <message>
+        <source>There is no desktop session.</source>
+        <translation>没有桌面会话。</translation>
+    </message>
+    <message>
+        <source>In an X11 session it works.</source>
+        <translation>在 X11 会话中可以使用。</translation>
+    </message>
+</context>
 </TS>

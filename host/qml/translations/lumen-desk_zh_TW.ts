@@ -653,4 +653,59 @@
         <translation>連接支援的顯示器後即可排列小工具。</translation>
     </message>
 </context>
+<context>
+    <name>LuAbsences</name>
+    <message>
+        <source>This session does not let programs change the resolution.</source>
+        <translation>此工作階段不允許程式變更解析度。</translation>
+    </message>
+    <message>
+        <source>This session does not let programs turn the picture.</source>
+        <translation>此工作階段不允許程式旋轉畫面。</translation>
+    </message>
+    <message>
+        <source>This session does not let programs change the scaling.</source>
+        <translation>此工作階段不允許程式變更縮放比例。</translation>
+    </message>
+    <message>
+        <source>This session gives programs no keys while another window is in front: shortcuts work only in the windows of Lumen Desk.</source>
+        <translation>當其他視窗在前面時,此工作階段不會把按鍵交給程式:快速鍵只在 Lumen Desk 的視窗中有效。</translation>
+    </message>
+    <message>
+        <source>This session does not tell which application is in front.</source>
+        <translation>此工作階段不會告知哪個應用程式在前面。</translation>
+    </message>
+    <message>
+        <source>This session does not let programs move the windows of other applications.</source>
+        <translation>此工作階段不允許程式移動其他應用程式的視窗。</translation>
+    </message>
+    <message>
+        <source>This session does not let programs press the keys of copy and paste: the second clipboard does not work.</source>
+        <translation>此工作階段不允許程式按下複製和貼上鍵:第二剪貼簿無法使用。</translation>
+    </message>
+    <message>
+        <source>This session does not tell where the pointer is: keyboard and mouse do not change over at the edge of the screen.</source>
+        <translation>此工作階段不會告知指標的位置:鍵盤和滑鼠不會在螢幕邊緣切換。</translation>
+    </message>
+    <message>
+        <source>No sound output was found: the system volume and the choice of the output need PulseAudio or PipeWire.</source>
+        <translation>找不到聲音輸出:系統音量和輸出的選擇需要 PulseAudio 或 PipeWire。</translation>
+    </message>
+    <message>
+        <source>Nothing composes this desktop: the picture cannot be darkened further than the monitor's own brightness.</source>
+        <translation>此桌面沒有合成器:畫面無法調得比顯示器本身的亮度更暗。</translation>
+    </message>
+    <message>
+        <source>This session keeps no window above all others: what comes to the front later may not be darkened.</source>
+        <translation>此工作階段無法讓視窗保持在所有視窗之上:之後來到前面的內容可能不會變暗。</translation>
+    </message>
+    <message>
+        <source>There is no desktop session.</source>
+        <translation>沒有桌面工作階段。</translation>
+    </message>
+    <message>
+        <source>In an X11 session it works.</source>
+        <translation>在 X11 工作階段中可以使用。</translation>
+    </message>
+</context>
 </TS>

@@ -32,6 +32,9 @@ public:
     /// Whether it raises every key, and not only those of setActionKeys().
     virtual bool hearsEveryKey() const { return true; }
 
+    /// Whether it tells of the application in the foreground and of windows that are dragged.
+    virtual bool seesWindows() const { return true; }
+
     /// Called once when the first model exists, and once as the program ends. Nothing is raised outside of
     /// the two by itself.
     virtual void start() = 0;

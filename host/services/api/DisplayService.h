@@ -21,6 +21,9 @@ class DisplayService
 public:
     virtual ~DisplayService() = default;
 
+    /// Whether the display system lets programs change displays at all.
+    virtual bool isAvailable() const { return true; }
+
     /// Rotation in degrees: 0, 90, 180, 270. The setter gets no other number.
     virtual int pivot(const MonitorInfo& monitor) const = 0;
     virtual void setPivot(const MonitorInfo& monitor, int degrees) = 0;

@@ -31,6 +31,8 @@ public:
 
     void setKeyHandler(KeyHandler handler) override { m_handler = std::move(handler); }
     void setActionKeys(const QSet<QKeyCombination>& keys) override;
+    bool hearsEveryKey() const override { return false; }
+    bool seesWindows() const override { return false; }
     void start() override;
     void stop() override;
 

@@ -65,6 +65,11 @@ bool Display::change(const Target& target, const OutputChange::Wish& wish)
     return OutputChange(*m_connection, target.all).apply(target.crtc, wish);
 }
 
+bool Display::isAvailable() const
+{
+    return m_connection->opcode(&xcb_randr_id) != 0;
+}
+
 int Display::pivot(const MonitorInfo& monitor) const
 {
     const auto target = find(monitor);

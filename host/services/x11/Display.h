@@ -16,6 +16,9 @@ class Display : public DisplayService
 public:
     explicit Display(std::shared_ptr<Connection> connection) : m_connection(std::move(connection)) {}
 
+    /// Not without the RandR extension.
+    bool isAvailable() const override;
+
     int pivot(const MonitorInfo& monitor) const override;
     void setPivot(const MonitorInfo& monitor, int degrees) override;
 

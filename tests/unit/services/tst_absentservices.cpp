@@ -8,13 +8,22 @@
 #include <LuShared/LuPlatformProgram.h>
 #include <LuShared/LuServerLocation.h>
 
+#include "lushared/services/Abilities.h"
 #include "lushared/services/ServiceRegistry.h"
+#include "services/api/AudioService.h"
+#include "services/api/ClipboardKeysService.h"
+#include "services/api/DesktopEvents.h"
 #include "services/api/DisplayService.h"
 #include "services/api/ProgramService.h"
+#include "services/api/WindowService.h"
 
 #include <QQuickWindow>
 #include <QSignalSpy>
 #include <QTest>
+
+using namespace Qt::StringLiterals;
+
+Q_DECLARE_METATYPE(services::ServiceSet)
 
 namespace {
 
@@ -34,12 +43,56 @@ public:
     bool setResolution(const MonitorInfo&, const QSize&, int, bool, int) override { return ++sets > 0; }
     QRect nativeScreenRect(const QString&) const override { return {0, 0, 1, 1}; }
 
+    bool isAvailable() const override { return available; }
+
     int sets = 0;
+    bool available = true;
+};
+
+class SessionWindows : public services::WindowService
+{
+public:
+    void setLayer(QQuickWindow*, int) override {}
+    void setJoinActiveSpaces(QQuickWindow*, bool) override {}
+    bool blends() const override { return blending; }
+
+    bool blending = true;
+};
+
+class SessionKeys : public services::ClipboardKeysService
+{
+public:
+    void copy() override {}
+    void paste() override {}
+};
+
+class SessionEvents : public services::DesktopEvents
+{
+public:
+    void setKeyHandler(KeyHandler) override {}
+    bool seesWindows() const override { return windows; }
+    void start() override {}
+    void stop() override {}
+
+    bool windows = true;
+};
+
+class SessionAudio : public services::AudioService
+{
+public:
+    QList<QAudioDevice> outputs() const override { return {}; }
+    QAudioDevice defaultOutput() const override { return {}; }
+    void setDefaultOutput(const QAudioDevice&) override {}
+    QString displayName(const QAudioDevice&) const override { return {}; }
+    int volume() const override { return 0; }
+    void setVolume(int) override {}
+    void openSettings() override {}
 };
 
 class LoadingPrograms : public services::ProgramService
 {
 public:
+    bool placesWindows() const override { return placing; }
     bool isListReady() const override { return false; }
     QString appId(unsigned long) const override { return {}; }
     QString appId(const QUrl&) const override { return {}; }
@@ -49,6 +102,7 @@ public:
     void setGeometry(unsigned long, const QRectF&) override { ++geometries; }
 
     int geometries = 0;
+    bool placing = true;
 };
 
 } // namespace
@@ -218,8 +272,76 @@ private Q_SLOTS:
         QCOMPARE(int(LuKvm::SmartKvmBasic), 2);
     }
 
+    void whatTheServicesLackHasAName_data();
+    void whatTheServicesLackHasAName();
+
     void theSessionHasAName() { QCOMPARE(services::Registry::sessionName(), QStringLiteral("offscreen")); }
 };
+
+void TestAbsentServices::whatTheServicesLackHasAName_data()
+{
+    using Names = QStringList;
+    const Names displays = {u"displayModes"_s, u"rotation"_s, u"scaling"_s};
+    const Names audio = {u"soundOutputs"_s};
+    const Names rest = {u"globalShortcuts"_s, u"foregroundApplication"_s, u"windowPlacing"_s,
+                        u"copyPasteKeys"_s, u"pointerEdge"_s};
+    QTest::addColumn<services::ServiceSet>("set");
+    QTest::addColumn<Names>("absent");
+    services::ServiceSet set;
+    QTest::newRow("nothing") << set << displays + rest + audio + Names{u"overlayOnTop"_s};
+
+    const auto display = std::make_shared<CountingDisplay>();
+    set.display = display;
+    QTest::newRow("displays") << set << rest + audio + Names{u"overlayOnTop"_s};
+    const auto without = std::make_shared<CountingDisplay>();
+    without->available = false;
+    set.display = without;
+    QTest::newRow("displays that cannot be changed")
+        << set << displays + rest + audio + Names{u"overlayOnTop"_s};
+    set.display = display;
+
+    const auto windows = std::make_shared<SessionWindows>();
+    set.windows = windows;
+    QTest::newRow("windows") << set << rest + audio;
+    const auto plain = std::make_shared<SessionWindows>();
+    plain->blending = false;
+    set.windows = plain;
+    QTest::newRow("windows that do not blend") << set << rest + audio + Names{u"translucentWindows"_s};
+    set.windows = windows;
+
+    const auto programs = std::make_shared<LoadingPrograms>();
+    set.programs = programs;
+    Names left = {u"globalShortcuts"_s, u"foregroundApplication"_s, u"copyPasteKeys"_s, u"pointerEdge"_s};
+    QTest::newRow("programs that can be placed") << set << left + audio;
+    const auto kept = std::make_shared<LoadingPrograms>();
+    kept->placing = false;
+    set.programs = kept;
+    QTest::newRow("programs that cannot") << set << rest + audio;
+    set.programs = programs;
+
+    set.clipboardKeys = std::make_shared<SessionKeys>();
+    left.removeOne(u"copyPasteKeys"_s);
+    QTest::newRow("keys of copy and paste") << set << left + audio;
+
+    const auto keysOnly = std::make_shared<SessionEvents>();
+    keysOnly->windows = false;
+    set.events = keysOnly;
+    left.removeOne(u"globalShortcuts"_s);
+    QTest::newRow("keys without windows") << set << left + audio;
+    set.events = std::make_shared<SessionEvents>();
+    left.removeOne(u"foregroundApplication"_s);
+    QTest::newRow("keys and windows") << set << left + audio;
+
+    set.audio = std::make_shared<SessionAudio>();
+    QTest::newRow("no output") << set << left + audio;
+}
+
+void TestAbsentServices::whatTheServicesLackHasAName()
+{
+    QFETCH(services::ServiceSet, set);
+    services::Registry::install(set);
+    QTEST(services::absentAbilities(), "absent");
+}
 
 QTEST_MAIN(TestAbsentServices)
 #include "tst_absentservices.moc"

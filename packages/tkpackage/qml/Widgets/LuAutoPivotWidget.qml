@@ -44,6 +44,7 @@ LuBasicWidget {
             Component.onCompleted: _self.autoPivot?.takePropertySnapshot()
             Component.onDestruction: _self?.autoPivot?.fireUpdateSettingEvent()
 
+            LuAbsenceNote { needs: ["rotation"] }
             LuPageRow {
                 text: qsTr("Auto Pivot")
                 strong: true

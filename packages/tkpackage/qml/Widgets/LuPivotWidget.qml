@@ -25,6 +25,7 @@ LuAdvancedWidget {
             Component.onCompleted: _self.autoPivot?.takePropertySnapshot()
             Component.onDestruction: _self?.autoPivot?.fireUpdateSettingEvent()
 
+            LuAbsenceNote { needs: ["rotation"] }
             Row {
                 width: parent.width
                 spacing: Math.floor((width - 4 * LuStyle.scaled(48)) / 3)

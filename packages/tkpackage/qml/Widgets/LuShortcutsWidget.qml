@@ -126,6 +126,8 @@ LuBasicWidget {
                 }
             }
 
+            LuAbsenceNote { needs: ["globalShortcuts"] }
+            LuAbsenceNote { needs: ["copyPasteKeys"] }
             LuPageGroup {
                 enabled: _self.active
                 spacing: LuStyle.spaceLarge

@@ -43,6 +43,7 @@ LuPage {
         }
     }
     LuSeparator { }
+    LuAbsenceNote { needs: ["pointerEdge"] }
     LuPageRow {
         visible: page.switchVisible
         text: page.kvmTitle

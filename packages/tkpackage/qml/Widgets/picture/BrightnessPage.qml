@@ -57,6 +57,7 @@ LuPage {
         wrapMode: Text.WordWrap
         text: qsTr("Darkens the picture below the lowest brightness of the monitor. Ambient brightness functions switch it off for as long as they run.")
     }
+    LuAbsenceNote { needs: ["translucentWindows", "overlayOnTop"] }
     LuPageRow {
         visible: page.syncer.available && (page.brightness?.brightnessSyncEnable ?? false)
         text: qsTr("Brightness Sync")
