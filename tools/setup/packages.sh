@@ -19,6 +19,7 @@ test_packages=(
   python3 libxml2-utils libbenchmark-dev xvfb xauth xdotool binutils
   umockdev libumockdev-dev ddcutil i2c-tools
   mutter kwin-wayland libkf5screen-bin libkf6screen-bin libkscreen-bin qtwayland5 qt6-wayland
+  plasma-wayland-protocols libwayland-dev libwayland-bin
   dbus python3-dbusmock pulseaudio pulseaudio-utils pipewire pipewire-pulse wireplumber
   xserver-xorg-core xserver-xorg-video-dummy xserver-xorg-dev x11-xserver-utils x11-xkb-utils x11-utils
   libxcb-shape0-dev openbox xfwm4 xcompmgr

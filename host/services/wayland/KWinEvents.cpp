@@ -6,6 +6,7 @@
 
 #include "services/wayland/KWinScript.h"
 
+#include <QCoreApplication>
 #include <QDBusConnectionInterface>
 #include <QDBusObjectPath>
 #include <QDBusPendingCallWatcher>
@@ -15,6 +16,9 @@
 #include <QRectF>
 #include <QTimer>
 
+#include <optional>
+#include <utility>
+
 namespace services::wayland {
 
 namespace {
@@ -22,7 +26,6 @@ namespace {
 const QString KWin = QStringLiteral("org.kde.KWin");
 const QString ScriptingPath = QStringLiteral("/Scripting");
 const QString ScriptingInterface = QStringLiteral("org.kde.kwin.Scripting");
-const QString ScriptInterface = QStringLiteral("org.kde.kwin.Script");
 const QString OwnPath = QStringLiteral("/lumen_desk/KWin");
 const QString OwnInterface = QStringLiteral("org.lumen_desk.KWin");
 const QString WatchName = QStringLiteral("lumen-desk-watch");
@@ -39,14 +42,36 @@ constexpr int TryMs = 1000;
 /// What is set holds now, and is not what an earlier session of KGlobalAccel remembers.
 constexpr uint SetNow = 2 | 4;
 
+QDBusMessage scripting(const QString& method)
+{
+    return QDBusMessage::createMethodCall(KWin, ScriptingPath, ScriptingInterface, method);
+}
+
 QDBusMessage accelerators(const QString& method)
 {
     return QDBusMessage::createMethodCall(Accelerators, AcceleratorsPath, AcceleratorsInterface, method);
 }
 
-QString number(double value)
+/// "PID X Y WINDOW" of the script.
+struct Drag
 {
-    return QString::number(value, 'f', 0);
+    unsigned long pid = 0;
+    QPointF place;
+    QString window;
+};
+
+bool isOwn(unsigned long pid)
+{
+    return pid == static_cast<unsigned long>(QCoreApplication::applicationPid());
+}
+
+std::optional<Drag> dragOf(const QString& text)
+{
+    const QStringList parts = text.split(u' ');
+    if (parts.size() != 4)
+        return std::nullopt;
+    const Drag drag{parts[0].toULong(), QPointF(parts[1].toDouble(), parts[2].toDouble()), parts[3]};
+    return drag.pid == 0 || isOwn(drag.pid) ? std::nullopt : std::optional(drag);
 }
 
 } // namespace
@@ -83,48 +108,37 @@ void KWinEvents::call(const QDBusMessage& message, Next next)
     });
 }
 
-void KWinEvents::runScript(const QString& name, const QString& text, bool stays)
+void KWinEvents::runScript(const QString& name, const QString& text)
 {
-    const QString file = m_folder.filePath(name + QStringLiteral(".js"));
+    const QString file = fileOf(name);
     QFile script(file);
     if (!script.open(QIODevice::WriteOnly) || script.write(text.toUtf8()) < 0) {
         qWarning().noquote() << "[LuPlatform] a script for KWin cannot be written:" << script.errorString();
         return;
     }
     script.close();
-    QDBusMessage load =
-        QDBusMessage::createMethodCall(KWin, ScriptingPath, ScriptingInterface, QStringLiteral("loadScript"));
+    QDBusMessage load = scripting(QStringLiteral("loadScript"));
     load << file << name;
-    call(load, [this, name, stays](const QDBusMessage& reply) {
-        const int id = reply.arguments().value(0).toInt();
-        if (id < 0) {
+    call(load, [this](const QDBusMessage& reply) {
+        // Not by the number in the reply: KWin gives it anew while a script that has it still runs.
+        if (reply.arguments().value(0).toInt() >= 0)
+            call(scripting(QStringLiteral("start")), {});
+        else
             qWarning() << "[LuPlatform] KWin does not take a script";
-            return;
-        }
-        const auto unload = [this, name, stays](const QDBusMessage&) {
-            if (stays)
-                return;
-            QDBusMessage message = QDBusMessage::createMethodCall(KWin, ScriptingPath, ScriptingInterface,
-                                                                  QStringLiteral("unloadScript"));
-            message << name;
-            call(message, {});
-            QFile::remove(m_folder.filePath(name + QStringLiteral(".js")));
-        };
-        // KWin 6 keeps its scripts below "/Scripting".
-        const QString old = u'/' + QString::number(id);
-        const QString current = QStringLiteral("/Scripting/Script") + QString::number(id);
-        const auto run = [](const QString& path) {
-            return QDBusMessage::createMethodCall(KWin, path, ScriptInterface, QStringLiteral("run"));
-        };
-        auto* const watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(run(current)), this);
-        connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher, run, old, unload] {
-            watcher->deleteLater();
-            if (watcher->isError())
-                call(run(old), unload);
-            else
-                unload(watcher->reply());
-        });
     });
+}
+
+QString KWinEvents::fileOf(const QString& script) const
+{
+    return m_folder.filePath(script + QStringLiteral(".js"));
+}
+
+void KWinEvents::ended(const QString& script)
+{
+    QDBusMessage unload = scripting(QStringLiteral("unloadScript"));
+    unload << script;
+    call(unload, {});
+    QFile::remove(fileOf(script));
 }
 
 void KWinEvents::start()
@@ -132,6 +146,7 @@ void KWinEvents::start()
     if (m_started)
         return;
     m_started = true;
+    m_active = 0;
     m_tries = MostTries;
     watch();
 }
@@ -139,8 +154,7 @@ void KWinEvents::start()
 void KWinEvents::watch()
 {
     // One that a killed run has left behind would tell an address that nobody has.
-    QDBusMessage message = QDBusMessage::createMethodCall(KWin, ScriptingPath, ScriptingInterface,
-                                                          QStringLiteral("unloadScript"));
+    QDBusMessage message = scripting(QStringLiteral("unloadScript"));
     message << WatchName;
     auto* const watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(message), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
@@ -148,7 +162,7 @@ void KWinEvents::watch()
         if (!m_started)
             return;
         if (!watcher->isError())
-            runScript(WatchName, watchScript(m_bus.baseService(), OwnPath, OwnInterface), true);
+            runScript(WatchName, watchScript({m_bus.baseService(), OwnPath, OwnInterface}));
         else if (--m_tries > 0) // KWin offers scripts some time after it has its name
             QTimer::singleShot(TryMs, this, [this] { watch(); });
         else
@@ -162,8 +176,7 @@ void KWinEvents::stop()
     if (!m_started)
         return;
     m_started = false;
-    QDBusMessage message = QDBusMessage::createMethodCall(KWin, ScriptingPath, ScriptingInterface,
-                                                          QStringLiteral("unloadScript"));
+    QDBusMessage message = scripting(QStringLiteral("unloadScript"));
     message << WatchName;
     m_bus.send(message);
 }
@@ -171,32 +184,38 @@ void KWinEvents::stop()
 void KWinEvents::activated(const QString& text)
 {
     const unsigned long pid = text.toULong();
-    if (m_started && pid > 0)
-        Q_EMIT LuPlatformNotifications::instance()->activeAppChanged(pid);
+    if (!m_started || pid == 0 || std::exchange(m_active, pid) == pid || isOwn(pid))
+        return;
+    Q_EMIT LuPlatformNotifications::instance()->activeAppChanged(pid);
 }
 
 void KWinEvents::dragged(const QString& text)
 {
-    const QStringList parts = text.split(u' ');
-    if (m_started && parts.size() == 3 && parts[0].toULong() > 0)
-        Q_EMIT LuPlatformNotifications::instance()->activeAppDragged(
-            parts[0].toULong(), QPointF(parts[1].toDouble(), parts[2].toDouble()));
+    const std::optional<Drag> drag = dragOf(text);
+    if (!m_started || !drag)
+        return;
+    m_draggedPid = drag->pid;
+    m_draggedWindow = drag->window;
+    Q_EMIT LuPlatformNotifications::instance()->activeAppDragged(drag->pid, drag->place);
 }
 
 void KWinEvents::released(const QString& text)
 {
-    const QStringList parts = text.split(u' ');
-    if (m_started && parts.size() == 3 && parts[0].toULong() > 0)
-        Q_EMIT LuPlatformNotifications::instance()->activeAppReleased(
-            parts[0].toULong(), QPointF(parts[1].toDouble(), parts[2].toDouble()));
+    const std::optional<Drag> drag = dragOf(text);
+    if (m_started && drag)
+        Q_EMIT LuPlatformNotifications::instance()->activeAppReleased(drag->pid, drag->place);
 }
 
 void KWinEvents::setGeometry(unsigned long pid, const QRectF& geometry)
 {
-    const QString script = placeScript(pid, number(geometry.x()), number(geometry.y()),
-                                       number(geometry.width()), number(geometry.height()));
-    ZrDispatch::main()->post(this, [this, script] {
-        runScript(QStringLiteral("lumen-desk-place-%1").arg(++m_scripts), script, false);
+    ZrDispatch::main()->post(this, [this, pid, geometry] {
+        // The window that a person has just dragged, where a program has several.
+        const QString window = pid == m_draggedPid ? m_draggedWindow : QString();
+        // A name that no run before has left behind.
+        const QString name =
+            QStringLiteral("lumen-desk-place-%1-%2").arg(QCoreApplication::applicationPid()).arg(++m_scripts);
+        runScript(name,
+                  placeScript({m_bus.baseService(), OwnPath, OwnInterface}, name, pid, window, geometry));
     });
 }
 

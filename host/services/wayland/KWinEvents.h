@@ -40,10 +40,12 @@ public:
     void setGeometry(unsigned long pid, const QRectF& geometry) override;
 
 public Q_SLOTS:
-    /// Called by the script.
+    /// Called by the script that watches.
     Q_SCRIPTABLE void activated(const QString& text);
     Q_SCRIPTABLE void dragged(const QString& text);
     Q_SCRIPTABLE void released(const QString& text);
+    /// Called by a script that has done all it does.
+    Q_SCRIPTABLE void ended(const QString& script);
 
 private Q_SLOTS:
     void onShortcut(const QString& component, const QString& action, qlonglong time);
@@ -52,7 +54,8 @@ private:
     void watch();
     using Next = std::function<void(const QDBusMessage& reply)>;
     void call(const QDBusMessage& message, Next next);
-    void runScript(const QString& name, const QString& text, bool stays);
+    void runScript(const QString& name, const QString& text);
+    QString fileOf(const QString& script) const;
     void registerKey(const QString& name, int key);
     void listenToShortcuts();
 
@@ -63,6 +66,9 @@ private:
     bool m_listening = false;
     int m_scripts = 0;
     int m_tries = 0;
+    unsigned long m_active = 0; ///< In the foreground, this program too; 0 before the first was told.
+    unsigned long m_draggedPid = 0;
+    QString m_draggedWindow;                ///< The last one that was dragged, as KWin names it.
     QHash<QString, QKeyCombination> m_keys; ///< By their text, which is the name of their action.
 };
 

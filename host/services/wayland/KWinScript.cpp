@@ -11,7 +11,7 @@ function tell(method, text) {
     callDBus("%1", "%2", "%3", method, text);
 }
 function place(window) {
-    return window.pid + " " + workspace.cursorPos.x + " " + workspace.cursorPos.y;
+    return window.pid + " " + workspace.cursorPos.x + " " + workspace.cursorPos.y + " " + window.internalId;
 }
 function follow(window) {
     var dragging = false;
@@ -44,32 +44,47 @@ activated(workspace.activeWindow || workspace.activeClient);
 )");
 
 const QString Place = QStringLiteral(R"(
-var all = workspace.stackingOrder || (workspace.windowList ? workspace.windowList() : workspace.clientList());
-var target = null;
-for (var i = 0; i < all.length; ++i) {
-    if (all[i].pid == %1 && all[i].normalWindow)
-        target = all[i];
-}
-var active = workspace.activeWindow || workspace.activeClient;
-if (active && active.pid == %1 && active.normalWindow)
-    target = active;
-if (target) {
+function place() {
+    var all = workspace.stackingOrder || (workspace.windowList ? workspace.windowList() : workspace.clientList());
+    var target = null;
+    for (var i = 0; i < all.length; ++i) {
+        if (all[i].pid == %1 && all[i].normalWindow)
+            target = all[i];
+    }
+    var active = workspace.activeWindow || workspace.activeClient;
+    if (active && active.pid == %1 && active.normalWindow)
+        target = active;
+    for (var j = 0; j < all.length; ++j) {
+        if (all[j].pid == %1 && "" + all[j].internalId == "%6")
+            target = all[j];
+    }
+    if (!target)
+        return;
     target.setMaximize(false, false);
     target.frameGeometry = { x: %2, y: %3, width: %4, height: %5 };
+}
+try {
+    place();
+} finally {
+    callDBus("%7", "%8", "%9", "ended", "%10");
 }
 )");
 
 } // namespace
 
-QString watchScript(const QString& busAddress, const QString& objectPath, const QString& interface)
+QString watchScript(const ScriptListener& listener)
 {
-    return Watch.arg(busAddress, objectPath, interface);
+    return Watch.arg(listener.address, listener.path, listener.interface);
 }
 
-QString placeScript(unsigned long pid, const QString& x, const QString& y, const QString& width,
-                    const QString& height)
+QString placeScript(const ScriptListener& listener, const QString& name, unsigned long pid,
+                    const QString& window, const QRectF& geometry)
 {
-    return Place.arg(QString::number(pid), x, y, width, height);
+    const auto number = [](double value) { return QString::number(value, 'f', 0); };
+    return Place
+        .arg(QString::number(pid), number(geometry.x()), number(geometry.y()), number(geometry.width()),
+             number(geometry.height()), window, listener.address, listener.path, listener.interface)
+        .arg(name);
 }
 
 } // namespace services::wayland

@@ -20,17 +20,23 @@ public:
             return QStringLiteral("/usr/bin/kwin_wayland cannot be copied");
         m_process.environment = QProcessEnvironment::systemEnvironment();
         m_process.environment.insert(QStringLiteral("KWIN_COMPOSE"), QStringLiteral("Q"));
+        // Tests press keys and move the pointer.
+        m_process.environment.insert(QStringLiteral("KWIN_WAYLAND_NO_PERMISSION_CHECKS"),
+                                     QStringLiteral("1"));
         m_process.environment.remove(QStringLiteral("QT_QPA_PLATFORM"));
         const QString socket = folder + u'/' + display();
         return m_process.start(
             program,
             {QStringLiteral("--virtual"), QStringLiteral("--output-count"), QStringLiteral("2"),
              QStringLiteral("--socket"), display()},
-            [socket] { return QFile::exists(socket) && takesScripts(); }, 60'000);
+            [socket] { return QFile::exists(socket) && takesScripts(); }, 120'000);
     }
 
     /// WAYLAND_DISPLAY of its clients.
     static QString display() { return QStringLiteral("test-wayland"); }
+
+    /// What it has written so far.
+    QString output() { return m_process.output(); }
 
     void stop() { m_process.stop(); }
 

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <LuShared/LuPlatformNotifications.h>
 
-#include "KWinServer.h"
-#include "PrivateBus.h"
+#include "PlasmaSession.h"
 #include "services/wayland/KWinEvents.h"
 
 #include <QDBusInterface>
@@ -17,37 +16,10 @@
 using namespace Qt::StringLiterals;
 using services::wayland::KWinEvents;
 
-namespace {
-
-/// An application of its own process.
-class Application
-{
-public:
-    QString start()
-    {
-        process.environment = QProcessEnvironment::systemEnvironment();
-        process.environment.insert(u"WAYLAND_DISPLAY"_s, KWinServer::display());
-        process.environment.insert(u"QT_QPA_PLATFORM"_s, u"wayland"_s);
-        // The id is told once the window has a size.
-        return process.start(QStringLiteral(WINDOW), {}, [this] { return process.output().contains(u'x'); });
-    }
-    unsigned long pid() const { return static_cast<unsigned long>(process.processId()); }
-    QString lastSize() { return process.output().trimmed().section(u'\n', -1); }
-
-    ServerProcess process;
-};
-
-} // namespace
-
 /// Windows and key combinations of a Plasma session: KWin without a screen, and applications on it.
 class tst_kwin : public QObject
 {
     Q_OBJECT
-    Q_CLASSINFO("D-Bus Interface", "org.lumen_desk.Test")
-
-public Q_SLOTS:
-    /// Called by the test's own script in KWin.
-    Q_SCRIPTABLE void geometry(const QString& text) { m_geometry = text; }
 
 private Q_SLOTS:
     void initTestCase();
@@ -57,35 +29,23 @@ private Q_SLOTS:
     void nothingIsToldAfterTheEnd();
     void windowIsPlaced();
     void maximisedWindowIsPlaced();
+    void tiledWindowIsPlaced();
     void ownKeysArePressed();
     void keysOfOthersAreNot();
     void takenBackKeysAreFree();
 
 private:
-    /// What KWin itself says of a process's window.
-    QString placeOf(unsigned long pid, const QString& before = {});
-
-    QTemporaryDir m_home;
-    PrivateBus m_bus;
-    KWinServer m_server;
+    PlasmaSession m_session;
     std::shared_ptr<KWinEvents> m_events;
-    QString m_geometry;
-    int m_scripts = 0;
 };
 
 void tst_kwin::initTestCase()
 {
-    for (const char* const variable : {"HOME", "XDG_RUNTIME_DIR", "XDG_CONFIG_HOME", "XDG_DATA_HOME"})
-        qputenv(variable, m_home.path().toLocal8Bit());
-    qunsetenv("WAYLAND_DISPLAY");
-    qunsetenv("DISPLAY");
-    QString problem = m_bus.start();
+    QString problem = m_session.startBus();
     QVERIFY2(problem.isEmpty(), qPrintable(problem));
-    qputenv("DBUS_SESSION_BUS_ADDRESS", m_bus.address().toUtf8());
     sessionWithoutKWinHasNone();
-    problem = m_server.start(m_home.path());
+    problem = m_session.startKWin();
     QVERIFY2(problem.isEmpty(), qPrintable(problem));
-    QDBusConnection::sessionBus().registerObject(u"/test"_s, this, QDBusConnection::ExportScriptableSlots);
     m_events = KWinEvents::make(QDBusConnection::sessionBus());
     QVERIFY(m_events);
 }
@@ -93,7 +53,7 @@ void tst_kwin::initTestCase()
 void tst_kwin::cleanupTestCase()
 {
     m_events.reset();
-    m_server.stop();
+    m_session.stop();
 }
 
 void tst_kwin::sessionWithoutKWinHasNone()
@@ -102,48 +62,20 @@ void tst_kwin::sessionWithoutKWinHasNone()
         QVERIFY(!KWinEvents::make(QDBusConnection::sessionBus()));
 }
 
-QString tst_kwin::placeOf(unsigned long pid, const QString& before)
-{
-    const QString name = u"test-%1"_s.arg(++m_scripts);
-    QFile file(m_home.filePath(name));
-    if (!file.open(QIODevice::WriteOnly))
-        return file.errorString();
-    file.write(uR"(var all = workspace.windowList ? workspace.windowList() : workspace.clientList();
-for (var i = 0; i < all.length; ++i) {
-    if (all[i].pid == %1) {
-        %2
-        var g = all[i].frameGeometry;
-        callDBus("%3", "/test", "org.lumen_desk.Test", "geometry", g.x + "," + g.y + " " + g.width + "x" + g.height);
-    }
-})"_s.arg(QString::number(pid), before, QDBusConnection::sessionBus().baseService())
-                   .toUtf8());
-    file.close();
-    m_geometry.clear();
-    QDBusInterface scripting(u"org.kde.KWin"_s, u"/Scripting"_s, u"org.kde.kwin.Scripting"_s);
-    const QDBusReply<int> id = scripting.call(u"loadScript"_s, file.fileName(), name);
-    for (const QString& path : {u"/Scripting/Script%1"_s.arg(id.value()), u"/%1"_s.arg(id.value())}) {
-        QDBusInterface script(u"org.kde.KWin"_s, path, u"org.kde.kwin.Script"_s);
-        if (script.call(u"run"_s).type() == QDBusMessage::ReplyMessage)
-            break;
-    }
-    const bool told = QTest::qWaitFor([this] { return !m_geometry.isEmpty(); }, 1000);
-    scripting.call(u"unloadScript"_s, name);
-    return told ? m_geometry : u"nothing"_s;
-}
-
 void tst_kwin::foregroundIsTold()
 {
     QSignalSpy active(LuPlatformNotifications::instance(), &LuPlatformNotifications::activeAppChanged);
     m_events->start();
     m_events->start();
-    Application first;
+    WindowProgram first;
     QCOMPARE(first.start(), QString());
-    QTRY_VERIFY(!active.isEmpty() && active.last()[0].value<unsigned long>() == first.pid());
-    Application second;
+    QTRY_VERIFY_WITH_TIMEOUT(
+        !active.isEmpty() && active.last()[0].value<unsigned long>() == first.processId(), Patience);
+    WindowProgram second;
     QCOMPARE(second.start(), QString());
-    QTRY_COMPARE(active.last()[0].value<unsigned long>(), second.pid());
-    second.process.stop();
-    QTRY_COMPARE(active.last()[0].value<unsigned long>(), first.pid());
+    QTRY_COMPARE_WITH_TIMEOUT(active.last()[0].value<unsigned long>(), second.processId(), Patience);
+    second.stop();
+    QTRY_COMPARE_WITH_TIMEOUT(active.last()[0].value<unsigned long>(), first.processId(), Patience);
 }
 
 void tst_kwin::nothingIsToldAfterTheEnd()
@@ -151,36 +83,54 @@ void tst_kwin::nothingIsToldAfterTheEnd()
     m_events->start();
     m_events->stop();
     QSignalSpy active(LuPlatformNotifications::instance(), &LuPlatformNotifications::activeAppChanged);
-    Application application;
+    WindowProgram application;
     QCOMPARE(application.start(), QString());
-    QTRY_VERIFY_WITH_TIMEOUT(placeOf(application.pid()) != u"nothing"_s,
-                             20'000); // KWin has dealt with the window
+    QTRY_VERIFY_WITH_TIMEOUT(m_session.placeOf(application.pid()) != u"nothing"_s,
+                             Patience); // KWin has dealt with the window
     QVERIFY(active.isEmpty());
 }
 
 void tst_kwin::windowIsPlaced()
 {
-    Application application;
+    WindowProgram application;
     QCOMPARE(application.start(), QString());
-    QTRY_VERIFY_WITH_TIMEOUT(placeOf(application.pid()) != u"nothing"_s, 20'000);
-    m_events->setGeometry(application.pid(), QRectF(100, 120, 500, 400));
-    QTRY_COMPARE(placeOf(application.pid()), u"100,120 500x400"_s);
+    QTRY_VERIFY_WITH_TIMEOUT(m_session.placeOf(application.pid()) != u"nothing"_s, Patience);
+    m_events->setGeometry(application.processId(), QRectF(100, 120, 500, 400));
+    QTRY_COMPARE_WITH_TIMEOUT(m_session.placeOf(application.pid()), u"100,120 500x400"_s, Patience);
     // On the second output.
-    m_events->setGeometry(application.pid(), QRectF(1124, 50, 320, 240));
-    QTRY_COMPARE(placeOf(application.pid()), u"1124,50 320x240"_s);
+    m_events->setGeometry(application.processId(), QRectF(1124, 50, 320, 240));
+    QTRY_COMPARE_WITH_TIMEOUT(m_session.placeOf(application.pid()), u"1124,50 320x240"_s, Patience);
     m_events->setGeometry(999'999'999, QRectF(0, 0, 10, 10)); // nobody's
-    QCOMPARE(placeOf(application.pid()), u"1124,50 320x240"_s);
+    // No script stays behind.
+    QDBusInterface scripting(u"org.kde.KWin"_s, u"/Scripting"_s, u"org.kde.kwin.Scripting"_s);
+    for (int script = 1; script <= 3; ++script) {
+        const QString name = u"lumen-desk-place-%1-%2"_s.arg(QCoreApplication::applicationPid()).arg(script);
+        QTRY_VERIFY_WITH_TIMEOUT(!QDBusReply<bool>(scripting.call(u"isScriptLoaded"_s, name)).value(),
+                                 Patience);
+    }
+    QCOMPARE(m_session.placeOf(application.pid()), u"1124,50 320x240"_s);
 }
 
 void tst_kwin::maximisedWindowIsPlaced()
 {
-    Application application;
+    WindowProgram application;
     QCOMPARE(application.start(), QString());
-    QTRY_VERIFY_WITH_TIMEOUT(placeOf(application.pid(), u"all[i].setMaximize(true, true);"_s) != u"nothing"_s,
-                             20'000);
-    QTRY_COMPARE(placeOf(application.pid()), u"0,0 1024x768"_s);
-    m_events->setGeometry(application.pid(), QRectF(10, 20, 500, 400));
-    QTRY_COMPARE(placeOf(application.pid()), u"10,20 500x400"_s);
+    QTRY_VERIFY_WITH_TIMEOUT(
+        m_session.placeOf(application.pid(), u"window.setMaximize(true, true);"_s) != u"nothing"_s, Patience);
+    QTRY_COMPARE_WITH_TIMEOUT(m_session.placeOf(application.pid()), u"0,0 1024x768"_s, Patience);
+    m_events->setGeometry(application.processId(), QRectF(10, 20, 500, 400));
+    QTRY_COMPARE_WITH_TIMEOUT(m_session.placeOf(application.pid()), u"10,20 500x400"_s, Patience);
+}
+
+void tst_kwin::tiledWindowIsPlaced()
+{
+    WindowProgram application;
+    QCOMPARE(application.start(), QString());
+    QVERIFY(m_session.hasFocus(application.pid()));
+    m_session.ask(u"    workspace.slotWindowQuickTileRight();\n    answer(\"\");"_s);
+    QTRY_COMPARE_WITH_TIMEOUT(m_session.placeOf(application.pid()), u"512,0 512x768"_s, Patience);
+    m_events->setGeometry(application.processId(), QRectF(10, 20, 500, 400));
+    QTRY_COMPARE_WITH_TIMEOUT(m_session.placeOf(application.pid()), u"10,20 500x400"_s, Patience);
 }
 
 void tst_kwin::ownKeysArePressed()
@@ -200,13 +150,15 @@ void tst_kwin::ownKeysArePressed()
                    accelerators.call(u"isGlobalShortcutAvailable"_s, key.toCombined(), u"test"_s))
             .value();
     };
-    QTRY_VERIFY(!isFree(copy));
-    QTRY_VERIFY(!isFree(QKeyCombination(Qt::MetaModifier, Qt::Key_F7)));
+    QTRY_VERIFY_WITH_TIMEOUT(!isFree(copy), Patience);
+    QTRY_VERIFY_WITH_TIMEOUT(!isFree(QKeyCombination(Qt::MetaModifier, Qt::Key_F7)), Patience);
     // As a press does, until the program listens as well.
     QDBusInterface component(u"org.kde.kglobalaccel"_s, u"/component/lumen_desk"_s,
                              u"org.kde.kglobalaccel.Component"_s);
-    QTRY_VERIFY(component.call(u"invokeShortcut"_s, u"Ctrl+Alt+C"_s).type() == QDBusMessage::ReplyMessage &&
-                !handled.isEmpty());
+    QTRY_VERIFY_WITH_TIMEOUT(component.call(u"invokeShortcut"_s, u"Ctrl+Alt+C"_s).type() ==
+                                     QDBusMessage::ReplyMessage &&
+                                 !handled.isEmpty(),
+                             Patience);
     QCOMPARE(handled.first(), copy);
     QCOMPARE(pressed.first()[0].value<Qt::KeyboardModifiers>(), Qt::ControlModifier | Qt::AltModifier);
     QCOMPARE(pressed.first()[1].value<Qt::Key>(), Qt::Key_C);
@@ -234,9 +186,9 @@ void tst_kwin::keysOfOthersAreNot()
         const QDBusMessage reply = accelerators.call(u"action"_s, key);
         return reply.arguments().value(0).toStringList().value(0);
     };
-    QTRY_COMPARE(owner(), u"others"_s);
+    QTRY_COMPARE_WITH_TIMEOUT(owner(), u"others"_s, Patience);
     // Once the second key is set the first one has been answered.
-    QTRY_VERIFY(!isFree());
+    QTRY_VERIFY_WITH_TIMEOUT(!isFree(), Patience);
     QCoreApplication::processEvents();
     m_events->setActionKeys({});
     QCOMPARE(owner(), u"others"_s);
@@ -252,9 +204,9 @@ void tst_kwin::takenBackKeysAreFree()
             .value();
     };
     m_events->setActionKeys({key});
-    QTRY_VERIFY(!isFree());
+    QTRY_VERIFY_WITH_TIMEOUT(!isFree(), Patience);
     m_events->setActionKeys({});
-    QTRY_VERIFY(isFree());
+    QTRY_VERIFY_WITH_TIMEOUT(isFree(), Patience);
 }
 
 QTEST_GUILESS_MAIN(tst_kwin)

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
-// An application with one window, which it tells the sizes of.
+// An application with one window, or two, which it tells the sizes and the keys of. Its upper part is a title
+// bar of its own.
 #include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QRasterWindow>
 #include <QResizeEvent>
@@ -9,6 +12,8 @@
 
 namespace {
 
+constexpr int TitleBar = 40;
+
 class Window : public QRasterWindow
 {
 protected:
@@ -16,7 +21,18 @@ protected:
     void resizeEvent(QResizeEvent* event) override
     {
         QRasterWindow::resizeEvent(event);
-        std::printf("%dx%d\n", event->size().width(), event->size().height());
+        std::printf("size %dx%d\n", event->size().width(), event->size().height());
+        std::fflush(stdout);
+    }
+    void mousePressEvent(QMouseEvent* event) override
+    {
+        if (event->position().y() < TitleBar)
+            startSystemMove();
+    }
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        const QKeySequence keys(event->keyCombination());
+        std::printf("key %s\n", keys.toString(QKeySequence::PortableText).toUtf8().constData());
         std::fflush(stdout);
     }
 };
@@ -26,8 +42,13 @@ protected:
 int main(int argc, char** argv)
 {
     QGuiApplication application(argc, argv);
-    Window window;
-    window.resize(300, 200);
-    window.show();
+    Window windows[2];
+    const int count = QGuiApplication::arguments().contains(QStringLiteral("--two")) ? 2 : 1;
+    for (int i = 0; i < count; ++i) {
+        // KWin's own frame would stand above the title bar.
+        windows[i].setFlag(Qt::FramelessWindowHint);
+        windows[i].resize(300, 200);
+        windows[i].show();
+    }
     return QGuiApplication::exec();
 }
