@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "HeldQueue.h"
 #include "SimulatedBed.h"
 
 #include <ZrCore/ZrDispatch.h>
 
 #include <QElapsedTimer>
 #include <QKeyEvent>
-#include <QSemaphore>
 #include <QSignalSpy>
 #include <QTest>
 #include <QXmlStreamReader>
@@ -85,29 +85,6 @@ public:
         model().setColorMode(model().getColorModeByName(QLatin1String(name)));
         return idle();
     }
-};
-
-/// Holds a model's queue until the object is gone or told.
-class HeldQueue
-{
-public:
-    explicit HeldQueue(LuMonitorModel& model)
-    {
-        model.dispatch()->post(nullptr, [state = m_state] {
-            state->started.release();
-            state->gate.acquire();
-        });
-        m_state->started.acquire();
-    }
-    ~HeldQueue() { m_state->gate.release(); }
-
-private:
-    struct State
-    {
-        QSemaphore started;
-        QSemaphore gate;
-    };
-    std::shared_ptr<State> m_state = std::make_shared<State>();
 };
 
 const QString SixAxes = QStringLiteral("<VCPcode Type=\"SixAxis\" Category=\"SixAxis\" Value=\"on\"/>");

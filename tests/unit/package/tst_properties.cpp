@@ -49,6 +49,8 @@ QVariant anotherValue(const QMetaProperty& property, const QVariant& present)
     case QMetaType::QString:
         if (name == QLatin1String("colorModeName"))
             return oneOf(QStringLiteral("Cinema"), QStringLiteral("Game"));
+        if (name == QLatin1String("audioMode"))
+            return oneOf(QStringLiteral("Music"), QStringLiteral("Dialogue"));
         if (name.endsWith(QLatin1String("Source")))
             return oneOf(QStringLiteral("HDMI"), QStringLiteral("DisplayPort"));
         return present.toString() + QStringLiteral("x");

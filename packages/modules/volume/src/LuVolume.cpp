@@ -15,7 +15,7 @@
 namespace {
 
 /// From silence to full volume, whatever the maximum.
-constexpr double ShortcutSteps = 20.0;
+constexpr int ShortcutSteps = 20;
 
 const QString WidgetName = QStringLiteral("LuVolumeWidget");
 const QString VolumeProperty = QStringLiteral("displayVolume");
@@ -215,13 +215,14 @@ bool LuVolume::stepVolume(int direction)
         return false;
     // A held key repeats faster than a monitor follows: each press counts from what was asked for last.
     const int from = askedVolume();
-    const double step = m_maxVolume / ShortcutSteps;
+    const double step = m_maxVolume / double(ShortcutSteps);
     const double grid = direction < 0 ? std::ceil(from / step) : std::floor(from / step);
-    const auto target = [&](int count) {
-        return qBound(0, int(std::lround((grid + count * direction) * step)), m_maxVolume);
-    };
+    // A grid point that rounds to the present value would leave the user where they are: the next one counts.
+    int target = from;
+    for (int count = 1; target == from && count <= ShortcutSteps; ++count)
+        target = qBound(0, int(std::lround((grid + count * direction) * step)), m_maxVolume);
     m_stepping = true;
-    setDisplayVolume(target(1) != from ? target(1) : target(2));
+    setDisplayVolume(target);
     m_stepping = false;
     return true;
 }
