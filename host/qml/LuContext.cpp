@@ -2,6 +2,7 @@
 #include "LuContext.h"
 
 #include "LuAbsences.h"
+#include "LuContrast.h"
 
 #include <QDir>
 #include <QEvent>
@@ -41,15 +42,6 @@ QString localPath(const QUrl& url)
     if (url.scheme() == "qrc"_L1)
         return u':' + url.path();
     return url.isLocalFile() ? url.toLocalFile() : QString();
-}
-
-double luminance(const QColor& color)
-{
-    const auto channel = [](double value) {
-        return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * channel(color.redF()) + 0.7152 * channel(color.greenF()) +
-           0.0722 * channel(color.blueF());
 }
 } // namespace
 
@@ -181,6 +173,11 @@ void LuContext::setAbsenceSource(std::function<QStringList()> absent, bool deskt
     Q_EMIT absencesChanged();
 }
 
+void LuContext::setRightToLeft(bool on)
+{
+    QGuiApplication::setLayoutDirection(on ? Qt::RightToLeft : Qt::LeftToRight);
+}
+
 void LuContext::setDiscovering(bool on)
 {
     if (on == m_discovering)
@@ -273,6 +270,14 @@ void LuContext::setTranslucentWindows(bool on)
         return;
     m_translucentWindows = on;
     Q_EMIT translucentWindowsChanged();
+}
+
+void LuContext::setEndlessRoom(bool on)
+{
+    if (on == m_endlessRoom)
+        return;
+    m_endlessRoom = on;
+    Q_EMIT endlessRoomChanged();
 }
 
 void LuContext::setNotices(const QStringList& notices)
@@ -443,6 +448,10 @@ bool LuContext::exists(const QUrl& url) const
 
 QRectF LuContext::availableGeometry(QWindow* window) const
 {
+    // More than any window asks for, less than a window system refuses.
+    constexpr double Far = 16000;
+    if (m_endlessRoom)
+        return {-Far, -Far, 2 * Far, 2 * Far};
     const QScreen* screen = window && window->screen() ? window->screen() : QGuiApplication::primaryScreen();
     return screen ? QRectF(screen->availableGeometry()) : QRectF();
 }
@@ -501,7 +510,5 @@ bool LuContext::isUpright(QObject* monitor, int) const
 
 double LuContext::contrastRatio(const QColor& a, const QColor& b) const
 {
-    const double first = luminance(a);
-    const double second = luminance(b);
-    return (std::max(first, second) + 0.05) / (std::min(first, second) + 0.05);
+    return LuContrast::ratio(a, b);
 }

@@ -33,7 +33,7 @@ class LuContext : public QObject
     Q_PROPERTY(QList<QUrl> widgetUrls READ widgetUrls NOTIFY widgetUrlsChanged)
     Q_PROPERTY(QList<QUrl> sectionUrls READ sectionUrls NOTIFY widgetUrlsChanged)
     Q_PROPERTY(QUrl walkthroughUrl READ walkthroughUrl NOTIFY widgetUrlsChanged)
-    Q_PROPERTY(bool rightToLeft READ isRightToLeft NOTIFY rightToLeftChanged)
+    Q_PROPERTY(bool rightToLeft READ isRightToLeft WRITE setRightToLeft NOTIFY rightToLeftChanged)
     Q_PROPERTY(int factsStamp READ factsStamp NOTIFY factsChanged)
     Q_PROPERTY(bool discovering READ isDiscovering WRITE setDiscovering NOTIFY discoveringChanged)
     Q_PROPERTY(bool canSimulate READ canSimulate WRITE setCanSimulate NOTIFY canSimulateChanged)
@@ -49,6 +49,7 @@ class LuContext : public QObject
     Q_PROPERTY(bool canPlaceWindows READ canPlaceWindows CONSTANT)
     Q_PROPERTY(bool translucentWindows READ translucentWindows WRITE setTranslucentWindows NOTIFY
                    translucentWindowsChanged)
+    Q_PROPERTY(bool endlessRoom READ hasEndlessRoom WRITE setEndlessRoom NOTIFY endlessRoomChanged)
     Q_PROPERTY(QString theme READ theme WRITE setTheme NOTIFY themeChanged)
     Q_PROPERTY(QString colorScheme READ colorScheme NOTIFY colorSchemeChanged)
     Q_PROPERTY(bool highContrast READ highContrast WRITE setHighContrast NOTIFY highContrastChanged)
@@ -115,6 +116,11 @@ public:
     bool translucentWindows() const { return m_translucentWindows; }
     void setTranslucentWindows(bool on);
 
+    /// Windows are as large as what they hold, whatever the screen's size, and stay where they are: for
+    /// pictures of them.
+    bool hasEndlessRoom() const { return m_endlessRoom; }
+    void setEndlessRoom(bool on);
+
     /// "system", "light", "dark", or "contrast": high contrast, light or dark as the desktop.
     QString theme() const { return m_theme; }
     void setTheme(const QString& theme);
@@ -144,6 +150,8 @@ public:
     void touchAbsences() { Q_EMIT absencesChanged(); }
     /// The language in use is written from right to left: windows are mirrored.
     bool isRightToLeft() const;
+    /// Mirrors the windows, or not, whatever the language in use is written like.
+    void setRightToLeft(bool on);
 
     /// The family that the window is drawn in: Inter where it is installed, else the desktop's.
     QString fontFamily() const;
@@ -167,7 +175,8 @@ public:
     Q_INVOKABLE QVariant envDeviceChoice(const QString& key, const QVariant& fallback = {}) const;
     /// Whether the file of a "qrc:" or "file:" URL is there.
     Q_INVOKABLE bool exists(const QUrl& url) const;
-    /// The part of the screen that windows may cover, for the screen that @p window is on.
+    /// The part of the screen that windows may cover, for the screen that @p window is on. A boundless
+    /// rectangle where there is endlessRoom.
     Q_INVOKABLE QRectF availableGeometry(QWindow* window) const;
     /// A panel made the monitor lay its screen out anew: its bus may drop for a moment, and the system may
     /// see it go and come. Asks the program to look who is there and to read the monitor back.
@@ -198,6 +207,7 @@ Q_SIGNALS:
     void multiMonitorSyncControlChanged();
     void brightnessSyncChanged();
     void translucentWindowsChanged();
+    void endlessRoomChanged();
     void themeChanged();
     void colorSchemeChanged();
     void highContrastChanged();
@@ -249,6 +259,7 @@ private:
     QString m_desktopColorScheme;
     QString m_colorScheme;
     bool m_translucentWindows = true;
+    bool m_endlessRoom = false;
     bool m_highContrast = false;
     bool m_reducedMotion = false;
     double m_fontScale = 1;

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "LuTextAudit.h"
 
+#include "LuContrast.h"
+
+#include <QColor>
+#include <QFont>
 #include <QJsonObject>
 #include <QQuickItem>
 #include <QQuickWindow>
@@ -31,7 +35,7 @@ struct Shown
 class Audit
 {
 public:
-    explicit Audit(QQuickWindow* window) : m_window(window) {}
+    Audit(QQuickWindow* window, const QImage& image) : m_window(window), m_image(image) {}
 
     QJsonArray run()
     {
@@ -71,7 +75,7 @@ private:
     void visit(QQuickItem* item, QRectF view, QRectF reach, double opacity)
     {
         opacity *= item->opacity();
-        if (!item->isVisible() || opacity < NearlyInvisible)
+        if (!item->isVisible() || opacity < NearlyInvisible || item->property("aside").toBool())
             return;
         const QRectF box = item->mapRectToScene(QRectF(0, 0, item->width(), item->height()));
         if (item->inherits("QQuickFlickable")) {
@@ -86,9 +90,12 @@ private:
             reach = reach.intersected(box);
         }
         if (item->inherits("QQuickText"))
-            checkText(item, view, reach);
+            checkText(item, view, reach, opacity);
         else if (item->inherits("QQuickImage") && item->property("status").toInt() == ImageError)
             report(item, item->property("source").toUrl().toString(), u"picture missing"_s);
+        else if (QString::fromLatin1(item->metaObject()->className()).startsWith("LuIcon_QML"_L1))
+            checkContrast(item, item->property("name").toString(), box.intersected(view), opacity,
+                          LuContrast::Large);
         const QList<QQuickItem*> children = item->childItems();
         for (QQuickItem* child : children)
             visit(child, view, reach, opacity);
@@ -117,7 +124,31 @@ private:
         return item->mapRectToScene(QRectF(x, y, width, height));
     }
 
-    void checkText(const QQuickItem* item, const QRectF& view, const QRectF& reach)
+    void checkContrast(const QQuickItem* item, const QString& what, const QRectF& place, double opacity,
+                       double atLeast)
+    {
+        if (m_image.isNull() || !item->isEnabled() || place.isEmpty())
+            return;
+        const auto seen =
+            LuContrast::measure(m_image, place, item->property("color").value<QColor>(), opacity);
+        if (seen && seen->ratio < atLeast)
+            report(item, what,
+                   u"contrast %1 of %2 on %3"_s.arg(seen->ratio, 0, 'f', 2)
+                       .arg(seen->ink.name(), seen->ground.name()));
+    }
+
+    static double neededContrast(const QQuickItem* text)
+    {
+        // 18 points, or 14 where bold, at 96 pixels an inch.
+        constexpr int LargeSize = 24;
+        constexpr double LargeBoldSize = 18.5;
+        const QFont font = text->property("font").value<QFont>();
+        const double size = font.pixelSize() > 0 ? font.pixelSize() : font.pointSizeF() * 96 / 72;
+        const bool large = size >= LargeSize || (size >= LargeBoldSize && font.weight() >= QFont::Bold);
+        return large ? LuContrast::Large : LuContrast::Small;
+    }
+
+    void checkText(const QQuickItem* item, const QRectF& view, const QRectF& reach, double opacity)
     {
         const QString text = item->property("text").toString();
         if (text.trimmed().isEmpty())
@@ -131,8 +162,11 @@ private:
             report(item, text, u"higher than its place"_s);
         if (!reach.adjusted(-Slack, -Slack, Slack, Slack).contains(glyphs))
             report(item, text, u"outside of what can be seen"_s);
-        if (const QRectF seen = glyphs.intersected(view); !seen.isEmpty())
-            m_shown.append({item, seen});
+        const QRectF seen = glyphs.intersected(view);
+        if (seen.isEmpty())
+            return;
+        m_shown.append({item, seen});
+        checkContrast(item, text, seen, opacity, neededContrast(item));
     }
 
     // Popups of controls lie over what is below them on purpose.
@@ -162,13 +196,14 @@ private:
     static constexpr int ImageError = 3; // QQuickImageBase::Error
 
     QQuickWindow* const m_window;
+    const QImage m_image;
     QList<Shown> m_shown;
     QJsonArray m_problems;
 };
 
 } // namespace
 
-QJsonArray LuTextAudit::problemsOf(QQuickWindow* window)
+QJsonArray LuTextAudit::problemsOf(QQuickWindow* window, const QImage& image)
 {
-    return Audit(window).run();
+    return Audit(window, image).run();
 }

@@ -144,7 +144,17 @@ LuWindowBridge::Result LuWindowBridge::openSection(const QString& section)
 {
     if (!window())
         return noWindow();
+    if (section == "arrange"_L1) {
+        if (!window()->isVisible())
+            show();
+        QMetaObject::invokeMethod(window(), "openArrangement");
+        return {};
+    }
     bool opened = false;
+    if (section == "walkthrough"_L1) {
+        QMetaObject::invokeMethod(window(), "openWalkthrough", Q_RETURN_ARG(bool, opened));
+        return opened ? Result() : failure(NoSuchThing, u"the package has no introduction"_s);
+    }
     QMetaObject::invokeMethod(window(), "openSettings", Q_RETURN_ARG(bool, opened), Q_ARG(QString, section));
     if (!opened)
         return failure(NoSuchThing, u"no such section: %1"_s.arg(section));
@@ -209,7 +219,9 @@ LuWindowBridge::Result LuWindowBridge::close(const QString& name)
     const auto flush =
         qScopeGuard([] { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); });
     const auto* open = window()->property("openWidget").value<QQuickItem*>();
-    if (name.isEmpty() || (open && open->property("widgetName").toString() == name)) {
+    const bool arranging = !open && window()->property("pageOpen").toBool();
+    if (name.isEmpty() || (name == "arrange"_L1 && arranging) ||
+        (open && open->property("widgetName").toString() == name)) {
         QMetaObject::invokeMethod(window(), "closePage");
         return {};
     }
@@ -222,7 +234,12 @@ LuWindowBridge::Result LuWindowBridge::close(const QString& name)
         feedback->close();
         return {};
     }
-    if (sectionItem(name)) {
+    if (name == "walkthrough"_L1 && window()->property("walkthroughWindow").value<QQuickWindow*>()) {
+        QMetaObject::invokeMethod(window(), "closeWalkthrough");
+        return {};
+    }
+    const auto* settings = window()->property("settingsWindow").value<QQuickWindow*>();
+    if (settings && settings->property("page").toString() == name) {
         QMetaObject::invokeMethod(window(), "closeSettings");
         return {};
     }

@@ -61,8 +61,8 @@ public:
     /// As a click on the tile, with the window shown for it: the page, or the warning that stands in its
     /// place. Error 2 if it has neither.
     Result openPage(const QString& widget);
-    /// Opens an advanced section, or a page of the settings such as "general"; error 2 if there is none of
-    /// that name.
+    /// Opens an advanced section, a page of the settings such as "general", the list of widgets ("arrange")
+    /// or the introduction ("walkthrough"); error 2 if there is none of that name.
     Result openSection(const QString& section);
     /// Opens the popup of a widget, such as the warning of its colour mode, or one of the package by its
     /// name, such as "LuPopupFlowNotify".

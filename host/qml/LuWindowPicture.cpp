@@ -84,11 +84,8 @@ LuWindowBridge::Result LuWindowBridge::openForPicture(const QString& name, Pictu
         panel();
         return {};
     }
-    const bool hidden = !window()->isVisible();
     if (name == "arrange"_L1) {
-        if (hidden)
-            show();
-        QMetaObject::invokeMethod(window(), "openArrangement");
+        (void)openSection(name);
         picture->close = [this] { close(); };
         panel();
         return {};
@@ -102,19 +99,10 @@ LuWindowBridge::Result LuWindowBridge::openForPicture(const QString& name, Pictu
             picture->window = own;
         return {};
     }
-    if (name == "walkthrough"_L1) {
-        bool opened = false;
-        QMetaObject::invokeMethod(window(), "openWalkthrough", Q_RETURN_ARG(bool, opened));
-        if (!opened)
-            return failure(NoSuchThing, u"the package has no introduction"_s);
-        take("walkthroughWindow");
-        picture->close = [this] { QMetaObject::invokeMethod(window(), "closeWalkthrough"); };
-        return {};
-    }
     if (!openSection(name).ok())
         return failure(NoSuchThing, u"no such widget, section or page: %1"_s.arg(name));
-    take("settingsWindow");
-    picture->close = [this] { QMetaObject::invokeMethod(window(), "closeSettings"); };
+    take(name == "walkthrough"_L1 ? "walkthroughWindow" : "settingsWindow");
+    picture->close = [this, name] { close(name); };
     return {};
 }
 
@@ -128,8 +116,11 @@ LuWindowBridge::Result LuWindowBridge::screenshot(const QString& file, const QSt
         return failure(WrongValue, u"no such theme: %1"_s.arg(theme));
     // A picture shows the end of every transition.
     const bool motion = context->reducedMotion();
+    const bool room = context->hasEndlessRoom();
     const QString before = context->theme();
     context->setReducedMotion(true);
+    // ... and all that a window holds, however small the screen is.
+    context->setEndlessRoom(true);
     if (!theme.isEmpty())
         context->setTheme(theme);
     Picture picture;
@@ -138,6 +129,7 @@ LuWindowBridge::Result LuWindowBridge::screenshot(const QString& file, const QSt
             picture.close();
         context->setTheme(before);
         context->setReducedMotion(motion);
+        context->setEndlessRoom(room);
     });
     if (const Result result = openForPicture(name, &picture); !result.ok())
         return result;
@@ -167,8 +159,8 @@ LuWindowBridge::Result LuWindowBridge::problems() const
         auto* quick = qobject_cast<QQuickWindow*>(one);
         if (!quick || !quick->isVisible())
             continue;
-        (void)settledImage(quick);
-        const QJsonArray found = LuTextAudit::problemsOf(quick);
+        const QImage image = settledImage(quick);
+        const QJsonArray found = LuTextAudit::problemsOf(quick, image);
         for (const QJsonValue& problem : found)
             list.append(problem);
     }

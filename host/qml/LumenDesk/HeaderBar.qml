@@ -9,6 +9,8 @@ Item {
     id: bar
 
     required property Window window
+    // A person has begun to move the window.
+    signal moved()
     signal settingsClicked()
     signal closeClicked()
 
@@ -17,8 +19,8 @@ Item {
     DragHandler {
         target: null
         onActiveChanged: {
-            if (active)
-                bar.window.startSystemMove()
+            if (active && bar.window.startSystemMove())
+                bar.moved()
         }
     }
     MonitorSwitcher {

@@ -13,7 +13,7 @@ Window {
     // The room on the screen; what it depends on is named, since a call tells of no change.
     readonly property rect free: freeArea(header.Screen.virtualX, header.Screen.virtualY, header.Screen.width,
                                           header.Screen.height, header.Screen.desktopAvailableWidth,
-                                          header.Screen.desktopAvailableHeight)
+                                          header.Screen.desktopAvailableHeight, LuContext.endlessRoom)
     // The widget whose page is open, or null. A page of the shell's own has no widget.
     property Item openWidget: null
     property Component openPageComponent: null
@@ -44,7 +44,7 @@ Window {
     }
 
     function place(): void {
-        if (!LuContext.canPlaceWindows || movedByUser)
+        if (!LuContext.canPlaceWindows || movedByUser || LuContext.endlessRoom)
             return
         x = free.x + free.width - width - LuStyle.spaceWide
         y = free.y + free.height - height - LuStyle.spaceWide
@@ -55,6 +55,9 @@ Window {
             place()
         else
             closePage()
+        // Whoever opens it anew finds it where it always opens.
+        if (!visible)
+            movedByUser = false
     }
     onHeightChanged: place()
     onWidthChanged: place()
@@ -177,6 +180,7 @@ Window {
         width: parent.width
         height: implicitHeight
         window: window
+        onMoved: window.movedByUser = true
         onSettingsClicked: LuContext.openSettings("")
         onCloseClicked: window.close()
     }
@@ -294,7 +298,10 @@ Window {
     Shortcut {
         sequences: [StandardKey.Cancel]
         enabled: window.pageOpen
-        onActivated: window.closePage()
+        onActivated: {
+            if (!(over.item as PagePanel)?.stepBack())
+                window.closePage()
+        }
     }
     Component.onCompleted: LuContext.mainWindow = window
 }
