@@ -572,6 +572,10 @@
         <source>Close</source>
         <translation>Zavřít</translation>
     </message>
+    <message>
+        <source>Back</source>
+        <translation>Zpět</translation>
+    </message>
 </context>
 <context>
     <name>SettingsWindow</name>

@@ -572,6 +572,10 @@
         <source>Close</source>
         <translation>Close</translation>
     </message>
+    <message>
+        <source>Back</source>
+        <translation>Back</translation>
+    </message>
 </context>
 <context>
     <name>SettingsWindow</name>

@@ -572,6 +572,10 @@
         <source>Close</source>
         <translation>Zatvori</translation>
     </message>
+    <message>
+        <source>Back</source>
+        <translation>Natrag</translation>
+    </message>
 </context>
 <context>
     <name>SettingsWindow</name>

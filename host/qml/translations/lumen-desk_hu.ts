@@ -572,6 +572,10 @@
         <source>Close</source>
         <translation>Bezárás</translation>
     </message>
+    <message>
+        <source>Back</source>
+        <translation>Vissza</translation>
+    </message>
 </context>
 <context>
     <name>SettingsWindow</name>

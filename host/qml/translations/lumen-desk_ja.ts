@@ -572,6 +572,10 @@
         <source>Close</source>
         <translation>閉じる</translation>
     </message>
+    <message>
+        <source>Back</source>
+        <translation>戻る</translation>
+    </message>
 </context>
 <context>
     <name>SettingsWindow</name>

@@ -572,6 +572,10 @@
         <source>Close</source>
         <translation>닫기</translation>
     </message>
+    <message>
+        <source>Back</source>
+        <translation>뒤로</translation>
+    </message>
 </context>
 <context>
     <name>SettingsWindow</name>

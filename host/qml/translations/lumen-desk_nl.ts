@@ -572,6 +572,10 @@
         <source>Close</source>
         <translation>Sluiten</translation>
     </message>
+    <message>
+        <source>Back</source>
+        <translation>Terug</translation>
+    </message>
 </context>
 <context>
     <name>SettingsWindow</name>

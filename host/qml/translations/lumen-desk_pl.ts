@@ -572,6 +572,10 @@
         <source>Close</source>
         <translation>Zamknij</translation>
     </message>
+    <message>
+        <source>Back</source>
+        <translation>Wstecz</translation>
+    </message>
 </context>
 <context>
     <name>SettingsWindow</name>

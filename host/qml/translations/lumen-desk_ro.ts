@@ -572,6 +572,10 @@
         <source>Close</source>
         <translation>Închide</translation>
     </message>
+    <message>
+        <source>Back</source>
+        <translation>Înapoi</translation>
+    </message>
 </context>
 <context>
     <name>SettingsWindow</name>

@@ -572,6 +572,10 @@
         <source>Close</source>
         <translation>Stäng</translation>
     </message>
+    <message>
+        <source>Back</source>
+        <translation>Tillbaka</translation>
+    </message>
 </context>
 <context>
     <name>SettingsWindow</name>

@@ -969,6 +969,10 @@
         <source>To activate BackGlow while the monitor is in sleep mode, you can enable the non-stop mode.</source>
         <translation>Má-li BackGlow svítit i v režimu spánku monitoru, zapněte nepřetržitý režim.</translation>
     </message>
+    <message>
+        <source>More</source>
+        <translation>Více</translation>
+    </message>
 </context>
 <context>
     <name>EcoPrivacyTexts</name>

@@ -969,6 +969,10 @@
         <source>To activate BackGlow while the monitor is in sleep mode, you can enable the non-stop mode.</source>
         <translation>Soll BackGlow auch im Ruhezustand des Monitors leuchten, schalten Sie den Dauerbetrieb ein.</translation>
     </message>
+    <message>
+        <source>More</source>
+        <translation>Mehr</translation>
+    </message>
 </context>
 <context>
     <name>EcoPrivacyTexts</name>

@@ -969,6 +969,10 @@
         <source>To activate BackGlow while the monitor is in sleep mode, you can enable the non-stop mode.</source>
         <translation>To activate BackGlow while the monitor is in sleep mode, you can enable the non-stop mode.</translation>
     </message>
+    <message>
+        <source>More</source>
+        <translation>More</translation>
+    </message>
 </context>
 <context>
     <name>EcoPrivacyTexts</name>

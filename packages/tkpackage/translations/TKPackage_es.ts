@@ -969,6 +969,10 @@
         <source>To activate BackGlow while the monitor is in sleep mode, you can enable the non-stop mode.</source>
         <translation>Para que BackGlow funcione con el monitor en reposo, active el modo continuo.</translation>
     </message>
+    <message>
+        <source>More</source>
+        <translation>Más</translation>
+    </message>
 </context>
 <context>
     <name>EcoPrivacyTexts</name>

@@ -969,6 +969,10 @@
         <source>To activate BackGlow while the monitor is in sleep mode, you can enable the non-stop mode.</source>
         <translation>Pour que BackGlow reste allumé quand le moniteur est en veille, activez le mode continu.</translation>
     </message>
+    <message>
+        <source>More</source>
+        <translation>Plus</translation>
+    </message>
 </context>
 <context>
     <name>EcoPrivacyTexts</name>

@@ -969,6 +969,10 @@
         <source>To activate BackGlow while the monitor is in sleep mode, you can enable the non-stop mode.</source>
         <translation>Da bi BackGlow svijetlio i dok monitor spava, uključite neprekidni način.</translation>
     </message>
+    <message>
+        <source>More</source>
+        <translation>Više</translation>
+    </message>
 </context>
 <context>
     <name>EcoPrivacyTexts</name>

@@ -969,6 +969,10 @@
         <source>To activate BackGlow while the monitor is in sleep mode, you can enable the non-stop mode.</source>
         <translation>Ha a BackGlow a monitor alvó módjában is világítson, kapcsolja be a folyamatos módot.</translation>
     </message>
+    <message>
+        <source>More</source>
+        <translation>Továbbiak</translation>
+    </message>
 </context>
 <context>
     <name>EcoPrivacyTexts</name>

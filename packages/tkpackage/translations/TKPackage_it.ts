@@ -969,6 +969,10 @@
         <source>To activate BackGlow while the monitor is in sleep mode, you can enable the non-stop mode.</source>
         <translation>Per usare BackGlow mentre il monitor è in standby, attiva la modalità continua.</translation>
     </message>
+    <message>
+        <source>More</source>
+        <translation>Altro</translation>
+    </message>
 </context>
 <context>
     <name>EcoPrivacyTexts</name>

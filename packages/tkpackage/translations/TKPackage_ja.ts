@@ -969,6 +969,10 @@
         <source>To activate BackGlow while the monitor is in sleep mode, you can enable the non-stop mode.</source>
         <translation>モニターのスリープ中も BackGlow を使うには、ノンストップモードをオンにします。</translation>
     </message>
+    <message>
+        <source>More</source>
+        <translation>その他</translation>
+    </message>
 </context>
 <context>
     <name>EcoPrivacyTexts</name>

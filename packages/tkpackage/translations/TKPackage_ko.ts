@@ -969,6 +969,10 @@
         <source>To activate BackGlow while the monitor is in sleep mode, you can enable the non-stop mode.</source>
         <translation>모니터가 절전 상태일 때도 BackGlow를 켜려면 논스톱 모드를 사용하세요.</translation>
     </message>
+    <message>
+        <source>More</source>
+        <translation>더 보기</translation>
+    </message>
 </context>
 <context>
     <name>EcoPrivacyTexts</name>

@@ -969,6 +969,10 @@
         <source>To activate BackGlow while the monitor is in sleep mode, you can enable the non-stop mode.</source>
         <translation>Zet de continumodus aan om BackGlow ook in de slaapstand van de monitor te gebruiken.</translation>
     </message>
+    <message>
+        <source>More</source>
+        <translation>Meer</translation>
+    </message>
 </context>
 <context>
     <name>EcoPrivacyTexts</name>

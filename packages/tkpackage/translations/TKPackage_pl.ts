@@ -969,6 +969,10 @@
         <source>To activate BackGlow while the monitor is in sleep mode, you can enable the non-stop mode.</source>
         <translation>Aby BackGlow świecił także w trybie uśpienia monitora, włącz tryb ciągły.</translation>
     </message>
+    <message>
+        <source>More</source>
+        <translation>Więcej</translation>
+    </message>
 </context>
 <context>
     <name>EcoPrivacyTexts</name>

@@ -969,6 +969,10 @@
         <source>To activate BackGlow while the monitor is in sleep mode, you can enable the non-stop mode.</source>
         <translation>Para usar o BackGlow com o monitor em suspensão, ligue o modo contínuo.</translation>
     </message>
+    <message>
+        <source>More</source>
+        <translation>Mais</translation>
+    </message>
 </context>
 <context>
     <name>EcoPrivacyTexts</name>

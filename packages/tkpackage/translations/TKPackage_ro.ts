@@ -969,6 +969,10 @@
         <source>To activate BackGlow while the monitor is in sleep mode, you can enable the non-stop mode.</source>
         <translation>Pentru ca BackGlow să lumineze și când monitorul este în repaus, porniți modul continuu.</translation>
     </message>
+    <message>
+        <source>More</source>
+        <translation>Mai multe</translation>
+    </message>
 </context>
 <context>
     <name>EcoPrivacyTexts</name>

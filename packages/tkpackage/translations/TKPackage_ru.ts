@@ -969,6 +969,10 @@
         <source>To activate BackGlow while the monitor is in sleep mode, you can enable the non-stop mode.</source>
         <translation>Чтобы BackGlow светил и в спящем режиме монитора, включите непрерывный режим.</translation>
     </message>
+    <message>
+        <source>More</source>
+        <translation>Ещё</translation>
+    </message>
 </context>
 <context>
     <name>EcoPrivacyTexts</name>

@@ -969,6 +969,10 @@
         <source>To activate BackGlow while the monitor is in sleep mode, you can enable the non-stop mode.</source>
         <translation>Slå på kontinuerligt läge om BackGlow ska lysa även när skärmen är i viloläge.</translation>
     </message>
+    <message>
+        <source>More</source>
+        <translation>Mer</translation>
+    </message>
 </context>
 <context>
     <name>EcoPrivacyTexts</name>

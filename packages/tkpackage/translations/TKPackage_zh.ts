@@ -969,6 +969,10 @@
         <source>To activate BackGlow while the monitor is in sleep mode, you can enable the non-stop mode.</source>
         <translation>若要在显示器睡眠时启用 BackGlow，可开启不间断模式。</translation>
     </message>
+    <message>
+        <source>More</source>
+        <translation>更多</translation>
+    </message>
 </context>
 <context>
     <name>EcoPrivacyTexts</name>

@@ -969,6 +969,10 @@
         <source>To activate BackGlow while the monitor is in sleep mode, you can enable the non-stop mode.</source>
         <translation>若要在螢幕睡眠時啟用 BackGlow，可開啟不中斷模式。</translation>
     </message>
+    <message>
+        <source>More</source>
+        <translation>更多</translation>
+    </message>
 </context>
 <context>
     <name>EcoPrivacyTexts</name>

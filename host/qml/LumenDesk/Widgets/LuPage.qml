@@ -14,6 +14,9 @@ Column {
     readonly property int shownWidth: LuStyle.scaled(pageWidth)
     // Stands in the line of the title: the feature's switch, a help button.
     property Component titleControl: null
+    // What this page leads to, and which of them is shown in its place, or null.
+    property list<LuSubPage> subPages
+    property LuSubPage openSubPage: null
     property var module: null
     property var snapshotOf: null
 

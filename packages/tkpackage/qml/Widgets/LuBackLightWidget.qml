@@ -31,6 +31,8 @@ LuBasicWidget {
 
     page: Component {
         LuPage {
+            id: _page
+
             title: _self.text
             module: _self.backLight
 
@@ -50,41 +52,56 @@ LuBasicWidget {
                 backLight: _self.backLight
             }
             LuSeparator { }
-            Column {
-                width: parent.width
-                visible: _self.bundled
-                spacing: LuStyle.spaceHalf
-                LuPageRow {
-                    text: qsTr("Bundling of Color Mode")
-                    strong: true
-                }
-                LuLabel {
-                    width: parent.width
-                    kind: LuLabel.Caption
-                    wrapMode: Text.WordWrap
-                    text: qsTr("The system will automatically switch to the bundled BackGlow settings when you change the color mode.")
-                }
+            LuPageLink {
+                page: _page
+                target: _more
+                description: _self.bundled ? qsTr("Bundling of Color Mode") + " · " + qsTr("Non-stop Mode") : qsTr("Non-stop Mode")
             }
-            Column {
-                width: parent.width
-                spacing: LuStyle.spaceHalf
-                LuPageRow {
-                    text: qsTr("Non-stop Mode")
-                    strong: true
-                    LuSwitch {
-                        objectName: "backLightNonStop"
-                        text: qsTr("Non-stop Mode")
-                        confirmed: _self.backLight?.nonStopMode || false
-                        onToggled: _self.backLight.nonStopMode = checked
+            subPages: [
+                LuSubPage {
+                    id: _more
+                    title: qsTr("More")
+
+                    Column {
+                        width: parent.width
+                        visible: _self.bundled
+                        spacing: LuStyle.spaceHalf
+                        LuPageRow {
+                            text: qsTr("Bundling of Color Mode")
+                            strong: true
+                        }
+                        LuLabel {
+                            width: parent.width
+                            kind: LuLabel.Caption
+                            wrapMode: Text.WordWrap
+                            text: qsTr("The system will automatically switch to the bundled BackGlow settings when you change the color mode.")
+                        }
+                    }
+                    LuSeparator {
+                        visible: _self.bundled
+                    }
+                    Column {
+                        width: parent.width
+                        spacing: LuStyle.spaceHalf
+                        LuPageRow {
+                            text: qsTr("Non-stop Mode")
+                            strong: true
+                            LuSwitch {
+                                objectName: "backLightNonStop"
+                                text: qsTr("Non-stop Mode")
+                                confirmed: _self.backLight?.nonStopMode || false
+                                onToggled: _self.backLight.nonStopMode = checked
+                            }
+                        }
+                        LuLabel {
+                            width: parent.width
+                            kind: LuLabel.Caption
+                            wrapMode: Text.WordWrap
+                            text: qsTr("To activate BackGlow while the monitor is in sleep mode, you can enable the non-stop mode.")
+                        }
                     }
                 }
-                LuLabel {
-                    width: parent.width
-                    kind: LuLabel.Caption
-                    wrapMode: Text.WordWrap
-                    text: qsTr("To activate BackGlow while the monitor is in sleep mode, you can enable the non-stop mode.")
-                }
-            }
+            ]
         }
     }
 }
