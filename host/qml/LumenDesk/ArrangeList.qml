@@ -167,6 +167,7 @@ Column {
         Block { }
     }
     LuButton {
+        anchors.left: parent.left
         objectName: "resetArrangement"
         text: qsTr("Reset to the original order")
         enabled: LuPreferences.widgetOrder.length > 0 || LuPreferences.hiddenWidgets.length > 0

@@ -27,6 +27,9 @@ Window {
     flags: Qt.ToolTip | Qt.FramelessWindowHint | Qt.WindowStaysOnTopHint | Qt.WindowDoesNotAcceptFocus | Qt.WindowTransparentForInput
     visible: false
 
+    LayoutMirroring.enabled: LuContext.rightToLeft
+    LayoutMirroring.childrenInherit: true
+
     // Shows it, or lets it stay for its time anew.
     function open(): void {
         place()

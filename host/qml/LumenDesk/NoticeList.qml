@@ -26,7 +26,8 @@ Column {
             border.color: LuStyle.warningFill
             LuIcon {
                 id: picture
-                x: LuStyle.spaceWide
+                anchors.left: parent.left
+                anchors.leftMargin: LuStyle.spaceWide
                 y: LuStyle.spaceWide
                 name: "key"
                 color: LuStyle.textDim

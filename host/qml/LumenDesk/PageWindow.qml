@@ -25,6 +25,10 @@ Window {
     x: mainWindow.x - width - LuStyle.space
     y: Math.max(free.y + LuStyle.space, mainWindow.y + mainWindow.height - height)
     visible: mainWindow.visible
+
+    LayoutMirroring.enabled: LuContext.rightToLeft
+    LayoutMirroring.childrenInherit: true
+
     onClosing: close => {
         close.accepted = false
         closeRequested()
@@ -37,6 +41,10 @@ Window {
         maximumHeight: pageWindow.free.height - 2 * LuStyle.space
         onCloseRequested: pageWindow.closeRequested()
     }
+    readonly property bool still: LuStyle.motion === 0
+    // Who asks for no motion does not wait for the end of one.
+    onStillChanged: appear.complete()
+
     ParallelAnimation {
         id: appear
         NumberAnimation {

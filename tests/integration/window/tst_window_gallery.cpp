@@ -8,8 +8,17 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 
 using namespace Qt::StringLiterals;
+
+// Tells of all that was found, also where it is more than a failure's text has room for.
+#define VERIFY_NONE(list)                                                                                    \
+    do {                                                                                                     \
+        for (const QString& line : std::as_const(list))                                                      \
+            qWarning().noquote() << line;                                                                    \
+        QVERIFY2((list).isEmpty(), qPrintable(u"%1 problems"_s.arg((list).size())));                         \
+    } while (false)
 
 namespace {
 
@@ -17,12 +26,37 @@ constexpr const char* Models[] = {"TK30Z", "TK20", "TK40X", "builtin"};
 constexpr const char* Languages[] = {"cs", "de", "en", "es", "fr", "hr", "hu", "it", "ja",
                                      "ko", "nl", "pl", "pt", "ro", "ru", "sv", "zh", "zh_TW"};
 
+/// How the windows may look beside light and dark.
+enum class Look { Plain, HighContrast, Mirrored };
+
 /// What the picture of a part is called, and how scripts call the part.
 struct Part
 {
     QString name;
     bool isWidget = false;
 };
+
+/// Where a control or text stands in its window.
+struct Place
+{
+    QString what;
+    double left = 0;
+    double width = 0;
+    double windowWidth = 0;
+};
+
+void addPlaces(const QJsonValue& node, double windowWidth, QList<Place>& places)
+{
+    const QJsonValue rect = node[u"rect"_s];
+    const QString role = node[u"role"_s].toString();
+    if (role == "window"_L1 && rect.isObject())
+        windowWidth = rect[u"width"_s].toDouble();
+    else if (rect.isObject())
+        places.append({u"%1 \"%2\""_s.arg(role, node[u"name"_s].toString()), rect[u"x"_s].toDouble(),
+                       rect[u"width"_s].toDouble(), windowWidth});
+    for (const QJsonValue& child : node[u"children"_s].toArray())
+        addPlaces(child, windowWidth, places);
+}
 
 QImage blocksOf(const QImage& image)
 {
@@ -64,6 +98,10 @@ private Q_SLOTS:
 
     void everythingIsDrawn_data();
     void everythingIsDrawn();
+    void everyLookIsReadable_data();
+    void everyLookIsReadable();
+    void everyPageIsMirrored_data();
+    void everyPageIsMirrored();
     void noTextIsCut_data();
     void noTextIsCut();
     void theAuditFindsWhatIsWrong();
@@ -74,7 +112,15 @@ private:
     ControlClient& client() { return m_desk.client(); }
     void start(const QString& model, const QByteArray& scale = {});
     QList<Part> parts();
+    void setLook(Look look, const QString& theme = {});
+    QStringList popups(const QString& model) const;
+    QList<Place> places();
+    void compareMirrored(const QString& where, QStringList& found);
     void checkProblems(const QString& where, QStringList& found);
+    /// Opens one after the other all that can be opened, and lets @p look at each.
+    void openEverything(const QString& model, const std::function<void(const QString&)>& look,
+                        QStringList& found);
+    QStringList problemsEverywhere(const QString& model);
     void writeSheet(const QDir& folder) const;
 
     DeskProcess m_desk;
@@ -90,9 +136,11 @@ void TestGallery::initTestCase()
 
 void TestGallery::cleanup()
 {
-    // The next test speaks the language of the machine.
-    if (m_desk.isRunning())
-        (void)client().call(u"settings.remove"_s, {{u"key"_s, u"language"_s}});
+    // The next test speaks the language of the machine and has its theme.
+    if (m_desk.isRunning()) {
+        for (const QString& key : {u"language"_s, u"theme"_s})
+            (void)client().call(u"settings.remove"_s, {{u"key"_s, key}});
+    }
     qunsetenv("QT_SCALE_FACTOR");
     if (m_desk.isRunning())
         QCOMPARE(m_desk.stop(), 0);
@@ -135,13 +183,40 @@ QList<Part> TestGallery::parts()
     return list;
 }
 
+void TestGallery::setLook(Look look, const QString& theme)
+{
+    const auto set = [this](const QString& path, const QJsonValue& value) {
+        return client().call(u"set"_s, {{u"path"_s, path}, {u"value"_s, value}}).ok();
+    };
+    QVERIFY(set(u"context.highContrast"_s, look == Look::HighContrast));
+    QVERIFY(set(u"context.rightToLeft"_s, look == Look::Mirrored));
+    if (!theme.isEmpty())
+        QVERIFY(set(u"context.theme"_s, theme));
+}
+
+QStringList TestGallery::popups(const QString& model) const
+{
+    // The editors belong to features that a foreign panel has not.
+    if (model == "builtin"_L1)
+        return {};
+    QStringList names;
+    const QStringList files = QDir(QStringLiteral(POPUP_FOLDER)).entryList({u"LuPopup*.qml"_s});
+    for (const QString& file : files)
+        names << file.chopped(4);
+    return names;
+}
+
 void TestGallery::everythingIsDrawn_data()
 {
     QTest::addColumn<QString>("model");
     QTest::addColumn<QByteArray>("scale");
-    for (const char* model : Models) {
-        QTest::addRow("%s, 100 %%", model) << QString::fromLatin1(model) << QByteArray();
-        QTest::addRow("%s, 200 %%", model) << QString::fromLatin1(model) << QByteArray("2");
+    QTest::addColumn<Look>("look");
+    for (const char* name : Models) {
+        const QString model = QString::fromLatin1(name);
+        QTest::addRow("%s, 100 %%", name) << model << QByteArray() << Look::Plain;
+        QTest::addRow("%s, 200 %%", name) << model << QByteArray("2") << Look::Plain;
+        QTest::addRow("%s, high contrast", name) << model << QByteArray() << Look::HighContrast;
+        QTest::addRow("%s, mirrored", name) << model << QByteArray() << Look::Mirrored;
     }
 }
 
@@ -149,12 +224,17 @@ void TestGallery::everythingIsDrawn()
 {
     QFETCH(QString, model);
     QFETCH(QByteArray, scale);
+    QFETCH(Look, look);
     start(model, scale);
+    setLook(look);
+    const QString kind = look == Look::HighContrast ? u"-contrast"_s
+                         : look == Look::Mirrored   ? u"-mirrored"_s
+                                                    : QString();
     const int factor = scale.isEmpty() ? 1 : scale.toInt();
     int pages = 0;
     for (const QString& theme : {u"light"_s, u"dark"_s}) {
         const auto picture = [&](const QString& name, const QString& part) {
-            const QString file = u"%1-%2-%3-%4x.png"_s.arg(model, name, theme).arg(factor);
+            const QString file = u"%1-%2-%3%4-%5x.png"_s.arg(model, name, theme, kind).arg(factor);
             const auto answer = client().call(
                 u"ui.screenshot"_s,
                 {{u"file"_s, m_folder.absoluteFilePath(file)}, {u"widget"_s, part}, {u"theme"_s, theme}});
@@ -172,17 +252,14 @@ void TestGallery::everythingIsDrawn()
             if (picture(part.name, part.name))
                 ++pages;
         }
-        const QStringList popups = QDir(QStringLiteral(POPUP_FOLDER)).entryList({u"LuPopup*.qml"_s});
-        for (const QString& popup : popups) {
-            // The editors belong to features that a foreign panel has not.
-            if (model == "builtin"_L1)
-                break;
-            const QString name = popup.chopped(4);
+        const auto drawn = [&](const QString& name) {
+            return QImage(
+                m_folder.absoluteFilePath(u"%1-%2-%3%4-%5x.png"_s.arg(model, name, theme, kind).arg(factor)));
+        };
+        for (const QString& name : popups(model)) {
             QVERIFY2(picture(name, name), qPrintable(name));
-            const QImage with(
-                m_folder.absoluteFilePath(u"%1-%2-%3-%4x.png"_s.arg(model, name, theme).arg(factor)));
-            const QImage without(
-                m_folder.absoluteFilePath(u"%1-window-%2-%3x.png"_s.arg(model, theme).arg(factor)));
+            const QImage with = drawn(name);
+            const QImage without = drawn(u"window"_s);
             QVERIFY2(with.size() != without.size() || differenceOf(without, with) > 10, qPrintable(name));
         }
         const QJsonArray widgets = client().call(u"ui.widgets"_s).result.toArray();
@@ -213,6 +290,122 @@ void TestGallery::checkProblems(const QString& where, QStringList& found)
     }
 }
 
+void TestGallery::openEverything(const QString& model, const std::function<void(const QString&)>& look,
+                                 QStringList& found)
+{
+    const auto lookAt = [&](const QString& kind, const QString& name) {
+        const QJsonObject target{{kind, name}};
+        if (!client().call(u"ui.open"_s, target).ok())
+            return false; // not every tile has a page, nor every monitor all sections
+        look(name);
+        // The settings are one window for all their pages. Feedback may have gone by itself.
+        if (kind != "section"_L1 || name == "arrange"_L1 || name == "walkthrough"_L1)
+            (void)client().call(u"ui.close"_s, target);
+        return true;
+    };
+    int opened = 0;
+    const QList<Part> list = parts();
+    for (const Part& part : list)
+        opened += lookAt(part.isWidget ? u"widget"_s : u"section"_s, part.name);
+    // A foreign panel has little beside the program's own pages.
+    if (opened < 6)
+        found << u"only %1 parts could be looked at"_s.arg(opened);
+    (void)client().call(u"ui.close"_s, {{u"section"_s, list.last().name}});
+    if (model != "builtin"_L1 && !lookAt(u"section"_s, u"walkthrough"_s))
+        found << u"the introduction could not be looked at"_s;
+    for (const QString& name : popups(model)) {
+        if (!lookAt(u"popup"_s, name))
+            found << u"%1 could not be looked at"_s.arg(name);
+    }
+}
+
+QStringList TestGallery::problemsEverywhere(const QString& model)
+{
+    QStringList found;
+    checkProblems(u"window"_s, found);
+    openEverything(
+        model, [&](const QString& name) { checkProblems(name, found); }, found);
+    found.removeDuplicates();
+    return found;
+}
+
+void TestGallery::everyLookIsReadable_data()
+{
+    QTest::addColumn<QString>("model");
+    QTest::addColumn<QString>("theme");
+    QTest::addColumn<Look>("look");
+    for (const char* name : Models) {
+        const QString model = QString::fromLatin1(name);
+        QTest::addRow("%s, light", name) << model << u"light"_s << Look::Plain;
+        QTest::addRow("%s, dark", name) << model << u"dark"_s << Look::Plain;
+        QTest::addRow("%s, high contrast, light", name) << model << u"light"_s << Look::HighContrast;
+        QTest::addRow("%s, high contrast, dark", name) << model << u"dark"_s << Look::HighContrast;
+        QTest::addRow("%s, mirrored", name) << model << u"light"_s << Look::Mirrored;
+    }
+}
+
+void TestGallery::everyLookIsReadable()
+{
+    QFETCH(QString, model);
+    QFETCH(QString, theme);
+    QFETCH(Look, look);
+    start(model);
+    setLook(look, theme);
+    const QStringList found = problemsEverywhere(model);
+    VERIFY_NONE(found);
+    QCOMPARE(client().call(u"ui.warnings"_s).result.toArray(), QJsonArray());
+}
+
+QList<Place> TestGallery::places()
+{
+    // Positions are final once a picture has been drawn.
+    (void)client().call(u"ui.problems"_s);
+    QList<Place> list;
+    addPlaces(client().call(u"ui.tree"_s).result, 0, list);
+    return list;
+}
+
+void TestGallery::compareMirrored(const QString& where, QStringList& found)
+{
+    constexpr double Tolerance = 2;
+    setLook(Look::Plain);
+    const QList<Place> plain = places();
+    setLook(Look::Mirrored);
+    const QList<Place> mirrored = places();
+    setLook(Look::Plain);
+    if (plain.size() != mirrored.size()) {
+        found << u"%1: %2 parts became %3"_s.arg(where).arg(plain.size()).arg(mirrored.size());
+        return;
+    }
+    for (qsizetype i = 0; i < plain.size(); ++i) {
+        const double wanted = plain[i].windowWidth - plain[i].left - plain[i].width;
+        if (plain[i].what != mirrored[i].what || std::abs(mirrored[i].left - wanted) > Tolerance)
+            found << u"%1: %2 from %3 to %4, not to %5"_s.arg(where, plain[i].what)
+                         .arg(plain[i].left)
+                         .arg(mirrored[i].left)
+                         .arg(wanted);
+    }
+}
+
+void TestGallery::everyPageIsMirrored_data()
+{
+    QTest::addColumn<QString>("model");
+    for (const char* model : Models)
+        QTest::addRow("%s", model) << QString::fromLatin1(model);
+}
+
+void TestGallery::everyPageIsMirrored()
+{
+    QFETCH(QString, model);
+    start(model);
+    QStringList found;
+    compareMirrored(u"window"_s, found);
+    openEverything(
+        model, [&](const QString& name) { compareMirrored(name, found); }, found);
+    found.removeDuplicates();
+    VERIFY_NONE(found);
+}
+
 void TestGallery::noTextIsCut_data()
 {
     QTest::addColumn<QString>("language");
@@ -232,22 +425,8 @@ void TestGallery::noTextIsCut()
     QVERIFY(client().call(u"settings.set"_s, {{u"key"_s, u"language"_s}, {u"value"_s, language}}).ok());
     QCOMPARE(m_desk.stop(), 0);
     start(model);
-    QStringList found;
-    checkProblems(u"window"_s, found);
-    const QList<Part> list = parts();
-    for (const Part& part : list) {
-        if (part.name == "arrange"_L1)
-            continue;
-        const QString kind = part.isWidget ? u"widget"_s : u"section"_s;
-        if (!client().call(u"ui.open"_s, {{kind, part.name}}).ok())
-            continue;
-        checkProblems(part.name, found);
-        // The settings are one window for all their pages.
-        if (part.isWidget)
-            QVERIFY(client().call(u"ui.close"_s, {{kind, part.name}}).ok());
-    }
-    found.removeDuplicates();
-    QVERIFY2(found.isEmpty(), qPrintable(u'\n' + found.join(u'\n')));
+    const QStringList found = problemsEverywhere(model);
+    VERIFY_NONE(found);
     QCOMPARE(client().call(u"ui.warnings"_s).result.toArray(), QJsonArray());
 }
 

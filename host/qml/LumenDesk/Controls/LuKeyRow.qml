@@ -53,7 +53,7 @@ T.AbstractButton {
     background: Rectangle {
         radius: LuStyle.radiusSmall
         color: row.capturing ? LuStyle.accentSoft : row.down ? LuStyle.press : row.hovered ? LuStyle.hover : "transparent"
-        border.width: row.capturing || LuStyle.highContrast ? 1 : 0
+        border.width: row.capturing ? 1 : 0
         border.color: row.capturing ? LuStyle.accentText : LuStyle.outline
         LuFocusRing {
             control: row
@@ -80,7 +80,11 @@ T.AbstractButton {
             width: row.width - 2 * LuStyle.space
             spacing: LuStyle.spaceHalf
             Repeater {
-                model: row.capturing ? row.pending ? row.pending.split("+") : ["…"] : row.keys
+                model: {
+                    const shown = row.capturing ? row.pending ? row.pending.split("+") : ["…"] : Array.from(row.keys)
+                    // A combination reads from the left in every language.
+                    return row.mirrored ? shown.reverse() : shown
+                }
                 LuChip {
                     required property string modelData
                     text: modelData.trim()

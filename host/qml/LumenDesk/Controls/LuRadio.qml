@@ -13,6 +13,8 @@ T.RadioButton {
     implicitWidth: contentItem.implicitWidth + leftPadding + rightPadding
     implicitHeight: Math.max(LuStyle.scaled(24), contentItem.implicitHeight)
     padding: 0
+    leftPadding: mirrored ? 0 : indicator.width + spacing
+    rightPadding: mirrored ? indicator.width + spacing : 0
     spacing: LuStyle.space
     focusPolicy: Qt.StrongFocus
     checked: confirmed ?? false
@@ -69,8 +71,6 @@ T.RadioButton {
         }
     }
     contentItem: LuLabel {
-        leftPadding: control.mirrored ? 0 : control.indicator.width + control.spacing
-        rightPadding: control.mirrored ? control.indicator.width + control.spacing : 0
         repeatsName: true
         text: control.text
         verticalAlignment: Text.AlignVCenter

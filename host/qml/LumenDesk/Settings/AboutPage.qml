@@ -35,7 +35,9 @@ LuPage {
             width: parent.width - picture.width - parent.spacing
             spacing: 2
             LuLabel {
+                width: parent.width
                 kind: LuLabel.Title
+                wrapMode: Text.WordWrap
                 text: "Lumen Desk"
             }
             LuLabel {
@@ -52,12 +54,15 @@ LuPage {
         }
     }
     LuButton {
+        anchors.left: parent.left
         text: qsTr("Show the introduction")
         visible: String(LuContext.walkthroughUrl).length > 0
         onClicked: page.introductionRequested()
     }
     LuLabel {
+        width: page.width
         kind: LuLabel.Strong
+        wrapMode: Text.WordWrap
         text: qsTr("Open-source notices")
     }
     SettingsCard {

@@ -67,6 +67,7 @@ LuPage {
             width: page.width
             spacing: LuStyle.space
             LuLabel {
+                width: parent.width
                 kind: LuLabel.Strong
                 text: entry.modelData.model
             }
@@ -93,6 +94,7 @@ LuPage {
                             implicitHeight: Math.max(name.implicitHeight, value.implicitHeight)
                             LuLabel {
                                 id: name
+                                anchors.left: parent.left
                                 width: Math.round(parent.width * 0.36)
                                 kind: LuLabel.Value
                                 repeatsName: true
@@ -125,6 +127,7 @@ LuPage {
             text: qsTr("The report holds what is shown here and the log of the monitors' buses. Serial numbers, your name and your folders are left out.")
         }
         LuButton {
+            anchors.left: parent.left
             objectName: "exportReport"
             text: qsTr("Export report")
             onClicked: LuDiagnostics.exportReport()

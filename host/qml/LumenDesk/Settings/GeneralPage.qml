@@ -21,7 +21,9 @@ LuPage {
     spacing: LuStyle.spaceLarge
 
     LuLabel {
+        width: page.width
         kind: LuLabel.Strong
+        wrapMode: Text.WordWrap
         text: qsTr("Theme")
     }
     Grid {

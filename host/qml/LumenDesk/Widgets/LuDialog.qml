@@ -81,6 +81,10 @@ FocusScope {
 
     Keys.onEscapePressed: dialog.dismiss()
 
+    readonly property bool still: LuStyle.motion === 0
+    // Who asks for no motion does not wait for the end of one.
+    onStillChanged: appear.complete()
+
     ParallelAnimation {
         id: appear
         NumberAnimation {
@@ -187,7 +191,7 @@ FocusScope {
                         id: actions
                         width: parent.width
                         spacing: LuStyle.space
-                        layoutDirection: dialog.LayoutMirroring.enabled ? Qt.LeftToRight : Qt.RightToLeft
+                        layoutDirection: Qt.RightToLeft
                     }
                 }
             }

@@ -18,7 +18,8 @@ Window {
     readonly property var mainWindow: LuContext.mainWindow
     // The page's window stands at the same place, so the hint stands left of it.
     readonly property var neighbour: mainWindow?.pageWindow ?? mainWindow
-    readonly property rect free: area(Screen.virtualX, Screen.desktopAvailableWidth, Screen.desktopAvailableHeight)
+    readonly property rect free: area(Screen.virtualX, Screen.desktopAvailableWidth, Screen.desktopAvailableHeight,
+                                     LuContext.endlessRoom)
     signal closed()
 
     objectName: "hintWindow"
@@ -30,6 +31,9 @@ Window {
     height: Math.ceil(Math.min(column.implicitHeight + 2 * LuStyle.spaceLarge, free.height - 2 * LuStyle.space))
     visible: false
     onClosing: closed()
+
+    LayoutMirroring.enabled: LuContext.rightToLeft
+    LayoutMirroring.childrenInherit: true
 
     function area(...screen): rect {
         return LuContext.availableGeometry(mainWindow)

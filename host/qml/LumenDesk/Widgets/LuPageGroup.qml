@@ -10,7 +10,7 @@ Column {
 
     width: parent ? parent.width : implicitWidth
     spacing: LuStyle.spaceWide
-    opacity: enabled ? 1 : fadedOpacity
+    opacity: LuStyle.dim(group) < 1 ? fadedOpacity : 1
     // Faded as one picture: what lies behind a knob does not show through it.
     layer.enabled: opacity < 1
 }

@@ -72,7 +72,9 @@ LuAdvancedWidget {
                 fadedOpacity: 0.3
                 spacing: LuStyle.space
                 LuLabel {
+                    width: parent.width
                     kind: LuLabel.Strong
+                    wrapMode: Text.WordWrap
                     text: qsTr("Parameter")
                 }
                 Column {
@@ -81,11 +83,13 @@ LuAdvancedWidget {
                     Accessible.role: Accessible.Grouping
                     Accessible.name: qsTr("Parameter")
                     LuRadio {
+                        anchors.left: parent.left
                         text: qsTr("Brightness + Color Temperature")
                         confirmed: _self.abPlus?.mode === LuABPlus.ModeABPlus
                         onToggled: _self.abPlus.mode = LuABPlus.ModeABPlus
                     }
                     LuRadio {
+                        anchors.left: parent.left
                         text: qsTr("Brightness")
                         confirmed: _self.abPlus?.mode === LuABPlus.ModeAB
                         onToggled: _self.abPlus.mode = LuABPlus.ModeAB

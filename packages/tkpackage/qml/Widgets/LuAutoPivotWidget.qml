@@ -56,7 +56,9 @@ LuBasicWidget {
                 }
             }
             LuLabel {
+                width: parent.width
                 kind: LuLabel.Strong
+                wrapMode: Text.WordWrap
                 text: qsTr("Screen pivot")
             }
             Row {

@@ -73,7 +73,7 @@ LuWidget {
                 anchors.left: parent.left
                 anchors.leftMargin: -LuStyle.spaceHalf
                 anchors.verticalCenter: parent.verticalCenter
-                width: Math.min(implicitWidth, parent.width - modes.width)
+                width: Math.min(implicitWidth, parent.width - (modes.visible ? modes.width : 0))
                 widget: _self
                 iconName: "sun"
                 strong: true

@@ -64,6 +64,7 @@ LuAdvancedWidget {
                 height: Math.max(_red.implicitHeight, _green.implicitHeight)
                 LuLabel {
                     id: _red
+                    anchors.left: parent.left
                     text: qsTr("Red: %1").arg(Math.max(0, -_slider.value))
                 }
                 LuLabel {

@@ -57,8 +57,9 @@ LuBasicWidget {
                 text: qsTr("One cable to easily connect all your monitors.")
             }
             LuButton {
+                anchors.left: parent.left
                 kind: LuButton.Link
-                leftPadding: 0
+                horizontalPadding: 0
                 text: qsTr("About Daisy Chain (MST)")
                 enabled: _self.aboutAddress.length > 0
                 onClicked: Qt.openUrlExternally(_self.aboutAddress)

@@ -72,15 +72,19 @@ LuBasicWidget {
                     Accessible.role: Accessible.Grouping
                     Accessible.name: qsTr("Mode")
                     LuLabel {
+                        width: parent.width
                         kind: LuLabel.Strong
+                        wrapMode: Text.WordWrap
                         text: qsTr("Mode")
                     }
                     LuRadio {
+                        anchors.left: parent.left
                         text: qsTr("Display + BackGlow")
                         confirmed: _self.ecoPrivacy?.mode === LuEcoPrivacy.DisplayAndBackGlow
                         onToggled: _self.ecoPrivacy.mode = LuEcoPrivacy.DisplayAndBackGlow
                     }
                     LuRadio {
+                        anchors.left: parent.left
                         text: qsTr("Display")
                         confirmed: _self.ecoPrivacy?.mode === LuEcoPrivacy.Display
                         onToggled: _self.ecoPrivacy.mode = LuEcoPrivacy.Display
@@ -90,7 +94,9 @@ LuBasicWidget {
                     width: parent.width
                     spacing: LuStyle.space
                     LuLabel {
+                        width: parent.width
                         kind: LuLabel.Strong
+                        wrapMode: Text.WordWrap
                         text: qsTr("Sensor Sensitivity")
                     }
                     Flow {

@@ -143,6 +143,7 @@ LuBasicWidget {
                 }
             }
             LuButton {
+                anchors.left: parent.left
                 objectName: "resetShortcuts"
                 text: qsTr("Reset All Shortcuts")
                 onClicked: _reset.open()

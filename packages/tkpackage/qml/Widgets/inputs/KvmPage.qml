@@ -36,6 +36,7 @@ LuPage {
             LuRadio {
                 required property int modelData
 
+                anchors.left: parent?.left
                 text: page.widget?.portName(modelData) ?? ""
                 confirmed: page.widget?.kvmSwitch?.kvmSwitch === modelData
                 onToggled: page.widget.chooseKvm(modelData)

@@ -142,6 +142,7 @@ LuPage {
         }
     }
     LuButton {
+        anchors.left: parent.left
         objectName: "resetColor"
         text: qsTr("Reset Color")
         onClicked: page.monitor.resetCurrentColorMode()

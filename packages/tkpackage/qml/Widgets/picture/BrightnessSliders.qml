@@ -39,7 +39,8 @@ Item {
         Row {
             visible: sliders.dimming
             spacing: LuStyle.spaceHalf
-            rightPadding: LuStyle.spaceWide
+            leftPadding: line.LayoutMirroring.enabled ? LuStyle.spaceWide : 0
+            rightPadding: line.LayoutMirroring.enabled ? 0 : LuStyle.spaceWide
             LuImage {
                 size: 16
                 anchors.verticalCenter: parent.verticalCenter

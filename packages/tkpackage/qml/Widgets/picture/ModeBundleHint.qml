@@ -37,7 +37,9 @@ Column {
     }
 
     LuLabel {
+        width: parent.width
         kind: LuLabel.Strong
+        wrapMode: Text.WordWrap
         text: qsTr("Bundling of Color Mode")
     }
     LuLabel {
