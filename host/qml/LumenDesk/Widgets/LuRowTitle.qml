@@ -12,10 +12,12 @@ T.AbstractButton {
     property string iconName
     property string description
     property bool strong: false
+    readonly property real glyphRoom: glyph.visible ? glyph.width + head.spacing : 0
     readonly property bool opens: widget.page !== null || widget.popupWindow !== null
 
     objectName: widget.widgetName + ".button"
-    implicitWidth: head.implicitWidth + 2 * LuStyle.spaceHalf
+    // From the whole of the words, whatever room they have now: the room may depend on it.
+    implicitWidth: glyphRoom + words.implicitWidth + 2 * LuStyle.spaceHalf
     implicitHeight: LuStyle.controlHeight
     hoverEnabled: opens
     focusPolicy: opens ? Qt.StrongFocus : Qt.NoFocus
@@ -56,9 +58,9 @@ T.AbstractButton {
                 name: title.iconName
             }
             LuLabel {
+                id: words
                 anchors.verticalCenter: parent.verticalCenter
-                width: Math.min(implicitWidth, Math.max(0, title.width - 2 * LuStyle.spaceHalf
-                                                           - (glyph.visible ? glyph.width + head.spacing : 0)))
+                width: Math.min(implicitWidth, Math.max(0, title.width - 2 * LuStyle.spaceHalf - title.glyphRoom))
                 kind: title.strong ? LuLabel.Strong : LuLabel.Body
                 repeatsName: true
                 text: title.text
