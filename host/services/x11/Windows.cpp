@@ -57,11 +57,22 @@ bool Windows::blends() const
 
 bool Windows::eventFilter(QObject* object, QEvent* event)
 {
-    if (auto* window = qobject_cast<QQuickWindow*>(object)) {
-        if (event->type() == QEvent::Show)
+    auto* window = qobject_cast<QQuickWindow*>(object);
+    switch (event->type()) {
+    case QEvent::Show:
+        if (window)
             mark(window);
-        else if (event->type() == QEvent::Expose)
-            window->isVisible() && isAbove(window) ? raise(window) : tell(window);
+        break;
+    case QEvent::Expose:
+        if (window && window->isVisible())
+            isAbove(window) ? keepAbove(window) : tell(window);
+        break;
+    case QEvent::Hide:
+    case QEvent::PlatformSurface: // Made or destroyed: not on the screen either way.
+        letGo(object);
+        break;
+    default:
+        break;
     }
     return QObject::eventFilter(object, event);
 }
@@ -96,11 +107,17 @@ void Windows::tell(QQuickWindow* window)
     xcb_flush(*m_connection);
 }
 
-void Windows::raise(QQuickWindow* window)
+void Windows::keepAbove(QQuickWindow* window)
 {
-    const std::uint32_t above = XCB_STACK_MODE_ABOVE;
-    xcb_configure_window(*m_connection, xcb_window_t(window->winId()), XCB_CONFIG_WINDOW_STACK_MODE, &above);
-    xcb_flush(*m_connection);
+    const auto id = xcb_window_t(window->winId());
+    m_above.insert(window, id);
+    m_stack.keep(id);
+}
+
+void Windows::letGo(QObject* window)
+{
+    if (const xcb_window_t id = m_above.take(window))
+        m_stack.drop(id);
 }
 
 } // namespace services::x11

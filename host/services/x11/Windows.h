@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "Connection.h"
+#include "StackWatch.h"
 #include "services/api/WindowService.h"
 
 #include <QObject>
@@ -16,7 +16,10 @@ namespace services::x11 {
 class Windows : public QObject, public WindowService
 {
 public:
-    explicit Windows(std::shared_ptr<Connection> connection) : m_connection(std::move(connection)) {}
+    Windows(const std::shared_ptr<EventSource>& events, std::shared_ptr<Connection> requests)
+        : m_connection(std::move(requests)), m_stack(events, m_connection)
+    {
+    }
 
     void setLayer(QQuickWindow* window, int layer) override;
     void setJoinActiveSpaces(QQuickWindow* window, bool join) override;
@@ -30,9 +33,12 @@ public:
 private:
     void mark(QQuickWindow* window);
     void tell(QQuickWindow* window);
-    void raise(QQuickWindow* window);
+    void keepAbove(QQuickWindow* window);
+    void letGo(QObject* window);
 
     const std::shared_ptr<Connection> m_connection;
+    StackWatch m_stack;
+    QHash<QObject*, xcb_window_t> m_above; ///< On the screen, above everything.
 };
 
 } // namespace services::x11

@@ -19,7 +19,7 @@ std::shared_ptr<services::ApplicationWindows> services::x11::addServices(Service
 
     set->display = std::make_shared<Display>(requests);
     set->events = events;
-    set->windows = std::make_shared<Windows>(requests);
+    set->windows = std::make_shared<Windows>(source, requests);
     set->clipboardKeys = std::make_shared<CopyPasteKeys>(requests, keyboard);
     set->pointer = std::make_shared<Pointer>(requests, input);
     return events;

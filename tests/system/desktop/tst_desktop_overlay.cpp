@@ -17,9 +17,9 @@ namespace {
 class WhiteWindow : public QRasterWindow
 {
 public:
-    explicit WhiteWindow(QScreen* screen)
+    explicit WhiteWindow(QScreen* screen, Qt::WindowFlags kind = {})
     {
-        setFlags(Qt::FramelessWindowHint);
+        setFlags(Qt::FramelessWindowHint | kind);
         setScreen(screen);
         setGeometry(screen->geometry());
         show();
@@ -52,6 +52,7 @@ private Q_SLOTS:
     void init();
     void theMonitorsOwnScreenIsDarkened();
     void itStaysAboveOtherWindows();
+    void menusAreDarkenedAndUsable();
     void clicksGoThroughIt();
     void itShowsOnEveryDesktop();
     void itIsTheSameAfterItWasClosed();
@@ -184,6 +185,25 @@ void TestDesktopOverlay::itStaysAboveOtherWindows()
     // A window of the whole screen as a film player has it.
     above.showFullScreen();
     QTRY_VERIFY_WITH_TIMEOUT(above.windowStates() & Qt::WindowFullScreen, 20000);
+    QTRY_VERIFY_WITH_TIMEOUT(qAbs(lightness(u"DUMMY1"_s) - 76) <= 2, 20000);
+}
+
+void TestDesktopOverlay::menusAreDarkenedAndUsable()
+{
+    QVERIFY(dim(10));
+    QTRY_VERIFY_WITH_TIMEOUT(qAbs(lightness(u"DUMMY1"_s) - 76) <= 2, 20000);
+    // As menus and tool tips are, it is none of the window manager's.
+    WhiteWindow menu(screenOf(u"DUMMY1"_s), Qt::BypassWindowManagerHint);
+    QVERIFY(QTest::qWaitForWindowExposed(&menu, 20000));
+    QTRY_VERIFY_WITH_TIMEOUT(qAbs(lightness(u"DUMMY1"_s) - 76) <= 2, 20000);
+    const QPoint middle = screenOf(u"DUMMY1"_s)->geometry().center();
+    m_server.moveTo(middle.x(), middle.y());
+    m_server.button(1, true);
+    m_server.button(1, false);
+    QTRY_COMPARE_WITH_TIMEOUT(menu.clicks, 1, 20000);
+    menu.raise();
+    WhiteWindow tip(screenOf(u"DUMMY1"_s), Qt::ToolTip);
+    QVERIFY(QTest::qWaitForWindowExposed(&tip, 20000));
     QTRY_VERIFY_WITH_TIMEOUT(qAbs(lightness(u"DUMMY1"_s) - 76) <= 2, 20000);
 }
 
