@@ -22,7 +22,7 @@ test_packages=(
   plasma-wayland-protocols libwayland-dev libwayland-bin
   dbus python3-dbusmock pulseaudio pulseaudio-utils pipewire pipewire-pulse wireplumber
   xserver-xorg-core xserver-xorg-video-dummy xserver-xorg-dev x11-xserver-utils x11-xkb-utils x11-utils
-  libxcb-shape0-dev openbox xfwm4 xcompmgr
+  libxcb-shape0-dev openbox xfwm4 kwin-x11 xcompmgr
 )
 
 # To run the fuzzers.

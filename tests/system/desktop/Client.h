@@ -3,20 +3,24 @@
 
 #include "DesktopTest.h"
 
+#include <QMargins>
 #include <QRect>
 
 /// A window of another application, with what it was told.
 class Client
 {
 public:
-    /// Shows it; false if it does not come to the screen. A window manager that has only just come may miss a
-    /// window, so it is shown again then.
-    bool start(const QString& name, const QRect& rect)
+    /// Shows it, with a shadow of its own within its edges if it is to have one; false if it does not come to
+    /// the screen. A window manager that has only just come may miss a window, so it is shown again then.
+    bool start(const QString& name, const QRect& rect, const QMargins& shadow = {})
     {
+        m_window = 0;
         for (int attempt = 0; attempt < 10; ++attempt) {
             if (!m_beside.start(QStringLiteral(DESKTOP_CLIENT),
                                 {name, QString::number(rect.x()), QString::number(rect.y()),
-                                 QString::number(rect.width()), QString::number(rect.height())}))
+                                 QString::number(rect.width()), QString::number(rect.height()),
+                                 QString::number(shadow.left()), QString::number(shadow.right()),
+                                 QString::number(shadow.top()), QString::number(shadow.bottom())}))
                 return false;
             if (QTest::qWaitFor([this] { return window() != 0; }, 3000))
                 return true;

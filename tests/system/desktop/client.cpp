@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// Another application's window: client NAME X Y WIDTH HEIGHT
+// Another application's window: client NAME X Y WIDTH HEIGHT [LEFT RIGHT TOP BOTTOM]
+// The last four are the shadow that it draws itself, in place of a frame.
 // It tells on standard output what reaches it, one line each:
 //   window ID                        once it is on the screen
 //   press CODE STATE, release CODE STATE, button NUMBER, rect X Y WIDTH HEIGHT
@@ -47,11 +48,26 @@ void tell(const xcb_generic_event_t& event, xcb_window_t window)
     }
 }
 
+// No frame of the window manager's, and a shadow of that size within the window.
+void drawOwnFrame(xcb_connection_t* connection, xcb_window_t window, char** shadow)
+{
+    std::uint32_t edges[4] = {};
+    for (int i = 0; i < 4; ++i)
+        edges[i] = std::uint32_t(std::atoi(shadow[i]));
+    if (!(edges[0] | edges[1] | edges[2] | edges[3]))
+        return;
+    const xcb_atom_t motif = atom(connection, "_MOTIF_WM_HINTS");
+    const std::uint32_t undecorated[5] = {2, 0, 0, 0, 0};
+    xcb_change_property(connection, XCB_PROP_MODE_REPLACE, window, motif, motif, 32, 5, undecorated);
+    xcb_change_property(connection, XCB_PROP_MODE_REPLACE, window, atom(connection, "_GTK_FRAME_EXTENTS"),
+                        XCB_ATOM_CARDINAL, 32, 4, edges);
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
-    if (argc != 6)
+    if (argc != 6 && argc != 10)
         return 2;
     std::setvbuf(stdout, nullptr, _IOLBF, 0);
     xcb_connection_t* connection = xcb_connect(nullptr, nullptr);
@@ -88,6 +104,8 @@ int main(int argc, char** argv)
     const std::uint32_t pid = std::uint32_t(getpid());
     xcb_change_property(connection, XCB_PROP_MODE_REPLACE, window, atom(connection, "_NET_WM_PID"),
                         XCB_ATOM_CARDINAL, 32, 1, &pid);
+    if (argc == 10)
+        drawOwnFrame(connection, window, argv + 6);
     xcb_map_window(connection, window);
     xcb_flush(connection);
     while (xcb_generic_event_t* event = xcb_wait_for_event(connection)) {
