@@ -4,6 +4,8 @@
 #include "LuHostOptions.h"
 #include "LuMonitorModelPrivate.h"
 
+#include <LuShared/LuPlatformNotifications.h>
+#include <panelcore/HardwareBrightness.h>
 #include <panelcore/MonitorLink.h>
 
 #include <algorithm>
@@ -18,6 +20,12 @@ constexpr qint64 LookAgainMs = 300;
 constexpr int LookAgainTries = 20;
 const QString LookAgainKey = QStringLiteral("lookAgain");
 const QString RoundKey = QStringLiteral("syncRound");
+
+/// The package's module is met by its property, as everywhere in the application.
+bool showsBrightness(const LuModelModuleInterface* module)
+{
+    return module->metaObject()->indexOfProperty("displayBrightness") >= 0;
+}
 
 } // namespace
 
@@ -49,6 +57,17 @@ void LuSyncEngine::runStep(const std::function<void()>& step, Reason reason)
     step();
 }
 
+void LuSyncEngine::postBrightness(LuModelModuleInterface* module, Reason reason)
+{
+    if (!m_model.link().brightness().isWatched() || (module && !showsBrightness(module)))
+        return;
+    post(reason, [this] {
+        // Nothing else asks such a monitor: a silent one is tried at the pace of the rounds.
+        if (!isAsleep() && m_model.link().brightness().refresh())
+            Q_EMIT LuPlatformNotifications::instance()->systemBrightnessChanged();
+    });
+}
+
 void LuSyncEngine::start()
 {
     m_started = true;
@@ -76,6 +95,8 @@ void LuSyncEngine::runRound()
         for (LuModelModuleInterface* module : std::as_const(visible))
             postSteps(module, Reason::Periodic);
     }
+    for (LuModelModuleInterface* module : std::as_const(visible))
+        postBrightness(module, Reason::Periodic);
     post(Reason::Periodic, [this] { endRound(); });
 }
 
@@ -126,6 +147,7 @@ void LuSyncEngine::setAsleep(bool asleep)
         (void)m_model.syncColorMode();
         for (LuModelModuleInterface* module : std::as_const(m_model.modules))
             postSteps(module, Reason::FirstRound);
+        postBrightness(nullptr, Reason::FirstRound);
         post(Reason::FirstRound, [this] { endRound(); });
     });
 }
@@ -152,8 +174,10 @@ void LuSyncEngine::lookAgainIn(qint64 ms, int triesLeft)
 
 void LuSyncEngine::force(LuModelModuleInterface* module)
 {
-    m_model.dispatch->postUnique(module, QStringLiteral("forceSync"),
-                                 [this, module] { postSteps(module, Reason::Asked); });
+    m_model.dispatch->postUnique(module, QStringLiteral("forceSync"), [this, module] {
+        postSteps(module, Reason::Asked);
+        postBrightness(module, Reason::Asked);
+    });
 }
 
 void LuSyncEngine::readBack(LuModelModuleInterface* module, std::function<void()> done)
@@ -167,6 +191,7 @@ void LuSyncEngine::readBack(LuModelModuleInterface* module, std::function<void()
             for (LuModelModuleInterface* each : std::as_const(m_model.modules))
                 postSteps(each, Reason::Asked);
         }
+        postBrightness(module, Reason::Asked);
         post(Reason::Asked, std::move(done));
     });
 }

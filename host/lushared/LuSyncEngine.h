@@ -17,6 +17,9 @@ class LuMonitorModelPrivate;
 /// Every step is a job of its own behind what waits on the model's queue, so that a setter waits for one step
 /// at most. A monitor that gives no answer is asked again after 2, 4, 8 ... 60 s, or at once after a user's
 /// action. A display that sleeps is asked nothing; when it wakes, everything is read once.
+///
+/// A monitor that no package serves gives its modules nothing to read. Its brightness, which the application
+/// offers as that of the operating system, is read here in the rounds of whoever shows it.
 class LuSyncEngine
 {
 public:
@@ -60,6 +63,9 @@ private:
     /// Asks a module for its steps and posts them.
     void postSteps(LuModelModuleInterface* module, Reason reason);
     void runStep(const std::function<void()>& step, Reason reason);
+    /// Reads what the application itself follows for a module: the brightness of a monitor that no package
+    /// serves. A null module stands for all.
+    void postBrightness(LuModelModuleInterface* module, Reason reason);
     void runRound();
     void endRound();
     void scheduleRound(qint64 ms);

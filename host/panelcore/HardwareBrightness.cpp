@@ -20,15 +20,37 @@ HardwareBrightness::HardwareBrightness(MonitorLink& link) : m_link(link) {}
 
 HardwareBrightness::~HardwareBrightness() = default;
 
+std::optional<HardwareBrightness::Answer> HardwareBrightness::ask()
+{
+    Answer answer{};
+    if (!m_link.getVCP(Code, answer.value, &answer.maximum) || answer.maximum <= 0)
+        return std::nullopt;
+    return answer;
+}
+
+double HardwareBrightness::take(const Answer& answer)
+{
+    const double fraction = std::clamp(double(answer.value) / answer.maximum, 0.0, 1.0);
+    m_maximum = answer.maximum;
+    m_value = answer.value;
+    m_known = fraction;
+    return fraction;
+}
+
 std::optional<double> HardwareBrightness::read()
 {
-    int value = 0;
-    int maximum = 0;
-    if (!m_link.getVCP(Code, value, &maximum) || maximum <= 0)
-        return std::nullopt;
-    m_maximum = maximum;
-    m_known = std::clamp(double(value) / maximum, 0.0, 1.0);
-    return m_known.load();
+    const std::optional<Answer> answer = ask();
+    return answer ? std::optional(take(*answer)) : std::nullopt;
+}
+
+bool HardwareBrightness::refresh()
+{
+    const unsigned asked = m_asked;
+    const std::optional<Answer> answer = ask();
+    if (!answer || asked != m_asked || (answer->value == m_value && answer->maximum == m_maximum))
+        return false;
+    take(*answer);
+    return true;
 }
 
 std::optional<double> HardwareBrightness::known() const
@@ -59,10 +81,13 @@ bool HardwareBrightness::transfer(double fraction)
         return false;
     }
     fraction = std::clamp(fraction, 0.0, 1.0);
-    if (!m_link.setVCP(Code, int(std::lround(fraction * m_maximum)))) {
+    const int value = int(std::lround(fraction * m_maximum));
+    if (!m_link.setVCP(Code, value)) {
+        m_value = -1; // whatever it holds now is news
         qWarning() << "[HardwareBrightness] the monitor did not take the brightness";
         return false;
     }
+    m_value = value;
     m_known = fraction;
     return true;
 }

@@ -84,7 +84,9 @@ void LuPlatform::setMonitorBrightness(const QSharedPointer<MonitorInfo>& monitor
 
 void LuPlatform::registerBrightnessChangeNotifications(const QSharedPointer<MonitorInfo>& monitor)
 {
-    if (const auto backlight = backlightFor(monitor))
+    if (monitor && !monitor->isBuiltIn())
+        MonitorLink::of(*monitor).brightness().watch(); // the rounds of reading follow it
+    else if (const auto backlight = backlightFor(monitor))
         backlight->watch(*monitor);
 }
 

@@ -315,6 +315,9 @@ void TestPicturePanels::anUnsupportedMonitorHasItsBrightnessAlone()
     QVERIFY(!row(u"LuColorWeaknessWidget"_s).value(u"shown"_s).toBool());
     QVERIFY(setTo(u"Brightness"_s, 42).ok());
     QCOMPARE(desk().setting(u"LuBrightness/Unsupported/displayBrightness"_s), QJsonValue(42));
+    // The slider follows the monitor's own menu.
+    QVERIFY(client().call(u"sim.set"_s, {{u"code"_s, 0x10}, {u"value"_s, 77}}).ok());
+    QTRY_COMPARE_WITH_TIMEOUT(find(u"slider"_s, u"Brightness"_s).value(u"value"_s).toInt(), 77, 30'000);
 }
 
 void TestPicturePanels::theBuiltInPanelHasARow()

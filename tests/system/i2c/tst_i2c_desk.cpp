@@ -200,6 +200,31 @@ private Q_SLOTS:
         QCOMPARE(get(Series, u"aiContrast.state"_s), QJsonValue(value == 1));
     }
 
+    void aMonitorWithoutAPackageIsFollowedWhileItShows()
+    {
+        plugBoth();
+        QVERIFY(start({u"--sync-period"_s, u"20"_s}));
+        QVERIFY(idle());
+        const QString brightness = u"brightness.displayBrightness"_s;
+        QVERIFY(set(Other, u"brightness.syncEnable"_s, true));
+        for (const int value : {33, 90, 0}) {
+            QVERIFY(other->setByMenu(Brightness, std::uint16_t(value)));
+            QTRY_COMPARE_WITH_TIMEOUT(get(Other, brightness), QJsonValue(value), LimitMs);
+        }
+        bed->setPower(*third, "Off");
+        QTRY_VERIFY_WITH_TIMEOUT(log().contains(Other + u" sleeps"_s), LimitMs);
+        // What was on its way runs before this, and this itself asks a sleeping display nothing.
+        QVERIFY(desk->client().call(u"sync"_s, {{u"monitor"_s, Other}}, LimitMs).ok());
+        QVERIFY(set(Series, u"aiContrast.syncEnable"_s, true));
+        const auto asleep = other->traffic().size();
+        const auto rounds = series->traffic().size() + 20;
+        QTRY_VERIFY_WITH_TIMEOUT(series->traffic().size() > rounds, LimitMs);
+        QCOMPARE(other->traffic().size(), asleep);
+        QVERIFY(other->setByMenu(Brightness, 71));
+        bed->setPower(*third, "On");
+        QTRY_COMPARE_WITH_TIMEOUT(get(Other, brightness), QJsonValue(71), LimitMs);
+    }
+
     void aBuiltInPanelHasTheBrightnessOfItsBackLight()
     {
         bed->addPanel(u"eDP-1"_s, makeMonitor(u"Panel@1"_s)->edid());

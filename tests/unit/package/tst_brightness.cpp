@@ -2,7 +2,9 @@
 #include "HeldQueue.h"
 #include "SimulatedBed.h"
 
+#include <ZrCore/ZrClock.h>
 #include <ZrCore/ZrDispatch.h>
+#include <lushared/LuModelHost.h>
 
 #include <QElapsedTimer>
 #include <QKeyEvent>
@@ -119,6 +121,10 @@ private Q_SLOTS:
     void heldShortcutLosesNoStep();
     void unsupportedMonitorKeepsItsValueApart();
     void unsupportedMonitorTellsItsBrightness();
+    void unsupportedMonitorIsFollowedWhileItShows();
+    void unsupportedMonitorIsReadOnceAfterItsSleep();
+    void unsupportedMonitorThatIsSilentIsAskedEverMoreRarely();
+    void unsupportedMonitorIsReadWhenAsked();
     void builtInPanelUsesTheSystem();
     void builtInPanelFollowsTheSystem_data();
     void builtInPanelFollowsTheSystem();
@@ -447,6 +453,126 @@ void TestBrightness::unsupportedMonitorTellsItsBrightness()
     QVERIFY(bed.idle());
     QCOMPARE(bed.get(Module, "displayBrightness").toInt(), 62);
     QCOMPARE(bed.setting(QStringLiteral("LuBrightness/Unsupported/displayBrightness")).toInt(), 62);
+}
+
+namespace {
+
+/// A program's clock of the test's own that also moves the periodic rounds.
+struct MovingClock
+{
+    MovingClock()
+    {
+        ZrClock::instance().set(QDateTime(QDate(2026, 3, 2), QTime(10, 0)));
+        ZrClock::instance().setBackgroundMoves(true);
+    }
+    ~MovingClock()
+    {
+        ZrClock::instance().setBackgroundMoves(false);
+        ZrClock::instance().release();
+    }
+    static void pass(int ms) { ZrClock::instance().advance(ms); }
+};
+
+constexpr const char* Gets = "get 0x10";
+
+} // namespace
+
+void TestBrightness::unsupportedMonitorIsFollowedWhileItShows()
+{
+    const MovingClock clock;
+    BrightnessBed bed(QStringLiteral("Other"));
+    QVERIFY(bed.idle());
+    bed.forget();
+    // Nobody looks: nothing is asked.
+    bed.monitor().setByMenu(0x10, 35);
+    clock.pass(60'000);
+    QVERIFY(bed.idle());
+    QCOMPARE(bed.wire(), QStringList());
+    QSignalSpy spy(bed.module(Module), SIGNAL(displayBrightnessChanged(bool)));
+    bed.set(Module, "syncEnable", true);
+    clock.pass(10'000);
+    QTRY_COMPARE(bed.number("displayBrightness"), 35);
+    QVERIFY(bed.idle());
+    QCOMPARE(bed.stored("Unsupported/displayBrightness").toInt(), 35);
+    QCOMPARE(spy.count(), 1);
+    QCOMPARE(spy.first().first().toBool(), false);
+    QVERIFY(bed.log().contains(QStringLiteral("[LuBrightness] sync system brightness changed: 35")));
+    // One transfer a round, and nothing but that.
+    const QStringList wire = bed.wire();
+    QCOMPARE(wire.filter(QLatin1String(Gets)).size(), wire.size());
+    QVERIFY2(wire.size() >= 4 && wire.size() <= 6, qPrintable(wire.join(u'\n')));
+    // What the program writes comes back as nothing new.
+    bed.set(Module, "displayBrightness", 80);
+    QVERIFY(bed.idle());
+    clock.pass(10'000);
+    QVERIFY(bed.idle());
+    QCOMPARE(bed.number("displayBrightness"), 80);
+    QCOMPARE(bed.wire().filter(QStringLiteral("set")), QStringList{sets("10", 80)});
+    QCOMPARE(spy.count(), 2);
+    bed.set(Module, "syncEnable", false);
+    QVERIFY(bed.idle());
+    bed.forget();
+    clock.pass(60'000);
+    QVERIFY(bed.idle());
+    QCOMPARE(bed.wire(), QStringList());
+}
+
+void TestBrightness::unsupportedMonitorIsReadOnceAfterItsSleep()
+{
+    const MovingClock clock;
+    BrightnessBed bed(QStringLiteral("Other"));
+    QVERIFY(bed.idle());
+    bed.set(Module, "syncEnable", true);
+    LuModelHost::setAsleep(&bed.model(), true);
+    QVERIFY(bed.idle());
+    bed.forget();
+    bed.monitor().setByMenu(0x10, 12);
+    clock.pass(600'000);
+    QVERIFY(bed.sync(Module));
+    QCOMPARE(bed.wire(), QStringList());
+    bed.set(Module, "syncEnable", false);
+    QVERIFY(bed.idle());
+    LuModelHost::setAsleep(&bed.model(), false);
+    QVERIFY(bed.idle());
+    QCOMPARE(bed.wire().size(), 1);
+    QTRY_COMPARE(bed.number("displayBrightness"), 12);
+}
+
+void TestBrightness::unsupportedMonitorThatIsSilentIsAskedEverMoreRarely()
+{
+    const MovingClock clock;
+    BrightnessBed bed(QStringLiteral("Other"));
+    QVERIFY(bed.idle());
+    bed.monitor().armFault(sim::Fault());
+    bed.set(Module, "syncEnable", true);
+    clock.pass(600'000);
+    QVERIFY(bed.idle());
+    bed.forget();
+    clock.pass(600'000);
+    QVERIFY(bed.idle());
+    // A question a minute, each with its tries.
+    const qsizetype asked = bed.wire().size();
+    QVERIFY2(asked > 0 && asked <= 60, qPrintable(QString::number(asked)));
+    bed.monitor().clearFaults();
+    bed.monitor().setByMenu(0x10, 5);
+    clock.pass(120'000);
+    QTRY_COMPARE(bed.number("displayBrightness"), 5);
+}
+
+void TestBrightness::unsupportedMonitorIsReadWhenAsked()
+{
+    BrightnessBed bed(QStringLiteral("Other"));
+    QVERIFY(bed.idle());
+    bed.monitor().setByMenu(0x10, 64);
+    bed.forget();
+    QVERIFY(bed.sync("LuAutoPivot"));
+    QCOMPARE(bed.wire(), QStringList());
+    QVERIFY(bed.sync(Module));
+    QCOMPARE(bed.wire().size(), 1);
+    QTRY_COMPARE(bed.number("displayBrightness"), 64);
+    bed.monitor().setByMenu(0x10, 65);
+    QVERIFY(bed.sync());
+    QTRY_COMPARE(bed.number("displayBrightness"), 65);
 }
 
 void TestBrightness::builtInPanelUsesTheSystem()

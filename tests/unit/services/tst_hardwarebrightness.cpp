@@ -26,6 +26,8 @@ struct Device
     std::atomic<int> gets{0};
     QSemaphore gate; ///< Held by holdSets: each set waits for it.
     std::atomic<bool> holdSets{false};
+    std::atomic<bool> holdGets{false}; ///< As holdSets, for the answers.
+    std::atomic<int> waitingGets{0};
     std::mutex mutex;
     QList<int> written;
 
@@ -62,8 +64,12 @@ public:
     {
         if (!m_device->answers)
             return ddc::BusStatus::Nack;
-        const Bytes frame =
-            vcpFrame(Brightness, std::uint16_t(m_device->value), std::uint16_t(m_device->maximum));
+        const int value = m_device->value;
+        if (m_device->holdGets) {
+            ++m_device->waitingGets;
+            m_device->gate.acquire();
+        }
+        const Bytes frame = vcpFrame(Brightness, std::uint16_t(value), std::uint16_t(m_device->maximum));
         for (std::size_t i = 0; i < bytes.size(); ++i)
             bytes[i] = i < frame.size() ? frame[i] : 0xFF;
         return ddc::BusStatus::Ok;
@@ -92,6 +98,12 @@ private:
         return std::async(std::launch::async, [this] { return LuPlatform::getMonitorBrightness(monitor); })
             .get();
     }
+    bool refresh() const
+    {
+        return std::async(std::launch::async,
+                          [this] { return MonitorLink::of(*monitor).brightness().refresh(); })
+            .get();
+    }
     void set(double fraction) const
     {
         std::async(std::launch::async, [this, fraction] {
@@ -112,6 +124,7 @@ private Q_SLOTS:
     void cleanup()
     {
         device->holdSets = false;
+        device->holdGets = false;
         device->gate.release(1000);
         monitor.reset();
     }
@@ -157,6 +170,66 @@ private Q_SLOTS:
         QCOMPARE(get(), 0.75);
         device->value = 200; // more than its own maximum
         QCOMPARE(get(), 1.0);
+    }
+
+    void aChangeAtTheMonitorIsNewsOnce()
+    {
+        HardwareBrightness& brightness = MonitorLink::of(*monitor).brightness();
+        QVERIFY(refresh());
+        QVERIFY(!refresh());
+        QCOMPARE(brightness.known().value_or(-1), 0.25);
+        device->value = 60;
+        QVERIFY(refresh());
+        QCOMPARE(brightness.known().value_or(-1), 0.75);
+        device->maximum = 120;
+        QVERIFY(refresh());
+        QCOMPARE(brightness.known().value_or(-1), 0.5);
+        device->answers = false;
+        QVERIFY(!refresh());
+        QCOMPARE(brightness.known().value_or(-1), 0.5);
+    }
+
+    void whatWasWrittenIsNoNews()
+    {
+        device->maximum = 50; // 0.37 is none of its steps
+        set(0.37);
+        QCOMPARE(device->value.load(), 19);
+        QVERIFY(!refresh());
+        QCOMPARE(MonitorLink::of(*monitor).brightness().known().value_or(-1), 0.37);
+    }
+
+    void afterAFailedWriteTheMonitorHasTheWord()
+    {
+        QVERIFY(refresh());
+        device->answers = false;
+        set(0.9);
+        device->answers = true;
+        QVERIFY(refresh());
+        QCOMPARE(MonitorLink::of(*monitor).brightness().known().value_or(-1), 0.25);
+    }
+
+    void anAnswerThatAWriteHasOutrunCountsForNothing()
+    {
+        QVERIFY(refresh());
+        device->value = 60;
+        device->holdGets = true;
+        auto round = std::async(std::launch::async, [this] { return refresh(); });
+        QTRY_COMPARE(device->waitingGets.load(), 1);
+        LuPlatform::setMonitorBrightness(monitor, 0.5);
+        device->holdGets = false;
+        device->gate.release(100);
+        QVERIFY(!round.get());
+        QTRY_COMPARE(MonitorLink::of(*monitor).brightness().known().value_or(-1), 0.5);
+        QCOMPARE(device->value.load(), 40);
+    }
+
+    void onlyWhoIsToldOfIsWatched()
+    {
+        HardwareBrightness& brightness = MonitorLink::of(*monitor).brightness();
+        QVERIFY(!brightness.isWatched());
+        LuPlatform::registerBrightnessChangeNotifications(monitor);
+        QVERIFY(brightness.isWatched());
+        QCOMPARE(device->gets.load(), 0);
     }
 
     void aMonitorThatTellsNothingIsNotWritten_data()

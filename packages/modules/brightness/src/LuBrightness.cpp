@@ -31,7 +31,8 @@ const QString BaselineKey = QStringLiteral("syncBaseline");
 LuBrightness::LuBrightness(LuMonitorModel* model)
     : LuModelModuleInterface(model), m_brightnessSyncEnable(model->isModelBuiltIn())
 {
-    if (model->isModelBuiltIn()) {
+    if (!model->isModelSupported()) {
+        // The built-in panel, and any monitor whose brightness the system has.
         LuPlatform::registerBrightnessChangeNotifications(handler());
         connect(LuPlatformNotifications::instance(), &LuPlatformNotifications::systemBrightnessChanged, this,
                 &LuBrightness::syncSystemBrightness);
