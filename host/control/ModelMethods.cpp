@@ -87,14 +87,6 @@ RequestError goneError(const LuMonitorModel* model)
     return {NoSuchMonitor, u"the monitor \"%1\" went away"_s.arg(model->id())};
 }
 
-QList<QSharedPointer<ZrDispatch>> queuesOf(const MonitorAccess& access, LuMonitorModel* model)
-{
-    QList<QSharedPointer<ZrDispatch>> queues{model->dispatch()};
-    if (access.backend().privateQueues)
-        queues.append(access.backend().privateQueues(model));
-    return queues;
-}
-
 void addWaitingMethods(Dispatcher& dispatcher, MonitorAccess* access)
 {
     dispatcher.addAsyncMethod(u"idle"_s, {u"monitor"_s}, [access](const Request& request) {
@@ -159,19 +151,18 @@ QJsonArray shortcutActions(const LuMonitorModel* model)
     return list;
 }
 
-QJsonArray waitingJobs(const QList<QSharedPointer<ZrDispatch>>& queues)
+// The monitor's own queues, those of its features, and what belongs to no monitor, such as the main queue.
+QJsonArray waitingJobs(const LuMonitorModel* model)
 {
     QJsonArray list;
-    for (const QSharedPointer<ZrDispatch>& queue : queues) {
-        const QList<ZrDispatch::Waiting> jobs = queue->waiting();
-        for (const ZrDispatch::Waiting& job : jobs) {
-            QJsonObject entry{{u"queue"_s, queue->name()}, {u"context"_s, job.context}};
-            if (!job.key.isEmpty())
-                entry.insert(u"key"_s, job.key);
-            if (job.due)
-                entry.insert(u"due"_s, job.due->toString(Qt::ISODateWithMs));
-            list.append(entry);
-        }
+    const QList<ZrIdle::Waiting> waiting = ZrIdle::waitingOf(model->id());
+    for (const auto& [queue, job] : waiting) {
+        QJsonObject entry{{u"queue"_s, queue}, {u"context"_s, job.context}};
+        if (!job.key.isEmpty())
+            entry.insert(u"key"_s, job.key);
+        if (job.due)
+            entry.insert(u"due"_s, job.due->toString(Qt::ISODateWithMs));
+        list.append(entry);
     }
     return list;
 }
@@ -188,7 +179,7 @@ void addFactMethods(Dispatcher& dispatcher, MonitorAccess* access)
         return QJsonValue(shortcutActions(access->monitor(request)));
     });
     dispatcher.addMethod(u"queue"_s, {u"monitor"_s}, [access](const Request& request) {
-        return QJsonValue(waitingJobs(queuesOf(*access, access->monitor(request))));
+        return QJsonValue(waitingJobs(access->monitor(request)));
     });
     dispatcher.addMethod(u"forgetFirstConnection"_s, {u"monitor"_s}, [access](const Request& request) {
         LuModelHost::forgetFirstConnection(access->monitor(request));

@@ -4,9 +4,7 @@
 #include "ObjectAccess.h"
 #include "Server.h"
 
-#include <QList>
 #include <QObject>
-#include <QSharedPointer>
 #include <QString>
 
 #include <functional>
@@ -14,7 +12,6 @@
 class LuModelModuleInterface;
 class LuMonitorModel;
 class LuMonitorRegistry;
-class ZrDispatch;
 
 namespace control {
 
@@ -26,8 +23,6 @@ struct Backend
     std::function<QObject*()> context;
     /// Version of the feature package, empty without one.
     std::function<QString()> packageVersion;
-    /// The queues beside that of the monitor that belong to its features, where they are known.
-    std::function<QList<QSharedPointer<ZrDispatch>>(LuMonitorModel*)> privateQueues;
     /// The report on monitors for a bug ticket, without personal data. Empty: there is none.
     std::function<QString()> report;
     /// Ends the program as the user's "Quit" does.

@@ -2,6 +2,7 @@
 #include "ZrCore/ZrIdle.h"
 
 #include "zrcore/IdleHub.h"
+#include "zrcore/QueueList.h"
 #include "zrcore/ZrDispatch_p.h"
 
 zr::Queues ZrDispatch::Private::queuesOf(const QList<QSharedPointer<ZrDispatch>>& list)
@@ -35,4 +36,22 @@ void ZrIdle::notify(const QList<QSharedPointer<ZrDispatch>>& queues, QObject* co
 {
     if (done)
         zr::IdleHub::instance().notify(ZrDispatch::Private::queuesOf(queues), context, std::move(done));
+}
+
+QList<ZrIdle::Waiting> ZrIdle::waitingOf(const QString& group)
+{
+    QList<Waiting> result;
+    const auto add = [&result](const QString& wanted) {
+        for (const auto& queue : zr::allQueues()) {
+            if (queue->group() != wanted)
+                continue;
+            const QList<ZrDispatch::Waiting> jobs = queue->waiting();
+            for (const ZrDispatch::Waiting& job : jobs)
+                result.append({queue->name(), job});
+        }
+    };
+    add(group);
+    if (!group.isEmpty())
+        add({});
+    return result;
 }

@@ -2,15 +2,15 @@
 #pragma once
 
 #include "ZrCore/ZrCoreGlobal.h"
+#include "ZrCore/ZrDispatch.h"
 
 #include <QList>
 #include <QSharedPointer>
+#include <QString>
 
 #include <functional>
 
 class QObject;
-class QString;
-class ZrDispatch;
 
 /// Tells when the program has come to rest.
 ///
@@ -34,6 +34,16 @@ public:
     /// As below, for the queues that belong to @p group and those that belong to no group: what another group
     /// does, or where it hangs, is not awaited.
     static void notifyGroup(const QString& group, QObject* context, std::function<void()> done);
+
+    /// A job that waits, with the name of its queue.
+    struct Waiting
+    {
+        QString queue;
+        ZrDispatch::Waiting job;
+    };
+    /// What waits in the queues that notifyGroup() looks at, jobs of the future and of the background
+    /// included: first those of the group, then those that belong to no group.
+    static QList<Waiting> waitingOf(const QString& group);
 
     /// Calls @p done once on the main thread when @p queues (all where empty) are at rest, unless @p context
     /// is gone by then. Returns at once.

@@ -362,11 +362,44 @@ void TestDeskMethods::flowActionsAreKept()
 
 void TestDeskMethods::theQueueIsListed()
 {
-    const auto answer = desk().call(u"queue"_s);
-    QVERIFY(answer.ok());
-    const QJsonArray jobs = answer.result.toArray();
-    for (const QJsonValue& job : jobs)
-        QVERIFY(job.toObject().contains("queue"_L1) && job.toObject().contains("context"_L1));
+    DeskProcess process;
+    QVERIFY2(
+        process.start({u"--headless"_s, u"--simulate"_s, u"TK30Z@A,TK30Z@B"_s, u"--ddc-timing"_s, u"fast"_s}),
+        qPrintable(process.errors()));
+    ControlClient& two = process.client();
+    QVERIFY(two.call(u"clock.set"_s, {{u"time"_s, u"2026-03-02T10:00:00"_s}}).ok());
+    const auto idle = [&two] { return two.call(u"idle"_s).ok(); };
+    const auto jobs = [&two](const QString& monitor) {
+        const auto answer = two.call(u"queue"_s, {{u"monitor"_s, monitor}});
+        QStringList lines;
+        const QJsonArray list = answer.result.toArray();
+        for (const QJsonValue& each : list) {
+            const QJsonObject job = each.toObject();
+            lines.append(job.value("queue"_L1).toString() + u' ' + job.value("key"_L1).toString() + u' ' +
+                         job.value("context"_L1).toString() + u' ' + job.value("due"_L1).toString().left(13));
+        }
+        return lines;
+    };
+    const auto checks = [&jobs](const QString& monitor) {
+        return jobs(monitor)
+            .filter(QRegularExpression(u"^LuWeather checkTime LuWeather 2026-03-02T"_s))
+            .size();
+    };
+    QVERIFY(idle());
+    QCOMPARE(checks(u"TK30Z@A"_s), 0);
+    // The features' own queues are listed too, each with its own monitor.
+    for (const QString& path : {u"lowBlueLight.weather.circadianMode"_s, u"lowBlueLight.circadianState"_s})
+        QVERIFY(two.call(u"set"_s, {{u"monitor"_s, u"TK30Z@A"_s},
+                                    {u"path"_s, path},
+                                    {u"value"_s,
+                                     path.endsWith(u"Mode"_s) ? QJsonValue(u"Manual"_s) : QJsonValue(true)}})
+                    .ok());
+    QVERIFY(idle());
+    QCOMPARE(checks(u"TK30Z@A"_s), 1);
+    QCOMPARE(checks(u"TK30Z@B"_s), 0);
+    QCOMPARE(jobs(u"TK30Z@B"_s).filter(u"TK30Z@A "_s), QStringList());
+    QCOMPARE(two.call(u"queue"_s, {{u"monitor"_s, u"TK20"_s}}).code, 1);
+    QCOMPARE(process.stop(), 0);
 }
 
 void TestDeskMethods::logLinesAreKept()

@@ -37,6 +37,7 @@ private Q_SLOTS:
     void aPauseOnTheStoppedClockRests();
     void aRealPauseDoesNotRest();
     void aClosedQueueRests();
+    void whatWaitsIsListedByGroup();
 };
 
 void tst_idle::waitsForRunningAndWaitingJobs()
@@ -263,6 +264,30 @@ void tst_idle::aClosedQueueRests()
     queue.close();
     queue.post(nullptr, [] {});
     QVERIFY(ZrIdle::wait(10'000));
+}
+
+void tst_idle::whatWaitsIsListedByGroup()
+{
+    ZrClock::instance().set(QDateTime(QDate(2026, 3, 2), QTime(10, 0)));
+    ZrDispatch common(u"common"_s);
+    ZrDispatch one(u"one"_s, u"A"_s);
+    ZrDispatch two(u"two"_s, u"A"_s);
+    ZrDispatch other(u"other"_s, u"B"_s);
+    for (ZrDispatch* queue : {&common, &one, &two, &other})
+        queue->postLater(queue->name() + u"Key"_s, 60'000, [] {});
+    const auto namesOf = [](const QString& group) {
+        QStringList names;
+        const QList<ZrIdle::Waiting> waiting = ZrIdle::waitingOf(group);
+        for (const auto& [queue, job] : waiting) {
+            if (job.key == queue + u"Key"_s && job.due == QDateTime(QDate(2026, 3, 2), QTime(10, 1)))
+                names.append(queue);
+        }
+        return names;
+    };
+    QCOMPARE(namesOf(u"A"_s), (QStringList{u"one"_s, u"two"_s, u"common"_s}));
+    QCOMPARE(namesOf(u"B"_s), (QStringList{u"other"_s, u"common"_s}));
+    QCOMPARE(namesOf(u"C"_s), QStringList{u"common"_s});
+    QCOMPARE(namesOf(QString()), QStringList{u"common"_s});
 }
 
 QTEST_GUILESS_MAIN(tst_idle)

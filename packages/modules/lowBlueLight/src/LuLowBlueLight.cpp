@@ -24,7 +24,7 @@ LuLowBlueLight::LowBlueLight typeOf(const QString& name)
 } // namespace
 
 LuLowBlueLight::LuLowBlueLight(LuMonitorModel* model)
-    : LuModelModuleInterface(model), m_weather(new LuWeather(this))
+    : LuModelModuleInterface(model), m_weather(new LuWeather(this, model->id()))
 {
     model->registerForceSyncPairs(model, QMetaMethod::fromSignal(&LuMonitorModel::colorModeChanged),
                                   QStringLiteral("LuLowBlueLight"));

@@ -75,8 +75,8 @@ QVariantMap storedSunMap()
 
 } // namespace
 
-LuWeather::LuWeather(QObject* parent)
-    : QObject(parent), m_dispatch(QSharedPointer<ZrDispatch>::create(QStringLiteral("LuWeather"))),
+LuWeather::LuWeather(QObject* parent, const QString& monitor)
+    : QObject(parent), m_dispatch(QSharedPointer<ZrDispatch>::create(QStringLiteral("LuWeather"), monitor)),
       m_location(LuServerLocation::instance())
 {
     connect(m_location, &LuServerLocation::locationStatusChanged, this, [this] {

@@ -70,7 +70,8 @@ public:
     };
     Q_ENUM(APIError)
 
-    explicit LuWeather(QObject* parent = nullptr);
+    /// @p monitor is the id of the monitor that the queue belongs to; empty: to none.
+    explicit LuWeather(QObject* parent = nullptr, const QString& monitor = {});
     ~LuWeather() override;
 
     /// Local times of the place as "hh:mm", empty while they are not known.

@@ -28,9 +28,9 @@ bool ownChange = false;
 
 } // namespace
 
-LuClipboard::LuClipboard(QObject* parent)
+LuClipboard::LuClipboard(QObject* parent, const QString& monitor)
     : QObject(parent), m_clipboard(QGuiApplication::clipboard()),
-      m_dispatch(QSharedPointer<ZrDispatch>::create(QStringLiteral("LuClipboard")))
+      m_dispatch(QSharedPointer<ZrDispatch>::create(QStringLiteral("LuClipboard"), monitor))
 {
     connect(m_clipboard, &QClipboard::dataChanged, this, &LuClipboard::takeChange);
     connect(this, &LuClipboard::independentCopyChanged, this, [this] {

@@ -19,7 +19,8 @@ class LuClipboard : public QObject
     Q_OBJECT
 
 public:
-    explicit LuClipboard(QObject* parent = nullptr);
+    /// @p monitor is the id of the monitor that the queue belongs to; empty: to none.
+    explicit LuClipboard(QObject* parent = nullptr, const QString& monitor = {});
     /// Puts the user's content back first, if it is still away.
     ~LuClipboard() override;
 

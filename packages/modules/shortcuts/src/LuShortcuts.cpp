@@ -68,7 +68,7 @@ int nextNonHdrIndex(int index, const QList<LuVCPNode*>& modes)
 LuShortcuts::LuShortcuts(LuMonitorModel* model)
     : LuModelModuleInterface(model),
       m_shortcutsEnable(ZrEnvironment::varDeviceChoice(QStringLiteral("using.shortcuts")).toBool()),
-      m_clipboard(new LuClipboard(this))
+      m_clipboard(new LuClipboard(this, model->id()))
 {
     registerAllShortcuts(false);
     m_active = moduleSetting(ActiveKey, false).toBool();
