@@ -341,7 +341,13 @@ LuDiagnosticFacts Application::diagnosticFacts() const
         monitor.model = model->modelName();
         monitor.serial = model->info()->serialNumber();
         monitor.nickName = model->nickName();
-        monitor.connection = m_real ? m_real->connectorOf(model->id()) : QString();
+        if (m_real) {
+            monitor.connection = m_real->connectorOf(model->id());
+            const QString screen = m_real->screenOf(model->id());
+            monitor.screen = m_real->isScreenDoubtful(model->id()) ? LuReport::doubtfulScreen()
+                             : screen.isEmpty()                    ? LuReport::noScreen()
+                                                                   : screen;
+        }
         monitor.supported = model->isModelSupported();
         monitor.builtIn = model->isModelBuiltIn();
         monitor.statistics = LuModelHost::statistics(model);

@@ -7,7 +7,9 @@
 #include <ddc-i2c/Access.h>
 #include <lushared/LuMonitorRegistry.h>
 #include <lushared/LuSettings.h>
+#include <lushared/services/ServiceRegistry.h>
 #include <panelcore/MonitorLink.h>
+#include <services/api/DisplayService.h>
 
 #include <QDebug>
 #include <QElapsedTimer>
@@ -64,8 +66,10 @@ QList<ScreenFacts> screenFacts()
 {
     QList<ScreenFacts> facts;
     const QList<QScreen*> screens = QGuiApplication::screens();
+    const auto display = services::Registry::current().display;
     for (const QScreen* screen : screens)
-        facts.append({screen->name(), screen->model(), screen->serialNumber()});
+        facts.append({screen->name(), screen->model(), screen->serialNumber(),
+                      display ? display->connectorId(screen->name()) : std::nullopt});
     return facts;
 }
 
@@ -357,11 +361,24 @@ void RealMonitors::assignScreens()
     // All at once, those asleep too: what one of them has is not another's.
     QList<MonitorFacts> facts;
     for (const IdentifiedMonitor& monitor : m_present)
-        facts.append({text(monitor.found.connector), text(monitor.model), text(monitor.serial)});
-    const QStringList names = screensFor(facts, screenFacts());
+        facts.append({text(monitor.found.connector), text(monitor.model), text(monitor.serial),
+                      monitor.found.connectorId});
+    const QList<ScreenFacts> screens = screenFacts();
+    const QStringList names = screensFor(facts, screens);
+    const QList<bool> doubtful = doubtfulScreens(facts, screens, names);
     m_screens.clear();
-    for (std::size_t i = 0; i < m_present.size(); ++i)
-        m_screens.insert(text(m_present[i].id), names[qsizetype(i)]);
+    const QSet<QString> doubtfulBefore = std::exchange(m_doubtful, {});
+    for (std::size_t i = 0; i < m_present.size(); ++i) {
+        const QString id = text(m_present[i].id);
+        m_screens.insert(id, names[qsizetype(i)]);
+        if (!doubtful[qsizetype(i)])
+            continue;
+        m_doubtful.insert(id);
+        if (!doubtfulBefore.contains(id))
+            qInfo().noquote()
+                << "[RealMonitors]" << id
+                << "cannot be told from an equal monitor on the desktop: its screen is left alone";
+    }
     for (auto it = m_plugged.cbegin(); it != m_plugged.cend(); ++it)
         MonitorLink::of(*it->info).setScreenName(m_screens.value(it.key()));
 }

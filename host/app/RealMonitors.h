@@ -11,6 +11,7 @@
 #include <QList>
 #include <QMap>
 #include <QObject>
+#include <QSet>
 #include <QSharedPointer>
 #include <QString>
 #include <QStringList>
@@ -64,6 +65,12 @@ public:
     /// The kernel's name of the monitor's connector, such as "card0-DP-1"; empty for an unknown id.
     QString connectorOf(const QString& id) const;
 
+    /// QScreen::name() of the screen that shows on the monitor; empty where none does or none can be told.
+    QString screenOf(const QString& id) const { return m_screens.value(id); }
+    /// A screen of the desktop may be that monitor's, but nothing tells it from an equal one: what would
+    /// change a screen is left alone.
+    bool isScreenDoubtful(const QString& id) const { return m_doubtful.contains(id); }
+
 Q_SIGNALS:
     /// Once: see isDiscovered(). Without monitors too.
     void discovered();
@@ -116,6 +123,7 @@ private:
 
     std::vector<ddci2c::IdentifiedMonitor> m_present; ///< Of the last search.
     QHash<QString, QString> m_screens;                ///< Names of their screens, by id.
+    QSet<QString> m_doubtful;                         ///< See isScreenDoubtful().
     QHash<QString, Plugged> m_plugged;
     std::vector<ddci2c::IdentifiedMonitor> m_waiting; ///< Asleep since they were found.
     std::vector<std::filesystem::path>

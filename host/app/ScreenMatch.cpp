@@ -38,6 +38,14 @@ std::optional<Output> parseSecondCard(const QString& name)
     return parsed(pattern, name);
 }
 
+/// The kind of an output, whatever numbers follow: "DP" of "DP-2-8", "DisplayPort-3" and "DP1".
+QString kindOf(const QString& name)
+{
+    static const QRegularExpression number(QStringLiteral("-?[0-9].*$"));
+    const std::optional<Output> output = parseOutput(QString(name).remove(number) + QLatin1Char('1'));
+    return output ? output->first : QString();
+}
+
 QString outputOf(const MonitorFacts& monitor)
 {
     return monitor.connector.section(QLatin1Char('-'), 1);
@@ -53,6 +61,13 @@ bool tellTheSame(const MonitorFacts& monitor, const ScreenFacts& screen)
 {
     return !monitor.serial.isEmpty() && !screen.model.isEmpty() && screen.model == monitor.model &&
            screen.serial == monitor.serial;
+}
+
+bool haveOneConnector(const MonitorFacts& monitor, const ScreenFacts& screen)
+{
+    // Another card may have the same number.
+    return monitor.connectorId && monitor.connectorId == screen.connectorId &&
+           kindOf(outputOf(monitor)) == kindOf(screen.name);
 }
 
 using Rule = std::function<bool(const MonitorFacts& monitor, const ScreenFacts& screen)>;
@@ -98,6 +113,7 @@ QStringList screensFor(const QList<MonitorFacts>& monitors, const QList<ScreenFa
                           : 1;
     const Rule rules[] = {
         tellTheSame,
+        haveOneConnector,
         [](const MonitorFacts& monitor, const ScreenFacts& screen) {
             return screen.name == outputOf(monitor);
         },
@@ -119,4 +135,21 @@ QStringList screensFor(const QList<MonitorFacts>& monitors, const QList<ScreenFa
     for (const Rule& rule : rules)
         pairUp(monitors, screens, rule, names);
     return names;
+}
+
+QList<bool> doubtfulScreens(const QList<MonitorFacts>& monitors, const QList<ScreenFacts>& screens,
+                            const QStringList& names)
+{
+    QList<bool> doubtful;
+    for (qsizetype monitor = 0; monitor < monitors.size(); ++monitor) {
+        const auto mayShowIt = [&](const ScreenFacts& screen) {
+            // A screen that tells nothing of itself may be any; "offscreen" is none.
+            const bool fits = screen.model.isEmpty()
+                                  ? kindOf(screen.name) == kindOf(outputOf(monitors[monitor]))
+                                  : !contradict(monitors[monitor], screen);
+            return fits && !names.contains(screen.name);
+        };
+        doubtful.append(names[monitor].isEmpty() && std::any_of(screens.begin(), screens.end(), mayShowIt));
+    }
+    return doubtful;
 }

@@ -169,6 +169,7 @@ void Enumerator::scanConnector(const std::string& name, const Card& card, const 
     FoundMonitor found;
     found.connector = name;
     found.connectorPath = folder;
+    found.connectorId = positiveNumber(readLine(folder / "connector_id"));
     found.sleepIsKnown = card.sleepIsKnown;
     found.asleep = card.sleepIsKnown && isAsleep(folder);
     found.edid = readBytes(folder / "edid");

@@ -21,6 +21,7 @@ struct FoundMonitor
     std::vector<std::uint8_t> edid;      ///< At least 128 bytes; may be empty for a built-in panel.
     std::filesystem::path connectorEdid; ///< The kernel's file of it; empty where the bus was asked instead.
     std::filesystem::path connectorPath; ///< Folder of the connector; empty where the kernel names none.
+    std::optional<int> connectorId;      ///< The kernel's number of it on its card; older kernels tell none.
     bool builtIn = false;
     std::filesystem::path backlight; ///< Folder of a built-in panel's back-light; empty if there is none.
     bool asleep = false;             ///< The display is switched off by power management.

@@ -61,17 +61,32 @@ fs::path realPath(const fs::path& path)
     return error ? fs::path() : real;
 }
 
+namespace {
+
+/// All of the text as a number that is not negative.
+std::optional<int> wholeNumber(std::string_view text)
+{
+    int number = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (error != std::errc() || end != text.data() + text.size() || number < 0)
+        return std::nullopt;
+    return number;
+}
+
+} // namespace
+
+std::optional<int> positiveNumber(std::string_view text)
+{
+    const std::optional<int> number = wholeNumber(text);
+    return number && *number > 0 ? number : std::nullopt;
+}
+
 std::optional<int> busNumber(std::string_view name)
 {
     constexpr std::string_view Prefix = "i2c-";
     if (!name.starts_with(Prefix))
         return std::nullopt;
-    name.remove_prefix(Prefix.size());
-    int number = 0;
-    const auto [end, error] = std::from_chars(name.data(), name.data() + name.size(), number);
-    if (error != std::errc() || end != name.data() + name.size() || number < 0)
-        return std::nullopt;
-    return number;
+    return wholeNumber(name.substr(Prefix.size()));
 }
 
 bool naturalLess(std::string_view a, std::string_view b)

@@ -24,6 +24,9 @@ std::vector<std::string> entriesOf(const std::filesystem::path& folder);
 /// The folder that a path with links really means; empty if there is none.
 std::filesystem::path realPath(const std::filesystem::path& path);
 
+/// A whole number above 0, in decimal digits and nothing else.
+std::optional<int> positiveNumber(std::string_view text);
+
 /// 4 for "i2c-4"; nothing for any other name.
 std::optional<int> busNumber(std::string_view name);
 

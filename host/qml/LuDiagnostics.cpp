@@ -20,13 +20,19 @@ constexpr const char* Names[] = {
     QT_TRANSLATE_NOOP("LuDiagnostics", "Transfers"),    QT_TRANSLATE_NOOP("LuDiagnostics", "Retries"),
     QT_TRANSLATE_NOOP("LuDiagnostics", "Errors"),       QT_TRANSLATE_NOOP("LuDiagnostics", "Learnt waits"),
     QT_TRANSLATE_NOOP("LuDiagnostics", "Writes today"), QT_TRANSLATE_NOOP("LuDiagnostics", "Circuit breaker"),
+    QT_TRANSLATE_NOOP("LuDiagnostics", "Screen"),
 };
 
 constexpr const char* Values[] = {
-    QT_TRANSLATE_NOOP("LuDiagnostics", "none"),      QT_TRANSLATE_NOOP("LuDiagnostics", "unknown"),
-    QT_TRANSLATE_NOOP("LuDiagnostics", "asleep"),    QT_TRANSLATE_NOOP("LuDiagnostics", "gives no answer"),
-    QT_TRANSLATE_NOOP("LuDiagnostics", "answers"),   QT_TRANSLATE_NOOP("LuDiagnostics", "built in"),
-    QT_TRANSLATE_NOOP("LuDiagnostics", "simulated"), QT_TRANSLATE_NOOP("LuDiagnostics", "closed"),
+    QT_TRANSLATE_NOOP("LuDiagnostics", "none"),
+    QT_TRANSLATE_NOOP("LuDiagnostics", "unknown"),
+    QT_TRANSLATE_NOOP("LuDiagnostics", "asleep"),
+    QT_TRANSLATE_NOOP("LuDiagnostics", "gives no answer"),
+    QT_TRANSLATE_NOOP("LuDiagnostics", "answers"),
+    QT_TRANSLATE_NOOP("LuDiagnostics", "built in"),
+    QT_TRANSLATE_NOOP("LuDiagnostics", "simulated"),
+    QT_TRANSLATE_NOOP("LuDiagnostics", "closed"),
+    QT_TRANSLATE_NOOP("LuDiagnostics", "not told from an equal monitor's"),
 };
 
 template <std::size_t Count>
@@ -42,6 +48,7 @@ QString translated(const char* const (&known)[Count], const QString& text)
 bool isBad(const QString& name, const QString& value)
 {
     return (name == "Condition"_L1 && value == "gives no answer"_L1) ||
+           (name == "Screen"_L1 && value == LuReport::doubtfulScreen()) ||
            (name == "Circuit breaker"_L1 && value.startsWith("open"_L1));
 }
 

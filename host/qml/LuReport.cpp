@@ -116,6 +116,16 @@ bool LuReport::isOfInterest(const QString& logLine)
                        [&logLine](QLatin1String source) { return logLine.contains(source); });
 }
 
+QString LuReport::doubtfulScreen()
+{
+    return u"not told from an equal monitor's"_s;
+}
+
+QString LuReport::noScreen()
+{
+    return u"none"_s;
+}
+
 QList<QPair<QString, QString>> LuReport::lines(const LuDiagnosticFacts::Monitor& monitor)
 {
     const QJsonObject& statistics = monitor.statistics;
@@ -126,16 +136,18 @@ QList<QPair<QString, QString>> LuReport::lines(const LuDiagnosticFacts::Monitor&
         connection = u"simulated"_s;
     else if (!bus.isEmpty())
         connection = connection.isEmpty() ? bus : u"%1 on %2"_s.arg(connection, bus);
-    return {
-        {u"Connection"_s, connection.isEmpty() ? u"unknown"_s : connection},
-        {u"Condition"_s, monitor.builtIn ? u"built in"_s : condition(statistics)},
-        {u"Transfers"_s, wholeNumber(statistics, "transfers"_L1)},
-        {u"Retries"_s, wholeNumber(statistics, "retries"_L1)},
-        {u"Errors"_s, joined(statistics.value("errors"_L1).toObject(), u"none"_s)},
-        {u"Learnt waits"_s, waits(statistics)},
-        {u"Writes today"_s, writesToday(statistics)},
-        {u"Circuit breaker"_s, breaker(statistics)},
-    };
+    QList<QPair<QString, QString>> lines{{u"Connection"_s, connection.isEmpty() ? u"unknown"_s : connection}};
+    if (!monitor.screen.isEmpty())
+        lines.append({u"Screen"_s, monitor.screen});
+    return lines + QList<QPair<QString, QString>>{
+                       {u"Condition"_s, monitor.builtIn ? u"built in"_s : condition(statistics)},
+                       {u"Transfers"_s, wholeNumber(statistics, "transfers"_L1)},
+                       {u"Retries"_s, wholeNumber(statistics, "retries"_L1)},
+                       {u"Errors"_s, joined(statistics.value("errors"_L1).toObject(), u"none"_s)},
+                       {u"Learnt waits"_s, waits(statistics)},
+                       {u"Writes today"_s, writesToday(statistics)},
+                       {u"Circuit breaker"_s, breaker(statistics)},
+                   };
 }
 
 QString LuReport::cleaned(const QString& text, const LuDiagnosticFacts& facts)

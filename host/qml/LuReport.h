@@ -17,6 +17,7 @@ struct LuDiagnosticFacts
         QString serial;     ///< Never shown.
         QString nickName;   ///< Never in a report.
         QString connection; ///< Such as "card0-DP-1".
+        QString screen;     ///< The desktop's name of it, or one of LuReport's words; empty: not looked for.
         bool supported = false;
         bool builtIn = false;
         QJsonObject statistics;
@@ -40,6 +41,11 @@ public:
 
     /// @p text with what is personal in it replaced.
     static QString cleaned(const QString& text, const LuDiagnosticFacts& facts);
+
+    /// What stands in place of a screen's name where the monitor may be on the desktop, but nothing tells it
+    /// from an equal one; and where it is not on it.
+    static QString doubtfulScreen();
+    static QString noScreen();
 
     /// A monitor's facts as pairs of a name and a value, in the order of showing. Untranslated.
     static QList<QPair<QString, QString>> lines(const LuDiagnosticFacts::Monitor& monitor);

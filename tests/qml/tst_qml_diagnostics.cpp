@@ -138,6 +138,11 @@ void TestDiagnostics::linesTellAMonitorsState()
     const LuDiagnosticFacts::Monitor one = m_facts.monitors.first();
     QCOMPARE(valueOf(one, u"Connection"_s), u"card0-DP-1 on i2c-4"_s);
     QCOMPARE(valueOf(one, u"Condition"_s), u"answers"_s);
+    QCOMPARE(valueOf(one, u"Screen"_s), u"(missing)"_s);
+    LuDiagnosticFacts::Monitor shown = one;
+    shown.screen = u"DP-2-8"_s;
+    QCOMPARE(valueOf(shown, u"Screen"_s), u"DP-2-8"_s);
+    QCOMPARE(LuReport::lines(shown).size(), LuReport::lines(one).size() + 1);
     QCOMPARE(valueOf(one, u"Transfers"_s), u"1200"_s);
     QCOMPARE(valueOf(one, u"Retries"_s), u"3"_s);
     QCOMPARE(valueOf(one, u"Errors"_s), u"bad checksum: 1, no reply: 2"_s);

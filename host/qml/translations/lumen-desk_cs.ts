@@ -312,6 +312,14 @@
         <translation>zavřená</translation>
     </message>
     <message>
+        <source>Screen</source>
+        <translation>Obrazovka</translation>
+    </message>
+    <message>
+        <source>not told from an equal monitor's</source>
+        <translation>nelze odlišit od stejného monitoru</translation>
+    </message>
+    <message>
         <source>the folder cannot be made</source>
         <translation>složku nelze vytvořit</translation>
     </message>

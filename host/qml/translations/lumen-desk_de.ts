@@ -312,6 +312,14 @@
         <translation>geschlossen</translation>
     </message>
     <message>
+        <source>Screen</source>
+        <translation>Bildschirm</translation>
+    </message>
+    <message>
+        <source>not told from an equal monitor's</source>
+        <translation>nicht von dem eines gleichen Monitors zu unterscheiden</translation>
+    </message>
+    <message>
         <source>the folder cannot be made</source>
         <translation>der Ordner kann nicht angelegt werden</translation>
     </message>

@@ -312,6 +312,14 @@
         <translation>closed</translation>
     </message>
     <message>
+        <source>Screen</source>
+        <translation>Screen</translation>
+    </message>
+    <message>
+        <source>not told from an equal monitor's</source>
+        <translation>not told from an equal monitor&apos;s</translation>
+    </message>
+    <message>
         <source>the folder cannot be made</source>
         <translation>the folder cannot be made</translation>
     </message>

@@ -312,6 +312,14 @@
         <translation>cerrado</translation>
     </message>
     <message>
+        <source>Screen</source>
+        <translation>Pantalla</translation>
+    </message>
+    <message>
+        <source>not told from an equal monitor's</source>
+        <translation>no se distingue de la de un monitor igual</translation>
+    </message>
+    <message>
         <source>the folder cannot be made</source>
         <translation>no se puede crear la carpeta</translation>
     </message>

@@ -312,6 +312,14 @@
         <translation>fermé</translation>
     </message>
     <message>
+        <source>Screen</source>
+        <translation>Écran</translation>
+    </message>
+    <message>
+        <source>not told from an equal monitor's</source>
+        <translation>impossible à distinguer de celui d’un moniteur identique</translation>
+    </message>
+    <message>
         <source>the folder cannot be made</source>
         <translation>impossible de créer le dossier</translation>
     </message>

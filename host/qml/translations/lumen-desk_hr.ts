@@ -312,6 +312,14 @@
         <translation>zatvoren</translation>
     </message>
     <message>
+        <source>Screen</source>
+        <translation>Zaslon</translation>
+    </message>
+    <message>
+        <source>not told from an equal monitor's</source>
+        <translation>ne razlikuje se od zaslona jednakog monitora</translation>
+    </message>
+    <message>
         <source>the folder cannot be made</source>
         <translation>mapa se ne može stvoriti</translation>
     </message>

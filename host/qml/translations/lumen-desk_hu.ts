@@ -312,6 +312,14 @@
         <translation>zárva</translation>
     </message>
     <message>
+        <source>Screen</source>
+        <translation>Képernyő</translation>
+    </message>
+    <message>
+        <source>not told from an equal monitor's</source>
+        <translation>nem különböztethető meg egy azonos monitorétól</translation>
+    </message>
+    <message>
         <source>the folder cannot be made</source>
         <translation>a mappa nem hozható létre</translation>
     </message>

@@ -312,6 +312,14 @@
         <translation>chiuso</translation>
     </message>
     <message>
+        <source>Screen</source>
+        <translation>Schermo</translation>
+    </message>
+    <message>
+        <source>not told from an equal monitor's</source>
+        <translation>non distinguibile da quello di un monitor uguale</translation>
+    </message>
+    <message>
         <source>the folder cannot be made</source>
         <translation>impossibile creare la cartella</translation>
     </message>

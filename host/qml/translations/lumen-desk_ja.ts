@@ -312,6 +312,14 @@
         <translation>正常</translation>
     </message>
     <message>
+        <source>Screen</source>
+        <translation>画面</translation>
+    </message>
+    <message>
+        <source>not told from an equal monitor's</source>
+        <translation>同じモニターの画面と区別できません</translation>
+    </message>
+    <message>
         <source>the folder cannot be made</source>
         <translation>フォルダーを作成できません</translation>
     </message>

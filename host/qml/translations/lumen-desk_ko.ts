@@ -312,6 +312,14 @@
         <translation>닫힘</translation>
     </message>
     <message>
+        <source>Screen</source>
+        <translation>화면</translation>
+    </message>
+    <message>
+        <source>not told from an equal monitor's</source>
+        <translation>같은 모니터의 화면과 구별할 수 없음</translation>
+    </message>
+    <message>
         <source>the folder cannot be made</source>
         <translation>폴더를 만들 수 없습니다</translation>
     </message>

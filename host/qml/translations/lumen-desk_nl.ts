@@ -312,6 +312,14 @@
         <translation>gesloten</translation>
     </message>
     <message>
+        <source>Screen</source>
+        <translation>Scherm</translation>
+    </message>
+    <message>
+        <source>not told from an equal monitor's</source>
+        <translation>niet te onderscheiden van dat van een gelijke monitor</translation>
+    </message>
+    <message>
         <source>the folder cannot be made</source>
         <translation>de map kan niet worden gemaakt</translation>
     </message>

@@ -312,6 +312,14 @@
         <translation>zamknięty</translation>
     </message>
     <message>
+        <source>Screen</source>
+        <translation>Ekran</translation>
+    </message>
+    <message>
+        <source>not told from an equal monitor's</source>
+        <translation>nie można odróżnić od ekranu takiego samego monitora</translation>
+    </message>
+    <message>
         <source>the folder cannot be made</source>
         <translation>nie można utworzyć folderu</translation>
     </message>

@@ -312,6 +312,14 @@
         <translation>fechado</translation>
     </message>
     <message>
+        <source>Screen</source>
+        <translation>Ecrã</translation>
+    </message>
+    <message>
+        <source>not told from an equal monitor's</source>
+        <translation>não se distingue do de um monitor igual</translation>
+    </message>
+    <message>
         <source>the folder cannot be made</source>
         <translation>não é possível criar a pasta</translation>
     </message>

@@ -312,6 +312,14 @@
         <translation>închisă</translation>
     </message>
     <message>
+        <source>Screen</source>
+        <translation>Ecran</translation>
+    </message>
+    <message>
+        <source>not told from an equal monitor's</source>
+        <translation>nu poate fi deosebit de cel al unui monitor identic</translation>
+    </message>
+    <message>
         <source>the folder cannot be made</source>
         <translation>dosarul nu poate fi creat</translation>
     </message>

@@ -312,6 +312,14 @@
         <translation>замкнут</translation>
     </message>
     <message>
+        <source>Screen</source>
+        <translation>Экран</translation>
+    </message>
+    <message>
+        <source>not told from an equal monitor's</source>
+        <translation>неотличим от экрана такого же монитора</translation>
+    </message>
+    <message>
         <source>the folder cannot be made</source>
         <translation>не удалось создать папку</translation>
     </message>

@@ -312,6 +312,14 @@
         <translation>sluten</translation>
     </message>
     <message>
+        <source>Screen</source>
+        <translation>Skärm</translation>
+    </message>
+    <message>
+        <source>not told from an equal monitor's</source>
+        <translation>går inte att skilja från en likadan bildskärms</translation>
+    </message>
+    <message>
         <source>the folder cannot be made</source>
         <translation>mappen kan inte skapas</translation>
     </message>

@@ -312,6 +312,14 @@
         <translation>闭合</translation>
     </message>
     <message>
+        <source>Screen</source>
+        <translation>屏幕</translation>
+    </message>
+    <message>
+        <source>not told from an equal monitor's</source>
+        <translation>无法与相同显示器的屏幕区分</translation>
+    </message>
+    <message>
         <source>the folder cannot be made</source>
         <translation>无法创建文件夹</translation>
     </message>

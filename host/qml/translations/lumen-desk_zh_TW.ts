@@ -312,6 +312,14 @@
         <translation>閉合</translation>
     </message>
     <message>
+        <source>Screen</source>
+        <translation>螢幕</translation>
+    </message>
+    <message>
+        <source>not told from an equal monitor's</source>
+        <translation>無法與相同顯示器的螢幕區分</translation>
+    </message>
+    <message>
         <source>the folder cannot be made</source>
         <translation>無法建立資料夾</translation>
     </message>

@@ -6,6 +6,8 @@
 #include <QSize>
 #include <QString>
 
+#include <optional>
+
 class MonitorInfo;
 
 namespace services {
@@ -49,6 +51,14 @@ public:
     /// Rectangle in native coordinates of the screen with a MonitorInfo::nativeHandle(); null if there is
     /// none.
     virtual QRect nativeScreenRect(const QString& nativeHandle) const = 0;
+
+    /// The number that the kernel has for the connector of a screen, by QScreen::name(); nothing where the
+    /// session does not tell it. GUI thread.
+    virtual std::optional<int> connectorId(const QString& screen) const
+    {
+        Q_UNUSED(screen)
+        return std::nullopt;
+    }
 };
 
 } // namespace services

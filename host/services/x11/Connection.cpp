@@ -30,6 +30,7 @@ constexpr const char* atomNames[] = {
     "_NET_WM_WINDOW_TYPE",
     "_NET_WM_WINDOW_TYPE_NORMAL",
     "_NET_WM_WINDOW_TYPE_DIALOG",
+    "CONNECTOR_ID",
 };
 static_assert(std::size(atomNames) == AtomCount);
 

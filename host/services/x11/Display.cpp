@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 
 namespace services::x11 {
 
@@ -227,6 +228,26 @@ QRect Display::nativeScreenRect(const QString& nativeHandle) const
     const Output* output = all ? all->output(nativeHandle) : nullptr;
     const Crtc* crtc = output ? all->crtcOf(*output) : nullptr;
     return crtc ? crtc->rect : QRect();
+}
+
+// Drivers of the kernel's mode setting give their outputs this property (X's "modesetting" and "amdgpu").
+std::optional<int> Display::connectorId(const QString& screen) const
+{
+    const std::optional<Outputs> all = Outputs::read(*m_connection);
+    const Output* output = all ? all->output(screen) : nullptr;
+    const xcb_atom_t property = m_connection->atom(ConnectorId);
+    if (!output || property == XCB_ATOM_NONE)
+        return std::nullopt;
+    const auto cookie =
+        xcb_randr_get_output_property(*m_connection, output->id, property, XCB_ATOM_INTEGER, 0, 1, 0, 0);
+    const Owned<xcb_randr_get_output_property_reply_t> reply(
+        xcb_randr_get_output_property_reply(*m_connection, cookie, nullptr));
+    if (!reply || reply->format != 32 || reply->type != XCB_ATOM_INTEGER || reply->num_items != 1 ||
+        reply->bytes_after != 0)
+        return std::nullopt;
+    std::int32_t number = 0;
+    std::memcpy(&number, xcb_randr_get_output_property_data(reply.get()), sizeof number);
+    return number > 0 ? std::optional<int>(number) : std::nullopt;
 }
 
 } // namespace services::x11

@@ -36,6 +36,8 @@ public:
 
     QRect nativeScreenRect(const QString& nativeHandle) const override;
 
+    std::optional<int> connectorId(const QString& screen) const override;
+
 private:
     /// A monitor's output that is on, with all the rest.
     struct Target

@@ -4,7 +4,10 @@
 #include <LuShared/LuPlatform.h>
 #include <LuShared/LuPlatformNotifications.h>
 #include <lushared/services/ServiceRegistry.h>
+#include <services/api/DisplayService.h>
+#include <services/x11/Connection.h>
 #include <services/x11/Layout.h>
+#include <services/x11/Outputs.h>
 #include <services/x11/Resources.h>
 #include <services/x11/X11Services.h>
 
@@ -44,6 +47,8 @@ private Q_SLOTS:
     void scalingIsTheResources();
     void scalingsLeaveRoom();
     void nativeRectangles();
+    void theKernelsConnectorIsTold_data();
+    void theKernelsConnectorIsTold();
     void unknownMonitorsHaveNothing();
     void transformOfOthersStays();
     void layout_data();
@@ -338,6 +343,50 @@ void TestDesktopDisplay::nativeRectangles()
     QCOMPARE(LuPlatform::getNativeScreenRect(u"DUMMY1"_s), QRect(1920, 0, 1024, 1280));
     QCOMPARE(LuPlatform::getNativeScreenRect(u"DUMMY9"_s), QRect());
     QCOMPARE(LuPlatform::getNativeScreenRect(QString()), QRect());
+}
+
+void TestDesktopDisplay::theKernelsConnectorIsTold_data()
+{
+    QTest::addColumn<QString>("output");
+    QTest::addColumn<int>("format");
+    QTest::addColumn<QList<int>>("values");
+    QTest::addColumn<int>("number");
+    QTest::newRow("none") << u"DUMMY0"_s << 0 << QList<int>() << -1;
+    QTest::newRow("one") << u"DUMMY0"_s << 32 << QList<int>{117} << 117;
+    QTest::newRow("another output's") << u"DUMMY1"_s << 32 << QList<int>{118} << 118;
+    QTest::newRow("no number of a connector") << u"DUMMY0"_s << 32 << QList<int>{0} << -1;
+    QTest::newRow("two of them") << u"DUMMY0"_s << 32 << QList<int>{117, 118} << -1;
+    QTest::newRow("of another size") << u"DUMMY0"_s << 8 << QList<int>{117} << -1;
+    QTest::newRow("an output that is not there") << u"DP-9"_s << 0 << QList<int>() << -1;
+}
+
+void TestDesktopDisplay::theKernelsConnectorIsTold()
+{
+    QFETCH(QString, output);
+    QFETCH(int, format);
+    QFETCH(QList<int>, values);
+    QFETCH(int, number);
+    const auto connection = services::x11::Connection::open();
+    QVERIFY(connection);
+    const auto all = services::x11::Outputs::read(*connection);
+    QVERIFY(all);
+    const services::x11::Output* known = all->output(output);
+    const xcb_atom_t property = connection->atom(services::x11::ConnectorId);
+    if (format != 0) {
+        QVERIFY(known);
+        // As a driver does it when it makes its outputs.
+        xcb_randr_change_output_property(*connection, known->id, property, XCB_ATOM_INTEGER,
+                                         std::uint8_t(format), XCB_PROP_MODE_REPLACE,
+                                         std::uint32_t(values.size()), values.constData());
+        connection->sync();
+    }
+    const auto display = services::Registry::current().display;
+    QVERIFY(display);
+    QCOMPARE(display->connectorId(output).value_or(-1), number);
+    if (format != 0) {
+        xcb_randr_delete_output_property(*connection, known->id, property);
+        connection->sync();
+    }
 }
 
 void TestDesktopDisplay::unknownMonitorsHaveNothing()

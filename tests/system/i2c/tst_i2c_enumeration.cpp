@@ -61,6 +61,32 @@ private Q_SLOTS:
         QVERIFY(!found.lacksDeviceFiles);
     }
 
+    void theKernelsNumberOfAConnectorIsTold_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<int>("number");
+        QTest::newRow("a kernel that tells none") << QByteArray() << -1;
+        QTest::newRow("one") << QByteArray("108\n") << 108;
+        QTest::newRow("none at all") << QByteArray("0\n") << -1;
+        QTest::newRow("no number") << QByteArray("DP-1\n") << -1;
+        QTest::newRow("more than a number") << QByteArray("108x\n") << -1;
+        QTest::newRow("negative") << QByteArray("-8\n") << -1;
+        QTest::newRow("out of range") << QByteArray("99999999999\n") << -1;
+    }
+
+    void theKernelsNumberOfAConnectorIsTold()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(int, number);
+        sysfs->addBus(9, sysfs->connector("card0-DP-3"));
+        sysfs->plug("card0-DP-3", alpha);
+        if (!content.isEmpty())
+            sysfs->write(sysfs->connector("card0-DP-3") + "/connector_id", content.toStdString());
+        const Enumeration found = scan();
+        QCOMPARE(found.monitors.size(), std::size_t(1));
+        QCOMPARE(found.monitors[0].connectorId.value_or(-1), number);
+    }
+
     void aDisplayPortsOwnChannelIsFound_data()
     {
         QTest::addColumn<QString>("inner");

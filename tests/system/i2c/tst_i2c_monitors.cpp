@@ -297,14 +297,14 @@ private Q_SLOTS:
     {
         QTest::addColumn<QStringList>("found");
         QTest::addColumn<QStringList>("screens");
-        QTest::addColumn<QStringList>("expected");
+        QTest::addColumn<QStringList>("expected"); // "?" for a doubtful one
         const auto row = [](const char* name, const char* found, const char* screens, const char* expected) {
             const auto list = [](const char* text) {
                 return QString::fromLatin1(text).split(QLatin1Char(' '));
             };
             QTest::newRow(name) << list(found) << list(screens) << list(expected);
         };
-        // A connector or screen, its model, its serial; "-" for none.
+        // A connector or screen, its model, its serial, the kernel's number of the connector; "-" for none.
         row("twins without a serial", "card0-DP-1/A/ card0-DP-2/A/", "DP-2/A/ DP-1/A/", "DP-1 DP-2");
         row("twins with one serial on X11", "card0-HDMI-A-1/A/S card0-HDMI-A-2/A/S", "HDMI-1/A/S HDMI-2/A/S",
             "HDMI-1 HDMI-2");
@@ -315,12 +315,27 @@ private Q_SLOTS:
         row("a second card, models unknown to the screens", "card0-HDMI-A-1/A/1 card1-HDMI-A-2/B/2",
             "HDMI-1// HDMI-1-2//", "HDMI-1 HDMI-1-2");
         row("equal outputs of two cards, nothing else known", "card0-HDMI-A-1/A/ card1-HDMI-A-1/A/",
-            "HDMI-1// HDMI-1-1//", "- -");
+            "HDMI-1// HDMI-1-1//", "? ?");
         row("behind a dock, by the model that is left", "card0-DP-1/A/ card0-DP-5/B/", "DP-1/A/ DP-2-8/B/",
             "DP-1 DP-2-8");
         row("twins, one of them behind a dock", "card0-DP-1/A/ card0-DP-5/A/", "DP-1/A/ DP-2-8/A/",
             "DP-1 DP-2-8");
-        row("twins, both behind a dock", "card0-DP-5/A/ card0-DP-6/A/", "DP-2-8/A/ DP-2-1/A/", "- -");
+        row("twins, both behind a dock", "card0-DP-5/A/ card0-DP-6/A/", "DP-2-8/A/ DP-2-1/A/", "? ?");
+        row("twins behind a dock, by the kernel's numbers", "card0-DP-5/A//108 card0-DP-6/A//117",
+            "DP-2-8/A//117 DP-2-1/A//108", "DP-2-1 DP-2-8");
+        row("the same, and the screens tell nothing else", "card0-DP-5/A//108 card0-DP-6/A//117",
+            "DP-2-8///117 DP-2-1///108", "DP-2-1 DP-2-8");
+        row("one number is known, the rest follows", "card0-DP-5/A//108 card0-DP-6/A//",
+            "DP-2-8/A// DP-2-1/A//108", "DP-2-1 DP-2-8");
+        row("the number of another card's connector", "card0-DP-5/A//108 card1-HDMI-A-1/A//108",
+            "DP-2-8/A//108 HDMI-1-1/A//108", "DP-2-8 HDMI-1-1");
+        row("equal numbers of two cards' equal outputs", "card0-DP-5/A//108 card1-DP-5/A//108",
+            "DP-2-8/A//108 DP-1-2-8/A//108", "? ?");
+        row("a number against the model", "card0-DP-5/A//108", "DP-2-8/B//108", "-");
+        row("a number against the serial", "card0-DP-5/A/1/108 card0-DP-6/A/2/117",
+            "DP-2-8/A/2/108 DP-2-1/A/1/117", "DP-2-1 DP-2-8");
+        row("twins behind a dock, one of them dark", "card0-DP-5/A/ card0-DP-6/A/", "DP-2-8/A/", "? ?");
+        row("off-screen", "card0-DP-5/A/ card0-DP-6/A/", "offscreen//", "- -");
         row("twins behind a dock with serials", "card0-DP-5/A/1 card0-DP-6/A/2", "DP-2-8/A/2 DP-2-1/A/1",
             "DP-2-1 DP-2-8");
         row("one of two is dark", "card0-DP-1/A/ card0-DP-2/A/", "DP-2/A/", "- DP-2");
@@ -333,19 +348,28 @@ private Q_SLOTS:
         QFETCH(QStringList, found);
         QFETCH(QStringList, screens);
         QFETCH(QStringList, expected);
+        const auto numberOf = [](const QStringList& parts) {
+            return parts.size() > 3 && !parts.at(3).isEmpty() ? std::optional(parts.at(3).toInt())
+                                                              : std::nullopt;
+        };
         QList<MonitorFacts> monitorFacts;
         QList<ScreenFacts> screenFacts;
         for (const QString& each : std::as_const(found)) {
             const QStringList parts = each.split(QLatin1Char('/'));
-            monitorFacts.append({parts.at(0), parts.at(1), parts.at(2)});
+            monitorFacts.append({parts.at(0), parts.at(1), parts.at(2), numberOf(parts)});
         }
         for (const QString& each : std::as_const(screens)) {
             const QStringList parts = each.split(QLatin1Char('/'));
-            screenFacts.append({parts.at(0), parts.at(1), parts.at(2)});
+            screenFacts.append({parts.at(0), parts.at(1), parts.at(2), numberOf(parts)});
         }
-        for (QString& each : expected)
-            each = each == QLatin1String("-") ? QString() : each;
-        QCOMPARE(screensFor(monitorFacts, screenFacts), expected);
+        QList<bool> doubtful;
+        for (QString& each : expected) {
+            doubtful.append(each == QLatin1String("?"));
+            each = each == QLatin1String("-") || doubtful.last() ? QString() : each;
+        }
+        const QStringList names = screensFor(monitorFacts, screenFacts);
+        QCOMPARE(names, expected);
+        QCOMPARE(doubtfulScreens(monitorFacts, screenFacts, names), doubtful);
     }
 };
 
