@@ -16,7 +16,7 @@ run_packages=(
 
 # To run every test.
 test_packages=(
-  python3 libxml2-utils libbenchmark-dev xvfb xauth xdotool binutils
+  python3 libxml2-utils appstream desktop-file-utils dpkg-dev file libbenchmark-dev xvfb xauth xdotool binutils
   umockdev libumockdev-dev ddcutil i2c-tools
   mutter kwin-wayland libkf5screen-bin libkf6screen-bin libkscreen-bin qtwayland5 qt6-wayland
   plasma-wayland-protocols libwayland-dev libwayland-bin
@@ -48,7 +48,8 @@ ensure_packages() {
   # A package that this release does not have under this name is left out: another one of the list brings its files.
   local known=()
   for package in "${missing[@]}"; do
-    if apt-cache show "$package" >/dev/null 2>&1; then
+    # A name that other packages only mention has no candidate, although apt knows it.
+    if LC_ALL=C apt-cache policy "$package" | grep -q '^  Candidate: [^(]'; then
       known+=("$package")
     else
       echo "This release has no package $package; going on without it."
