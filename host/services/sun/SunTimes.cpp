@@ -78,7 +78,7 @@ struct Passage
 Passage passage(const QDate& date, double latitude, double longitude)
 {
     const double meanNoon =
-        double(date.startOfDay(Qt::UTC).toSecsSinceEpoch()) + 43200 - longitude * SecondsPerDegree;
+        double(date.startOfDay(QTimeZone::utc()).toSecsSinceEpoch()) + 43200 - longitude * SecondsPerDegree;
     const auto moment = [&](double hourAngleSign) {
         // The sun moves on while the earth turns; each step takes the sun of the moment found before.
         double time = meanNoon;
@@ -101,7 +101,7 @@ Passage passage(const QDate& date, double latitude, double longitude)
 
 QDateTime utc(double epochSeconds)
 {
-    return QDateTime::fromSecsSinceEpoch(std::llround(epochSeconds), Qt::UTC);
+    return QDateTime::fromSecsSinceEpoch(std::llround(epochSeconds)).toUTC();
 }
 
 } // namespace
