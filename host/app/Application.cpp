@@ -15,6 +15,7 @@
 
 #include <LuShared/LuMediaDevices.h>
 #include <LuShared/LuMonitorModel.h>
+#include <LuShared/LuPlatformNotifications.h>
 #include <ZrCore/ZrDispatch.h>
 #include <ZrCore/ZrEnvironment.h>
 #include <ZrCore/ZrIdle.h>
@@ -202,6 +203,9 @@ void Application::installServices()
                               simulated || wayland || session == QLatin1String("x11"), wayland);
     connect(LuMediaDevices::instance(), &QMediaDevices::audioOutputsChanged, context,
             &LuContext::touchAbsences);
+    // A compositor may tell its displays only some time after it was asked.
+    connect(LuPlatformNotifications::instance(), &LuPlatformNotifications::screenGeometryChanged, context,
+            &LuContext::touchAbsences);
     LuProgramIcons::setLookup([](const QString& appId) {
         const auto programs = services::Registry::current().programs;
         return programs ? programs->icon(appId) : QString();
@@ -261,12 +265,14 @@ void Application::installNativeServices()
     if (!set.events)
         return;
     LuMonitorRegistry* registry = m_registry.get();
-    set.events->setKeyHandler([registry](Qt::KeyboardModifiers modifiers, Qt::Key key, bool repeated) {
+    const auto handler = [registry](Qt::KeyboardModifiers modifiers, Qt::Key key, bool repeated) {
         LuMonitorModel* current = registry->current();
         return current && LuModelHost::handleKey(current, modifiers, key, repeated);
-    });
+    };
+    set.events->setKeyHandler(handler);
+    set.events->setAbilityListener([] { LuContext::instance()->touchAbsences(); });
     const std::weak_ptr<services::DesktopEvents> events = set.events;
-    qGuiApp->installEventFilter(new WindowKeys(events, this));
+    qGuiApp->installEventFilter(new WindowKeys(events, handler, this));
     m_actionKeys = std::make_unique<ActionKeys>(*registry, [events](const QSet<QKeyCombination>& keys) {
         if (const auto session = events.lock())
             session->setActionKeys(keys);

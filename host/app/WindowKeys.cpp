@@ -2,7 +2,6 @@
 #include "WindowKeys.h"
 
 #include <LuShared/LuPlatformNotifications.h>
-#include <services/api/DesktopEvents.h>
 
 #include <QKeyEvent>
 #include <QWindow>
@@ -30,8 +29,9 @@ Qt::KeyboardModifier ownModifier(int key)
 
 } // namespace
 
-WindowKeys::WindowKeys(std::weak_ptr<services::DesktopEvents> session, QObject* parent)
-    : QObject(parent), m_session(std::move(session))
+WindowKeys::WindowKeys(std::weak_ptr<services::DesktopEvents> session,
+                       services::DesktopEvents::KeyHandler handler, QObject* parent)
+    : QObject(parent), m_session(std::move(session)), m_handler(std::move(handler))
 {
 }
 
@@ -45,8 +45,10 @@ bool WindowKeys::eventFilter(QObject* watched, QEvent* event)
         const auto* press = static_cast<QKeyEvent*>(event);
         const Qt::KeyboardModifier own = ownModifier(press->key());
         const Qt::Key key = own == Qt::NoModifier ? Qt::Key(press->key()) : Qt::Key_unknown;
-        Q_EMIT LuPlatformNotifications::instance()->activeKeyEvent(press->modifiers() | own, key,
-                                                                   press->isAutoRepeat());
+        const Qt::KeyboardModifiers modifiers = press->modifiers() | own;
+        if (!session->takesActionKeys())
+            m_handler(modifiers, key, press->isAutoRepeat());
+        Q_EMIT LuPlatformNotifications::instance()->activeKeyEvent(modifiers, key, press->isAutoRepeat());
     }
     return QObject::eventFilter(watched, event);
 }

@@ -30,7 +30,7 @@ constexpr std::array Rows = {
     Row{"displayModes",          changesDisplays},
     Row{"rotation",              changesDisplays},
     Row{"scaling",               changesDisplays},
-    Row{"globalShortcuts",       [](const ServiceSet& set) { return set.events != nullptr; }},
+    Row{"globalShortcuts",       [](const ServiceSet& set) { return set.events && set.events->takesActionKeys(); }},
     Row{"foregroundApplication", [](const ServiceSet& set) { return set.events && set.events->seesWindows(); }},
     Row{"windowPlacing",         [](const ServiceSet& set) { return set.programs && set.programs->placesWindows(); }},
     Row{"copyPasteKeys",         [](const ServiceSet& set) { return set.clipboardKeys != nullptr; }},

@@ -32,6 +32,12 @@ public:
     /// Whether it raises every key, and not only those of setActionKeys().
     virtual bool hearsEveryKey() const { return true; }
 
+    /// Whether the keys of setActionKeys() are heard while another program has the focus.
+    virtual bool takesActionKeys() const { return true; }
+
+    /// Called on the GUI thread when what it can do has become different. Set once, before start().
+    virtual void setAbilityListener(std::function<void()> listener) { Q_UNUSED(listener) }
+
     /// Whether it tells of the application in the foreground and of windows that are dragged.
     virtual bool seesWindows() const { return true; }
 

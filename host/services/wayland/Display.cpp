@@ -2,23 +2,16 @@
 #include "services/wayland/Display.h"
 
 #include <LuShared/LuPlatform.h>
-#include <LuShared/LuPlatformNotifications.h>
 #include <PanelCore/MonitorInfo.h>
-#include <ZrCore/ZrDispatch.h>
 
-#include <QObject>
-#include <QTimer>
+#include "services/wayland/OutputKeeper.h"
 
 #include <algorithm>
 #include <cmath>
-#include <mutex>
 
 namespace services::wayland {
 
 namespace {
-
-/// A compositor tells one change in several signals.
-constexpr int SettleMs = 100;
 
 int percentOf(double scale)
 {
@@ -35,13 +28,12 @@ std::optional<double> scaleOf(const OutputMode& mode, int percent)
     return std::nullopt;
 }
 
-class Display : public QObject, public DisplayService
+class Display : public DisplayService
 {
-    Q_OBJECT
-
 public:
-    explicit Display(std::shared_ptr<OutputControl> control);
+    explicit Display(std::shared_ptr<OutputControl> control) : m_outputs(std::move(control)) {}
 
+    bool isAvailable() const override { return !m_outputs.outputs().isEmpty(); }
     int pivot(const MonitorInfo& monitor) const override;
     void setPivot(const MonitorInfo& monitor, int degrees) override;
     QList<int> dpiScalings(const MonitorInfo& monitor) const override;
@@ -56,58 +48,15 @@ public:
     QRect nativeScreenRect(const QString& nativeHandle) const override;
 
 private:
-    QList<Output> outputs() const;
     std::optional<Output> find(const QString& name) const;
     std::optional<Output> find(const MonitorInfo& monitor) const;
-    bool change(const Output& output, const OutputChange& change);
-    void look();
 
-    std::shared_ptr<OutputControl> m_control;
-    mutable std::mutex m_mutex;
-    mutable std::optional<QList<Output>> m_known;
-    QList<Output> m_told; ///< GUI thread: what the last signal was about.
-    QTimer m_settle;
+    OutputKeeper m_outputs;
 };
-
-Display::Display(std::shared_ptr<OutputControl> control) : m_control(std::move(control))
-{
-    m_settle.setSingleShot(true);
-    connect(&m_settle, &QTimer::timeout, this, &Display::look);
-    m_control->setListener([this] {
-        {
-            const std::lock_guard lock(m_mutex);
-            m_known.reset();
-        }
-        m_settle.start(SettleMs);
-    });
-    m_told = outputs();
-}
-
-QList<Output> Display::outputs() const
-{
-    {
-        const std::lock_guard lock(m_mutex);
-        if (m_known)
-            return *m_known;
-    }
-    // Not under the lock: the compositor may take its time.
-    const QList<Output> now = m_control->outputs();
-    const std::lock_guard lock(m_mutex);
-    if (!now.isEmpty())
-        m_known = now;
-    return now;
-}
-
-void Display::look()
-{
-    const QList<Output> now = outputs();
-    if (std::exchange(m_told, now) != now)
-        Q_EMIT LuPlatformNotifications::instance()->screenGeometryChanged();
-}
 
 std::optional<Output> Display::find(const QString& name) const
 {
-    const QList<Output> all = outputs();
+    const QList<Output> all = m_outputs.outputs();
     const auto found =
         std::find_if(all.begin(), all.end(), [&](const Output& each) { return each.name == name; });
     if (name.isEmpty() || found == all.end() || !found->currentMode())
@@ -120,18 +69,6 @@ std::optional<Output> Display::find(const MonitorInfo& monitor) const
     // On Wayland a screen has its connector's name.
     const auto output = find(monitor.nativeHandle());
     return output ? output : find(monitor.screenName());
-}
-
-bool Display::change(const Output& output, const OutputChange& change)
-{
-    const bool done = m_control->change(output.name, change);
-    {
-        const std::lock_guard lock(m_mutex);
-        m_known.reset();
-    }
-    // Also where the compositor tells nothing of what it was asked for.
-    ZrDispatch::main()->post(this, [this] { m_settle.start(SettleMs); });
-    return done;
 }
 
 int Display::pivot(const MonitorInfo& monitor) const
@@ -147,7 +84,10 @@ void Display::setPivot(const MonitorInfo& monitor, int degrees)
         return;
     OutputChange turned;
     turned.degrees = degrees;
-    change(*output, turned);
+    // GNOME asks the person to keep what lasts, and takes it back without an answer: not at each turn of a
+    // monitor.
+    turned.permanent = false;
+    m_outputs.change(output->name, turned);
 }
 
 QList<int> Display::dpiScalings(const MonitorInfo& monitor) const
@@ -176,9 +116,10 @@ void Display::setDpiScaling(const MonitorInfo& monitor, int percent)
     if (!output || percentOf(output->scale) == percent)
         return;
     OutputChange scaled;
+    scaled.permanent = true;
     scaled.scale = scaleOf(*output->currentMode(), percent);
     if (scaled.scale)
-        change(*output, scaled);
+        m_outputs.change(output->name, scaled);
 }
 
 bool Display::hiDpi(const MonitorInfo& monitor) const
@@ -195,8 +136,11 @@ bool Display::setHiDpi(const MonitorInfo& monitor, bool enabled)
     if ((output->scale >= 2) == enabled)
         return true;
     OutputChange scaled;
+    scaled.permanent = true;
     scaled.scale = scaleOf(*output->currentMode(), enabled ? 200 : 100);
-    return scaled.scale && change(*output, scaled);
+    if (scaled.scale)
+        m_outputs.change(output->name, scaled);
+    return scaled.scale.has_value();
 }
 
 QList<QSize> Display::resolutions(const MonitorInfo& monitor, int refreshRate) const
@@ -245,7 +189,8 @@ bool Display::setResolution(const MonitorInfo& monitor, const QSize& size, int r
     wanted.modeId = best->id;
     wanted.scale = scaleOf(*best, percent).value_or(1.0);
     wanted.permanent = permanent;
-    return change(*output, wanted);
+    m_outputs.change(output->name, wanted);
+    return true;
 }
 
 QRect Display::nativeScreenRect(const QString& nativeHandle) const
@@ -266,5 +211,3 @@ std::shared_ptr<DisplayService> makeDisplay(std::shared_ptr<OutputControl> contr
 }
 
 } // namespace services::wayland
-
-#include "Display.moc"

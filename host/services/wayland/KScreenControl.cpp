@@ -5,9 +5,10 @@
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QDBusVariant>
-#include <QDebug>
+#include <QDeadlineTimer>
 #include <QObject>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -22,6 +23,8 @@ const QString BackendInterface = QStringLiteral("org.kde.kscreen.Backend");
 
 /// Bit of "features" that says that each output has a scale of its own.
 constexpr int PerOutputScaling = 4;
+
+const QString NoReply = QStringLiteral("org.freedesktop.DBus.Error.NoReply");
 
 /// KScreen takes any scale; these are what Plasma's own settings step through.
 constexpr std::array Scales{1.0, 1.25, 1.5, 1.75, 2.0, 2.25, 2.5, 2.75, 3.0};
@@ -108,76 +111,43 @@ QSize placeSize(const Output& output)
             int(std::lround(turned.height() / output.scale))};
 }
 
-class KScreenControl : public QObject, public OutputControl
+QDBusMessage backendCall(const QString& method)
 {
-    Q_OBJECT
+    return QDBusMessage::createMethodCall(Service, BackendPath, BackendInterface, method);
+}
 
-public:
-    explicit KScreenControl(const QDBusConnection& bus) : m_bus(bus) {}
-
-    /// Lets the service load its back end for this session.
-    bool start() const;
-
-    QList<Output> outputs() const override;
-    bool change(const QString& name, const OutputChange& change) override;
-    void setListener(Listener listener) override
-    {
-        m_listener = std::move(listener);
-        m_bus.connect(Service, BackendPath, BackendInterface, QStringLiteral("configChanged"), this,
-                      SLOT(onChanged()));
-    }
-
-private Q_SLOTS:
-    void onChanged() { m_listener(); }
-
-private:
-    QVariantMap configuration() const;
-
-    QDBusConnection m_bus;
-    Listener m_listener;
-};
-
-bool KScreenControl::start() const
+/// Lets the service load its back end for this session.
+QDBusMessage startCall()
 {
     QDBusMessage message =
         QDBusMessage::createMethodCall(Service, LauncherPath, Service, QStringLiteral("requestBackend"));
     message << QStringLiteral("kwayland") << QVariantMap();
-    const QDBusMessage reply = m_bus.call(message, QDBus::Block, CallLimitMs);
-    return reply.type() == QDBusMessage::ReplyMessage && reply.arguments().value(0).toBool();
+    return message;
 }
 
-QVariantMap KScreenControl::configuration() const
+std::optional<QVariantMap> configurationOf(const QDBusMessage& reply)
 {
-    const auto ask = [&] {
-        return m_bus.call(QDBusMessage::createMethodCall(Service, BackendPath, BackendInterface,
-                                                         QStringLiteral("getConfig")),
-                          QDBus::Block, CallLimitMs);
-    };
-    QDBusMessage reply = ask();
-    // The service ends when nobody has asked it for a while; it comes back without its back end.
-    if (reply.type() == QDBusMessage::ErrorMessage && start())
-        reply = ask();
-    if (reply.type() != QDBusMessage::ReplyMessage) {
-        qWarning().noquote() << "[LuPlatform] KScreen does not tell the monitors:" << reply.errorMessage();
-        return {};
-    }
+    if (reply.type() != QDBusMessage::ReplyMessage)
+        return std::nullopt;
     return plain(reply.arguments().value(0)).toMap();
 }
 
-QList<Output> KScreenControl::outputs() const
+std::optional<QList<Output>> outputsOf(const QDBusMessage& reply)
 {
-    const QVariantMap config = configuration();
-    const bool canScale = config.value(QStringLiteral("features")).toInt() & PerOutputScaling;
+    const auto config = configurationOf(reply);
+    if (!config)
+        return std::nullopt;
+    const bool canScale = config->value(QStringLiteral("features")).toInt() & PerOutputScaling;
     QList<Output> result;
-    const QVariantList outputs = config.value(QStringLiteral("outputs")).toList();
+    const QVariantList outputs = config->value(QStringLiteral("outputs")).toList();
     for (const QVariant& output : outputs)
         result.append(outputOf(output.toMap(), canScale));
     return result;
 }
 
-bool KScreenControl::change(const QString& name, const OutputChange& change)
+/// The configuration with the change in it; false if it has no such output, or no such mode.
+bool changeConfiguration(QVariantMap& config, const QString& name, const OutputChange& change)
 {
-    QVariantMap config = configuration();
     QVariantList maps = config.value(QStringLiteral("outputs")).toList();
     QList<qsizetype> shown; // indices of those that are on
     QList<QRect> places;
@@ -196,9 +166,7 @@ bool KScreenControl::change(const QString& name, const OutputChange& change)
     }
     if (changed < 0)
         return false;
-    target.modeId = change.modeId.value_or(target.modeId);
-    target.degrees = change.degrees.value_or(target.degrees);
-    target.scale = change.scale.value_or(target.scale);
+    target.apply(change);
     if (!target.currentMode())
         return false;
     places = arranged(places, changed, placeSize(target));
@@ -217,14 +185,83 @@ bool KScreenControl::change(const QString& name, const OutputChange& change)
         maps[shown[i]] = map;
     }
     config[QStringLiteral("outputs")] = maps;
-    QDBusMessage message =
-        QDBusMessage::createMethodCall(Service, BackendPath, BackendInterface, QStringLiteral("setConfig"));
-    message << config;
-    const QDBusMessage reply = m_bus.call(message, QDBus::Block, CallLimitMs);
-    if (reply.type() == QDBusMessage::ReplyMessage)
-        return true;
-    qWarning().noquote() << "[LuPlatform] KScreen refuses:" << reply.errorMessage();
-    return false;
+    return true;
+}
+
+class KScreenControl : public QObject, public OutputControl
+{
+    Q_OBJECT
+
+public:
+    explicit KScreenControl(const QDBusConnection& bus) : m_bus(bus) {}
+
+    std::optional<QList<Output>> outputsWithin(int milliseconds) override;
+    void outputs(Answer answer) override;
+    void change(const QString& name, const OutputChange& change, Done done) override;
+    void setListener(Listener listener) override
+    {
+        m_listener = std::move(listener);
+        m_bus.connect(Service, BackendPath, BackendInterface, QStringLiteral("configChanged"), this,
+                      SLOT(onChanged()));
+    }
+
+private Q_SLOTS:
+    void onChanged() { m_listener(); }
+
+private:
+    void ask(const std::function<void(const QDBusMessage& reply)>& next);
+
+    QDBusConnection m_bus;
+    Listener m_listener;
+};
+
+std::optional<QList<Output>> KScreenControl::outputsWithin(int milliseconds)
+{
+    const QDeadlineTimer deadline(milliseconds);
+    for (const QDBusMessage& message : {startCall(), backendCall(QStringLiteral("getConfig"))}) {
+        const int left = int(deadline.remainingTime());
+        const QDBusMessage reply = m_bus.call(message, QDBus::Block, std::max(left, 1));
+        if (reply.type() != QDBusMessage::ReplyMessage)
+            return std::nullopt;
+        if (message.member() == QLatin1String("getConfig"))
+            return outputsOf(reply);
+    }
+    return std::nullopt;
+}
+
+void KScreenControl::ask(const std::function<void(const QDBusMessage& reply)>& next)
+{
+    const QDBusMessage question = backendCall(QStringLiteral("getConfig"));
+    sendLater(this, m_bus, question, [this, question, next](const QDBusMessage& reply) {
+        if (reply.type() == QDBusMessage::ReplyMessage || reply.errorName() == NoReply) {
+            next(reply);
+            return;
+        }
+        // The service ends when nobody has asked it for a while; it comes back without its back end.
+        sendLater(this, m_bus, startCall(),
+                  [this, question, next](const QDBusMessage&) { sendLater(this, m_bus, question, next); });
+    });
+}
+
+void KScreenControl::outputs(Answer answer)
+{
+    ask([answer = std::move(answer)](const QDBusMessage& reply) { answer(outputsOf(reply)); });
+}
+
+void KScreenControl::change(const QString& name, const OutputChange& change, Done done)
+{
+    ask([=, this](const QDBusMessage& reply) {
+        auto config = configurationOf(reply);
+        if (!config || !changeConfiguration(*config, name, change)) {
+            done(config ? QStringLiteral("there is no such output or mode any more") : reply.errorMessage());
+            return;
+        }
+        QDBusMessage set = backendCall(QStringLiteral("setConfig"));
+        set << *config;
+        sendLater(this, m_bus, set, [done](const QDBusMessage& answer) {
+            done(answer.type() == QDBusMessage::ReplyMessage ? QString() : answer.errorMessage());
+        });
+    });
 }
 
 } // namespace
@@ -239,8 +276,7 @@ std::shared_ptr<OutputControl> makeKScreenControl(const QDBusConnection& session
     // Under other compositors the service would start, and find no outputs that it can change.
     if (!reachable || !names.isServiceRegistered(QStringLiteral("org.kde.KWin")))
         return nullptr;
-    auto control = std::make_shared<KScreenControl>(sessionBus);
-    return control->start() ? control : nullptr;
+    return std::make_shared<KScreenControl>(sessionBus);
 }
 
 } // namespace services::wayland

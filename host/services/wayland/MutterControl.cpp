@@ -21,6 +21,9 @@ constexpr uint Temporary = 1;
 constexpr uint Persistent = 2;
 constexpr uint LayoutLogical = 1;
 
+/// What Mutter answers to a serial number of before another change.
+const QString Stale = QStringLiteral("org.freedesktop.DBus.Error.AccessDenied");
+
 /// A monitor's address: connector, vendor, product, serial.
 struct MonitorName
 {
@@ -125,43 +128,35 @@ QSize pieceSize(const QSize& mode, int degrees, double scale, bool logicalLayout
                : turned;
 }
 
-class MutterControl : public QObject, public OutputControl
+// Only the signature is asked for, for arrays of them; each is written by apply() itself.
+QDBusArgument& operator<<(QDBusArgument& argument, const MonitorName& name)
 {
-    Q_OBJECT
+    argument.beginStructure();
+    argument << name.connector << QString() << QVariantMap();
+    argument.endStructure();
+    return argument;
+}
 
-public:
-    explicit MutterControl(const QDBusConnection& bus) : m_bus(bus) {}
-
-    QList<Output> outputs() const override;
-    bool change(const QString& name, const OutputChange& change) override;
-    void setListener(Listener listener) override
-    {
-        m_listener = std::move(listener);
-        m_bus.connect(Service, Path, Service, QStringLiteral("MonitorsChanged"), this, SLOT(onChanged()));
-    }
-
-private Q_SLOTS:
-    void onChanged() { m_listener(); }
-
-private:
-    std::optional<State> state() const;
-    bool apply(const State& state, uint method);
-
-    QDBusConnection m_bus;
-    Listener m_listener;
-};
-
-std::optional<State> MutterControl::state() const
+QDBusArgument& operator<<(QDBusArgument& argument, const LogicalMonitor& piece)
 {
-    const QDBusMessage reply =
-        m_bus.call(QDBusMessage::createMethodCall(Service, Path, Service, QStringLiteral("GetCurrentState")),
-                   QDBus::Block, CallLimitMs);
+    argument.beginStructure();
+    argument << piece.x << piece.y << piece.scale << piece.transform << piece.primary;
+    argument.beginArray(QMetaType::fromType<MonitorName>());
+    argument.endArray();
+    argument.endStructure();
+    return argument;
+}
+
+QDBusMessage displayCall(const QString& method)
+{
+    return QDBusMessage::createMethodCall(Service, Path, Service, method);
+}
+
+std::optional<State> stateOf(const QDBusMessage& reply)
+{
     const QVariantList values = reply.arguments();
-    if (reply.type() != QDBusMessage::ReplyMessage || values.size() != 4) {
-        qWarning().noquote() << "[LuPlatform] the compositor does not tell its monitors:"
-                             << reply.errorMessage();
+    if (reply.type() != QDBusMessage::ReplyMessage || values.size() != 4)
         return std::nullopt;
-    }
     State state;
     state.serial = values[0].toUInt();
     state.outputs = list<Output>(values[1]);
@@ -172,14 +167,14 @@ std::optional<State> MutterControl::state() const
     return state;
 }
 
-QList<Output> MutterControl::outputs() const
+std::optional<QList<Output>> outputsOf(const QDBusMessage& reply)
 {
-    const auto now = state();
-    if (!now)
-        return {};
-    QList<Output> result = now->outputs;
+    const auto state = stateOf(reply);
+    if (!state)
+        return std::nullopt;
+    QList<Output> result = state->outputs;
     for (Output& output : result) {
-        for (const LogicalMonitor& piece : now->pieces) {
+        for (const LogicalMonitor& piece : state->pieces) {
             for (const MonitorName& monitor : piece.monitors) {
                 if (monitor.connector != output.name)
                     continue;
@@ -192,13 +187,11 @@ QList<Output> MutterControl::outputs() const
     return result;
 }
 
-bool MutterControl::change(const QString& name, const OutputChange& change)
+/// The state with the change in it; false if it has no such output, or no such mode.
+bool changeState(State& state, const QString& name, const OutputChange& change)
 {
-    auto now = state();
-    if (!now)
-        return false;
     const auto outputOf = [&](const LogicalMonitor& piece) -> Output* {
-        for (Output& output : now->outputs) {
+        for (Output& output : state.outputs) {
             if (!piece.monitors.isEmpty() && output.name == piece.monitors[0].connector)
                 return &output;
         }
@@ -206,7 +199,7 @@ bool MutterControl::change(const QString& name, const OutputChange& change)
     };
     QList<QRect> places;
     qsizetype changed = -1;
-    for (const LogicalMonitor& piece : std::as_const(now->pieces)) {
+    for (const LogicalMonitor& piece : std::as_const(state.pieces)) {
         const Output* const output = outputOf(piece);
         if (!output || !output->currentMode())
             return false;
@@ -214,11 +207,11 @@ bool MutterControl::change(const QString& name, const OutputChange& change)
             changed = places.size();
         places.append(
             {QPoint(piece.x, piece.y), pieceSize(output->currentMode()->size, int(piece.transform % 4) * 90,
-                                                 piece.scale, now->logicalLayout)});
+                                                 piece.scale, state.logicalLayout)});
     }
     if (changed < 0)
         return false;
-    LogicalMonitor& piece = now->pieces[changed];
+    LogicalMonitor& piece = state.pieces[changed];
     Output& output = *outputOf(piece);
     output.modeId = change.modeId.value_or(output.modeId);
     piece.scale = change.scale.value_or(piece.scale);
@@ -228,15 +221,15 @@ bool MutterControl::change(const QString& name, const OutputChange& change)
         return false;
     places = arranged(places, changed,
                       pieceSize(output.currentMode()->size, int(piece.transform % 4) * 90, piece.scale,
-                                now->logicalLayout));
+                                state.logicalLayout));
     for (qsizetype i = 0; i < places.size(); ++i) {
-        now->pieces[i].x = places[i].x();
-        now->pieces[i].y = places[i].y();
+        state.pieces[i].x = places[i].x();
+        state.pieces[i].y = places[i].y();
     }
-    return apply(*now, change.permanent ? Persistent : Temporary);
+    return true;
 }
 
-bool MutterControl::apply(const State& state, uint method)
+QDBusMessage applyCall(const State& state, uint method)
 {
     const auto modeOf = [&](const QString& connector) {
         for (const Output& output : state.outputs) {
@@ -260,33 +253,74 @@ bool MutterControl::apply(const State& state, uint method)
         pieces.endStructure();
     }
     pieces.endArray();
-    QDBusMessage message =
-        QDBusMessage::createMethodCall(Service, Path, Service, QStringLiteral("ApplyMonitorsConfig"));
+    QDBusMessage message = displayCall(QStringLiteral("ApplyMonitorsConfig"));
     message << state.serial << method << QVariant::fromValue(pieces) << QVariantMap();
-    const QDBusMessage reply = m_bus.call(message, QDBus::Block, CallLimitMs);
-    if (reply.type() == QDBusMessage::ReplyMessage)
-        return true;
-    qWarning().noquote() << "[LuPlatform] the compositor refuses:" << reply.errorMessage();
-    return false;
+    return message;
 }
 
-// Only the signature is asked for, for arrays of them; each is written by apply() itself.
-QDBusArgument& operator<<(QDBusArgument& argument, const MonitorName& name)
+class MutterControl : public QObject, public OutputControl
 {
-    argument.beginStructure();
-    argument << name.connector << QString() << QVariantMap();
-    argument.endStructure();
-    return argument;
+    Q_OBJECT
+
+public:
+    explicit MutterControl(const QDBusConnection& bus) : m_bus(bus) {}
+
+    std::optional<QList<Output>> outputsWithin(int milliseconds) override;
+    void outputs(Answer answer) override;
+    void change(const QString& name, const OutputChange& change, Done done) override;
+    void setListener(Listener listener) override
+    {
+        m_listener = std::move(listener);
+        m_bus.connect(Service, Path, Service, QStringLiteral("MonitorsChanged"), this, SLOT(onChanged()));
+    }
+
+private Q_SLOTS:
+    void onChanged() { m_listener(); }
+
+private:
+    /// @p retry is for another program's change that came between the question and ours.
+    void change(const QString& name, const OutputChange& change, const Done& done, bool retry);
+
+    QDBusConnection m_bus;
+    Listener m_listener;
+};
+
+std::optional<QList<Output>> MutterControl::outputsWithin(int milliseconds)
+{
+    return outputsOf(m_bus.call(displayCall(QStringLiteral("GetCurrentState")), QDBus::Block, milliseconds));
 }
 
-QDBusArgument& operator<<(QDBusArgument& argument, const LogicalMonitor& piece)
+void MutterControl::outputs(Answer answer)
 {
-    argument.beginStructure();
-    argument << piece.x << piece.y << piece.scale << piece.transform << piece.primary;
-    argument.beginArray(QMetaType::fromType<MonitorName>());
-    argument.endArray();
-    argument.endStructure();
-    return argument;
+    sendLater(this, m_bus, displayCall(QStringLiteral("GetCurrentState")),
+              [answer = std::move(answer)](const QDBusMessage& reply) { answer(outputsOf(reply)); });
+}
+
+void MutterControl::change(const QString& name, const OutputChange& change, Done done)
+{
+    this->change(name, change, done, true);
+}
+
+void MutterControl::change(const QString& name, const OutputChange& change, const Done& done, bool retry)
+{
+    sendLater(this, m_bus, displayCall(QStringLiteral("GetCurrentState")),
+              [=, this](const QDBusMessage& reply) {
+                  auto state = stateOf(reply);
+                  if (!state || !changeState(*state, name, change)) {
+                      done(state ? QStringLiteral("there is no such output or mode any more")
+                                 : reply.errorMessage());
+                      return;
+                  }
+                  const QDBusMessage apply = applyCall(*state, change.permanent ? Persistent : Temporary);
+                  sendLater(this, m_bus, apply, [=, this](const QDBusMessage& applied) {
+                      if (applied.type() == QDBusMessage::ReplyMessage)
+                          done({});
+                      else if (retry && applied.errorName() == Stale)
+                          this->change(name, change, done, false);
+                      else
+                          done(applied.errorMessage());
+                  });
+              });
 }
 
 } // namespace

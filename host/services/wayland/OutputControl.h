@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QDBusConnection>
+#include <QDBusMessage>
 #include <QList>
 #include <QRect>
 #include <QSize>
@@ -23,6 +24,18 @@ struct OutputMode
     bool operator==(const OutputMode&) const = default;
 };
 
+/// What is to become different; what has no value stays.
+struct OutputChange
+{
+    std::optional<QString> modeId;
+    std::optional<int> degrees;
+    std::optional<double> scale;
+    bool permanent = false; ///< Beyond the session.
+
+    /// Adds what comes after it.
+    void merge(const OutputChange& later);
+};
+
 /// A connector with a monitor, as the compositor runs it.
 struct Output
 {
@@ -36,38 +49,34 @@ struct Output
 
     const OutputMode* mode(const QString& id) const;
     const OutputMode* currentMode() const { return mode(modeId); }
+
+    /// Whether it runs as the change wants it to.
+    bool has(const OutputChange& change) const;
+    void apply(const OutputChange& change);
 };
 
-/// What is to become different; what has no value stays.
-struct OutputChange
-{
-    std::optional<QString> modeId;
-    std::optional<int> degrees;
-    std::optional<double> scale;
-    bool permanent = true; ///< Beyond the session.
-};
-
-/// A compositor's own interface to its outputs. Any thread; functions block for a round trip to the
-/// compositor, 3 s at most.
+/// A compositor's own interface to its outputs. GUI thread only; answers come from its event loop, and none
+/// after the object's end.
 class OutputControl
 {
 public:
     using Listener = std::function<void()>;
+    /// Without a value where the compositor did not answer.
+    using Answer = std::function<void(const std::optional<QList<Output>>& outputs)>;
+    /// Why nothing has changed; empty where the compositor took the change.
+    using Done = std::function<void(const QString& problem)>;
 
     virtual ~OutputControl() = default;
 
-    /// Empty where the compositor does not answer.
-    virtual QList<Output> outputs() const = 0;
+    /// Waits for the compositor, so many milliseconds at most.
+    virtual std::optional<QList<Output>> outputsWithin(int milliseconds) = 0;
 
-    /// False, with the compositor's reason in the log, if it refuses; nothing has changed then.
-    virtual bool change(const QString& name, const OutputChange& change) = 0;
+    virtual void outputs(Answer answer) = 0;
+    virtual void change(const QString& name, const OutputChange& change, Done done) = 0;
 
-    /// Called on the GUI thread when something may have changed. Set once, on the GUI thread.
+    /// Called when something may have changed. Set once.
     virtual void setListener(Listener listener) = 0;
 };
-
-/// Longest wait for a compositor, in ms.
-constexpr int CallLimitMs = 3000;
 
 /// Mutter's DisplayConfig, of GNOME. Null if nobody on the bus has it.
 std::shared_ptr<OutputControl> makeMutterControl(const QDBusConnection& sessionBus);
@@ -79,5 +88,10 @@ std::shared_ptr<OutputControl> makeKScreenControl(const QDBusConnection& session
 /// where there was none. Rectangles right of its old right side move by the change of its width, those below
 /// its old lower side by that of its height.
 QList<QRect> arranged(QList<QRect> rectangles, qsizetype changed, const QSize& newSize);
+
+/// Sends a message and gives the answer, an error too, to @p next from the event loop unless @p owner is
+/// gone.
+void sendLater(QObject* owner, const QDBusConnection& bus, const QDBusMessage& message,
+               std::function<void(const QDBusMessage& reply)> next);
 
 } // namespace services::wayland

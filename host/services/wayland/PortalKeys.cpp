@@ -3,9 +3,11 @@
 
 #include <LuShared/LuPlatformNotifications.h>
 
+#include "services/wayland/OutputControl.h"
+
 #include <QDBusArgument>
+#include <QDBusConnectionInterface>
 #include <QDBusMetaType>
-#include <QDBusPendingCallWatcher>
 #include <QDebug>
 #include <QKeySequence>
 
@@ -13,6 +15,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace services::wayland {
 
@@ -52,8 +55,6 @@ const QString PortalPath = QStringLiteral("/org/freedesktop/portal/desktop");
 const QString ShortcutsInterface = QStringLiteral("org.freedesktop.portal.GlobalShortcuts");
 const QString RequestInterface = QStringLiteral("org.freedesktop.portal.Request");
 const QString SessionInterface = QStringLiteral("org.freedesktop.portal.Session");
-
-constexpr int AskMs = 3000;
 
 struct NamedKey
 {
@@ -112,26 +113,13 @@ QString PortalKeys::trigger(QKeyCombination keys)
     return text + QLatin1String(name.data());
 }
 
-std::shared_ptr<PortalKeys> PortalKeys::make(const QDBusConnection& sessionBus)
-{
-    if (!sessionBus.isConnected())
-        return nullptr;
-    QDBusMessage ask = QDBusMessage::createMethodCall(
-        Portal, PortalPath, QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
-    ask << ShortcutsInterface << QStringLiteral("version");
-    const QDBusMessage answer = sessionBus.call(ask, QDBus::Block, AskMs);
-    const QVariant version = answer.arguments().value(0).value<QDBusVariant>().variant();
-    if (answer.type() != QDBusMessage::ReplyMessage || version.toUInt() < 1)
-        return nullptr;
-    return std::make_shared<PortalKeys>(sessionBus);
-}
-
 PortalKeys::PortalKeys(const QDBusConnection& sessionBus) : m_bus(sessionBus)
 {
     qDBusRegisterMetaType<PortalShortcut>();
     qDBusRegisterMetaType<QList<PortalShortcut>>();
     m_bus.connect(Portal, PortalPath, ShortcutsInterface, QStringLiteral("Activated"), this,
                   SLOT(onActivated(QDBusObjectPath, QString, qulonglong, QVariantMap)));
+    ask();
 }
 
 PortalKeys::~PortalKeys()
@@ -139,12 +127,34 @@ PortalKeys::~PortalKeys()
     stop();
 }
 
+void PortalKeys::ask()
+{
+    const QDBusConnectionInterface* const names = m_bus.interface();
+    if (!names ||
+        (!names->isServiceRegistered(Portal) && !names->activatableServiceNames().value().contains(Portal)))
+        return;
+    QDBusMessage question = QDBusMessage::createMethodCall(
+        Portal, PortalPath, QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
+    question << ShortcutsInterface << QStringLiteral("version");
+    // A portal that the question starts takes its time.
+    sendLater(this, m_bus, question, [this](const QDBusMessage& answer) {
+        const QVariant version = answer.arguments().value(0).value<QDBusVariant>().variant();
+        if (answer.type() != QDBusMessage::ReplyMessage || version.toUInt() < 1) {
+            qInfo() << "[LuPlatform] the desktop portal has no global keys";
+            return;
+        }
+        m_offered = true;
+        if (m_started)
+            renew();
+        if (m_listener)
+            m_listener();
+    });
+}
+
 void PortalKeys::start()
 {
-    if (m_started)
-        return;
-    m_started = true;
-    renew();
+    if (!std::exchange(m_started, true) && m_offered)
+        renew();
 }
 
 void PortalKeys::stop()
@@ -165,7 +175,7 @@ void PortalKeys::setActionKeys(const QSet<QKeyCombination>& keys)
     if (wanted == m_wanted)
         return;
     m_wanted = wanted;
-    if (m_started)
+    if (m_started && m_offered)
         renew();
 }
 
@@ -185,16 +195,13 @@ QString PortalKeys::request(Next next)
 
 void PortalKeys::send(const QDBusMessage& message, const QString& path)
 {
-    auto* const watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(message), this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this,
-            [this, watcher, path, member = message.member()] {
-                watcher->deleteLater();
-                if (!watcher->isError())
-                    return;
-                qWarning().noquote() << "[LuPlatform]" << member
-                                     << "of the desktop portal failed:" << watcher->error().message();
-                forget(path);
-            });
+    sendLater(this, m_bus, message, [this, path, member = message.member()](const QDBusMessage& answer) {
+        if (answer.type() == QDBusMessage::ReplyMessage)
+            return;
+        qWarning().noquote() << "[LuPlatform]" << member
+                             << "of the desktop portal failed:" << answer.errorMessage();
+        forget(path);
+    });
 }
 
 void PortalKeys::forget(const QString& path)

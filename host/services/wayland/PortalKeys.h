@@ -23,15 +23,16 @@ class PortalKeys : public QObject, public DesktopEvents
     Q_OBJECT
 
 public:
-    /// Null if the session's portal has no global shortcuts. Waits for the portal's answer, 3 s at most.
-    static std::shared_ptr<PortalKeys> make(const QDBusConnection& sessionBus);
-
+    /// Asks the session's portal, if there is one, whether it has global shortcuts, and does not wait for it.
     explicit PortalKeys(const QDBusConnection& sessionBus);
     ~PortalKeys() override;
 
     void setKeyHandler(KeyHandler handler) override { m_handler = std::move(handler); }
     void setActionKeys(const QSet<QKeyCombination>& keys) override;
     bool hearsEveryKey() const override { return false; }
+    /// False until the portal has said that it has global shortcuts.
+    bool takesActionKeys() const override { return m_offered; }
+    void setAbilityListener(std::function<void()> listener) override { m_listener = std::move(listener); }
     bool seesWindows() const override { return false; }
     void start() override;
     void stop() override;
@@ -49,6 +50,7 @@ private:
     /// Takes the results of a request that was granted.
     using Next = std::function<void(const QVariantMap& results)>;
 
+    void ask();
     QString request(Next next);
     void send(const QDBusMessage& message, const QString& path);
     void forget(const QString& path);
@@ -59,6 +61,8 @@ private:
     QDBusConnection m_bus;
     KeyHandler m_handler;
     bool m_started = false;
+    bool m_offered = false;
+    std::function<void()> m_listener;
     int m_tokens = 0;
     QHash<QString, Next> m_requests;          ///< By the path of the portal's request object.
     QString m_session;                        ///< Path of the portal's session; empty while there is none.

@@ -20,9 +20,9 @@ std::shared_ptr<services::ApplicationWindows> services::wayland::addServices(Ser
     set->events = events;
     if (events)
         return events;
-    set->events = PortalKeys::make(bus);
-    qInfo().noquote() << "[Services] on Wayland there are"
-                      << (set->events ? "global keys of the portal, but" : "no global keys and")
-                      << "no windows of other applications, no pointer at the edge";
+    set->events = std::make_shared<PortalKeys>(bus);
+    qInfo() << "[Services] on Wayland there are no global keys but the portal's, no windows of other "
+               "applications, "
+               "no pointer at the edge";
     return nullptr;
 }

@@ -24,6 +24,7 @@ public:
             [&] { return bool(QDBusConnection::systemBus().interface()->isServiceRegistered(busName)); });
     }
     void stop() { m_process.stop(); }
+    bool pause(bool on) { return m_process.pause(on); }
     QString output() { return m_process.output(); }
 
 private:

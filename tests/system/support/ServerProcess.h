@@ -6,6 +6,7 @@
 #include <QStringList>
 #include <QTest>
 
+#include <csignal>
 #include <functional>
 
 /// A server that a test starts for itself and ends with itself.
@@ -48,6 +49,8 @@ public:
     {
         if (m_process.state() == QProcess::NotRunning)
             return;
+        // One that was left stopped would not see its end.
+        pause(false);
         m_process.terminate();
         if (!m_process.waitForFinished(5000)) {
             m_process.kill();
@@ -56,6 +59,12 @@ public:
     }
 
     qint64 processId() const { return m_process.processId(); }
+
+    /// Stops it as it stands, or lets it go on: what it is asked meanwhile waits.
+    bool pause(bool on)
+    {
+        return isRunning() && ::kill(pid_t(m_process.processId()), on ? SIGSTOP : SIGCONT) == 0;
+    }
 
     bool isRunning() const { return m_process.state() == QProcess::Running; }
 

@@ -2,8 +2,10 @@
 #include "PlasmaSession.h"
 
 #include <QDBusConnection>
+#include <QDBusConnectionInterface>
 #include <QDBusInterface>
 #include <QDBusReply>
+#include <QDir>
 #include <QFile>
 #include <QTest>
 
@@ -35,8 +37,35 @@ QString PlasmaSession::startKWin()
     return problem;
 }
 
+QString PlasmaSession::startKScreen()
+{
+    // What Plasma starts by the bus, with the session's environment.
+    const QStringList places =
+        QDir(QStringLiteral("/usr/lib")).entryList({QStringLiteral("*-linux-gnu*")}, QDir::Dirs);
+    QString launcher;
+    for (const QString& place : places) {
+        for (const QString& folder : {QStringLiteral("libexec/kf5"), QStringLiteral("libexec/kf6")}) {
+            const QString candidate =
+                QStringLiteral("/usr/lib/%1/%2/kscreen_backend_launcher").arg(place, folder);
+            if (QFile::exists(candidate))
+                launcher = candidate;
+        }
+    }
+    if (launcher.isEmpty())
+        return QStringLiteral("KScreen's back end is not installed");
+    m_kscreen.environment = environment();
+    return m_kscreen.start(
+        launcher, {},
+        [] {
+            return bool(QDBusConnection::sessionBus().interface()->isServiceRegistered(
+                QStringLiteral("org.kde.KScreen")));
+        },
+        Patience);
+}
+
 void PlasmaSession::stop()
 {
+    m_kscreen.stop();
     m_server.stop();
     m_bus.stop();
 }

@@ -24,10 +24,13 @@ public:
     QString startBus();
     /// KWin on that bus.
     QString startKWin();
+    /// KScreen on that bus, as a client of KWin.
+    QString startKScreen();
     void stop();
 
     QString folder() const { return m_home.path(); }
     QString socket() const { return folder() + u'/' + KWinServer::display(); }
+    ServerProcess& kscreen() { return m_kscreen; }
     /// For a program that shall be a client of this KWin.
     static QProcessEnvironment environment();
 
@@ -46,6 +49,7 @@ private:
     QTemporaryDir m_home;
     PrivateBus m_bus;
     KWinServer m_server;
+    ServerProcess m_kscreen;
     QStringList m_answers;
     int m_scripts = 0;
 };

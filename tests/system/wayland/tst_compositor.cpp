@@ -2,20 +2,24 @@
 #include <LuShared/LuPlatform.h>
 #include <LuShared/LuPlatformNotifications.h>
 
-#include "KWinServer.h"
-#include "PrivateBus.h"
+#include "OutputWitness.h"
+#include "PlasmaSession.h"
 #include "ddc/Bus.h"
 #include "lushared/services/ServiceRegistry.h"
 #include "panelcore/MonitorLink.h"
+#include "services/api/DesktopEvents.h"
+#include "services/api/DisplayService.h"
 #include "services/wayland/WaylandServices.h"
 
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
-#include <QDir>
+#include <QElapsedTimer>
+#include <QScopeGuard>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 
+#include <algorithm>
 #include <memory>
 
 using namespace Qt::StringLiterals;
@@ -56,18 +60,20 @@ private Q_SLOTS:
     void modeIsSetAgain();
     void unknownModeIsRefused();
     void whatWaylandKeepsIsAbsent();
+    void hangingCompositorStopsNobody();
+    void hangingCompositorDoesNotHoldTheStart();
 
 private:
     QString startMutter();
     QString startKWin();
-    /// The outputs' rectangles touch each other and nothing else.
     void checkNeighbours();
+    /// Who answers for the displays on the bus.
+    ServerProcess& displayServer() { return useKWin ? m_session.kscreen() : m_compositor; }
+    OutputWitness::Output witnessed() { return m_witness.output(0); }
 
-    QTemporaryDir m_home;
-    PrivateBus m_bus;
+    PlasmaSession m_session;
     ServerProcess m_compositor;
-    KWinServer m_kwin;
-    ServerProcess m_kscreen;
+    OutputWitness m_witness;
     QString m_firstName;
     QString m_secondName;
     QSize m_size;
@@ -80,11 +86,15 @@ QString tst_compositor::startMutter()
     m_firstName = u"Meta-0"_s;
     m_secondName = u"Meta-1"_s;
     m_size = QSize(1920, 1080);
-    return m_compositor.start(
+    m_compositor.environment = QProcessEnvironment::systemEnvironment();
+    const QString socket = m_session.folder() + u"/test-wayland"_s;
+    const QString problem = m_compositor.start(
         u"mutter"_s,
-        {u"--headless"_s, u"--wayland"_s, u"--no-x11"_s, u"--virtual-monitor"_s, u"1920x1080"_s,
-         u"--virtual-monitor"_s, u"1280x1024"_s},
-        [] { return isOnBus(u"org.gnome.Mutter.DisplayConfig"_s); }, 60'000);
+        {u"--headless"_s, u"--wayland"_s, u"--no-x11"_s, u"--wayland-display"_s, u"test-wayland"_s,
+         u"--virtual-monitor"_s, u"1920x1080"_s, u"--virtual-monitor"_s, u"1280x1024"_s},
+        [socket] { return isOnBus(u"org.gnome.Mutter.DisplayConfig"_s) && QFile::exists(socket); },
+        2 * Patience);
+    return problem.isEmpty() ? m_witness.open(socket) : problem;
 }
 
 QString tst_compositor::startKWin()
@@ -92,38 +102,16 @@ QString tst_compositor::startKWin()
     m_firstName = u"Virtual-0"_s;
     m_secondName = u"Virtual-1"_s;
     m_size = QSize(1024, 768);
-    const QString problem = m_kwin.start(m_home.path());
-    if (!problem.isEmpty())
-        return problem;
-    // What Plasma starts by the bus, with the session's environment.
-    const QStringList places = QDir(u"/usr/lib"_s).entryList({u"*-linux-gnu*"_s}, QDir::Dirs);
-    QString launcher;
-    for (const QString& place : places) {
-        for (const QString& folder : {u"libexec/kf5"_s, u"libexec/kf6"_s}) {
-            const QString candidate = u"/usr/lib/"_s + place + u'/' + folder + u"/kscreen_backend_launcher"_s;
-            if (QFile::exists(candidate))
-                launcher = candidate;
-        }
-    }
-    if (launcher.isEmpty())
-        return u"KScreen's back end is not installed"_s;
-    m_kscreen.environment.insert(u"WAYLAND_DISPLAY"_s, KWinServer::display());
-    m_kscreen.environment.insert(u"QT_QPA_PLATFORM"_s, u"wayland"_s);
-    return m_kscreen.start(
-        launcher, {}, [] { return isOnBus(u"org.kde.KScreen"_s); }, 60'000);
+    QString problem = m_session.startKWin();
+    if (problem.isEmpty())
+        problem = m_session.startKScreen();
+    return problem.isEmpty() ? m_witness.open(m_session.socket()) : problem;
 }
 
 void tst_compositor::initTestCase()
 {
-    for (const char* const variable : {"HOME", "XDG_RUNTIME_DIR", "XDG_CONFIG_HOME", "XDG_DATA_HOME"})
-        qputenv(variable, m_home.path().toLocal8Bit());
-    qunsetenv("WAYLAND_DISPLAY");
-    qunsetenv("DISPLAY");
-    QString problem = m_bus.start();
+    QString problem = m_session.startBus();
     QVERIFY2(problem.isEmpty(), qPrintable(problem));
-    qputenv("DBUS_SESSION_BUS_ADDRESS", m_bus.address().toUtf8());
-    for (ServerProcess* const server : {&m_compositor, &m_kscreen})
-        server->environment = QProcessEnvironment::systemEnvironment();
     problem = useKWin ? startKWin() : startMutter();
     QVERIFY2(problem.isEmpty(), qPrintable(problem));
     m_first = monitorOn(m_firstName);
@@ -132,22 +120,31 @@ void tst_compositor::initTestCase()
     services::wayland::addServices(&set);
     QVERIFY(set.display);
     services::Registry::install(set);
+    // A busy compositor gives its first answer later.
+    QTRY_VERIFY_WITH_TIMEOUT(set.display->isAvailable(), Patience);
 }
 
 void tst_compositor::cleanupTestCase()
 {
     services::Registry::install({});
-    m_kscreen.stop();
-    m_kwin.stop();
     m_compositor.stop();
+    m_session.stop();
 }
 
+// What programs see: the outputs touch each other and nothing else.
 void tst_compositor::checkNeighbours()
 {
-    const QRect first = LuPlatform::getNativeScreenRect(m_firstName);
-    const QRect second = LuPlatform::getNativeScreenRect(m_secondName);
-    QVERIFY(!first.isEmpty() && !second.isEmpty());
-    QCOMPARE(second.x(), first.x() + first.width());
+    const auto edges = [&] {
+        const QRect first = LuPlatform::getNativeScreenRect(m_firstName);
+        const QRect second = LuPlatform::getNativeScreenRect(m_secondName);
+        const OutputWitness::Output left = m_witness.output(0);
+        const OutputWitness::Output right = m_witness.output(1);
+        const QSize turned = left.degrees % 180 ? left.mode.transposed() : left.mode;
+        return QList<int>{second.x(), right.position.x(), first.x() + first.width(),
+                          left.position.x() + turned.width()};
+    };
+    QTRY_COMPARE_WITH_TIMEOUT(edges(), QList<int>(4, edges().last()), Patience);
+    QVERIFY(edges().last() > 0);
 }
 
 void tst_compositor::outputsAreKnown()
@@ -179,21 +176,30 @@ void tst_compositor::outputTurns()
     QFETCH(int, degrees);
     QSignalSpy changed(LuPlatformNotifications::instance(), &LuPlatformNotifications::screenGeometryChanged);
     LuPlatform::setMonitorPivot(m_first, degrees);
-    QTRY_COMPARE(LuPlatform::getMonitorPivot(m_first), degrees);
-    QTRY_COMPARE(LuPlatform::getMonitorResolution(m_first), degrees % 180 ? m_size.transposed() : m_size);
-    QTRY_VERIFY(changed.count() >= 1);
+    QCOMPARE(LuPlatform::getMonitorPivot(m_first), degrees);
+    QTRY_COMPARE_WITH_TIMEOUT(witnessed().degrees, degrees, Patience);
+    QCOMPARE(witnessed().mode, m_size);
+    QTRY_VERIFY_WITH_TIMEOUT(changed.count() >= 1, Patience);
+    QCOMPARE(LuPlatform::getMonitorPivot(m_first), degrees);
+    QCOMPARE(LuPlatform::getMonitorResolution(m_first), degrees % 180 ? m_size.transposed() : m_size);
     QCOMPARE(LuPlatform::getMonitorPivot(m_second), 0);
     checkNeighbours();
 }
 
 void tst_compositor::outputScales()
 {
+    QSignalSpy changed(LuPlatformNotifications::instance(), &LuPlatformNotifications::screenGeometryChanged);
     QVERIFY(LuPlatform::setMonitorHiDPI(m_first, true));
-    QTRY_COMPARE(LuPlatform::getMonitorDpiScaling(m_first), 200);
+    QTRY_COMPARE_WITH_TIMEOUT(witnessed().scale, 2, Patience);
+    QTRY_VERIFY_WITH_TIMEOUT(!changed.isEmpty(), Patience);
+    QCOMPARE(LuPlatform::getMonitorDpiScaling(m_first), 200);
     QVERIFY(LuPlatform::getMonitorHiDPI(m_first));
     QCOMPARE(LuPlatform::getMonitorResolution(m_first), m_size);
+    changed.clear();
     LuPlatform::setMonitorDpiScaling(m_first, 100);
-    QTRY_COMPARE(LuPlatform::getMonitorDpiScaling(m_first), 100);
+    QTRY_COMPARE_WITH_TIMEOUT(witnessed().scale, 1, Patience);
+    QTRY_VERIFY_WITH_TIMEOUT(!changed.isEmpty(), Patience);
+    QCOMPARE(LuPlatform::getMonitorDpiScaling(m_first), 100);
     LuPlatform::setMonitorDpiScaling(m_first, 1000); // not offered
     QCOMPARE(LuPlatform::getMonitorDpiScaling(m_first), 100);
 }
@@ -202,7 +208,8 @@ void tst_compositor::outputScales()
 void tst_compositor::modeIsSetAgain()
 {
     QVERIFY(LuPlatform::setResolution(m_first, m_size, 60, false, LuPlatform::RequireSameHidpi));
-    QTRY_COMPARE(LuPlatform::getMonitorResolution(m_first), m_size);
+    QCOMPARE(LuPlatform::getMonitorResolution(m_first), m_size);
+    QTRY_COMPARE_WITH_TIMEOUT(witnessed().mode, m_size, Patience);
 }
 
 void tst_compositor::unknownModeIsRefused()
@@ -216,9 +223,71 @@ void tst_compositor::whatWaylandKeepsIsAbsent()
 {
     const services::ServiceSet set = services::Registry::current();
     QVERIFY(!set.windows && !set.clipboardKeys && !set.pointer && !set.kvm);
-    QCOMPARE(bool(set.events), useKWin);
+    QVERIFY(set.events && !set.events->hearsEveryKey());
+    QCOMPARE(set.events->takesActionKeys(), useKWin); // there is no portal
+    QCOMPARE(set.events->seesWindows(), useKWin);
     LuPlatform::simulateCopy();
     LuPlatform::simulatePaste();
+}
+
+// One answer that somebody waited for takes 3 s or, without a limit, the bus's own 25 s.
+constexpr int StallMs = 2000;
+
+void tst_compositor::hangingCompositorStopsNobody()
+{
+    QCOMPARE(witnessed().degrees, 0);
+    QVERIFY(displayServer().pause(true));
+    const auto goOn = qScopeGuard([this] { displayServer().pause(false); });
+    QElapsedTimer since;
+    qint64 longest = 0;
+    int turns = 0;
+    QTimer turn;
+    connect(&turn, &QTimer::timeout, this, [&] {
+        longest = std::max(longest, since.restart());
+        ++turns;
+    });
+    turn.start(10);
+    since.start();
+    LuPlatform::setMonitorPivot(m_first, 90);
+    QVERIFY(LuPlatform::setMonitorHiDPI(m_first, true));
+    QVERIFY(LuPlatform::setResolution(m_first, m_size, 60, false, LuPlatform::RequireSameHidpi));
+    LuPlatform::setMonitorPivot(m_second, 180);
+    // What is on its way counts.
+    QCOMPARE(LuPlatform::getMonitorPivot(m_first), 90);
+    QCOMPARE(LuPlatform::getMonitorDpiScaling(m_first), 200);
+    QCOMPARE(LuPlatform::getMonitorResolution(m_first), m_size.transposed());
+    QVERIFY(!LuPlatform::setResolution(m_first, QSize(123, 45), 60, false, LuPlatform::AnyHidpi));
+    QTRY_VERIFY_WITH_TIMEOUT(turns >= 50, Patience);
+    QVERIFY2(longest < StallMs, qPrintable(u"the event loop stood for %1 ms"_s.arg(longest)));
+    QVERIFY(displayServer().pause(false));
+    QTRY_COMPARE_WITH_TIMEOUT(witnessed().degrees, 90, Patience);
+    QTRY_COMPARE_WITH_TIMEOUT(witnessed().scale, 2, Patience);
+    QTRY_COMPARE_WITH_TIMEOUT(m_witness.output(1).degrees, 180, Patience);
+    LuPlatform::setMonitorPivot(m_first, 0);
+    LuPlatform::setMonitorDpiScaling(m_first, 100);
+    LuPlatform::setMonitorPivot(m_second, 0);
+    QTRY_COMPARE_WITH_TIMEOUT(witnessed().degrees, 0, Patience);
+    QTRY_COMPARE_WITH_TIMEOUT(witnessed().scale, 1, Patience);
+    QTRY_COMPARE_WITH_TIMEOUT(m_witness.output(1).degrees, 0, Patience);
+    QVERIFY2(longest < StallMs, qPrintable(u"the event loop stood for %1 ms"_s.arg(longest)));
+}
+
+void tst_compositor::hangingCompositorDoesNotHoldTheStart()
+{
+    QVERIFY(displayServer().pause(true));
+    const auto goOn = qScopeGuard([this] { displayServer().pause(false); });
+    QElapsedTimer elapsed;
+    elapsed.start();
+    services::ServiceSet set;
+    services::wayland::addServices(&set);
+    QVERIFY2(elapsed.elapsed() < StallMs, qPrintable(u"the start stood for %1 ms"_s.arg(elapsed.elapsed())));
+    QVERIFY(!set.display->isAvailable());
+    QVERIFY(!set.display->resolution(*m_first).isValid());
+    QSignalSpy changed(LuPlatformNotifications::instance(), &LuPlatformNotifications::screenGeometryChanged);
+    QVERIFY(displayServer().pause(false));
+    QTRY_VERIFY_WITH_TIMEOUT(set.display->isAvailable(), Patience);
+    QVERIFY(!changed.isEmpty());
+    QCOMPARE(set.display->resolution(*m_first), m_size);
 }
 
 int main(int argc, char** argv)

@@ -16,12 +16,14 @@ namespace {
 
 struct Session : services::DesktopEvents
 {
-    explicit Session(bool every) : m_every(every) {}
+    Session(bool every, bool takes) : m_every(every), m_takes(takes) {}
     void setKeyHandler(KeyHandler) override {}
     bool hearsEveryKey() const override { return m_every; }
+    bool takesActionKeys() const override { return m_takes; }
     void start() override {}
     void stop() override {}
     const bool m_every;
+    const bool m_takes;
 };
 
 } // namespace
@@ -38,7 +40,7 @@ private Q_SLOTS:
 
 void TestWindowKeys::keysAreRaisedOnceWhereTheSessionIsDeaf_data()
 {
-    QTest::addColumn<int>("session"); // 0 none, 1 hears every key, 2 hears few
+    QTest::addColumn<int>("session"); // 0 none, 1 hears every key, 2 hears few, 3 hears none
     QTest::addColumn<int>("modifiers");
     QTest::addColumn<int>("key");
     QTest::addColumn<bool>("repeated");
@@ -49,6 +51,8 @@ void TestWindowKeys::keysAreRaisedOnceWhereTheSessionIsDeaf_data()
     QTest::newRow("modifier") << 2 << int(Qt::ControlModifier) << int(Qt::Key_Alt) << false
                               << QStringList{u"Ctrl+Alt+"_s};
     QTest::newRow("first modifier") << 2 << 0 << int(Qt::Key_Shift) << false << QStringList{u"Shift+"_s};
+    QTest::newRow("session without keys")
+        << 3 << both << int(Qt::Key_J) << false << QStringList{u"handled"_s, u"Ctrl+Alt+J"_s};
     QTest::newRow("session that hears") << 1 << both << int(Qt::Key_J) << false << QStringList();
     QTest::newRow("session that has gone") << 0 << both << int(Qt::Key_J) << false << QStringList();
 }
@@ -60,10 +64,16 @@ void TestWindowKeys::keysAreRaisedOnceWhereTheSessionIsDeaf()
     QFETCH(int, key);
     QFETCH(bool, repeated);
     QFETCH(QStringList, raised);
-    const auto events = session == 0 ? nullptr : std::make_shared<Session>(session == 1);
-    WindowKeys keys(events, nullptr);
-    qGuiApp->installEventFilter(&keys);
+    const auto events = session == 0 ? nullptr : std::make_shared<Session>(session == 1, session != 3);
     QStringList heard;
+    WindowKeys keys(
+        events,
+        [&](Qt::KeyboardModifiers held, Qt::Key pressed, bool) {
+            heard.append(int(held) == modifiers && int(pressed) == key ? u"handled"_s : u"wrong"_s);
+            return true;
+        },
+        nullptr);
+    qGuiApp->installEventFilter(&keys);
     QObject context;
     connect(LuPlatformNotifications::instance(), &LuPlatformNotifications::activeKeyEvent, &context,
             [&heard](Qt::KeyboardModifiers held, Qt::Key pressed, bool again) {

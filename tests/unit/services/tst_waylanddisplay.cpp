@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <LuShared/LuPlatform.h>
 #include <LuShared/LuPlatformNotifications.h>
+#include <ZrCore/ZrDispatch.h>
 
 #include "TestMonitor.h"
 #include "lushared/services/ServiceRegistry.h"
@@ -9,36 +10,55 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include <atomic>
+#include <functional>
+#include <optional>
+#include <utility>
+
 using namespace Qt::StringLiterals;
 using namespace services::wayland;
 
 namespace {
 
+constexpr int Patience = 60'000;
+
 /// A compositor with two outputs that a test looks into.
 class Compositor : public OutputControl
 {
 public:
-    QList<Output> outputs() const override
+    std::optional<QList<Output>> outputsWithin(int) override
+    {
+        return silent ? std::nullopt : std::optional(all);
+    }
+    void outputs(Answer answer) override
     {
         ++asked;
-        return all;
+        if (hangs)
+            answers.append(std::move(answer));
+        else
+            answer(silent ? std::nullopt : std::optional(all));
     }
-    bool change(const QString& name, const OutputChange& change) override
+    void change(const QString& name, const OutputChange& change, Done done) override
     {
         changes.append(name);
         last = change;
-        if (refuses)
-            return false;
-        for (Output& output : all) {
-            if (output.name != name)
-                continue;
-            output.modeId = change.modeId.value_or(output.modeId);
-            output.degrees = change.degrees.value_or(output.degrees);
-            output.scale = change.scale.value_or(output.scale);
+        if (hangs) {
+            pending.append([this, name, change, done] { finish(name, change, done); });
+            return;
         }
-        return true;
+        finish(name, change, done);
     }
     void setListener(Listener given) override { listener = std::move(given); }
+
+    /// Deals with all that it was asked while it hung.
+    void wakeUp()
+    {
+        hangs = false;
+        for (const auto& each : std::exchange(pending, {}))
+            each();
+        for (const Answer& each : std::exchange(answers, {}))
+            each(all);
+    }
 
     QList<Output> all{{u"DP-1"_s,
                        {{u"a"_s, {3840, 2160}, 60, {1, 1.25, 2, 4.0 / 3}},
@@ -53,8 +73,23 @@ public:
     QList<QString> changes;
     OutputChange last;
     bool refuses = false;
-    mutable int asked = 0;
+    bool idle = false; ///< Takes changes and carries none out.
+    bool hangs = false;
+    bool silent = false;
+    int asked = 0;
     Listener listener;
+    QList<std::function<void()>> pending;
+    QList<Answer> answers;
+
+private:
+    void finish(const QString& name, const OutputChange& change, const Done& done)
+    {
+        for (Output& output : all) {
+            if (output.name == name && !refuses && !idle)
+                output.apply(change);
+        }
+        done(refuses ? u"not today"_s : QString());
+    }
 };
 
 } // namespace
@@ -77,13 +112,22 @@ private Q_SLOTS:
     void hiDpiIsTwice();
     void turnTransposesTheResolution();
     void sameValueChangesNothing();
-    void refusalIsTold();
+    void refusedChangeIsTakenBack();
+    void changeThatIsNotCarriedOutIsTakenBack();
     void changesAreToldOnce();
+    void turnIsNotKept();
+    void hangingCompositorIsNotWaitedFor();
+    void lastWordCounts();
+    void lateFirstAnswerIsTold();
+    void queuesWaitForTheFirstAnswer();
+    void silentCompositorIsAskedAgain();
     void compositorIsAskedOnce();
     void neighboursStayBeside_data();
     void neighboursStayBeside();
 
 private:
+    void install();
+
     std::shared_ptr<Compositor> m_compositor;
     QSharedPointer<MonitorInfo> m_monitor = testMonitor(u"DP-1"_s);
 };
@@ -91,6 +135,11 @@ private:
 void tst_waylanddisplay::init()
 {
     m_compositor = std::make_shared<Compositor>();
+    install();
+}
+
+void tst_waylanddisplay::install()
+{
     services::ServiceSet set;
     set.display = makeDisplay(m_compositor);
     services::Registry::install(set);
@@ -167,16 +216,19 @@ void tst_waylanddisplay::modeIsChosen()
     QFETCH(QString, mode);
     QFETCH(double, newScale);
     m_compositor->all[0].scale = scale;
-    m_compositor->listener();
+    install();
     QCOMPARE(LuPlatform::setResolution(m_monitor, size, rate, true, LuPlatform::HidpiMatchMode(match)),
              !mode.isEmpty());
+    QTRY_COMPARE_WITH_TIMEOUT(m_compositor->changes.size(), mode.isEmpty() ? 0 : 1, Patience);
     QCOMPARE(m_compositor->all[0].modeId, mode.isEmpty() ? u"a"_s : mode);
     QCOMPARE(m_compositor->all[0].scale, newScale);
+    QCOMPARE(LuPlatform::getMonitorDpiScaling(m_monitor), int(newScale * 100));
 }
 
 void tst_waylanddisplay::temporaryModeIsNotKept()
 {
     QVERIFY(LuPlatform::setResolution(m_monitor, {1920, 1080}, 60, false, LuPlatform::AnyHidpi));
+    QTRY_COMPARE_WITH_TIMEOUT(m_compositor->changes.size(), 1, Patience);
     QVERIFY(!m_compositor->last.permanent);
 }
 
@@ -184,30 +236,33 @@ void tst_waylanddisplay::scalingsAreTheModes()
 {
     QCOMPARE(LuPlatform::availableMonitorDpiScalings(m_monitor), QList<int>({100, 125, 133, 200}));
     LuPlatform::setMonitorDpiScaling(m_monitor, 133);
-    QCOMPARE(m_compositor->all[0].scale, 4.0 / 3);
     QCOMPARE(LuPlatform::getMonitorDpiScaling(m_monitor), 133);
+    QTRY_COMPARE_WITH_TIMEOUT(m_compositor->all[0].scale, 4.0 / 3, Patience);
+    QVERIFY(m_compositor->last.permanent);
     LuPlatform::setMonitorDpiScaling(m_monitor, 150); // not offered
-    QCOMPARE(m_compositor->changes.size(), 1);
+    QCOMPARE(LuPlatform::getMonitorDpiScaling(m_monitor), 133);
 }
 
 void tst_waylanddisplay::hiDpiIsTwice()
 {
     QVERIFY(LuPlatform::setMonitorHiDPI(m_monitor, true));
     QVERIFY(LuPlatform::getMonitorHiDPI(m_monitor));
-    QCOMPARE(m_compositor->all[0].scale, 2.0);
+    QTRY_COMPARE_WITH_TIMEOUT(m_compositor->all[0].scale, 2.0, Patience);
     QVERIFY(LuPlatform::setMonitorHiDPI(m_monitor, false));
-    QCOMPARE(m_compositor->all[0].scale, 1.0);
+    QTRY_COMPARE_WITH_TIMEOUT(m_compositor->all[0].scale, 1.0, Patience);
     QVERIFY(LuPlatform::setResolution(m_monitor, {1920, 1080}, 60, true, LuPlatform::AnyHidpi));
     QVERIFY(!LuPlatform::setMonitorHiDPI(m_monitor, true)); // that mode has no such scale
+    QTRY_COMPARE_WITH_TIMEOUT(m_compositor->all[0].modeId, u"c"_s, Patience);
+    QVERIFY(!LuPlatform::setMonitorHiDPI(m_monitor, true));
     QCOMPARE(m_compositor->all[0].scale, 1.0);
 }
 
 void tst_waylanddisplay::turnTransposesTheResolution()
 {
     LuPlatform::setMonitorPivot(m_monitor, 90);
-    QCOMPARE(m_compositor->all[0].degrees, 90);
     QCOMPARE(LuPlatform::getMonitorResolution(m_monitor), QSize(2160, 3840));
     QCOMPARE(LuPlatform::getNativeScreenRect(u"DP-1"_s).size(), QSize(2160, 3840));
+    QTRY_COMPARE_WITH_TIMEOUT(m_compositor->all[0].degrees, 90, Patience);
 }
 
 void tst_waylanddisplay::sameValueChangesNothing()
@@ -218,11 +273,33 @@ void tst_waylanddisplay::sameValueChangesNothing()
     QVERIFY(m_compositor->changes.isEmpty());
 }
 
-void tst_waylanddisplay::refusalIsTold()
+void tst_waylanddisplay::refusedChangeIsTakenBack()
 {
+    QSignalSpy changed(LuPlatformNotifications::instance(), &LuPlatformNotifications::screenGeometryChanged);
     m_compositor->refuses = true;
-    QVERIFY(!LuPlatform::setResolution(m_monitor, {1920, 1080}, 60, true, LuPlatform::AnyHidpi));
-    QVERIFY(!LuPlatform::setMonitorHiDPI(m_monitor, true));
+    QTest::ignoreMessage(QtWarningMsg, "[LuPlatform] the compositor refuses: not today");
+    QVERIFY(LuPlatform::setMonitorHiDPI(m_monitor, true));
+    QTRY_COMPARE_WITH_TIMEOUT(changed.count(), 1, Patience);
+    QVERIFY(!LuPlatform::getMonitorHiDPI(m_monitor));
+    // The same trouble again is no news.
+    LuPlatform::setMonitorPivot(m_monitor, 90);
+    QTRY_COMPARE_WITH_TIMEOUT(changed.count(), 2, Patience);
+    QCOMPARE(LuPlatform::getMonitorPivot(m_monitor), 0);
+    m_compositor->refuses = false;
+    LuPlatform::setMonitorPivot(m_monitor, 90);
+    QTRY_COMPARE_WITH_TIMEOUT(changed.count(), 3, Patience);
+    QCOMPARE(LuPlatform::getMonitorPivot(m_monitor), 90);
+}
+
+void tst_waylanddisplay::changeThatIsNotCarriedOutIsTakenBack()
+{
+    QSignalSpy changed(LuPlatformNotifications::instance(), &LuPlatformNotifications::screenGeometryChanged);
+    m_compositor->idle = true;
+    QTest::ignoreMessage(QtWarningMsg, "[LuPlatform] the compositor did not change DP-1");
+    LuPlatform::setMonitorPivot(m_monitor, 180);
+    QCOMPARE(LuPlatform::getMonitorPivot(m_monitor), 180);
+    QTRY_COMPARE_WITH_TIMEOUT(changed.count(), 1, Patience);
+    QCOMPARE(LuPlatform::getMonitorPivot(m_monitor), 0);
 }
 
 void tst_waylanddisplay::changesAreToldOnce()
@@ -232,11 +309,95 @@ void tst_waylanddisplay::changesAreToldOnce()
     QVERIFY(changed.isEmpty()); // after the call has returned
     m_compositor->listener();
     m_compositor->listener();
-    QTRY_COMPARE(changed.count(), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(changed.count(), 1, Patience);
     m_compositor->listener(); // nothing is different
     const int asked = m_compositor->asked;
-    QTRY_VERIFY(m_compositor->asked > asked);
+    QTRY_VERIFY_WITH_TIMEOUT(m_compositor->asked > asked, Patience);
     QCOMPARE(changed.count(), 1);
+}
+
+void tst_waylanddisplay::turnIsNotKept()
+{
+    LuPlatform::setMonitorPivot(m_monitor, 90);
+    QTRY_COMPARE_WITH_TIMEOUT(m_compositor->changes.size(), 1, Patience);
+    QVERIFY(!m_compositor->last.permanent);
+}
+
+void tst_waylanddisplay::hangingCompositorIsNotWaitedFor()
+{
+    QSignalSpy changed(LuPlatformNotifications::instance(), &LuPlatformNotifications::screenGeometryChanged);
+    m_compositor->hangs = true;
+    LuPlatform::setMonitorPivot(m_monitor, 90);
+    QVERIFY(LuPlatform::setMonitorHiDPI(m_monitor, true));
+    QTRY_COMPARE_WITH_TIMEOUT(m_compositor->pending.size(), 1, Patience);
+    QCOMPARE(LuPlatform::getMonitorPivot(m_monitor), 90);
+    QVERIFY(LuPlatform::getMonitorHiDPI(m_monitor));
+    QCOMPARE(m_compositor->all[0].degrees, 0);
+    QVERIFY(changed.isEmpty());
+    m_compositor->wakeUp();
+    QTRY_COMPARE_WITH_TIMEOUT(m_compositor->all[0].scale, 2.0, Patience);
+    QCOMPARE(m_compositor->all[0].degrees, 90);
+    QTRY_VERIFY_WITH_TIMEOUT(!changed.isEmpty(), Patience);
+}
+
+void tst_waylanddisplay::lastWordCounts()
+{
+    m_compositor->hangs = true;
+    LuPlatform::setMonitorPivot(m_monitor, 90);
+    QTRY_COMPARE_WITH_TIMEOUT(m_compositor->pending.size(), 1, Patience);
+    for (const int degrees : {180, 270, 90, 0})
+        LuPlatform::setMonitorPivot(m_monitor, degrees);
+    LuPlatform::setMonitorDpiScaling(m_monitor, 125);
+    QCOMPARE(LuPlatform::getMonitorPivot(m_monitor), 0);
+    m_compositor->wakeUp();
+    QTRY_COMPARE_WITH_TIMEOUT(m_compositor->changes.size(), 2, Patience);
+    QCOMPARE(m_compositor->last.degrees, 0);
+    QCOMPARE(m_compositor->last.scale, 1.25);
+    QVERIFY(m_compositor->last.permanent); // the scale's is
+    QCOMPARE(m_compositor->all[0].degrees, 0);
+    QCOMPARE(LuPlatform::getMonitorPivot(m_monitor), 0);
+}
+
+void tst_waylanddisplay::lateFirstAnswerIsTold()
+{
+    m_compositor->silent = true;
+    m_compositor->hangs = true;
+    install();
+    QSignalSpy changed(LuPlatformNotifications::instance(), &LuPlatformNotifications::screenGeometryChanged);
+    QCOMPARE(m_compositor->answers.size(), 1);
+    QVERIFY(!LuPlatform::getMonitorResolution(m_monitor).isValid());
+    QVERIFY(!LuPlatform::setMonitorHiDPI(m_monitor, true));
+    m_compositor->wakeUp();
+    QCOMPARE(LuPlatform::getMonitorResolution(m_monitor), QSize(3840, 2160));
+    QCOMPARE(changed.count(), 1);
+}
+
+void tst_waylanddisplay::queuesWaitForTheFirstAnswer()
+{
+    m_compositor->silent = true;
+    m_compositor->hangs = true;
+    m_compositor->all[0].degrees = 270;
+    install();
+    std::atomic_int pivot = -1;
+    ZrDispatch queue(u"test"_s);
+    queue.post(nullptr, [&] { pivot = LuPlatform::getMonitorPivot(m_monitor); });
+    m_compositor->wakeUp();
+    QTRY_COMPARE_WITH_TIMEOUT(pivot.load(), 270, Patience);
+}
+
+void tst_waylanddisplay::silentCompositorIsAskedAgain()
+{
+    QSignalSpy changed(LuPlatformNotifications::instance(), &LuPlatformNotifications::screenGeometryChanged);
+    m_compositor->silent = true;
+    QTest::ignoreMessage(QtWarningMsg, "[LuPlatform] the compositor does not tell its monitors");
+    m_compositor->listener();
+    QTRY_COMPARE_WITH_TIMEOUT(m_compositor->asked, 2, Patience);
+    // What was known still holds.
+    QCOMPARE(LuPlatform::getMonitorResolution(m_monitor), QSize(3840, 2160));
+    m_compositor->silent = false;
+    m_compositor->all[0].degrees = 90;
+    QTRY_COMPARE_WITH_TIMEOUT(changed.count(), 1, Patience);
+    QCOMPARE(LuPlatform::getMonitorPivot(m_monitor), 90);
 }
 
 void tst_waylanddisplay::compositorIsAskedOnce()
@@ -245,9 +406,9 @@ void tst_waylanddisplay::compositorIsAskedOnce()
     for (int i = 0; i < 10; ++i)
         (void)LuPlatform::getMonitorResolution(m_monitor);
     QCOMPARE(m_compositor->asked, asked);
-    m_compositor->listener();
-    (void)LuPlatform::getMonitorResolution(m_monitor);
-    QCOMPARE(m_compositor->asked, asked + 1);
+    for (int i = 0; i < 3; ++i)
+        m_compositor->listener();
+    QTRY_COMPARE_WITH_TIMEOUT(m_compositor->asked, asked + 1, Patience);
 }
 
 void tst_waylanddisplay::neighboursStayBeside_data()

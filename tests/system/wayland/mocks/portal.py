@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: Apache-2.0
 """The global shortcuts of a desktop portal, for python-dbusmock.
 
-Parameters: "refuse" (bool) answers BindShortcuts as a person does who says no. Press() is a key press of the
+Parameters: "version" (int, 1) is that of the interface; "refuse" (bool) answers BindShortcuts as a person does who says no. Press() is a key press of the
 person; Bound() tells what is bound, as "SESSION ID TRIGGER" lines.
 """
 
@@ -20,7 +20,7 @@ SESSION_IFACE = "org.freedesktop.portal.Session"
 def load(mock, parameters):
     mock.refuses = parameters.get("refuse", False)
     mock.bound = {}
-    mock.AddProperties(MAIN_IFACE, {"version": dbus.UInt32(1)})
+    mock.AddProperties(MAIN_IFACE, {"version": dbus.UInt32(parameters.get("version", 1))})
 
 
 def respond(mock, sender, options, code, results):
