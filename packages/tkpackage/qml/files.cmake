@@ -16,6 +16,9 @@ set(TKPACKAGE_QML_FILES
   Popups/LuPopupEcoPrivacyAction.qml
   Popups/LuPopupLowBlueLightAction.qml
   Popups/LuPopupNightHoursProtectionAction.qml
+  Popups/LuPopupVolumeAction.qml
+  Popups/LuPopupVolumeShortcut.qml
+  Popups/StepFeedback.qml
   Settings/Advanced/qmldir
   Widgets/qmldir
   Widgets/inputs/DualViewPage.qml
@@ -63,6 +66,14 @@ set(TKPACKAGE_QML_FILES
   Widgets/picture/ModeBundleHint.qml
   Widgets/picture/NumberChoice.qml
   Widgets/picture/PictureRules.qml
+  Widgets/+osx/LuVolumeWidget.qml
+  Widgets/LuVolumeWidget.qml
+  Widgets/audio/AudioModeChoice.qml
+  Widgets/audio/Equaliser.qml
+  Widgets/audio/MonitorVolume.qml
+  Widgets/audio/OutputChoice.qml
+  Widgets/audio/VolumePage.qml
+  Widgets/audio/VolumeRow.qml
   Widgets/LuPivotWidget.qml
   Widgets/LuShortcutsWidget.qml
   Widgets/automation/ShortcutGroup.qml

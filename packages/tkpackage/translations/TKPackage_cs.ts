@@ -1234,4 +1234,109 @@
         <translation>Ztlumit</translation>
     </message>
 </context>
+<context>
+    <name>LuVolumeWidget</name>
+    <message>
+        <source>Audio</source>
+        <translation>Zvuk</translation>
+    </message>
+    <message>
+        <source>Volume can be adjusted in main page at anytime. You can also expand the menu to choose the audio source.</source>
+        <translation>Hlasitost lze kdykoli upravit na hlavní stránce. Rozbalením nabídky můžete také vybrat zdroj zvuku.</translation>
+    </message>
+    <message>
+        <source>iKeyboard Control</source>
+        <translation>Ovládání iKeyboard</translation>
+    </message>
+    <message>
+        <source>Enable iKeyboard Control to use the F11/F12 volume keys on Mac keyboard to adjust the volume of the selected audio output.</source>
+        <translation>Zapněte ovládání iKeyboard a klávesami hlasitosti F11/F12 na klávesnici Mac upravujte hlasitost vybraného zvukového výstupu.</translation>
+    </message>
+</context>
+<context>
+    <name>AudioModeChoice</name>
+    <message>
+        <source>Audio Mode</source>
+        <translation>Režim zvuku</translation>
+    </message>
+</context>
+<context>
+    <name>Equaliser</name>
+    <message>
+        <source>Equalizer Setting</source>
+        <translation>Nastavení ekvalizéru</translation>
+    </message>
+    <message>
+        <source>RESET</source>
+        <translation>OBNOVIT</translation>
+    </message>
+    <message>
+        <source>+6db</source>
+        <translation>+6db</translation>
+    </message>
+    <message>
+        <source>0db</source>
+        <translation>0db</translation>
+    </message>
+    <message>
+        <source>-6db</source>
+        <translation>-6db</translation>
+    </message>
+</context>
+<context>
+    <name>OutputChoice</name>
+    <message>
+        <source>Output</source>
+        <translation>Výstup</translation>
+    </message>
+    <message>
+        <source>Sound Settings</source>
+        <translation>Nastavení zvuku</translation>
+    </message>
+</context>
+<context>
+    <name>VolumePage</name>
+    <message>
+        <source>Volume</source>
+        <translation>Hlasitost</translation>
+    </message>
+    <message>
+        <source>System's volume</source>
+        <translation>Hlasitost systému</translation>
+    </message>
+    <message>
+        <source>Audio Mode</source>
+        <translation>Režim zvuku</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>Výstup</translation>
+    </message>
+    <message>
+        <source>The volume of this monitor can be set while the system plays through it.</source>
+        <translation>Hlasitost tohoto monitoru lze nastavit, když přes něj systém přehrává.</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupVolumeShortcut</name>
+    <message>
+        <source>Volume</source>
+        <translation>Hlasitost</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupVolumeAction</name>
+    <message>
+        <source>Audio</source>
+        <translation>Zvuk</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Hlasitost</translation>
+    </message>
+    <message>
+        <source>Audio Mode :</source>
+        <translation>Režim zvuku:</translation>
+    </message>
+</context>
 </TS>

@@ -1234,4 +1234,109 @@
         <translation>Stumm</translation>
     </message>
 </context>
+<context>
+    <name>LuVolumeWidget</name>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Volume can be adjusted in main page at anytime. You can also expand the menu to choose the audio source.</source>
+        <translation>Die Lautstärke lässt sich jederzeit auf der Hauptseite einstellen. Im aufgeklappten Menü wählen Sie auch die Audioquelle.</translation>
+    </message>
+    <message>
+        <source>iKeyboard Control</source>
+        <translation>iKeyboard-Steuerung</translation>
+    </message>
+    <message>
+        <source>Enable iKeyboard Control to use the F11/F12 volume keys on Mac keyboard to adjust the volume of the selected audio output.</source>
+        <translation>Mit der iKeyboard-Steuerung regeln die Lautstärketasten F11/F12 der Mac-Tastatur die Lautstärke der gewählten Audioausgabe.</translation>
+    </message>
+</context>
+<context>
+    <name>AudioModeChoice</name>
+    <message>
+        <source>Audio Mode</source>
+        <translation>Audiomodus</translation>
+    </message>
+</context>
+<context>
+    <name>Equaliser</name>
+    <message>
+        <source>Equalizer Setting</source>
+        <translation>Equalizer-Einstellung</translation>
+    </message>
+    <message>
+        <source>RESET</source>
+        <translation>ZURÜCKSETZEN</translation>
+    </message>
+    <message>
+        <source>+6db</source>
+        <translation>+6db</translation>
+    </message>
+    <message>
+        <source>0db</source>
+        <translation>0db</translation>
+    </message>
+    <message>
+        <source>-6db</source>
+        <translation>-6db</translation>
+    </message>
+</context>
+<context>
+    <name>OutputChoice</name>
+    <message>
+        <source>Output</source>
+        <translation>Ausgabe</translation>
+    </message>
+    <message>
+        <source>Sound Settings</source>
+        <translation>Toneinstellungen</translation>
+    </message>
+</context>
+<context>
+    <name>VolumePage</name>
+    <message>
+        <source>Volume</source>
+        <translation>Lautstärke</translation>
+    </message>
+    <message>
+        <source>System's volume</source>
+        <translation>Systemlautstärke</translation>
+    </message>
+    <message>
+        <source>Audio Mode</source>
+        <translation>Audiomodus</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>Ausgabe</translation>
+    </message>
+    <message>
+        <source>The volume of this monitor can be set while the system plays through it.</source>
+        <translation>Die Lautstärke dieses Monitors lässt sich einstellen, solange das System über ihn wiedergibt.</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupVolumeShortcut</name>
+    <message>
+        <source>Volume</source>
+        <translation>Lautstärke</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupVolumeAction</name>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Lautstärke</translation>
+    </message>
+    <message>
+        <source>Audio Mode :</source>
+        <translation>Audiomodus:</translation>
+    </message>
+</context>
 </TS>

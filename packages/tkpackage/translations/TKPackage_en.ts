@@ -1234,4 +1234,109 @@
         <translation>Mute</translation>
     </message>
 </context>
+<context>
+    <name>LuVolumeWidget</name>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Volume can be adjusted in main page at anytime. You can also expand the menu to choose the audio source.</source>
+        <translation>Volume can be adjusted in main page at anytime. You can also expand the menu to choose the audio source.</translation>
+    </message>
+    <message>
+        <source>iKeyboard Control</source>
+        <translation>iKeyboard Control</translation>
+    </message>
+    <message>
+        <source>Enable iKeyboard Control to use the F11/F12 volume keys on Mac keyboard to adjust the volume of the selected audio output.</source>
+        <translation>Enable iKeyboard Control to use the F11/F12 volume keys on Mac keyboard to adjust the volume of the selected audio output.</translation>
+    </message>
+</context>
+<context>
+    <name>AudioModeChoice</name>
+    <message>
+        <source>Audio Mode</source>
+        <translation>Audio Mode</translation>
+    </message>
+</context>
+<context>
+    <name>Equaliser</name>
+    <message>
+        <source>Equalizer Setting</source>
+        <translation>Equalizer Setting</translation>
+    </message>
+    <message>
+        <source>RESET</source>
+        <translation>RESET</translation>
+    </message>
+    <message>
+        <source>+6db</source>
+        <translation>+6db</translation>
+    </message>
+    <message>
+        <source>0db</source>
+        <translation>0db</translation>
+    </message>
+    <message>
+        <source>-6db</source>
+        <translation>-6db</translation>
+    </message>
+</context>
+<context>
+    <name>OutputChoice</name>
+    <message>
+        <source>Output</source>
+        <translation>Output</translation>
+    </message>
+    <message>
+        <source>Sound Settings</source>
+        <translation>Sound Settings</translation>
+    </message>
+</context>
+<context>
+    <name>VolumePage</name>
+    <message>
+        <source>Volume</source>
+        <translation>Volume</translation>
+    </message>
+    <message>
+        <source>System's volume</source>
+        <translation>System's volume</translation>
+    </message>
+    <message>
+        <source>Audio Mode</source>
+        <translation>Audio Mode</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>Output</translation>
+    </message>
+    <message>
+        <source>The volume of this monitor can be set while the system plays through it.</source>
+        <translation>The volume of this monitor can be set while the system plays through it.</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupVolumeShortcut</name>
+    <message>
+        <source>Volume</source>
+        <translation>Volume</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupVolumeAction</name>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volume</translation>
+    </message>
+    <message>
+        <source>Audio Mode :</source>
+        <translation>Audio Mode :</translation>
+    </message>
+</context>
 </TS>

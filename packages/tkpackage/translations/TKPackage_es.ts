@@ -1234,4 +1234,109 @@
         <translation>Silenciar</translation>
     </message>
 </context>
+<context>
+    <name>LuVolumeWidget</name>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Volume can be adjusted in main page at anytime. You can also expand the menu to choose the audio source.</source>
+        <translation>El volumen se puede ajustar en la página principal en cualquier momento. También puede desplegar el menú para elegir la fuente de audio.</translation>
+    </message>
+    <message>
+        <source>iKeyboard Control</source>
+        <translation>Control iKeyboard</translation>
+    </message>
+    <message>
+        <source>Enable iKeyboard Control to use the F11/F12 volume keys on Mac keyboard to adjust the volume of the selected audio output.</source>
+        <translation>Active el control iKeyboard para ajustar con las teclas de volumen F11/F12 del teclado Mac el volumen de la salida de audio elegida.</translation>
+    </message>
+</context>
+<context>
+    <name>AudioModeChoice</name>
+    <message>
+        <source>Audio Mode</source>
+        <translation>Modo de audio</translation>
+    </message>
+</context>
+<context>
+    <name>Equaliser</name>
+    <message>
+        <source>Equalizer Setting</source>
+        <translation>Ajuste del ecualizador</translation>
+    </message>
+    <message>
+        <source>RESET</source>
+        <translation>RESTABLECER</translation>
+    </message>
+    <message>
+        <source>+6db</source>
+        <translation>+6db</translation>
+    </message>
+    <message>
+        <source>0db</source>
+        <translation>0db</translation>
+    </message>
+    <message>
+        <source>-6db</source>
+        <translation>-6db</translation>
+    </message>
+</context>
+<context>
+    <name>OutputChoice</name>
+    <message>
+        <source>Output</source>
+        <translation>Salida</translation>
+    </message>
+    <message>
+        <source>Sound Settings</source>
+        <translation>Ajustes de sonido</translation>
+    </message>
+</context>
+<context>
+    <name>VolumePage</name>
+    <message>
+        <source>Volume</source>
+        <translation>Volumen</translation>
+    </message>
+    <message>
+        <source>System's volume</source>
+        <translation>Volumen del sistema</translation>
+    </message>
+    <message>
+        <source>Audio Mode</source>
+        <translation>Modo de audio</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>Salida</translation>
+    </message>
+    <message>
+        <source>The volume of this monitor can be set while the system plays through it.</source>
+        <translation>El volumen de este monitor se puede ajustar mientras el sistema suena por él.</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupVolumeShortcut</name>
+    <message>
+        <source>Volume</source>
+        <translation>Volumen</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupVolumeAction</name>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volumen</translation>
+    </message>
+    <message>
+        <source>Audio Mode :</source>
+        <translation>Modo de audio:</translation>
+    </message>
+</context>
 </TS>

@@ -1234,4 +1234,109 @@
         <translation>Muet</translation>
     </message>
 </context>
+<context>
+    <name>LuVolumeWidget</name>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Volume can be adjusted in main page at anytime. You can also expand the menu to choose the audio source.</source>
+        <translation>Le volume se règle à tout moment sur la page principale. Vous pouvez aussi déplier le menu pour choisir la source audio.</translation>
+    </message>
+    <message>
+        <source>iKeyboard Control</source>
+        <translation>Contrôle iKeyboard</translation>
+    </message>
+    <message>
+        <source>Enable iKeyboard Control to use the F11/F12 volume keys on Mac keyboard to adjust the volume of the selected audio output.</source>
+        <translation>Activez le contrôle iKeyboard pour régler le volume de la sortie audio choisie avec les touches F11/F12 du clavier Mac.</translation>
+    </message>
+</context>
+<context>
+    <name>AudioModeChoice</name>
+    <message>
+        <source>Audio Mode</source>
+        <translation>Mode audio</translation>
+    </message>
+</context>
+<context>
+    <name>Equaliser</name>
+    <message>
+        <source>Equalizer Setting</source>
+        <translation>Réglage de l’égaliseur</translation>
+    </message>
+    <message>
+        <source>RESET</source>
+        <translation>RÉINITIALISER</translation>
+    </message>
+    <message>
+        <source>+6db</source>
+        <translation>+6db</translation>
+    </message>
+    <message>
+        <source>0db</source>
+        <translation>0db</translation>
+    </message>
+    <message>
+        <source>-6db</source>
+        <translation>-6db</translation>
+    </message>
+</context>
+<context>
+    <name>OutputChoice</name>
+    <message>
+        <source>Output</source>
+        <translation>Sortie</translation>
+    </message>
+    <message>
+        <source>Sound Settings</source>
+        <translation>Réglages du son</translation>
+    </message>
+</context>
+<context>
+    <name>VolumePage</name>
+    <message>
+        <source>Volume</source>
+        <translation>Volume</translation>
+    </message>
+    <message>
+        <source>System's volume</source>
+        <translation>Volume du système</translation>
+    </message>
+    <message>
+        <source>Audio Mode</source>
+        <translation>Mode audio</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>Sortie</translation>
+    </message>
+    <message>
+        <source>The volume of this monitor can be set while the system plays through it.</source>
+        <translation>Le volume de cet écran peut être réglé lorsque le système y joue le son.</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupVolumeShortcut</name>
+    <message>
+        <source>Volume</source>
+        <translation>Volume</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupVolumeAction</name>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volume</translation>
+    </message>
+    <message>
+        <source>Audio Mode :</source>
+        <translation>Mode audio :</translation>
+    </message>
+</context>
 </TS>

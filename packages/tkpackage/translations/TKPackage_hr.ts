@@ -1234,4 +1234,109 @@
         <translation>Utišaj</translation>
     </message>
 </context>
+<context>
+    <name>LuVolumeWidget</name>
+    <message>
+        <source>Audio</source>
+        <translation>Zvuk</translation>
+    </message>
+    <message>
+        <source>Volume can be adjusted in main page at anytime. You can also expand the menu to choose the audio source.</source>
+        <translation>Glasnoća se može namjestiti na glavnoj stranici u svakom trenutku. Proširite izbornik da odaberete izvor zvuka.</translation>
+    </message>
+    <message>
+        <source>iKeyboard Control</source>
+        <translation>Upravljanje iKeyboard</translation>
+    </message>
+    <message>
+        <source>Enable iKeyboard Control to use the F11/F12 volume keys on Mac keyboard to adjust the volume of the selected audio output.</source>
+        <translation>Uključite upravljanje iKeyboard da tipkama F11/F12 na Mac tipkovnici namještate glasnoću odabranog izlaza.</translation>
+    </message>
+</context>
+<context>
+    <name>AudioModeChoice</name>
+    <message>
+        <source>Audio Mode</source>
+        <translation>Način zvuka</translation>
+    </message>
+</context>
+<context>
+    <name>Equaliser</name>
+    <message>
+        <source>Equalizer Setting</source>
+        <translation>Postavke ekvilizatora</translation>
+    </message>
+    <message>
+        <source>RESET</source>
+        <translation>VRATI</translation>
+    </message>
+    <message>
+        <source>+6db</source>
+        <translation>+6db</translation>
+    </message>
+    <message>
+        <source>0db</source>
+        <translation>0db</translation>
+    </message>
+    <message>
+        <source>-6db</source>
+        <translation>-6db</translation>
+    </message>
+</context>
+<context>
+    <name>OutputChoice</name>
+    <message>
+        <source>Output</source>
+        <translation>Izlaz</translation>
+    </message>
+    <message>
+        <source>Sound Settings</source>
+        <translation>Postavke zvuka</translation>
+    </message>
+</context>
+<context>
+    <name>VolumePage</name>
+    <message>
+        <source>Volume</source>
+        <translation>Glasnoća</translation>
+    </message>
+    <message>
+        <source>System's volume</source>
+        <translation>Glasnoća sustava</translation>
+    </message>
+    <message>
+        <source>Audio Mode</source>
+        <translation>Način zvuka</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>Izlaz</translation>
+    </message>
+    <message>
+        <source>The volume of this monitor can be set while the system plays through it.</source>
+        <translation>Glasnoća ovog monitora može se namjestiti dok sustav reproducira preko njega.</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupVolumeShortcut</name>
+    <message>
+        <source>Volume</source>
+        <translation>Glasnoća</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupVolumeAction</name>
+    <message>
+        <source>Audio</source>
+        <translation>Zvuk</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Glasnoća</translation>
+    </message>
+    <message>
+        <source>Audio Mode :</source>
+        <translation>Način zvuka:</translation>
+    </message>
+</context>
 </TS>

@@ -1234,4 +1234,109 @@
         <translation>Némítás</translation>
     </message>
 </context>
+<context>
+    <name>LuVolumeWidget</name>
+    <message>
+        <source>Audio</source>
+        <translation>Hang</translation>
+    </message>
+    <message>
+        <source>Volume can be adjusted in main page at anytime. You can also expand the menu to choose the audio source.</source>
+        <translation>A hangerő bármikor állítható a főoldalon. A menüt kinyitva a hangforrás is kiválasztható.</translation>
+    </message>
+    <message>
+        <source>iKeyboard Control</source>
+        <translation>iKeyboard-vezérlés</translation>
+    </message>
+    <message>
+        <source>Enable iKeyboard Control to use the F11/F12 volume keys on Mac keyboard to adjust the volume of the selected audio output.</source>
+        <translation>Az iKeyboard-vezérléssel a Mac billentyűzet F11/F12 hangerőgombjai a kiválasztott kimenet hangerejét állítják.</translation>
+    </message>
+</context>
+<context>
+    <name>AudioModeChoice</name>
+    <message>
+        <source>Audio Mode</source>
+        <translation>Hangmód</translation>
+    </message>
+</context>
+<context>
+    <name>Equaliser</name>
+    <message>
+        <source>Equalizer Setting</source>
+        <translation>Hangszínszabályzó</translation>
+    </message>
+    <message>
+        <source>RESET</source>
+        <translation>ALAPHELYZET</translation>
+    </message>
+    <message>
+        <source>+6db</source>
+        <translation>+6db</translation>
+    </message>
+    <message>
+        <source>0db</source>
+        <translation>0db</translation>
+    </message>
+    <message>
+        <source>-6db</source>
+        <translation>-6db</translation>
+    </message>
+</context>
+<context>
+    <name>OutputChoice</name>
+    <message>
+        <source>Output</source>
+        <translation>Kimenet</translation>
+    </message>
+    <message>
+        <source>Sound Settings</source>
+        <translation>Hangbeállítások</translation>
+    </message>
+</context>
+<context>
+    <name>VolumePage</name>
+    <message>
+        <source>Volume</source>
+        <translation>Hangerő</translation>
+    </message>
+    <message>
+        <source>System's volume</source>
+        <translation>Rendszer hangereje</translation>
+    </message>
+    <message>
+        <source>Audio Mode</source>
+        <translation>Hangmód</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>Kimenet</translation>
+    </message>
+    <message>
+        <source>The volume of this monitor can be set while the system plays through it.</source>
+        <translation>A monitor hangereje akkor állítható, amikor a rendszer ezen szól.</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupVolumeShortcut</name>
+    <message>
+        <source>Volume</source>
+        <translation>Hangerő</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupVolumeAction</name>
+    <message>
+        <source>Audio</source>
+        <translation>Hang</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Hangerő</translation>
+    </message>
+    <message>
+        <source>Audio Mode :</source>
+        <translation>Hangmód:</translation>
+    </message>
+</context>
 </TS>

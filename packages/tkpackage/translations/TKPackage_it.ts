@@ -1234,4 +1234,109 @@
         <translation>Disattiva audio</translation>
     </message>
 </context>
+<context>
+    <name>LuVolumeWidget</name>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Volume can be adjusted in main page at anytime. You can also expand the menu to choose the audio source.</source>
+        <translation>Il volume si può regolare in qualsiasi momento nella pagina principale. Espandendo il menu si sceglie anche la sorgente audio.</translation>
+    </message>
+    <message>
+        <source>iKeyboard Control</source>
+        <translation>Controllo iKeyboard</translation>
+    </message>
+    <message>
+        <source>Enable iKeyboard Control to use the F11/F12 volume keys on Mac keyboard to adjust the volume of the selected audio output.</source>
+        <translation>Attiva il controllo iKeyboard per regolare con i tasti volume F11/F12 della tastiera Mac il volume dell’uscita audio scelta.</translation>
+    </message>
+</context>
+<context>
+    <name>AudioModeChoice</name>
+    <message>
+        <source>Audio Mode</source>
+        <translation>Modalità audio</translation>
+    </message>
+</context>
+<context>
+    <name>Equaliser</name>
+    <message>
+        <source>Equalizer Setting</source>
+        <translation>Impostazione equalizzatore</translation>
+    </message>
+    <message>
+        <source>RESET</source>
+        <translation>RIPRISTINA</translation>
+    </message>
+    <message>
+        <source>+6db</source>
+        <translation>+6db</translation>
+    </message>
+    <message>
+        <source>0db</source>
+        <translation>0db</translation>
+    </message>
+    <message>
+        <source>-6db</source>
+        <translation>-6db</translation>
+    </message>
+</context>
+<context>
+    <name>OutputChoice</name>
+    <message>
+        <source>Output</source>
+        <translation>Uscita</translation>
+    </message>
+    <message>
+        <source>Sound Settings</source>
+        <translation>Impostazioni audio</translation>
+    </message>
+</context>
+<context>
+    <name>VolumePage</name>
+    <message>
+        <source>Volume</source>
+        <translation>Volume</translation>
+    </message>
+    <message>
+        <source>System's volume</source>
+        <translation>Volume di sistema</translation>
+    </message>
+    <message>
+        <source>Audio Mode</source>
+        <translation>Modalità audio</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>Uscita</translation>
+    </message>
+    <message>
+        <source>The volume of this monitor can be set while the system plays through it.</source>
+        <translation>Il volume di questo monitor si può regolare mentre il sistema riproduce tramite esso.</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupVolumeShortcut</name>
+    <message>
+        <source>Volume</source>
+        <translation>Volume</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupVolumeAction</name>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volume</translation>
+    </message>
+    <message>
+        <source>Audio Mode :</source>
+        <translation>Modalità audio:</translation>
+    </message>
+</context>
 </TS>

@@ -1234,4 +1234,109 @@
         <translation>Wycisz</translation>
     </message>
 </context>
+<context>
+    <name>LuVolumeWidget</name>
+    <message>
+        <source>Audio</source>
+        <translation>Dźwięk</translation>
+    </message>
+    <message>
+        <source>Volume can be adjusted in main page at anytime. You can also expand the menu to choose the audio source.</source>
+        <translation>Głośność można w każdej chwili zmienić na stronie głównej. Po rozwinięciu menu można też wybrać źródło dźwięku.</translation>
+    </message>
+    <message>
+        <source>iKeyboard Control</source>
+        <translation>Sterowanie iKeyboard</translation>
+    </message>
+    <message>
+        <source>Enable iKeyboard Control to use the F11/F12 volume keys on Mac keyboard to adjust the volume of the selected audio output.</source>
+        <translation>Włącz sterowanie iKeyboard, aby klawiszami głośności F11/F12 klawiatury Mac regulować głośność wybranego wyjścia.</translation>
+    </message>
+</context>
+<context>
+    <name>AudioModeChoice</name>
+    <message>
+        <source>Audio Mode</source>
+        <translation>Tryb dźwięku</translation>
+    </message>
+</context>
+<context>
+    <name>Equaliser</name>
+    <message>
+        <source>Equalizer Setting</source>
+        <translation>Ustawienia korektora</translation>
+    </message>
+    <message>
+        <source>RESET</source>
+        <translation>RESETUJ</translation>
+    </message>
+    <message>
+        <source>+6db</source>
+        <translation>+6db</translation>
+    </message>
+    <message>
+        <source>0db</source>
+        <translation>0db</translation>
+    </message>
+    <message>
+        <source>-6db</source>
+        <translation>-6db</translation>
+    </message>
+</context>
+<context>
+    <name>OutputChoice</name>
+    <message>
+        <source>Output</source>
+        <translation>Wyjście</translation>
+    </message>
+    <message>
+        <source>Sound Settings</source>
+        <translation>Ustawienia dźwięku</translation>
+    </message>
+</context>
+<context>
+    <name>VolumePage</name>
+    <message>
+        <source>Volume</source>
+        <translation>Głośność</translation>
+    </message>
+    <message>
+        <source>System's volume</source>
+        <translation>Głośność systemu</translation>
+    </message>
+    <message>
+        <source>Audio Mode</source>
+        <translation>Tryb dźwięku</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>Wyjście</translation>
+    </message>
+    <message>
+        <source>The volume of this monitor can be set while the system plays through it.</source>
+        <translation>Głośność tego monitora można ustawić, gdy system odtwarza przez niego dźwięk.</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupVolumeShortcut</name>
+    <message>
+        <source>Volume</source>
+        <translation>Głośność</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupVolumeAction</name>
+    <message>
+        <source>Audio</source>
+        <translation>Dźwięk</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Głośność</translation>
+    </message>
+    <message>
+        <source>Audio Mode :</source>
+        <translation>Tryb dźwięku:</translation>
+    </message>
+</context>
 </TS>

@@ -1234,4 +1234,109 @@
         <translation>Fără sunet</translation>
     </message>
 </context>
+<context>
+    <name>LuVolumeWidget</name>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Volume can be adjusted in main page at anytime. You can also expand the menu to choose the audio source.</source>
+        <translation>Volumul se poate regla oricând în pagina principală. Puteți extinde meniul și pentru a alege sursa audio.</translation>
+    </message>
+    <message>
+        <source>iKeyboard Control</source>
+        <translation>Control iKeyboard</translation>
+    </message>
+    <message>
+        <source>Enable iKeyboard Control to use the F11/F12 volume keys on Mac keyboard to adjust the volume of the selected audio output.</source>
+        <translation>Activați controlul iKeyboard pentru a regla cu tastele F11/F12 ale tastaturii Mac volumul ieșirii audio alese.</translation>
+    </message>
+</context>
+<context>
+    <name>AudioModeChoice</name>
+    <message>
+        <source>Audio Mode</source>
+        <translation>Mod audio</translation>
+    </message>
+</context>
+<context>
+    <name>Equaliser</name>
+    <message>
+        <source>Equalizer Setting</source>
+        <translation>Setarea egalizatorului</translation>
+    </message>
+    <message>
+        <source>RESET</source>
+        <translation>RESETARE</translation>
+    </message>
+    <message>
+        <source>+6db</source>
+        <translation>+6db</translation>
+    </message>
+    <message>
+        <source>0db</source>
+        <translation>0db</translation>
+    </message>
+    <message>
+        <source>-6db</source>
+        <translation>-6db</translation>
+    </message>
+</context>
+<context>
+    <name>OutputChoice</name>
+    <message>
+        <source>Output</source>
+        <translation>Ieșire</translation>
+    </message>
+    <message>
+        <source>Sound Settings</source>
+        <translation>Setări de sunet</translation>
+    </message>
+</context>
+<context>
+    <name>VolumePage</name>
+    <message>
+        <source>Volume</source>
+        <translation>Volum</translation>
+    </message>
+    <message>
+        <source>System's volume</source>
+        <translation>Volumul sistemului</translation>
+    </message>
+    <message>
+        <source>Audio Mode</source>
+        <translation>Mod audio</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>Ieșire</translation>
+    </message>
+    <message>
+        <source>The volume of this monitor can be set while the system plays through it.</source>
+        <translation>Volumul acestui monitor se poate regla cât timp sistemul redă prin el.</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupVolumeShortcut</name>
+    <message>
+        <source>Volume</source>
+        <translation>Volum</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupVolumeAction</name>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volum</translation>
+    </message>
+    <message>
+        <source>Audio Mode :</source>
+        <translation>Mod audio:</translation>
+    </message>
+</context>
 </TS>

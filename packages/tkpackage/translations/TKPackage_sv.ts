@@ -1234,4 +1234,109 @@
         <translation>Tyst</translation>
     </message>
 </context>
+<context>
+    <name>LuVolumeWidget</name>
+    <message>
+        <source>Audio</source>
+        <translation>Ljud</translation>
+    </message>
+    <message>
+        <source>Volume can be adjusted in main page at anytime. You can also expand the menu to choose the audio source.</source>
+        <translation>Volymen kan när som helst justeras på huvudsidan. Fäll ut menyn för att även välja ljudkälla.</translation>
+    </message>
+    <message>
+        <source>iKeyboard Control</source>
+        <translation>iKeyboard-styrning</translation>
+    </message>
+    <message>
+        <source>Enable iKeyboard Control to use the F11/F12 volume keys on Mac keyboard to adjust the volume of the selected audio output.</source>
+        <translation>Slå på iKeyboard-styrning för att justera den valda ljudutgångens volym med volymtangenterna F11/F12 på Mac-tangentbordet.</translation>
+    </message>
+</context>
+<context>
+    <name>AudioModeChoice</name>
+    <message>
+        <source>Audio Mode</source>
+        <translation>Ljudläge</translation>
+    </message>
+</context>
+<context>
+    <name>Equaliser</name>
+    <message>
+        <source>Equalizer Setting</source>
+        <translation>Equalizerinställning</translation>
+    </message>
+    <message>
+        <source>RESET</source>
+        <translation>ÅTERSTÄLL</translation>
+    </message>
+    <message>
+        <source>+6db</source>
+        <translation>+6db</translation>
+    </message>
+    <message>
+        <source>0db</source>
+        <translation>0db</translation>
+    </message>
+    <message>
+        <source>-6db</source>
+        <translation>-6db</translation>
+    </message>
+</context>
+<context>
+    <name>OutputChoice</name>
+    <message>
+        <source>Output</source>
+        <translation>Utgång</translation>
+    </message>
+    <message>
+        <source>Sound Settings</source>
+        <translation>Ljudinställningar</translation>
+    </message>
+</context>
+<context>
+    <name>VolumePage</name>
+    <message>
+        <source>Volume</source>
+        <translation>Volym</translation>
+    </message>
+    <message>
+        <source>System's volume</source>
+        <translation>Systemets volym</translation>
+    </message>
+    <message>
+        <source>Audio Mode</source>
+        <translation>Ljudläge</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>Utgång</translation>
+    </message>
+    <message>
+        <source>The volume of this monitor can be set while the system plays through it.</source>
+        <translation>Bildskärmens volym kan ställas in medan systemet spelar upp genom den.</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupVolumeShortcut</name>
+    <message>
+        <source>Volume</source>
+        <translation>Volym</translation>
+    </message>
+</context>
+<context>
+    <name>LuPopupVolumeAction</name>
+    <message>
+        <source>Audio</source>
+        <translation>Ljud</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volym</translation>
+    </message>
+    <message>
+        <source>Audio Mode :</source>
+        <translation>Ljudläge:</translation>
+    </message>
+</context>
 </TS>

@@ -15,7 +15,7 @@ T.Slider {
     property real confirmedValue: NaN
     property string text
     property color color: LuStyle.accent
-    // Where the filled part begins on a lying slider: the start of the line, or a middle between two sides.
+    // Where the filled part begins: the start of the line, or a middle between two sides.
     property real origin: from
     // Milliseconds for each step while the monitor itself moves the value; 0 jumps.
     property int glideInterval: 0
@@ -135,9 +135,10 @@ T.Slider {
                                                             : control.handle.y + control.handle.height / 2
         readonly property real originAt: {
             if (control.origin === control.from)
-                return control.mirrored ? width : 0
+                return !control.horizontal ? height : control.mirrored ? width : 0
             const part = (control.origin - control.from) / (control.to - control.from)
-            return 8 + (width - 16) * (control.mirrored ? 1 - part : part)
+            const fromStart = control.horizontal && !control.mirrored
+            return 8 + ((control.horizontal ? width : height) - 16) * (fromStart ? part : 1 - part)
         }
         readonly property real confirmedPosition: (control.confirmedValue - control.from) / (control.to - control.from)
         readonly property real confirmedAt: {
@@ -159,9 +160,9 @@ T.Slider {
         }
         Rectangle {
             x: !control.horizontal ? (groove.width - width) / 2 : Math.min(groove.originAt, groove.handleAt)
-            y: control.horizontal ? (groove.height - height) / 2 : groove.handleAt
+            y: control.horizontal ? (groove.height - height) / 2 : Math.min(groove.originAt, groove.handleAt)
             width: !control.horizontal ? 4 : Math.abs(groove.handleAt - groove.originAt)
-            height: control.horizontal ? 4 : groove.height - groove.handleAt
+            height: control.horizontal ? 4 : Math.abs(groove.handleAt - groove.originAt)
             radius: 2
             color: control.color
         }

@@ -4,8 +4,8 @@ import LumenDesk.Widgets
 
 // The editor of one action of a flow or an application mode.
 //
-// recordProps() is called before the user changes anything, restoreProps() when the editor is left, since it previews
-// live; both are the editor's own. accepted() carries the module and what the action stores.
+// It previews live: it opens with what a stored action holds, its controls write the module's properties, and leaving it
+// brings back what the module held before. accepted() carries the module and what the action stores.
 LuSelectionWindow {
     id: editor
 
@@ -19,16 +19,34 @@ LuSelectionWindow {
     property int actionTitle: 0
     // What a stored action holds; empty for a new one.
     property var storedProperties: ({})
+    // Names of the module's properties that the action stores.
+    property var storedNames: []
+    // Names of all that the preview changes, in the order in which they come back.
+    property var previewedNames: storedNames
+    property var recorded: ({})
     signal accepted(var module, var properties)
 
-    function recordProps(): void { }
-    function restoreProps(): void { }
-    // The properties to store; editors redefine it.
+    // Remembers what the preview will change.
+    function recordProps(): void {
+        const values = {}
+        if (module)
+            previewedNames.forEach(name => values[name] = module[name])
+        recorded = values
+    }
+    function restoreProps(): void {
+        if (module)
+            previewedNames.forEach(name => module[name] = recorded[name])
+    }
+    // Lets the monitor show what a stored action holds.
+    function applyStored(): void {
+        if (module)
+            storedNames.filter(name => actionProperty(name) !== undefined).forEach(name => module[name] = actionProperty(name))
+    }
+    // The properties to store: editors take them from their controls, since what these show may still be on its way to
+    // the monitor.
     function collectProps(): var {
         return {}
     }
-    // What the editor shows of a stored action; editors redefine it.
-    function applyStored(): void { }
 
     // A stored value, or undefined.
     function actionProperty(name: string): var {

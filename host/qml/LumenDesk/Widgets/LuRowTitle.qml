@@ -12,12 +12,14 @@ T.AbstractButton {
     property string iconName
     property string description
     property bool strong: false
+    // False: the glyph stands alone, and the text names it to assistive software.
+    property bool labelVisible: true
     readonly property real glyphRoom: glyph.visible ? glyph.width + head.spacing : 0
     readonly property bool opens: widget.page !== null || widget.popupWindow !== null
 
     objectName: widget.widgetName + ".button"
     // From the whole of the words, whatever room they have now: the room may depend on it.
-    implicitWidth: glyphRoom + words.implicitWidth + 2 * LuStyle.spaceHalf
+    implicitWidth: (labelVisible ? glyphRoom + words.implicitWidth : glyph.width) + 2 * LuStyle.spaceHalf
     implicitHeight: LuStyle.controlHeight
     hoverEnabled: opens
     focusPolicy: opens ? Qt.StrongFocus : Qt.NoFocus
@@ -59,6 +61,7 @@ T.AbstractButton {
             }
             LuLabel {
                 id: words
+                visible: title.labelVisible
                 anchors.verticalCenter: parent.verticalCenter
                 width: Math.min(implicitWidth, Math.max(0, title.width - 2 * LuStyle.spaceHalf - title.glyphRoom))
                 kind: title.strong ? LuLabel.Strong : LuLabel.Body

@@ -11,22 +11,12 @@ LuPopupAction {
     id: _self
 
     readonly property var abSetting: monitor?.abSetting ?? null
-    property bool recordedState: false
 
     module: abSetting
     title: qsTr("A.B. Gen2")
+    storedNames: ["currentAB"]
 
-    function recordProps(): void {
-        recordedState = abSetting.currentAB
-        const state = actionProperty("currentAB")
-        if (state !== undefined)
-            abSetting.currentAB = state
-    }
-    function restoreProps(): void {
-        abSetting.currentAB = recordedState
-    }
     function collectProps(): var {
-        // The control, since what it shows may still be on its way to the monitor.
         return { "currentAB": _switch.checked }
     }
 

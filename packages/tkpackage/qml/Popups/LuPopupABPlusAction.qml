@@ -11,22 +11,12 @@ LuPopupAction {
     id: _self
 
     readonly property var abPlus: monitor?.abPlus ?? null
-    property bool recordedState: false
 
     module: abPlus
     title: abPlus?.displayNameType === LuABPlus.NameVisualOptimizer ? qsTr("Visual Optimizer") : qsTr("A.B.+ Gen2")
+    storedNames: ["state"]
 
-    function recordProps(): void {
-        recordedState = abPlus.state
-        const state = actionProperty("state")
-        if (state !== undefined)
-            abPlus.state = state
-    }
-    function restoreProps(): void {
-        abPlus.state = recordedState
-    }
     function collectProps(): var {
-        // The control, since what it shows may still be on its way to the monitor.
         return { "state": _switch.checked }
     }
 

@@ -12,22 +12,12 @@ LuPopupAction {
     id: _self
 
     readonly property var backLight: monitor?.backLight ?? null
-    property int recordedState: LuBackLight.Off
 
     module: backLight
     title: qsTr("BackGlow")
+    storedNames: ["state"]
 
-    function recordProps(): void {
-        recordedState = backLight.state
-        const state = actionProperty("state")
-        if (state !== undefined)
-            backLight.state = state
-    }
-    function restoreProps(): void {
-        backLight.state = recordedState
-    }
     function collectProps(): var {
-        // The control, since what it shows may still be on its way to the monitor.
         return { "state": _choice.chosen }
     }
 

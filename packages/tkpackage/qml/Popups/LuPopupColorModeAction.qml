@@ -10,20 +10,11 @@ LuPopupAction {
     id: _self
 
     readonly property var brightness: monitor?.brightness ?? null
-    property string recordedMode
 
     module: brightness
     title: qsTr("Color Mode")
+    storedNames: ["colorModeName"]
 
-    function recordProps(): void {
-        recordedMode = brightness.colorModeName
-        const name = actionProperty("colorModeName")
-        if (name !== undefined)
-            brightness.colorModeName = name
-    }
-    function restoreProps(): void {
-        brightness.colorModeName = recordedMode
-    }
     function collectProps(): var {
         // What was chosen last counts, also while the monitor is still on its way there.
         return { "colorModeName": _modes.model[_modes.currentIndex]?.displayName ?? brightness.colorModeName }

@@ -13,22 +13,12 @@ LuPopupAction {
 
     readonly property var ecoPrivacy: monitor?.ecoPrivacy ?? null
     readonly property EcoPrivacyTexts words: EcoPrivacyTexts { }
-    property bool recordedState: false
 
     module: ecoPrivacy
     title: qsTr("EcoPrivacy")
+    storedNames: ["state"]
 
-    function recordProps(): void {
-        recordedState = ecoPrivacy.state
-        const state = actionProperty("state")
-        if (state !== undefined)
-            ecoPrivacy.state = state
-    }
-    function restoreProps(): void {
-        ecoPrivacy.state = recordedState
-    }
     function collectProps(): var {
-        // The control, since what it shows may still be on its way to the monitor.
         return { "state": _switch.checked }
     }
 

@@ -12,26 +12,12 @@ LuPopupAction {
     id: _self
 
     readonly property var lowBlueLight: monitor?.lowBlueLight ?? null
-    property var recorded: ({})
 
     module: lowBlueLight
     title: lowBlueLight?.type === LuLowBlueLight.LowBlueLightPlus ? qsTr("Low Blue Light Plus") : qsTr("Low Blue Light")
+    storedNames: ["level", "circadianState"]
 
-    function recordProps(): void {
-        recorded = collectProps()
-        const level = actionProperty("level")
-        if (level !== undefined)
-            lowBlueLight.level = level
-        const circadian = actionProperty("circadianState")
-        if (circadian !== undefined)
-            lowBlueLight.circadianState = circadian
-    }
-    function restoreProps(): void {
-        lowBlueLight.level = recorded.level
-        lowBlueLight.circadianState = recorded.circadianState
-    }
     function collectProps(): var {
-        // The controls, since what they show may still be on its way to the monitor.
         return { "level": Math.round(_level.value), "circadianState": _circadian.checked }
     }
 

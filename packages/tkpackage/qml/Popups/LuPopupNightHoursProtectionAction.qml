@@ -11,20 +11,11 @@ LuPopupAction {
     id: _self
 
     readonly property var nightProtection: monitor?.nightProtection ?? null
-    property int recordedState: LuNightProtection.Off
 
     module: nightProtection
     title: qsTr("Night Hours Protection")
+    storedNames: ["state"]
 
-    function recordProps(): void {
-        recordedState = nightProtection.state
-        const state = actionProperty("state")
-        if (state !== undefined)
-            nightProtection.state = state
-    }
-    function restoreProps(): void {
-        nightProtection.state = recordedState
-    }
     function collectProps(): var {
         return { "state": _choice.chosen }
     }

@@ -28,21 +28,44 @@ LuBasicWidget {
 
     // Tells on the monitor how far a step has gone. It has no parent: a window below one that is hidden stays hidden, too.
     property LuPopupBrightnessShortcut brightnessFeedback: null
-    Component.onDestruction: brightnessFeedback?.destroy()
+    property LuPopupVolumeShortcut volumeFeedback: null
+    Component.onDestruction: {
+        brightnessFeedback?.destroy()
+        volumeFeedback?.destroy()
+    }
     Component {
         id: _brightnessFeedback
         LuPopupBrightnessShortcut {
             monitor: _self.monitor
         }
     }
+    Component {
+        id: _volumeFeedback
+        LuPopupVolumeShortcut {
+            monitor: _self.monitor
+        }
+    }
     Connections {
         target: _self.inMainWindow ? _self.shortcuts : null
         function onShortcutUsed(name: int): void {
-            if (name !== LuShortcutAction.Brightness_Decrease && name !== LuShortcutAction.Brightness_Increase)
-                return
-            if (!_self.brightnessFeedback)
-                _self.brightnessFeedback = _brightnessFeedback.createObject(null)
-            _self.brightnessFeedback.open()
+            switch (name) {
+            case LuShortcutAction.Brightness_Decrease:
+            case LuShortcutAction.Brightness_Increase:
+                _self.volumeFeedback?.close()
+                _self.brightnessFeedback = _self.brightnessFeedback ?? _brightnessFeedback.createObject(null)
+                _self.brightnessFeedback.open()
+                break
+            case LuShortcutAction.Volume_Decrease:
+            case LuShortcutAction.Volume_Increase:
+            case LuShortcutAction.Volume_Mute:
+                // The keys do nothing while the system plays elsewhere.
+                if (!_self.monitor?.volume?.isCurrentAudioOutput)
+                    break
+                _self.brightnessFeedback?.close()
+                _self.volumeFeedback = _self.volumeFeedback ?? _volumeFeedback.createObject(null)
+                _self.volumeFeedback.open()
+                break
+            }
         }
     }
 
