@@ -18,7 +18,6 @@ set(TKPACKAGE_QML_FILES
   Popups/LuPopupNightHoursProtectionAction.qml
   Popups/LuPopupVolumeAction.qml
   Popups/LuPopupVolumeShortcut.qml
-  Popups/StepFeedback.qml
   Settings/Advanced/qmldir
   Widgets/qmldir
   Widgets/inputs/DualViewPage.qml
@@ -77,4 +76,5 @@ set(TKPACKAGE_QML_FILES
   Widgets/LuPivotWidget.qml
   Widgets/LuShortcutsWidget.qml
   Widgets/automation/ShortcutGroup.qml
-  Widgets/automation/ShortcutRows.qml)
+  Widgets/automation/ShortcutRows.qml
+  Widgets/automation/StepFeedback.qml)

@@ -1,109 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "SimulatedBed.h"
+#include "flow_editor.h"
 
-#include <qml/LumenQml.h>
-
-#include <QJSValue>
-#include <QQmlComponent>
-#include <QQmlEngine>
-#include <QQuickItem>
-#include <QQuickWindow>
-#include <QSignalSpy>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-QStringList warnings;
-QtMessageHandler previousHandler = nullptr;
-
-void keepQmlWarnings(QtMsgType type, const QMessageLogContext& context, const QString& text)
-{
-    if (type == QtWarningMsg && text.contains(u".qml"_s))
-        warnings.append(text);
-    if (previousHandler)
-        previousHandler(type, context, text);
-}
-
-QVariant plain(const QVariant& value)
-{
-    return value.canConvert<QJSValue>() ? value.value<QJSValue>().toVariant() : value;
-}
-
-/// An editor of a flow action over a simulated monitor.
-class Editor
-{
-public:
-    Editor(SimulatedBed& bed, const QString& name, const QVariantMap& stored)
-    {
-        lumenQmlInit(&m_engine, {u"TKPackage"_s});
-        m_window.resize(340, 600);
-        m_window.show();
-        QQmlComponent component(&m_engine, QUrl(u"qrc:///TKPackage/qml/TKPackage/Popups/%1.qml"_s.arg(name)));
-        m_item.reset(qobject_cast<QQuickItem*>(component.createWithInitialProperties(
-            {{u"monitor"_s, QVariant::fromValue<QObject*>(&bed.model())},
-             {u"storedProperties"_s, stored},
-             {u"parent"_s, QVariant::fromValue(m_window.contentItem())}})));
-        if (!m_item)
-            qFatal("%s", qPrintable(component.errorString()));
-        m_accepted = std::make_unique<QSignalSpy>(m_item.get(), SIGNAL(accepted(QVariant, QVariant)));
-        QMetaObject::invokeMethod(m_item.get(), "open");
-    }
-
-    /// Presses the control of that type and text, if it is enabled.
-    bool press(const QByteArray& type, const QString& text)
-    {
-        QQuickItem* control = find(m_item.get(), type, text);
-        return control && control->isEnabled() && QMetaObject::invokeMethod(control, "assistivePress");
-    }
-    QString title() const { return m_item->property("title").toString(); }
-    /// What the block of present values shows.
-    QStringList info() const
-    {
-        QStringList result;
-        const QList<QObject*> all = m_item->findChildren<QObject*>();
-        for (const QObject* each : all) {
-            if (!QByteArray(each->metaObject()->className()).startsWith("LuInfoBlock"))
-                continue;
-            const QVariantList entries = plain(each->property("entries")).toList();
-            for (const QVariant& entry : entries)
-                result.append(entry.toMap().value(u"name"_s).toString() + u'=' +
-                              entry.toMap().value(u"value"_s).toString());
-        }
-        return result;
-    }
-    int acceptedCount() const { return int(m_accepted->count()); }
-    /// What was handed over last, empty before.
-    QVariantMap accepted() const
-    {
-        return m_accepted->isEmpty() ? QVariantMap() : plain(m_accepted->last().at(1)).toMap();
-    }
-
-    /// The module for which it was handed over.
-    QObject* acceptedModule() const { return plain(m_accepted->last().at(0)).value<QObject*>(); }
-
-private:
-    static QQuickItem* find(QQuickItem* from, const QByteArray& type, const QString& text)
-    {
-        const QList<QQuickItem*> children = from->childItems();
-        for (QQuickItem* child : children) {
-            if (QByteArray(child->metaObject()->className()).startsWith(type) &&
-                child->property("text").toString() == text)
-                return child;
-            if (QQuickItem* found = find(child, type, text))
-                return found;
-        }
-        return nullptr;
-    }
-
-    QQmlEngine m_engine;
-    QQuickWindow m_window;
-    std::unique_ptr<QQuickItem> m_item;
-    std::unique_ptr<QSignalSpy> m_accepted;
-};
-
-} // namespace
 
 /// The editors of the eye-care functions, as a flow's actions, on the package's own modules.
 class TestEyeCarePopups : public QObject
@@ -111,7 +11,7 @@ class TestEyeCarePopups : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { previousHandler = qInstallMessageHandler(keepQmlWarnings); }
+    void initTestCase() { QmlWarnings::watch(); }
     void cleanup();
     void aChoiceIsLiveAndSaved_data();
     void aChoiceIsLiveAndSaved();
@@ -126,7 +26,7 @@ private Q_SLOTS:
 
 void TestEyeCarePopups::cleanup()
 {
-    QCOMPARE(std::exchange(warnings, {}), QStringList());
+    QCOMPARE(QmlWarnings::take(), QStringList());
 }
 
 void TestEyeCarePopups::aChoiceIsLiveAndSaved_data()
@@ -174,7 +74,7 @@ void TestEyeCarePopups::aChoiceIsLiveAndSaved()
     SimulatedBed bed(monitor);
     bed.launch();
     QVERIFY(bed.idle());
-    Editor editor(bed, popup, {});
+    FlowEditor editor(bed, popup, {});
     QTEST(editor.title(), "title");
     QCOMPARE(bed.get(module, property).toInt(), before);
     QVERIFY(editor.press(control, choice));
@@ -198,7 +98,7 @@ void TestEyeCarePopups::aStoredChoiceIsAppliedAtOpening()
     SimulatedBed bed(monitor);
     bed.launch();
     QVERIFY(bed.idle());
-    Editor editor(bed, popup, {{QString::fromLatin1(property), after}});
+    FlowEditor editor(bed, popup, {{QString::fromLatin1(property), after}});
     QVERIFY(bed.idle());
     QCOMPARE(bed.get(module, property).toInt(), after);
     QTRY_VERIFY(editor.press("LuButton", u"Save"_s) &&
@@ -217,7 +117,7 @@ void TestEyeCarePopups::leavingRestores()
     SimulatedBed bed(monitor);
     bed.launch();
     QVERIFY(bed.idle());
-    Editor editor(bed, popup, {});
+    FlowEditor editor(bed, popup, {});
     QVERIFY(editor.press(control, choice));
     QVERIFY(bed.idle());
     QVERIFY(editor.press("LuButton", u"Cancel"_s));
@@ -268,7 +168,7 @@ void TestEyeCarePopups::presentValuesAreShown()
         bed.set(module, name, value);
         QVERIFY(bed.idle());
     }
-    const Editor editor(bed, popup, {});
+    const FlowEditor editor(bed, popup, {});
     QTRY_COMPARE(editor.info(), shown);
 }
 
@@ -277,7 +177,7 @@ void TestEyeCarePopups::autoDimmingNeedsTheSensorFunction()
     SimulatedBed bed(u"TK40X"_s);
     bed.launch();
     QVERIFY(bed.idle());
-    Editor editor(bed, u"LuPopupBackLightAction"_s, {});
+    FlowEditor editor(bed, u"LuPopupBackLightAction"_s, {});
     QVERIFY(!editor.press("LuRadio", u"Auto Dimming"_s));
     QVERIFY(editor.press("LuRadio", u"On"_s));
     bed.set("LuABSetting", "currentAB", true);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
+import "../Widgets/automation"
 
 // Shows on the monitor how loud a shortcut has made it.
 StepFeedback {

@@ -4,8 +4,9 @@ import LumenDesk
 import LumenDesk.Controls
 import LumenDesk.Style
 import LumenDesk.Widgets
-import "../.."
-import "../audio"
+// The file stands for the one of its name: paths are those of the folder above.
+import ".."
+import "audio"
 
 // Where the system has keys for the volume of its own: they may set that of the monitor.
 LuWidget {
