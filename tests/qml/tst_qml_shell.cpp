@@ -131,7 +131,7 @@ void TestShell::widgetsAreToldInThePackagesOrder()
 void TestShell::aMissingWidgetFileIsLeftOutQuietly()
 {
     start({&*m_first});
-    QVERIFY(m_shell->context.widgetUrls()[0].toString().contains(u"LuVolumeWidget"_s));
+    QVERIFY(m_shell->context.widgetUrls()[0].toString().contains(u"LuAbsentWidget"_s));
     QVERIFY(!m_shell->context.exists(m_shell->context.widgetUrls()[0]));
     QCOMPARE(m_shell->bridge->warnings(), QStringList());
 }

@@ -27,7 +27,7 @@ static void registerPackageTypes()
 static const QQmlModuleRegistration packageRegistration("TKPackage", registerPackageTypes);
 
 namespace {
-const QStringList UsualWidgets{u"LuVolumeWidget"_s, u"LuAutoPivotWidget"_s, u"LuPivotWidget"_s,
+const QStringList UsualWidgets{u"LuAbsentWidget"_s, u"LuAutoPivotWidget"_s, u"LuPivotWidget"_s,
                                u"LuAiContrastWidget"_s};
 QStringList logged;
 QtMessageHandler previous = nullptr;

@@ -50,6 +50,7 @@ LuPage {
         width: parent.width
         spacing: LuStyle.spaceHalf
         LuLabel {
+            width: parent.width
             text: qsTr("Output")
             repeatsName: true
         }
