@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "MonitorAccess.h"
 
+#include "ValueReader.h"
 #include "Watches.h"
 
+#include <LuShared/LuMediaDevices.h>
 #include <LuShared/LuMonitorModel.h>
 
 #include "lushared/LuMonitorRegistry.h"
@@ -11,8 +13,24 @@ using namespace Qt::StringLiterals;
 
 namespace control {
 
+namespace {
+
+/// The session knows of outputs that Qt's own list does not follow, or does not have at all.
+QAudioDevice audioOutput(const QString& id)
+{
+    const QList<QAudioDevice> outputs = LuMediaDevices::audioOutputs();
+    for (const QAudioDevice& device : outputs) {
+        if (QString::fromUtf8(device.id()) == id)
+            return device;
+    }
+    return {};
+}
+
+} // namespace
+
 MonitorAccess::MonitorAccess(Server* server, Backend backend) : QObject(server), m_backend(std::move(backend))
 {
+    ValueReader::setAudioLookup(audioOutput);
     LuMonitorRegistry* const registry = m_backend.registry;
     server->dispatcher().setBusy([registry] { return registry->isBusy(); });
     // Posted, so that a method never runs inside the registry's own work.
