@@ -35,6 +35,7 @@
 #include <panelcore/MonitorLink.h>
 #include <qml/LuContext.h>
 #include <qml/LuDiagnostics.h>
+#include <qml/LuPreferences.h>
 #include <qml/LuProgramIcons.h>
 #include <qml/LuWindowBridge.h>
 #include <services/api/DesktopEvents.h>
@@ -180,7 +181,11 @@ void Application::findRealMonitors()
     connect(m_real.get(), &RealMonitors::discovered, &dispatcher, &control::Dispatcher::resume,
             Qt::QueuedConnection);
     connect(m_real.get(), &RealMonitors::troublesChanged, this,
-            [this] { LuContext::instance()->setNotices(m_real->troubles()); });
+            [this] { LuContext::instance()->setNotices(m_real->shownTroubles()); });
+    // After the texts of the new language have been loaded.
+    connect(
+        LuPreferences::instance(), &LuPreferences::languageChanged, m_real.get(),
+        [this] { LuContext::instance()->setNotices(m_real->shownTroubles()); }, Qt::QueuedConnection);
     connect(m_real.get(), &RealMonitors::sleepChanged, m_registry.get(), &LuMonitorRegistry::setAsleep);
     connect(m_real.get(), &RealMonitors::disturbed, m_registry.get(), &LuMonitorRegistry::noteDisturbance);
     m_real->start();
@@ -359,8 +364,10 @@ LuDiagnosticFacts Application::diagnosticFacts() const
         monitor.statistics = LuModelHost::statistics(model);
         facts.monitors.append(monitor);
     }
-    if (m_real)
+    if (m_real) {
         facts.troubles = m_real->troubles();
+        facts.shownTroubles = m_real->shownTroubles();
+    }
     facts.versions = {QStringLiteral("Lumen Desk %1, package %2, Qt %3")
                           .arg(QGuiApplication::applicationVersion(), m_packages.version(),
                                QString::fromLatin1(qVersion())),

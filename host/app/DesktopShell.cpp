@@ -173,10 +173,15 @@ void DesktopShell::open(const QList<LuPackagesInterface*>& packages)
     connect(
         window, &QQuickWindow::frameSwapped, this,
         [this] {
+            m_isDrawn = true;
             Q_EMIT drawn();
             introduce();
         },
         Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
+    // Monitors are found, and the window is opened, at any time after.
+    connect(LuContext::instance(), &LuContext::currentMonitorChanged, this, &DesktopShell::introduce,
+            Qt::QueuedConnection);
+    connect(window, &QWindow::visibleChanged, this, &DesktopShell::introduce, Qt::QueuedConnection);
     QMetaObject::invokeMethod(this, &DesktopShell::openTray, Qt::QueuedConnection);
     if (!m_options.hidden)
         m_bridge->show();
@@ -208,13 +213,17 @@ void DesktopShell::toggleWindow()
 void DesktopShell::introduce()
 {
     // A new user is one with a real monitor in front of them, not a script.
-    LuContext* context = LuContext::instance();
-    if (!context->mainWindow() || LuPreferences::instance()->introductionSeen() || m_options.simulate ||
+    const LuContext* context = LuContext::instance();
+    QQuickWindow* window = context->mainWindow();
+    if (m_isIntroduced || !m_isDrawn || !window || !window->isVisible() ||
+        LuPreferences::instance()->introductionSeen() || m_options.simulate ||
         !m_options.screenshotFile.isEmpty() || QGuiApplication::platformName() == "offscreen"_L1)
         return;
     const auto* model = qobject_cast<LuMonitorModel*>(context->currentMonitor());
-    if (model && model->isModelSupported())
-        QMetaObject::invokeMethod(context->mainWindow(), "openWalkthrough");
+    if (!model || !model->isModelSupported())
+        return;
+    m_isIntroduced = true;
+    QMetaObject::invokeMethod(window, "openWalkthrough");
 }
 
 void DesktopShell::fillMonitors()

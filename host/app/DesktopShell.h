@@ -51,6 +51,7 @@ private:
     void watchConnections();
     QString connectionOf(QObject* monitor) const;
     void openTray();
+    /// Opens the introduction for a new user, once their monitor is there and the window is seen.
     void introduce();
     void toggleWindow();
 
@@ -61,5 +62,7 @@ private:
     std::unique_ptr<QQmlApplicationEngine> m_engine;
     std::unique_ptr<LuWindowBridge> m_bridge;
     std::unique_ptr<Tray> m_tray;
+    bool m_isDrawn = false;
+    bool m_isIntroduced = false; ///< The introduction was opened in this run.
     bool m_isFilling = false; ///< fillMonitors() runs: what the window then tells is no choice of a person.
 };

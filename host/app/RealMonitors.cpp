@@ -80,12 +80,12 @@ struct RealMonitors::Mailbox
     std::mutex mutex;
     RealMonitors* owner = nullptr;
 
-    void tell(const QString& id, const std::string& message)
+    void tell(const QString& id, const ddci2c::Advice& advice)
     {
         const std::lock_guard lock(mutex);
         if (!owner)
             return;
-        ZrDispatch::main()->post(owner, [to = owner, id, message = text(message)] { to->tell(id, message); });
+        ZrDispatch::main()->post(owner, [to = owner, id, advice] { to->tell(id, advice); });
     }
 };
 
@@ -193,7 +193,7 @@ void RealMonitors::finishScan(const ddci2c::Enumeration& found, bool askAgain)
         return;
     }
     if (found.lacksDeviceFiles)
-        tell({}, text(ddci2c::missingModuleAdvice()));
+        tell({}, ddci2c::missingModuleAdvice());
     else
         endTrouble({});
     std::vector<ddci2c::BusQuestion> open;
@@ -288,8 +288,8 @@ void RealMonitors::plug(const IdentifiedMonitor& monitor)
         options.edid = monitor.found.edid;
         options.connectorEdid = monitor.found.connectorEdid;
         options.link = plugged.link;
-        options.report = [mailbox = m_mailbox, id](const std::string& message) {
-            mailbox->tell(id, message);
+        options.report = [mailbox = m_mailbox, id](const ddci2c::Advice& advice) {
+            mailbox->tell(id, advice);
         };
         bus = std::make_unique<ddci2c::I2cBus>(std::move(options));
     }
@@ -383,15 +383,15 @@ void RealMonitors::assignScreens()
         MonitorLink::of(*it->info).setScreenName(m_screens.value(it.key()));
 }
 
-void RealMonitors::tell(const QString& id, const QString& message)
+void RealMonitors::tell(const QString& id, const ddci2c::Advice& advice)
 {
-    if (m_troubles.value(id) == message)
+    if (m_troubles.contains(id) && m_troubles[id] == advice)
         return;
-    qWarning().noquote() << "[RealMonitors]" << message;
+    qWarning().noquote() << "[RealMonitors]" << text(advice.english());
     // A transfer of a monitor that has gone meanwhile is nobody's trouble any more.
     if (!id.isEmpty() && !m_plugged.contains(id))
         return;
-    m_troubles.insert(id, message);
+    m_troubles.insert(id, advice);
     Q_EMIT troublesChanged();
 }
 
@@ -403,7 +403,22 @@ void RealMonitors::endTrouble(const QString& id)
 
 QStringList RealMonitors::troubles() const
 {
-    QStringList list = m_troubles.values();
+    QStringList list;
+    for (const ddci2c::Advice& advice : m_troubles)
+        list.append(text(advice.english()));
+    list.removeDuplicates();
+    return list;
+}
+
+QStringList RealMonitors::shownTroubles() const
+{
+    QStringList list;
+    for (const ddci2c::Advice& advice : m_troubles) {
+        QString sentence = tr(advice.sentence);
+        for (std::size_t i = 0; i < advice.values.size(); ++i)
+            sentence.replace(QLatin1Char('%') + QString::number(i + 1), text(advice.values[i]));
+        list.append(sentence);
+    }
     list.removeDuplicates();
     return list;
 }

@@ -59,8 +59,11 @@ public:
     /// others.
     QString backlightOf(const QString& id) const;
 
-    /// What keeps monitors from being controlled and only a person can mend, at this moment, in plain words.
+    /// What keeps monitors from being controlled and only a person can mend, at this moment, in plain
+    /// English, for the log and for reports.
     QStringList troubles() const;
+    /// The same in the language of the user.
+    QStringList shownTroubles() const;
 
     /// The kernel's name of the monitor's connector, such as "card0-DP-1"; empty for an unknown id.
     QString connectorOf(const QString& id) const;
@@ -104,7 +107,7 @@ private:
     void poll();
     bool pollLost();
     void assignScreens();
-    void tell(const QString& id, const QString& text);
+    void tell(const QString& id, const ddci2c::Advice& advice);
     void endTrouble(const QString& id);
     void noteSkipped(const ddci2c::Enumeration& found);
     void keepTwins();
@@ -129,9 +132,9 @@ private:
     std::vector<std::filesystem::path>
         m_sleepers; ///< Connectors that are to be asked who is there when they wake.
     ddci2c::BusAnswers m_answers;
-    QHash<QString, int> m_lostPolls;   ///< Polls until a lost monitor is tried again, and
-    QHash<QString, int> m_lostPause;   ///< how many these were the last time.
-    QMap<QString, QString> m_troubles; ///< By monitor; that of the whole system has an empty key.
+    QHash<QString, int> m_lostPolls;          ///< Polls until a lost monitor is tried again, and
+    QHash<QString, int> m_lostPause;          ///< how many these were the last time.
+    QMap<QString, ddci2c::Advice> m_troubles; ///< By monitor; that of the whole system has an empty key.
     bool m_scanning = false;
     bool m_scanAgain = false;
     bool m_scanAgainAsks = false;

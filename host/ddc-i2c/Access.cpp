@@ -52,39 +52,46 @@ AccessFacts factsOf(const std::string& path)
 
 } // namespace
 
-std::string accessAdvice(const std::string& path, const AccessFacts& facts)
+std::string Advice::english() const
 {
-    const std::string what = "No permission to use " + path + ", so its monitor cannot be controlled. ";
+    std::string text = sentence;
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        const std::string place = '%' + std::to_string(i + 1);
+        if (const std::size_t at = text.find(place); at != std::string::npos)
+            text.replace(at, place.size(), values[i]);
+    }
+    return text;
+}
+
+// clang-format off
+Advice accessAdvice(const std::string& path, const AccessFacts& facts)
+{
     const bool joinable = !facts.group.empty() && facts.group != "root";
     if (joinable && facts.accountInGroup && !facts.inGroup)
-        return what + "Your account is in the group " + facts.group + " already: log out and in again.";
+        return {"No permission to use %1, so its monitor cannot be controlled. Your account is in the group %2 already: log out and in again.", {path, facts.group}};
+    if (!facts.hasRule && joinable && !facts.inGroup)
+        return {"No permission to use %1, so its monitor cannot be controlled. The udev rule %2 of this program is not installed: install it below %3 and restart the computer, or add your account to the group %4 and log in again.", {path, RuleFile, RuleFolders[0], facts.group}};
     if (!facts.hasRule)
-        return what + "The udev rule " + RuleFile + " of this program is not installed: install it below " +
-               RuleFolders[0] + " and restart the computer" +
-               (joinable && !facts.inGroup
-                    ? ", or add your account to the group " + facts.group + " and log in again."
-                    : ".");
+        return {"No permission to use %1, so its monitor cannot be controlled. The udev rule %2 of this program is not installed: install it below %3 and restart the computer.", {path, RuleFile, RuleFolders[0]}};
     if (joinable && !facts.inGroup)
-        return what +
-               "The udev rule is installed, but this session has no seat at this computer: add your account" +
-               " to the group " + facts.group + " and log in again.";
-    return what +
-           "The udev rule is installed but not in force: run \"udevadm trigger --subsystem-match=i2c-dev\"" +
-           " as root or restart the computer.";
+        return {"No permission to use %1, so its monitor cannot be controlled. The udev rule is installed, but this session has no seat at this computer: add your account to the group %2 and log in again.", {path, facts.group}};
+    return {"No permission to use %1, so its monitor cannot be controlled. The udev rule is installed but not in force: run \"udevadm trigger --subsystem-match=i2c-dev\" as root or restart the computer.", {path}};
 }
 
-std::string accessAdvice(const std::string& path)
+Advice missingModuleAdvice()
+{
+    return {"The system shows no I2C device files, so external monitors cannot be controlled. Load the kernel module i2c-dev: run \"modprobe i2c-dev\" as root, or install modules-load.d/lumen-desk.conf of this program and restart the computer.", {}};
+}
+
+Advice otherMonitorAdvice(const std::string& path)
+{
+    return {"%1 leads to another monitor now; nothing was sent to it.", {path}};
+}
+// clang-format on
+
+Advice accessAdvice(const std::string& path)
 {
     return accessAdvice(path, factsOf(path));
-}
-
-std::string missingModuleAdvice()
-{
-    return "The system shows no I2C device files, so external monitors cannot be controlled. Load the kernel "
-           "module"
-           " i2c-dev: run \"modprobe i2c-dev\" as root, or install modules-load.d/lumen-desk.conf of this "
-           "program and"
-           " restart the computer.";
 }
 
 } // namespace ddci2c

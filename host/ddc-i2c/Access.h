@@ -3,8 +3,23 @@
 
 #include <filesystem>
 #include <string>
+#include <vector>
 
 namespace ddci2c {
+
+/// What keeps a monitor from being controlled, and what a person can do about it.
+///
+/// The sentence is English, with "%1", "%2" ... where a value goes: it is also the key of its translations.
+struct Advice
+{
+    const char* sentence = "";
+    std::vector<std::string> values;
+
+    /// The sentence with its values.
+    std::string english() const;
+
+    friend bool operator==(const Advice& a, const Advice& b) { return a.english() == b.english(); }
+};
 
 /// What the system says about a bus that may not be opened.
 struct AccessFacts
@@ -15,13 +30,16 @@ struct AccessFacts
     bool accountInGroup = false; ///< The account was added to it, maybe after the session began.
 };
 
-/// Why @p path may not be opened and what to do, in one plain English sentence or two.
-std::string accessAdvice(const std::string& path, const AccessFacts& facts);
+/// Why @p path may not be opened and what to do.
+Advice accessAdvice(const std::string& path, const AccessFacts& facts);
 
 /// The same for this system.
-std::string accessAdvice(const std::string& path);
+Advice accessAdvice(const std::string& path);
 
 /// What to do where the device files are missing altogether.
-std::string missingModuleAdvice();
+Advice missingModuleAdvice();
+
+/// Another monitor answers at the device file @p path than the one that stood there.
+Advice otherMonitorAdvice(const std::string& path);
 
 } // namespace ddci2c

@@ -183,7 +183,7 @@ BusStatus I2cBus::ensureExpected()
     if (status == BusStatus::Nack && !m_options.connectorEdid.empty())
         match = compare(m_options.edid, readBytes(m_options.connectorEdid), true);
     if (match == Match::Other)
-        return refuse(name() + " leads to another monitor now; nothing was sent to it");
+        return refuse(otherMonitorAdvice(name()));
     if (match == Match::Unknown)
         return status == BusStatus::Ok ? BusStatus::Nack : status;
     m_expected = true;
@@ -236,19 +236,20 @@ BusStatus I2cBus::failed(int error)
     return status;
 }
 
-BusStatus I2cBus::refuse(const std::string& why)
+BusStatus I2cBus::refuse(const Advice& why)
 {
     say(why);
     return failed(ENODEV);
 }
 
-void I2cBus::say(const std::string& text)
+void I2cBus::say(const Advice& advice)
 {
-    if (m_said == text)
+    if (const std::string text = advice.english(); m_said == text)
         return;
-    m_said = text;
+    else
+        m_said = text;
     if (m_options.report)
-        m_options.report(text);
+        m_options.report(advice);
 }
 
 void I2cBus::drop()

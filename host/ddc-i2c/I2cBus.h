@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "Access.h"
 #include "DeviceCalls.h"
 
 #include <ddc/Bus.h>
@@ -49,7 +50,7 @@ public:
         std::shared_ptr<BusLink> link; ///< Null: none.
         /// Told in plain words what keeps the bus from working, once per cause; on the thread of the
         /// transfer.
-        std::function<void(const std::string&)> report;
+        std::function<void(const Advice&)> report;
         std::shared_ptr<DeviceCalls> calls; ///< Null: those of the system.
     };
 
@@ -75,8 +76,8 @@ private:
     ddc::BusStatus transfer(std::span<DeviceCalls::Message> messages);
     int plainTransfer(const DeviceCalls::Message& message);
     ddc::BusStatus failed(int error);
-    ddc::BusStatus refuse(const std::string& why);
-    void say(const std::string& text);
+    ddc::BusStatus refuse(const Advice& why);
+    void say(const Advice& advice);
     void drop();
 
     const Options m_options;

@@ -14,42 +14,9 @@ namespace {
 
 constexpr int RefreshMs = 2000;
 
-// Names of lines, as LuReport writes them, for translators.
-constexpr const char* Names[] = {
-    QT_TRANSLATE_NOOP("LuDiagnostics", "Connection"),   QT_TRANSLATE_NOOP("LuDiagnostics", "Condition"),
-    QT_TRANSLATE_NOOP("LuDiagnostics", "Transfers"),    QT_TRANSLATE_NOOP("LuDiagnostics", "Retries"),
-    QT_TRANSLATE_NOOP("LuDiagnostics", "Errors"),       QT_TRANSLATE_NOOP("LuDiagnostics", "Learnt waits"),
-    QT_TRANSLATE_NOOP("LuDiagnostics", "Writes today"), QT_TRANSLATE_NOOP("LuDiagnostics", "Circuit breaker"),
-    QT_TRANSLATE_NOOP("LuDiagnostics", "Screen"),
-};
-
-constexpr const char* Values[] = {
-    QT_TRANSLATE_NOOP("LuDiagnostics", "none"),
-    QT_TRANSLATE_NOOP("LuDiagnostics", "unknown"),
-    QT_TRANSLATE_NOOP("LuDiagnostics", "asleep"),
-    QT_TRANSLATE_NOOP("LuDiagnostics", "gives no answer"),
-    QT_TRANSLATE_NOOP("LuDiagnostics", "answers"),
-    QT_TRANSLATE_NOOP("LuDiagnostics", "built in"),
-    QT_TRANSLATE_NOOP("LuDiagnostics", "simulated"),
-    QT_TRANSLATE_NOOP("LuDiagnostics", "closed"),
-    QT_TRANSLATE_NOOP("LuDiagnostics", "not told from an equal monitor's"),
-};
-
-template <std::size_t Count>
-QString translated(const char* const (&known)[Count], const QString& text)
+QString translated(const char* english)
 {
-    for (const char* each : known) {
-        if (text == QLatin1String(each))
-            return QCoreApplication::translate("LuDiagnostics", each);
-    }
-    return text;
-}
-
-bool isBad(const QString& name, const QString& value)
-{
-    return (name == "Condition"_L1 && value == "gives no answer"_L1) ||
-           (name == "Screen"_L1 && value == LuReport::doubtfulScreen()) ||
-           (name == "Circuit breaker"_L1 && value.startsWith("open"_L1));
+    return QCoreApplication::translate("LuDiagnostics", english);
 }
 
 } // namespace
@@ -105,21 +72,20 @@ void LuDiagnostics::refresh()
     QVariantList monitors;
     for (const LuDiagnosticFacts::Monitor& monitor : now.monitors) {
         QVariantList lines;
-        const auto pairs = LuReport::lines(monitor);
-        for (const auto& [name, value] : pairs)
-            lines.append(QVariantMap{{u"name"_s, translated(Names, name)},
-                                     {u"value"_s, translated(Values, value)},
-                                     {u"bad"_s, isBad(name, value)}});
+        const QList<LuReport::Line> all = LuReport::lines(monitor, translated);
+        for (const LuReport::Line& line : all)
+            lines.append(
+                QVariantMap{{u"name"_s, line.name}, {u"value"_s, line.value}, {u"bad"_s, line.isBad}});
         monitors.append(
             QVariantMap{{u"model"_s, monitor.nickName.isEmpty() || monitor.nickName == monitor.model
                                          ? monitor.model
                                          : u"%1 (%2)"_s.arg(monitor.nickName, monitor.model)},
                         {u"lines"_s, lines}});
     }
-    if (monitors == m_monitors && now.troubles == m_troubles)
+    if (monitors == m_monitors && now.shownTroubles == m_troubles)
         return;
     m_monitors = monitors;
-    m_troubles = now.troubles;
+    m_troubles = now.shownTroubles;
     Q_EMIT changed();
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "LuReport.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QJsonArray>
 #include <QRegularExpression>
@@ -27,38 +28,59 @@ QString wholeNumber(const QJsonObject& object, QLatin1String name)
     return QString::number(object.value(name).toInteger());
 }
 
-QString joined(const QJsonObject& counts, const QString& nothing)
+// What the statistics call the errors of a bus.
+[[maybe_unused]] constexpr const char* ErrorNames[] = {
+    QT_TRANSLATE_NOOP("LuDiagnostics", "no reply"),
+    QT_TRANSLATE_NOOP("LuDiagnostics", "null reply"),
+    QT_TRANSLATE_NOOP("LuDiagnostics", "bad checksum"),
+    QT_TRANSLATE_NOOP("LuDiagnostics", "unsupported code"),
+    QT_TRANSLATE_NOOP("LuDiagnostics", "malformed reply"),
+    QT_TRANSLATE_NOOP("LuDiagnostics", "bus busy"),
+    QT_TRANSLATE_NOOP("LuDiagnostics", "no access to the bus"),
+    QT_TRANSLATE_NOOP("LuDiagnostics", "monitor gone"),
+    QT_TRANSLATE_NOOP("LuDiagnostics", "cancelled"),
+    QT_TRANSLATE_NOOP("LuDiagnostics", "refused after too many writes"),
+    QT_TRANSLATE_NOOP("LuDiagnostics", "display asleep"),
+};
+
+QString errors(const QJsonObject& counts, const LuReport::Words& words)
 {
     QStringList parts;
     for (auto it = counts.begin(); it != counts.end(); ++it)
-        parts.append(u"%1: %2"_s.arg(it.key()).arg(it.value().toInteger()));
-    return parts.isEmpty() ? nothing : parts.join(u", "_s);
+        parts.append(u"%1: %2"_s.arg(words(qPrintable(it.key()))).arg(it.value().toInteger()));
+    return parts.isEmpty() ? words(QT_TRANSLATE_NOOP("LuDiagnostics", "none")) : parts.join(u", "_s);
 }
 
-QString waits(const QJsonObject& statistics)
+QString waits(const QJsonObject& statistics, const LuReport::Words& words)
 {
     const QJsonObject learnt = statistics.value("learntWaits"_L1).toObject();
     const qint64 reply = learnt.value("replyMs"_L1).toInteger();
     const qint64 afterSet = learnt.value("afterSetMs"_L1).toInteger();
     QStringList parts;
     if (reply > 0)
-        parts.append(u"%1 ms before a reply"_s.arg(reply));
+        parts.append(words(QT_TRANSLATE_NOOP("LuDiagnostics", "%1 ms before a reply")).arg(reply));
     if (afterSet > 0)
-        parts.append(u"%1 ms after a write"_s.arg(afterSet));
-    return parts.isEmpty() ? u"none"_s : parts.join(u", "_s);
+        parts.append(words(QT_TRANSLATE_NOOP("LuDiagnostics", "%1 ms after a write")).arg(afterSet));
+    return parts.isEmpty() ? words("none") : parts.join(u", "_s);
 }
 
-QString breaker(const QJsonObject& statistics)
+QStringList openCodes(const QJsonObject& statistics)
 {
-    const QJsonObject state = statistics.value("breaker"_L1).toObject();
     QStringList codes;
-    const QJsonArray closed = state.value("closed"_L1).toArray();
+    const QJsonArray closed = statistics.value("breaker"_L1)["closed"_L1].toArray();
     for (const QJsonValue& code : closed)
         codes.append(code["code"_L1].toString());
-    const qint64 trips = state.value("trips"_L1).toInteger();
+    return codes;
+}
+
+QString breaker(const QJsonObject& statistics, const LuReport::Words& words)
+{
+    const QStringList codes = openCodes(statistics);
     if (!codes.isEmpty())
-        return u"open for %1"_s.arg(codes.join(u", "_s));
-    return trips > 0 ? u"closed; opened %1 times"_s.arg(trips) : u"closed"_s;
+        return words(QT_TRANSLATE_NOOP("LuDiagnostics", "open for %1")).arg(codes.join(u", "_s));
+    const qint64 trips = statistics.value("breaker"_L1)["trips"_L1].toInteger();
+    return trips > 0 ? words(QT_TRANSLATE_NOOP("LuDiagnostics", "closed; times opened: %1")).arg(trips)
+                     : words(QT_TRANSLATE_NOOP("LuDiagnostics", "closed"));
 }
 
 QString writesToday(const QJsonObject& statistics)
@@ -74,11 +96,13 @@ QString writesToday(const QJsonObject& statistics)
     return codes.isEmpty() ? total : u"%1 (%2)"_s.arg(total, codes.join(u", "_s));
 }
 
-QString condition(const QJsonObject& statistics)
+QString condition(const QJsonObject& statistics, const LuReport::Words& words)
 {
     if (statistics.value("asleep"_L1).toBool())
-        return u"asleep"_s;
-    return statistics.value("silent"_L1).toBool() ? u"gives no answer"_s : u"answers"_s;
+        return words(QT_TRANSLATE_NOOP("LuDiagnostics", "asleep"));
+    return statistics.value("silent"_L1).toBool()
+               ? words(QT_TRANSLATE_NOOP("LuDiagnostics", "gives no answer"))
+               : words(QT_TRANSLATE_NOOP("LuDiagnostics", "answers"));
 }
 
 void addSecret(QHash<QString, QString>& secrets, const QString& text, const QString& instead)
@@ -118,7 +142,7 @@ bool LuReport::isOfInterest(const QString& logLine)
 
 QString LuReport::doubtfulScreen()
 {
-    return u"not told from an equal monitor's"_s;
+    return english(QT_TRANSLATE_NOOP("LuDiagnostics", "not told from an equal monitor's"));
 }
 
 QString LuReport::noScreen()
@@ -126,28 +150,46 @@ QString LuReport::noScreen()
     return u"none"_s;
 }
 
-QList<QPair<QString, QString>> LuReport::lines(const LuDiagnosticFacts::Monitor& monitor)
+QList<LuReport::Line> LuReport::lines(const LuDiagnosticFacts::Monitor& monitor, const Words& words)
 {
     const QJsonObject& statistics = monitor.statistics;
     QString connection = monitor.connection;
     const QString bus = statistics.value("bus"_L1).toString();
     // The name of a simulated bus holds the serial number.
     if (bus.startsWith("sim:"_L1))
-        connection = u"simulated"_s;
+        connection = words(QT_TRANSLATE_NOOP("LuDiagnostics", "simulated"));
     else if (!bus.isEmpty())
-        connection = connection.isEmpty() ? bus : u"%1 on %2"_s.arg(connection, bus);
-    QList<QPair<QString, QString>> lines{{u"Connection"_s, connection.isEmpty() ? u"unknown"_s : connection}};
-    if (!monitor.screen.isEmpty())
-        lines.append({u"Screen"_s, monitor.screen});
-    return lines + QList<QPair<QString, QString>>{
-                       {u"Condition"_s, monitor.builtIn ? u"built in"_s : condition(statistics)},
-                       {u"Transfers"_s, wholeNumber(statistics, "transfers"_L1)},
-                       {u"Retries"_s, wholeNumber(statistics, "retries"_L1)},
-                       {u"Errors"_s, joined(statistics.value("errors"_L1).toObject(), u"none"_s)},
-                       {u"Learnt waits"_s, waits(statistics)},
-                       {u"Writes today"_s, writesToday(statistics)},
-                       {u"Circuit breaker"_s, breaker(statistics)},
-                   };
+        connection = connection.isEmpty()
+                         ? bus
+                         : words(QT_TRANSLATE_NOOP("LuDiagnostics", "%1 on %2")).arg(connection, bus);
+    if (connection.isEmpty())
+        connection = words(QT_TRANSLATE_NOOP("LuDiagnostics", "unknown"));
+    const bool silent =
+        !monitor.builtIn && !statistics.value("asleep"_L1).toBool() && statistics.value("silent"_L1).toBool();
+    QList<Line> lines{{words(QT_TRANSLATE_NOOP("LuDiagnostics", "Connection")), connection}};
+    if (!monitor.screen.isEmpty()) {
+        const bool isDoubtful = monitor.screen == doubtfulScreen();
+        lines.append(
+            {words(QT_TRANSLATE_NOOP("LuDiagnostics", "Screen")),
+             isDoubtful || monitor.screen == noScreen() ? words(qPrintable(monitor.screen)) : monitor.screen,
+             isDoubtful});
+    }
+    return lines +
+           QList<Line>{
+               {words(QT_TRANSLATE_NOOP("LuDiagnostics", "Condition")),
+                monitor.builtIn ? words(QT_TRANSLATE_NOOP("LuDiagnostics", "built in"))
+                                : condition(statistics, words),
+                silent},
+               {words(QT_TRANSLATE_NOOP("LuDiagnostics", "Transfers")),
+                wholeNumber(statistics, "transfers"_L1)},
+               {words(QT_TRANSLATE_NOOP("LuDiagnostics", "Retries")), wholeNumber(statistics, "retries"_L1)},
+               {words(QT_TRANSLATE_NOOP("LuDiagnostics", "Errors")),
+                errors(statistics.value("errors"_L1).toObject(), words)},
+               {words(QT_TRANSLATE_NOOP("LuDiagnostics", "Learnt waits")), waits(statistics, words)},
+               {words(QT_TRANSLATE_NOOP("LuDiagnostics", "Writes today")), writesToday(statistics)},
+               {words(QT_TRANSLATE_NOOP("LuDiagnostics", "Circuit breaker")), breaker(statistics, words),
+                !openCodes(statistics).isEmpty()},
+           };
 }
 
 QString LuReport::cleaned(const QString& text, const LuDiagnosticFacts& facts)
@@ -187,9 +229,9 @@ QString LuReport::text(const LuDiagnosticFacts& facts)
     for (const LuDiagnosticFacts::Monitor& monitor : facts.monitors) {
         report += {QString(), u"Monitor %1: %2%3"_s.arg(++number).arg(
                                   monitor.model, monitor.supported ? QString() : u" (not supported)"_s)};
-        const auto pairs = lines(monitor);
-        for (const auto& [name, value] : pairs)
-            report.append(u"  %1 %2"_s.arg(name + u':', -17).arg(value));
+        const QList<Line> all = lines(monitor);
+        for (const Line& line : all)
+            report.append(u"  %1 %2"_s.arg(line.name + u':', -17).arg(line.value));
     }
     report += {QString(), u"Log"_s};
     for (const QString& line : facts.log) {

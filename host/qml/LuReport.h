@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <QHash>
 #include <QJsonObject>
 #include <QList>
 #include <QString>
 #include <QStringList>
+
+#include <functional>
 
 /// What is known of the monitors and of the way to them, for a person and for a bug ticket.
 struct LuDiagnosticFacts
@@ -24,9 +25,10 @@ struct LuDiagnosticFacts
     };
 
     QList<Monitor> monitors;
-    QStringList troubles; ///< Of finding monitors, in plain words.
-    QStringList versions; ///< Lines on the program and the system.
-    QStringList log;      ///< Lines of the log that speak of monitors and buses.
+    QStringList troubles;      ///< Of finding monitors, in plain English words.
+    QStringList shownTroubles; ///< The same in the language of the user.
+    QStringList versions;      ///< Lines on the program and the system.
+    QStringList log;           ///< Lines of the log that speak of monitors and buses.
 };
 
 /// Turns facts into lines and into a report without personal data.
@@ -47,8 +49,19 @@ public:
     static QString doubtfulScreen();
     static QString noScreen();
 
-    /// A monitor's facts as pairs of a name and a value, in the order of showing. Untranslated.
-    static QList<QPair<QString, QString>> lines(const LuDiagnosticFacts::Monitor& monitor);
+    struct Line
+    {
+        QString name;
+        QString value;
+        bool isBad = false; ///< A person should look at it.
+    };
+    /// A word or sentence in the language of whoever reads; the context of its translations is
+    /// "LuDiagnostics".
+    using Words = std::function<QString(const char* english)>;
+
+    /// A monitor's facts in the order of showing.
+    static QList<Line> lines(const LuDiagnosticFacts::Monitor& monitor, const Words& words = english);
+    static QString english(const char* text) { return QString::fromLatin1(text); }
 
     /// Whether a line of the log speaks of monitors and buses.
     static bool isOfInterest(const QString& logLine);

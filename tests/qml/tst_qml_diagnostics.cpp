@@ -44,9 +44,9 @@ LuDiagnosticFacts::Monitor monitor(const QString& serial)
 QString valueOf(const LuDiagnosticFacts::Monitor& monitor, const QString& name)
 {
     const auto lines = LuReport::lines(monitor);
-    for (const auto& [key, value] : lines) {
-        if (key == name)
-            return value;
+    for (const LuReport::Line& line : lines) {
+        if (line.name == name)
+            return line.value;
     }
     return u"(missing)"_s;
 }
@@ -89,6 +89,7 @@ void TestDiagnostics::init()
     m_facts = LuDiagnosticFacts();
     m_facts.monitors = {monitor(u"SN4711"_s)};
     m_facts.troubles = {u"The group i2c may use the buses, and you are not in it."_s};
+    m_facts.shownTroubles = {u"Sie sind nicht in der Gruppe i2c."_s};
     m_facts.versions = {u"Lumen Desk 1.0"_s};
     m_asked = 0;
     m_shell.emplace(QList<FakeMonitor*>());
@@ -217,10 +218,10 @@ void TestDiagnostics::thePageShowsMonitorsAndTroubles()
     QVERIFY(open());
     const QStringList shown = texts();
     for (const QString& part : {u"Desk of Martha (TK30Z)"_s, u"Connection"_s, u"card0-DP-1 on i2c-4"_s,
-                                u"bad checksum: 1, no reply: 2"_s, m_facts.troubles.first()})
+                                u"bad checksum: 1, no reply: 2"_s, m_facts.shownTroubles.first()})
         QVERIFY2(shown.contains(part), qPrintable(part + u" not in "_s + shown.join(u'|')));
     m_facts.monitors.clear();
-    m_facts.troubles.clear();
+    m_facts.shownTroubles.clear();
     LuDiagnostics::instance()->refresh();
     QTRY_VERIFY(texts().contains(u"No monitor is connected."_s));
 }

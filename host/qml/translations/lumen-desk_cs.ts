@@ -327,6 +327,70 @@
         <source>The report could not be written to %1: %2</source>
         <translation>Zprávu nelze zapsat do %1: %2</translation>
     </message>
+    <message>
+        <source>no reply</source>
+        <translation>žádná odpověď</translation>
+    </message>
+    <message>
+        <source>null reply</source>
+        <translation>prázdná odpověď</translation>
+    </message>
+    <message>
+        <source>bad checksum</source>
+        <translation>chybný kontrolní součet</translation>
+    </message>
+    <message>
+        <source>unsupported code</source>
+        <translation>nepodporovaný kód</translation>
+    </message>
+    <message>
+        <source>malformed reply</source>
+        <translation>poškozená odpověď</translation>
+    </message>
+    <message>
+        <source>bus busy</source>
+        <translation>sběrnice zaneprázdněna</translation>
+    </message>
+    <message>
+        <source>no access to the bus</source>
+        <translation>bez přístupu ke sběrnici</translation>
+    </message>
+    <message>
+        <source>monitor gone</source>
+        <translation>monitor zmizel</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>zrušeno</translation>
+    </message>
+    <message>
+        <source>refused after too many writes</source>
+        <translation>odmítnuto po příliš mnoha zápisech</translation>
+    </message>
+    <message>
+        <source>display asleep</source>
+        <translation>displej spí</translation>
+    </message>
+    <message>
+        <source>%1 ms before a reply</source>
+        <translation>%1 ms před odpovědí</translation>
+    </message>
+    <message>
+        <source>%1 ms after a write</source>
+        <translation>%1 ms po zápisu</translation>
+    </message>
+    <message>
+        <source>open for %1</source>
+        <translation>rozpojen pro %1</translation>
+    </message>
+    <message>
+        <source>closed; times opened: %1</source>
+        <translation>sepnut; počet rozpojení: %1</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%1 na %2</translation>
+    </message>
 </context>
 <context>
     <name>LuHelpButton</name>
@@ -718,6 +782,37 @@
     <message>
         <source>In an X11 session it works.</source>
         <translation>V relaci X11 to funguje.</translation>
+    </message>
+</context>
+<context>
+    <name>RealMonitors</name>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. Your account is in the group %2 already: log out and in again.</source>
+        <translation>Chybí oprávnění k %1, proto nelze jeho monitor ovládat. Váš účet už je ve skupině %2: odhlaste se a znovu přihlaste.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule %2 of this program is not installed: install it below %3 and restart the computer.</source>
+        <translation>Chybí oprávnění k %1, proto nelze jeho monitor ovládat. Pravidlo udev %2 tohoto programu není nainstalováno: nainstalujte je do %3 a restartujte počítač.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule %2 of this program is not installed: install it below %3 and restart the computer, or add your account to the group %4 and log in again.</source>
+        <translation>Chybí oprávnění k %1, proto nelze jeho monitor ovládat. Pravidlo udev %2 tohoto programu není nainstalováno: nainstalujte je do %3 a restartujte počítač, nebo přidejte svůj účet do skupiny %4 a znovu se přihlaste.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule is installed, but this session has no seat at this computer: add your account to the group %2 and log in again.</source>
+        <translation>Chybí oprávnění k %1, proto nelze jeho monitor ovládat. Pravidlo udev je nainstalováno, ale tato relace nepatří k žádnému pracovišti tohoto počítače: přidejte svůj účet do skupiny %2 a znovu se přihlaste.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule is installed but not in force: run "udevadm trigger --subsystem-match=i2c-dev" as root or restart the computer.</source>
+        <translation>Chybí oprávnění k %1, proto nelze jeho monitor ovládat. Pravidlo udev je nainstalováno, ale neplatí: spusťte jako root "udevadm trigger --subsystem-match=i2c-dev" nebo restartujte počítač.</translation>
+    </message>
+    <message>
+        <source>The system shows no I2C device files, so external monitors cannot be controlled. Load the kernel module i2c-dev: run "modprobe i2c-dev" as root, or install modules-load.d/lumen-desk.conf of this program and restart the computer.</source>
+        <translation>Systém neposkytuje soubory zařízení I2C, proto nelze ovládat externí monitory. Zaveďte modul jádra i2c-dev: spusťte jako root "modprobe i2c-dev", nebo nainstalujte modules-load.d/lumen-desk.conf tohoto programu a restartujte počítač.</translation>
+    </message>
+    <message>
+        <source>%1 leads to another monitor now; nothing was sent to it.</source>
+        <translation>%1 teď vede k jinému monitoru; nic mu nebylo odesláno.</translation>
     </message>
 </context>
 </TS>

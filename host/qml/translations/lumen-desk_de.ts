@@ -327,6 +327,70 @@
         <source>The report could not be written to %1: %2</source>
         <translation>Der Bericht konnte nicht nach %1 geschrieben werden: %2</translation>
     </message>
+    <message>
+        <source>no reply</source>
+        <translation>keine Antwort</translation>
+    </message>
+    <message>
+        <source>null reply</source>
+        <translation>leere Antwort</translation>
+    </message>
+    <message>
+        <source>bad checksum</source>
+        <translation>falsche Prüfsumme</translation>
+    </message>
+    <message>
+        <source>unsupported code</source>
+        <translation>nicht unterstützter Code</translation>
+    </message>
+    <message>
+        <source>malformed reply</source>
+        <translation>fehlerhafte Antwort</translation>
+    </message>
+    <message>
+        <source>bus busy</source>
+        <translation>Bus beschäftigt</translation>
+    </message>
+    <message>
+        <source>no access to the bus</source>
+        <translation>kein Zugriff auf den Bus</translation>
+    </message>
+    <message>
+        <source>monitor gone</source>
+        <translation>Monitor verschwunden</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>abgebrochen</translation>
+    </message>
+    <message>
+        <source>refused after too many writes</source>
+        <translation>nach zu vielen Schreibvorgängen verweigert</translation>
+    </message>
+    <message>
+        <source>display asleep</source>
+        <translation>Bildschirm schläft</translation>
+    </message>
+    <message>
+        <source>%1 ms before a reply</source>
+        <translation>%1 ms vor einer Antwort</translation>
+    </message>
+    <message>
+        <source>%1 ms after a write</source>
+        <translation>%1 ms nach einem Schreibvorgang</translation>
+    </message>
+    <message>
+        <source>open for %1</source>
+        <translation>offen für %1</translation>
+    </message>
+    <message>
+        <source>closed; times opened: %1</source>
+        <translation>geschlossen; geöffnet: %1 Mal</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%1 an %2</translation>
+    </message>
 </context>
 <context>
     <name>LuHelpButton</name>
@@ -718,6 +782,37 @@
     <message>
         <source>In an X11 session it works.</source>
         <translation>In einer X11-Sitzung geht es.</translation>
+    </message>
+</context>
+<context>
+    <name>RealMonitors</name>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. Your account is in the group %2 already: log out and in again.</source>
+        <translation>Keine Berechtigung für %1, daher kann sein Monitor nicht gesteuert werden. Ihr Konto ist schon in der Gruppe %2: Melden Sie sich ab und wieder an.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule %2 of this program is not installed: install it below %3 and restart the computer.</source>
+        <translation>Keine Berechtigung für %1, daher kann sein Monitor nicht gesteuert werden. Die udev-Regel %2 dieses Programms ist nicht installiert: Installieren Sie sie unter %3 und starten Sie den Computer neu.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule %2 of this program is not installed: install it below %3 and restart the computer, or add your account to the group %4 and log in again.</source>
+        <translation>Keine Berechtigung für %1, daher kann sein Monitor nicht gesteuert werden. Die udev-Regel %2 dieses Programms ist nicht installiert: Installieren Sie sie unter %3 und starten Sie den Computer neu, oder nehmen Sie Ihr Konto in die Gruppe %4 auf und melden Sie sich neu an.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule is installed, but this session has no seat at this computer: add your account to the group %2 and log in again.</source>
+        <translation>Keine Berechtigung für %1, daher kann sein Monitor nicht gesteuert werden. Die udev-Regel ist installiert, aber diese Sitzung hat keinen Platz an diesem Computer: Nehmen Sie Ihr Konto in die Gruppe %2 auf und melden Sie sich neu an.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule is installed but not in force: run "udevadm trigger --subsystem-match=i2c-dev" as root or restart the computer.</source>
+        <translation>Keine Berechtigung für %1, daher kann sein Monitor nicht gesteuert werden. Die udev-Regel ist installiert, gilt aber noch nicht: Führen Sie als root "udevadm trigger --subsystem-match=i2c-dev" aus oder starten Sie den Computer neu.</translation>
+    </message>
+    <message>
+        <source>The system shows no I2C device files, so external monitors cannot be controlled. Load the kernel module i2c-dev: run "modprobe i2c-dev" as root, or install modules-load.d/lumen-desk.conf of this program and restart the computer.</source>
+        <translation>Das System zeigt keine I2C-Gerätedateien, daher können externe Monitore nicht gesteuert werden. Laden Sie das Kernelmodul i2c-dev: Führen Sie als root "modprobe i2c-dev" aus, oder installieren Sie modules-load.d/lumen-desk.conf dieses Programms und starten Sie den Computer neu.</translation>
+    </message>
+    <message>
+        <source>%1 leads to another monitor now; nothing was sent to it.</source>
+        <translation>%1 führt jetzt zu einem anderen Monitor; ihm wurde nichts gesendet.</translation>
     </message>
 </context>
 </TS>

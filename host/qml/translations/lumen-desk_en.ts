@@ -327,6 +327,70 @@
         <source>The report could not be written to %1: %2</source>
         <translation>The report could not be written to %1: %2</translation>
     </message>
+    <message>
+        <source>no reply</source>
+        <translation>no reply</translation>
+    </message>
+    <message>
+        <source>null reply</source>
+        <translation>null reply</translation>
+    </message>
+    <message>
+        <source>bad checksum</source>
+        <translation>bad checksum</translation>
+    </message>
+    <message>
+        <source>unsupported code</source>
+        <translation>unsupported code</translation>
+    </message>
+    <message>
+        <source>malformed reply</source>
+        <translation>malformed reply</translation>
+    </message>
+    <message>
+        <source>bus busy</source>
+        <translation>bus busy</translation>
+    </message>
+    <message>
+        <source>no access to the bus</source>
+        <translation>no access to the bus</translation>
+    </message>
+    <message>
+        <source>monitor gone</source>
+        <translation>monitor gone</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>cancelled</translation>
+    </message>
+    <message>
+        <source>refused after too many writes</source>
+        <translation>refused after too many writes</translation>
+    </message>
+    <message>
+        <source>display asleep</source>
+        <translation>display asleep</translation>
+    </message>
+    <message>
+        <source>%1 ms before a reply</source>
+        <translation>%1 ms before a reply</translation>
+    </message>
+    <message>
+        <source>%1 ms after a write</source>
+        <translation>%1 ms after a write</translation>
+    </message>
+    <message>
+        <source>open for %1</source>
+        <translation>open for %1</translation>
+    </message>
+    <message>
+        <source>closed; times opened: %1</source>
+        <translation>closed; times opened: %1</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%1 on %2</translation>
+    </message>
 </context>
 <context>
     <name>LuHelpButton</name>
@@ -718,6 +782,37 @@
     <message>
         <source>In an X11 session it works.</source>
         <translation>In an X11 session it works.</translation>
+    </message>
+</context>
+<context>
+    <name>RealMonitors</name>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. Your account is in the group %2 already: log out and in again.</source>
+        <translation>No permission to use %1, so its monitor cannot be controlled. Your account is in the group %2 already: log out and in again.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule %2 of this program is not installed: install it below %3 and restart the computer.</source>
+        <translation>No permission to use %1, so its monitor cannot be controlled. The udev rule %2 of this program is not installed: install it below %3 and restart the computer.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule %2 of this program is not installed: install it below %3 and restart the computer, or add your account to the group %4 and log in again.</source>
+        <translation>No permission to use %1, so its monitor cannot be controlled. The udev rule %2 of this program is not installed: install it below %3 and restart the computer, or add your account to the group %4 and log in again.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule is installed, but this session has no seat at this computer: add your account to the group %2 and log in again.</source>
+        <translation>No permission to use %1, so its monitor cannot be controlled. The udev rule is installed, but this session has no seat at this computer: add your account to the group %2 and log in again.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule is installed but not in force: run "udevadm trigger --subsystem-match=i2c-dev" as root or restart the computer.</source>
+        <translation>No permission to use %1, so its monitor cannot be controlled. The udev rule is installed but not in force: run "udevadm trigger --subsystem-match=i2c-dev" as root or restart the computer.</translation>
+    </message>
+    <message>
+        <source>The system shows no I2C device files, so external monitors cannot be controlled. Load the kernel module i2c-dev: run "modprobe i2c-dev" as root, or install modules-load.d/lumen-desk.conf of this program and restart the computer.</source>
+        <translation>The system shows no I2C device files, so external monitors cannot be controlled. Load the kernel module i2c-dev: run "modprobe i2c-dev" as root, or install modules-load.d/lumen-desk.conf of this program and restart the computer.</translation>
+    </message>
+    <message>
+        <source>%1 leads to another monitor now; nothing was sent to it.</source>
+        <translation>%1 leads to another monitor now; nothing was sent to it.</translation>
     </message>
 </context>
 </TS>

@@ -327,6 +327,70 @@
         <source>The report could not be written to %1: %2</source>
         <translation>No se pudo escribir el informe en %1: %2</translation>
     </message>
+    <message>
+        <source>no reply</source>
+        <translation>sin respuesta</translation>
+    </message>
+    <message>
+        <source>null reply</source>
+        <translation>respuesta vacía</translation>
+    </message>
+    <message>
+        <source>bad checksum</source>
+        <translation>suma de comprobación errónea</translation>
+    </message>
+    <message>
+        <source>unsupported code</source>
+        <translation>código no admitido</translation>
+    </message>
+    <message>
+        <source>malformed reply</source>
+        <translation>respuesta mal formada</translation>
+    </message>
+    <message>
+        <source>bus busy</source>
+        <translation>bus ocupado</translation>
+    </message>
+    <message>
+        <source>no access to the bus</source>
+        <translation>sin acceso al bus</translation>
+    </message>
+    <message>
+        <source>monitor gone</source>
+        <translation>monitor desaparecido</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>cancelado</translation>
+    </message>
+    <message>
+        <source>refused after too many writes</source>
+        <translation>rechazado tras demasiadas escrituras</translation>
+    </message>
+    <message>
+        <source>display asleep</source>
+        <translation>pantalla en reposo</translation>
+    </message>
+    <message>
+        <source>%1 ms before a reply</source>
+        <translation>%1 ms antes de una respuesta</translation>
+    </message>
+    <message>
+        <source>%1 ms after a write</source>
+        <translation>%1 ms después de una escritura</translation>
+    </message>
+    <message>
+        <source>open for %1</source>
+        <translation>abierto para %1</translation>
+    </message>
+    <message>
+        <source>closed; times opened: %1</source>
+        <translation>cerrado; veces abierto: %1</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%1 en %2</translation>
+    </message>
 </context>
 <context>
     <name>LuHelpButton</name>
@@ -718,6 +782,37 @@
     <message>
         <source>In an X11 session it works.</source>
         <translation>En una sesión X11 funciona.</translation>
+    </message>
+</context>
+<context>
+    <name>RealMonitors</name>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. Your account is in the group %2 already: log out and in again.</source>
+        <translation>No hay permiso para usar %1, por lo que no se puede controlar su monitor. Su cuenta ya está en el grupo %2: cierre la sesión y vuelva a iniciarla.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule %2 of this program is not installed: install it below %3 and restart the computer.</source>
+        <translation>No hay permiso para usar %1, por lo que no se puede controlar su monitor. La regla de udev %2 de este programa no está instalada: instálela en %3 y reinicie el equipo.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule %2 of this program is not installed: install it below %3 and restart the computer, or add your account to the group %4 and log in again.</source>
+        <translation>No hay permiso para usar %1, por lo que no se puede controlar su monitor. La regla de udev %2 de este programa no está instalada: instálela en %3 y reinicie el equipo, o añada su cuenta al grupo %4 y vuelva a iniciar sesión.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule is installed, but this session has no seat at this computer: add your account to the group %2 and log in again.</source>
+        <translation>No hay permiso para usar %1, por lo que no se puede controlar su monitor. La regla de udev está instalada, pero esta sesión no tiene un puesto en este equipo: añada su cuenta al grupo %2 y vuelva a iniciar sesión.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule is installed but not in force: run "udevadm trigger --subsystem-match=i2c-dev" as root or restart the computer.</source>
+        <translation>No hay permiso para usar %1, por lo que no se puede controlar su monitor. La regla de udev está instalada, pero no en vigor: ejecute "udevadm trigger --subsystem-match=i2c-dev" como root o reinicie el equipo.</translation>
+    </message>
+    <message>
+        <source>The system shows no I2C device files, so external monitors cannot be controlled. Load the kernel module i2c-dev: run "modprobe i2c-dev" as root, or install modules-load.d/lumen-desk.conf of this program and restart the computer.</source>
+        <translation>El sistema no muestra archivos de dispositivo I2C, por lo que no se pueden controlar monitores externos. Cargue el módulo del núcleo i2c-dev: ejecute "modprobe i2c-dev" como root, o instale modules-load.d/lumen-desk.conf de este programa y reinicie el equipo.</translation>
+    </message>
+    <message>
+        <source>%1 leads to another monitor now; nothing was sent to it.</source>
+        <translation>%1 lleva ahora a otro monitor; no se le ha enviado nada.</translation>
     </message>
 </context>
 </TS>

@@ -327,6 +327,70 @@
         <source>The report could not be written to %1: %2</source>
         <translation>Le rapport n’a pas pu être écrit dans %1 : %2</translation>
     </message>
+    <message>
+        <source>no reply</source>
+        <translation>pas de réponse</translation>
+    </message>
+    <message>
+        <source>null reply</source>
+        <translation>réponse vide</translation>
+    </message>
+    <message>
+        <source>bad checksum</source>
+        <translation>somme de contrôle erronée</translation>
+    </message>
+    <message>
+        <source>unsupported code</source>
+        <translation>code non pris en charge</translation>
+    </message>
+    <message>
+        <source>malformed reply</source>
+        <translation>réponse mal formée</translation>
+    </message>
+    <message>
+        <source>bus busy</source>
+        <translation>bus occupé</translation>
+    </message>
+    <message>
+        <source>no access to the bus</source>
+        <translation>pas d’accès au bus</translation>
+    </message>
+    <message>
+        <source>monitor gone</source>
+        <translation>moniteur disparu</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>annulé</translation>
+    </message>
+    <message>
+        <source>refused after too many writes</source>
+        <translation>refusé après trop d’écritures</translation>
+    </message>
+    <message>
+        <source>display asleep</source>
+        <translation>écran en veille</translation>
+    </message>
+    <message>
+        <source>%1 ms before a reply</source>
+        <translation>%1 ms avant une réponse</translation>
+    </message>
+    <message>
+        <source>%1 ms after a write</source>
+        <translation>%1 ms après une écriture</translation>
+    </message>
+    <message>
+        <source>open for %1</source>
+        <translation>ouvert pour %1</translation>
+    </message>
+    <message>
+        <source>closed; times opened: %1</source>
+        <translation>fermé ; ouvertures : %1</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
 </context>
 <context>
     <name>LuHelpButton</name>
@@ -718,6 +782,37 @@
     <message>
         <source>In an X11 session it works.</source>
         <translation>Dans une session X11, cela fonctionne.</translation>
+    </message>
+</context>
+<context>
+    <name>RealMonitors</name>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. Your account is in the group %2 already: log out and in again.</source>
+        <translation>Pas d’autorisation pour utiliser %1 : son moniteur ne peut pas être commandé. Votre compte est déjà dans le groupe %2 : fermez votre session et reconnectez-vous.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule %2 of this program is not installed: install it below %3 and restart the computer.</source>
+        <translation>Pas d’autorisation pour utiliser %1 : son moniteur ne peut pas être commandé. La règle udev %2 de ce programme n’est pas installée : installez-la dans %3 et redémarrez l’ordinateur.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule %2 of this program is not installed: install it below %3 and restart the computer, or add your account to the group %4 and log in again.</source>
+        <translation>Pas d’autorisation pour utiliser %1 : son moniteur ne peut pas être commandé. La règle udev %2 de ce programme n’est pas installée : installez-la dans %3 et redémarrez l’ordinateur, ou ajoutez votre compte au groupe %4 et reconnectez-vous.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule is installed, but this session has no seat at this computer: add your account to the group %2 and log in again.</source>
+        <translation>Pas d’autorisation pour utiliser %1 : son moniteur ne peut pas être commandé. La règle udev est installée, mais cette session n’a pas de poste sur cet ordinateur : ajoutez votre compte au groupe %2 et reconnectez-vous.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule is installed but not in force: run "udevadm trigger --subsystem-match=i2c-dev" as root or restart the computer.</source>
+        <translation>Pas d’autorisation pour utiliser %1 : son moniteur ne peut pas être commandé. La règle udev est installée mais pas en vigueur : exécutez "udevadm trigger --subsystem-match=i2c-dev" en tant que root ou redémarrez l’ordinateur.</translation>
+    </message>
+    <message>
+        <source>The system shows no I2C device files, so external monitors cannot be controlled. Load the kernel module i2c-dev: run "modprobe i2c-dev" as root, or install modules-load.d/lumen-desk.conf of this program and restart the computer.</source>
+        <translation>Le système ne présente aucun fichier de périphérique I2C : les moniteurs externes ne peuvent pas être commandés. Chargez le module du noyau i2c-dev : exécutez "modprobe i2c-dev" en tant que root, ou installez modules-load.d/lumen-desk.conf de ce programme et redémarrez l’ordinateur.</translation>
+    </message>
+    <message>
+        <source>%1 leads to another monitor now; nothing was sent to it.</source>
+        <translation>%1 mène maintenant à un autre moniteur ; rien ne lui a été envoyé.</translation>
     </message>
 </context>
 </TS>

@@ -327,6 +327,70 @@
         <source>The report could not be written to %1: %2</source>
         <translation>Izvješće se ne može zapisati u %1: %2</translation>
     </message>
+    <message>
+        <source>no reply</source>
+        <translation>nema odgovora</translation>
+    </message>
+    <message>
+        <source>null reply</source>
+        <translation>prazan odgovor</translation>
+    </message>
+    <message>
+        <source>bad checksum</source>
+        <translation>pogrešan kontrolni zbroj</translation>
+    </message>
+    <message>
+        <source>unsupported code</source>
+        <translation>nepodržan kod</translation>
+    </message>
+    <message>
+        <source>malformed reply</source>
+        <translation>neispravan odgovor</translation>
+    </message>
+    <message>
+        <source>bus busy</source>
+        <translation>sabirnica zauzeta</translation>
+    </message>
+    <message>
+        <source>no access to the bus</source>
+        <translation>nema pristupa sabirnici</translation>
+    </message>
+    <message>
+        <source>monitor gone</source>
+        <translation>monitor nestao</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>otkazano</translation>
+    </message>
+    <message>
+        <source>refused after too many writes</source>
+        <translation>odbijeno nakon previše zapisa</translation>
+    </message>
+    <message>
+        <source>display asleep</source>
+        <translation>zaslon spava</translation>
+    </message>
+    <message>
+        <source>%1 ms before a reply</source>
+        <translation>%1 ms prije odgovora</translation>
+    </message>
+    <message>
+        <source>%1 ms after a write</source>
+        <translation>%1 ms nakon zapisa</translation>
+    </message>
+    <message>
+        <source>open for %1</source>
+        <translation>otvoren za %1</translation>
+    </message>
+    <message>
+        <source>closed; times opened: %1</source>
+        <translation>zatvoren; broj otvaranja: %1</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%1 na %2</translation>
+    </message>
 </context>
 <context>
     <name>LuHelpButton</name>
@@ -718,6 +782,37 @@
     <message>
         <source>In an X11 session it works.</source>
         <translation>U sesiji X11 to radi.</translation>
+    </message>
+</context>
+<context>
+    <name>RealMonitors</name>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. Your account is in the group %2 already: log out and in again.</source>
+        <translation>Nema dopuštenja za %1, pa se njegovim monitorom ne može upravljati. Vaš račun već je u grupi %2: odjavite se i ponovno prijavite.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule %2 of this program is not installed: install it below %3 and restart the computer.</source>
+        <translation>Nema dopuštenja za %1, pa se njegovim monitorom ne može upravljati. Pravilo udev %2 ovog programa nije instalirano: instalirajte ga u %3 i ponovno pokrenite računalo.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule %2 of this program is not installed: install it below %3 and restart the computer, or add your account to the group %4 and log in again.</source>
+        <translation>Nema dopuštenja za %1, pa se njegovim monitorom ne može upravljati. Pravilo udev %2 ovog programa nije instalirano: instalirajte ga u %3 i ponovno pokrenite računalo ili dodajte svoj račun u grupu %4 i ponovno se prijavite.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule is installed, but this session has no seat at this computer: add your account to the group %2 and log in again.</source>
+        <translation>Nema dopuštenja za %1, pa se njegovim monitorom ne može upravljati. Pravilo udev je instalirano, ali ova sesija nema radno mjesto na ovom računalu: dodajte svoj račun u grupu %2 i ponovno se prijavite.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule is installed but not in force: run "udevadm trigger --subsystem-match=i2c-dev" as root or restart the computer.</source>
+        <translation>Nema dopuštenja za %1, pa se njegovim monitorom ne može upravljati. Pravilo udev je instalirano, ali nije na snazi: pokrenite "udevadm trigger --subsystem-match=i2c-dev" kao root ili ponovno pokrenite računalo.</translation>
+    </message>
+    <message>
+        <source>The system shows no I2C device files, so external monitors cannot be controlled. Load the kernel module i2c-dev: run "modprobe i2c-dev" as root, or install modules-load.d/lumen-desk.conf of this program and restart the computer.</source>
+        <translation>Sustav ne pokazuje datoteke uređaja I2C, pa se vanjskim monitorima ne može upravljati. Učitajte modul jezgre i2c-dev: pokrenite "modprobe i2c-dev" kao root ili instalirajte modules-load.d/lumen-desk.conf ovog programa i ponovno pokrenite računalo.</translation>
+    </message>
+    <message>
+        <source>%1 leads to another monitor now; nothing was sent to it.</source>
+        <translation>%1 sada vodi do drugog monitora; ništa mu nije poslano.</translation>
     </message>
 </context>
 </TS>

@@ -327,6 +327,70 @@
         <source>The report could not be written to %1: %2</source>
         <translation>A jelentés nem írható ide: %1: %2</translation>
     </message>
+    <message>
+        <source>no reply</source>
+        <translation>nincs válasz</translation>
+    </message>
+    <message>
+        <source>null reply</source>
+        <translation>üres válasz</translation>
+    </message>
+    <message>
+        <source>bad checksum</source>
+        <translation>hibás ellenőrző összeg</translation>
+    </message>
+    <message>
+        <source>unsupported code</source>
+        <translation>nem támogatott kód</translation>
+    </message>
+    <message>
+        <source>malformed reply</source>
+        <translation>hibás formájú válasz</translation>
+    </message>
+    <message>
+        <source>bus busy</source>
+        <translation>foglalt busz</translation>
+    </message>
+    <message>
+        <source>no access to the bus</source>
+        <translation>nincs hozzáférés a buszhoz</translation>
+    </message>
+    <message>
+        <source>monitor gone</source>
+        <translation>a monitor eltűnt</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>megszakítva</translation>
+    </message>
+    <message>
+        <source>refused after too many writes</source>
+        <translation>elutasítva túl sok írás után</translation>
+    </message>
+    <message>
+        <source>display asleep</source>
+        <translation>a kijelző alszik</translation>
+    </message>
+    <message>
+        <source>%1 ms before a reply</source>
+        <translation>%1 ms a válasz előtt</translation>
+    </message>
+    <message>
+        <source>%1 ms after a write</source>
+        <translation>%1 ms írás után</translation>
+    </message>
+    <message>
+        <source>open for %1</source>
+        <translation>nyitva: %1</translation>
+    </message>
+    <message>
+        <source>closed; times opened: %1</source>
+        <translation>zárva; nyitások száma: %1</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%1, %2</translation>
+    </message>
 </context>
 <context>
     <name>LuHelpButton</name>
@@ -718,6 +782,37 @@
     <message>
         <source>In an X11 session it works.</source>
         <translation>X11-munkamenetben működik.</translation>
+    </message>
+</context>
+<context>
+    <name>RealMonitors</name>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. Your account is in the group %2 already: log out and in again.</source>
+        <translation>Nincs jogosultság a(z) %1 használatához, ezért a hozzá tartozó monitor nem vezérelhető. A fiókja már tagja a(z) %2 csoportnak: jelentkezzen ki, majd újra be.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule %2 of this program is not installed: install it below %3 and restart the computer.</source>
+        <translation>Nincs jogosultság a(z) %1 használatához, ezért a hozzá tartozó monitor nem vezérelhető. A program %2 udev-szabálya nincs telepítve: telepítse ide: %3, és indítsa újra a számítógépet.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule %2 of this program is not installed: install it below %3 and restart the computer, or add your account to the group %4 and log in again.</source>
+        <translation>Nincs jogosultság a(z) %1 használatához, ezért a hozzá tartozó monitor nem vezérelhető. A program %2 udev-szabálya nincs telepítve: telepítse ide: %3, és indítsa újra a számítógépet, vagy vegye fel a fiókját a(z) %4 csoportba, és jelentkezzen be újra.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule is installed, but this session has no seat at this computer: add your account to the group %2 and log in again.</source>
+        <translation>Nincs jogosultság a(z) %1 használatához, ezért a hozzá tartozó monitor nem vezérelhető. Az udev-szabály telepítve van, de ez a munkamenet nem ezen a számítógépen fut helyben: vegye fel a fiókját a(z) %2 csoportba, és jelentkezzen be újra.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule is installed but not in force: run "udevadm trigger --subsystem-match=i2c-dev" as root or restart the computer.</source>
+        <translation>Nincs jogosultság a(z) %1 használatához, ezért a hozzá tartozó monitor nem vezérelhető. Az udev-szabály telepítve van, de még nem érvényes: futtassa rootként: "udevadm trigger --subsystem-match=i2c-dev", vagy indítsa újra a számítógépet.</translation>
+    </message>
+    <message>
+        <source>The system shows no I2C device files, so external monitors cannot be controlled. Load the kernel module i2c-dev: run "modprobe i2c-dev" as root, or install modules-load.d/lumen-desk.conf of this program and restart the computer.</source>
+        <translation>A rendszeren nincsenek I2C-eszközfájlok, ezért a külső monitorok nem vezérelhetők. Töltse be az i2c-dev kernelmodult: futtassa rootként: "modprobe i2c-dev", vagy telepítse a program modules-load.d/lumen-desk.conf fájlját, és indítsa újra a számítógépet.</translation>
+    </message>
+    <message>
+        <source>%1 leads to another monitor now; nothing was sent to it.</source>
+        <translation>A(z) %1 most másik monitorhoz vezet; semmi nem lett elküldve neki.</translation>
     </message>
 </context>
 </TS>

@@ -327,6 +327,70 @@
         <source>The report could not be written to %1: %2</source>
         <translation>Impossibile scrivere il rapporto in %1: %2</translation>
     </message>
+    <message>
+        <source>no reply</source>
+        <translation>nessuna risposta</translation>
+    </message>
+    <message>
+        <source>null reply</source>
+        <translation>risposta vuota</translation>
+    </message>
+    <message>
+        <source>bad checksum</source>
+        <translation>somma di controllo errata</translation>
+    </message>
+    <message>
+        <source>unsupported code</source>
+        <translation>codice non supportato</translation>
+    </message>
+    <message>
+        <source>malformed reply</source>
+        <translation>risposta malformata</translation>
+    </message>
+    <message>
+        <source>bus busy</source>
+        <translation>bus occupato</translation>
+    </message>
+    <message>
+        <source>no access to the bus</source>
+        <translation>nessun accesso al bus</translation>
+    </message>
+    <message>
+        <source>monitor gone</source>
+        <translation>monitor scomparso</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>annullato</translation>
+    </message>
+    <message>
+        <source>refused after too many writes</source>
+        <translation>rifiutato dopo troppe scritture</translation>
+    </message>
+    <message>
+        <source>display asleep</source>
+        <translation>schermo in sospensione</translation>
+    </message>
+    <message>
+        <source>%1 ms before a reply</source>
+        <translation>%1 ms prima di una risposta</translation>
+    </message>
+    <message>
+        <source>%1 ms after a write</source>
+        <translation>%1 ms dopo una scrittura</translation>
+    </message>
+    <message>
+        <source>open for %1</source>
+        <translation>aperto per %1</translation>
+    </message>
+    <message>
+        <source>closed; times opened: %1</source>
+        <translation>chiuso; volte aperto: %1</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%1 su %2</translation>
+    </message>
 </context>
 <context>
     <name>LuHelpButton</name>
@@ -718,6 +782,37 @@
     <message>
         <source>In an X11 session it works.</source>
         <translation>In una sessione X11 funziona.</translation>
+    </message>
+</context>
+<context>
+    <name>RealMonitors</name>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. Your account is in the group %2 already: log out and in again.</source>
+        <translation>Manca l’autorizzazione a usare %1, perciò il suo monitor non può essere controllato. Il suo account è già nel gruppo %2: esca dalla sessione e rientri.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule %2 of this program is not installed: install it below %3 and restart the computer.</source>
+        <translation>Manca l’autorizzazione a usare %1, perciò il suo monitor non può essere controllato. La regola udev %2 di questo programma non è installata: la installi in %3 e riavvii il computer.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule %2 of this program is not installed: install it below %3 and restart the computer, or add your account to the group %4 and log in again.</source>
+        <translation>Manca l’autorizzazione a usare %1, perciò il suo monitor non può essere controllato. La regola udev %2 di questo programma non è installata: la installi in %3 e riavvii il computer, oppure aggiunga il suo account al gruppo %4 e acceda di nuovo.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule is installed, but this session has no seat at this computer: add your account to the group %2 and log in again.</source>
+        <translation>Manca l’autorizzazione a usare %1, perciò il suo monitor non può essere controllato. La regola udev è installata, ma questa sessione non ha una postazione su questo computer: aggiunga il suo account al gruppo %2 e acceda di nuovo.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule is installed but not in force: run "udevadm trigger --subsystem-match=i2c-dev" as root or restart the computer.</source>
+        <translation>Manca l’autorizzazione a usare %1, perciò il suo monitor non può essere controllato. La regola udev è installata ma non in vigore: esegua "udevadm trigger --subsystem-match=i2c-dev" come root o riavvii il computer.</translation>
+    </message>
+    <message>
+        <source>The system shows no I2C device files, so external monitors cannot be controlled. Load the kernel module i2c-dev: run "modprobe i2c-dev" as root, or install modules-load.d/lumen-desk.conf of this program and restart the computer.</source>
+        <translation>Il sistema non mostra file di dispositivo I2C, perciò i monitor esterni non possono essere controllati. Carichi il modulo del kernel i2c-dev: esegua "modprobe i2c-dev" come root, oppure installi modules-load.d/lumen-desk.conf di questo programma e riavvii il computer.</translation>
+    </message>
+    <message>
+        <source>%1 leads to another monitor now; nothing was sent to it.</source>
+        <translation>%1 porta ora a un altro monitor; non gli è stato inviato nulla.</translation>
     </message>
 </context>
 </TS>

@@ -327,6 +327,70 @@
         <source>The report could not be written to %1: %2</source>
         <translation>レポートを %1 に保存できません: %2</translation>
     </message>
+    <message>
+        <source>no reply</source>
+        <translation>応答なし</translation>
+    </message>
+    <message>
+        <source>null reply</source>
+        <translation>空の応答</translation>
+    </message>
+    <message>
+        <source>bad checksum</source>
+        <translation>チェックサム不一致</translation>
+    </message>
+    <message>
+        <source>unsupported code</source>
+        <translation>非対応コード</translation>
+    </message>
+    <message>
+        <source>malformed reply</source>
+        <translation>不正な応答</translation>
+    </message>
+    <message>
+        <source>bus busy</source>
+        <translation>バス使用中</translation>
+    </message>
+    <message>
+        <source>no access to the bus</source>
+        <translation>バスへのアクセス不可</translation>
+    </message>
+    <message>
+        <source>monitor gone</source>
+        <translation>モニターなし</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>refused after too many writes</source>
+        <translation>書き込み過多のため拒否</translation>
+    </message>
+    <message>
+        <source>display asleep</source>
+        <translation>ディスプレイはスリープ中</translation>
+    </message>
+    <message>
+        <source>%1 ms before a reply</source>
+        <translation>応答前 %1 ms</translation>
+    </message>
+    <message>
+        <source>%1 ms after a write</source>
+        <translation>書き込み後 %1 ms</translation>
+    </message>
+    <message>
+        <source>open for %1</source>
+        <translation>%1 に対して作動中</translation>
+    </message>
+    <message>
+        <source>closed; times opened: %1</source>
+        <translation>通常（作動回数: %1）</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%1（%2）</translation>
+    </message>
 </context>
 <context>
     <name>LuHelpButton</name>
@@ -718,6 +782,37 @@
     <message>
         <source>In an X11 session it works.</source>
         <translation>X11 セッションでは使えます。</translation>
+    </message>
+</context>
+<context>
+    <name>RealMonitors</name>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. Your account is in the group %2 already: log out and in again.</source>
+        <translation>%1 を使用する権限がないため、そのモニターを操作できません。アカウントはすでにグループ %2 に属しています。一度ログアウトしてからログインし直してください。</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule %2 of this program is not installed: install it below %3 and restart the computer.</source>
+        <translation>%1 を使用する権限がないため、そのモニターを操作できません。このプログラムの udev ルール %2 がインストールされていません。%3 にインストールしてコンピューターを再起動してください。</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule %2 of this program is not installed: install it below %3 and restart the computer, or add your account to the group %4 and log in again.</source>
+        <translation>%1 を使用する権限がないため、そのモニターを操作できません。このプログラムの udev ルール %2 がインストールされていません。%3 にインストールしてコンピューターを再起動するか、アカウントをグループ %4 に追加してログインし直してください。</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule is installed, but this session has no seat at this computer: add your account to the group %2 and log in again.</source>
+        <translation>%1 を使用する権限がないため、そのモニターを操作できません。udev ルールはインストールされていますが、このセッションにはこのコンピューターのシートがありません。アカウントをグループ %2 に追加してログインし直してください。</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule is installed but not in force: run "udevadm trigger --subsystem-match=i2c-dev" as root or restart the computer.</source>
+        <translation>%1 を使用する権限がないため、そのモニターを操作できません。udev ルールはインストールされていますが、有効になっていません。root で "udevadm trigger --subsystem-match=i2c-dev" を実行するか、コンピューターを再起動してください。</translation>
+    </message>
+    <message>
+        <source>The system shows no I2C device files, so external monitors cannot be controlled. Load the kernel module i2c-dev: run "modprobe i2c-dev" as root, or install modules-load.d/lumen-desk.conf of this program and restart the computer.</source>
+        <translation>システムに I2C デバイスファイルがないため、外部モニターを操作できません。カーネルモジュール i2c-dev を読み込んでください。root で "modprobe i2c-dev" を実行するか、このプログラムの modules-load.d/lumen-desk.conf をインストールしてコンピューターを再起動します。</translation>
+    </message>
+    <message>
+        <source>%1 leads to another monitor now; nothing was sent to it.</source>
+        <translation>%1 は別のモニターにつながっています。そのモニターには何も送信していません。</translation>
     </message>
 </context>
 </TS>

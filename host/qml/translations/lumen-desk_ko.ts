@@ -327,6 +327,70 @@
         <source>The report could not be written to %1: %2</source>
         <translation>보고서를 %1에 쓸 수 없습니다: %2</translation>
     </message>
+    <message>
+        <source>no reply</source>
+        <translation>응답 없음</translation>
+    </message>
+    <message>
+        <source>null reply</source>
+        <translation>빈 응답</translation>
+    </message>
+    <message>
+        <source>bad checksum</source>
+        <translation>체크섬 오류</translation>
+    </message>
+    <message>
+        <source>unsupported code</source>
+        <translation>지원되지 않는 코드</translation>
+    </message>
+    <message>
+        <source>malformed reply</source>
+        <translation>잘못된 응답</translation>
+    </message>
+    <message>
+        <source>bus busy</source>
+        <translation>버스 사용 중</translation>
+    </message>
+    <message>
+        <source>no access to the bus</source>
+        <translation>버스 접근 불가</translation>
+    </message>
+    <message>
+        <source>monitor gone</source>
+        <translation>모니터 사라짐</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>취소됨</translation>
+    </message>
+    <message>
+        <source>refused after too many writes</source>
+        <translation>쓰기 횟수 초과로 거부됨</translation>
+    </message>
+    <message>
+        <source>display asleep</source>
+        <translation>디스플레이 절전 중</translation>
+    </message>
+    <message>
+        <source>%1 ms before a reply</source>
+        <translation>응답 전 %1ms</translation>
+    </message>
+    <message>
+        <source>%1 ms after a write</source>
+        <translation>쓰기 후 %1ms</translation>
+    </message>
+    <message>
+        <source>open for %1</source>
+        <translation>%1에 대해 작동됨</translation>
+    </message>
+    <message>
+        <source>closed; times opened: %1</source>
+        <translation>닫힘, 작동 횟수: %1</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%1 (%2)</translation>
+    </message>
 </context>
 <context>
     <name>LuHelpButton</name>
@@ -718,6 +782,37 @@
     <message>
         <source>In an X11 session it works.</source>
         <translation>X11 세션에서는 작동합니다.</translation>
+    </message>
+</context>
+<context>
+    <name>RealMonitors</name>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. Your account is in the group %2 already: log out and in again.</source>
+        <translation>%1을(를) 사용할 권한이 없어 해당 모니터를 제어할 수 없습니다. 계정이 이미 %2 그룹에 있습니다. 로그아웃한 다음 다시 로그인하세요.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule %2 of this program is not installed: install it below %3 and restart the computer.</source>
+        <translation>%1을(를) 사용할 권한이 없어 해당 모니터를 제어할 수 없습니다. 이 프로그램의 udev 규칙 %2이(가) 설치되어 있지 않습니다. %3에 설치하고 컴퓨터를 다시 시작하세요.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule %2 of this program is not installed: install it below %3 and restart the computer, or add your account to the group %4 and log in again.</source>
+        <translation>%1을(를) 사용할 권한이 없어 해당 모니터를 제어할 수 없습니다. 이 프로그램의 udev 규칙 %2이(가) 설치되어 있지 않습니다. %3에 설치하고 컴퓨터를 다시 시작하거나, 계정을 %4 그룹에 추가하고 다시 로그인하세요.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule is installed, but this session has no seat at this computer: add your account to the group %2 and log in again.</source>
+        <translation>%1을(를) 사용할 권한이 없어 해당 모니터를 제어할 수 없습니다. udev 규칙은 설치되어 있지만 이 세션은 이 컴퓨터의 시트에 속하지 않습니다. 계정을 %2 그룹에 추가하고 다시 로그인하세요.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule is installed but not in force: run "udevadm trigger --subsystem-match=i2c-dev" as root or restart the computer.</source>
+        <translation>%1을(를) 사용할 권한이 없어 해당 모니터를 제어할 수 없습니다. udev 규칙이 설치되어 있지만 적용되지 않았습니다. root로 "udevadm trigger --subsystem-match=i2c-dev"을(를) 실행하거나 컴퓨터를 다시 시작하세요.</translation>
+    </message>
+    <message>
+        <source>The system shows no I2C device files, so external monitors cannot be controlled. Load the kernel module i2c-dev: run "modprobe i2c-dev" as root, or install modules-load.d/lumen-desk.conf of this program and restart the computer.</source>
+        <translation>시스템에 I2C 장치 파일이 없어 외부 모니터를 제어할 수 없습니다. 커널 모듈 i2c-dev를 로드하세요. root로 "modprobe i2c-dev"을(를) 실행하거나 이 프로그램의 modules-load.d/lumen-desk.conf을(를) 설치하고 컴퓨터를 다시 시작하세요.</translation>
+    </message>
+    <message>
+        <source>%1 leads to another monitor now; nothing was sent to it.</source>
+        <translation>%1이(가) 이제 다른 모니터에 연결되어 있습니다. 그 모니터에는 아무것도 보내지 않았습니다.</translation>
     </message>
 </context>
 </TS>

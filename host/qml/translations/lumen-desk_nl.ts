@@ -327,6 +327,70 @@
         <source>The report could not be written to %1: %2</source>
         <translation>Het rapport kon niet naar %1 worden geschreven: %2</translation>
     </message>
+    <message>
+        <source>no reply</source>
+        <translation>geen antwoord</translation>
+    </message>
+    <message>
+        <source>null reply</source>
+        <translation>leeg antwoord</translation>
+    </message>
+    <message>
+        <source>bad checksum</source>
+        <translation>onjuiste controlesom</translation>
+    </message>
+    <message>
+        <source>unsupported code</source>
+        <translation>niet-ondersteunde code</translation>
+    </message>
+    <message>
+        <source>malformed reply</source>
+        <translation>misvormd antwoord</translation>
+    </message>
+    <message>
+        <source>bus busy</source>
+        <translation>bus bezet</translation>
+    </message>
+    <message>
+        <source>no access to the bus</source>
+        <translation>geen toegang tot de bus</translation>
+    </message>
+    <message>
+        <source>monitor gone</source>
+        <translation>monitor verdwenen</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>geannuleerd</translation>
+    </message>
+    <message>
+        <source>refused after too many writes</source>
+        <translation>geweigerd na te veel schrijfacties</translation>
+    </message>
+    <message>
+        <source>display asleep</source>
+        <translation>scherm slaapt</translation>
+    </message>
+    <message>
+        <source>%1 ms before a reply</source>
+        <translation>%1 ms vóór een antwoord</translation>
+    </message>
+    <message>
+        <source>%1 ms after a write</source>
+        <translation>%1 ms na een schrijfactie</translation>
+    </message>
+    <message>
+        <source>open for %1</source>
+        <translation>open voor %1</translation>
+    </message>
+    <message>
+        <source>closed; times opened: %1</source>
+        <translation>gesloten; keren geopend: %1</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%1 op %2</translation>
+    </message>
 </context>
 <context>
     <name>LuHelpButton</name>
@@ -718,6 +782,37 @@
     <message>
         <source>In an X11 session it works.</source>
         <translation>In een X11-sessie werkt het.</translation>
+    </message>
+</context>
+<context>
+    <name>RealMonitors</name>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. Your account is in the group %2 already: log out and in again.</source>
+        <translation>Geen toestemming voor %1, dus de monitor daarvan kan niet worden bediend. Uw account zit al in de groep %2: meld u af en weer aan.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule %2 of this program is not installed: install it below %3 and restart the computer.</source>
+        <translation>Geen toestemming voor %1, dus de monitor daarvan kan niet worden bediend. De udev-regel %2 van dit programma is niet geïnstalleerd: installeer die in %3 en start de computer opnieuw op.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule %2 of this program is not installed: install it below %3 and restart the computer, or add your account to the group %4 and log in again.</source>
+        <translation>Geen toestemming voor %1, dus de monitor daarvan kan niet worden bediend. De udev-regel %2 van dit programma is niet geïnstalleerd: installeer die in %3 en start de computer opnieuw op, of voeg uw account toe aan de groep %4 en meld u opnieuw aan.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule is installed, but this session has no seat at this computer: add your account to the group %2 and log in again.</source>
+        <translation>Geen toestemming voor %1, dus de monitor daarvan kan niet worden bediend. De udev-regel is geïnstalleerd, maar deze sessie heeft geen werkplek op deze computer: voeg uw account toe aan de groep %2 en meld u opnieuw aan.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule is installed but not in force: run "udevadm trigger --subsystem-match=i2c-dev" as root or restart the computer.</source>
+        <translation>Geen toestemming voor %1, dus de monitor daarvan kan niet worden bediend. De udev-regel is geïnstalleerd maar niet van kracht: voer "udevadm trigger --subsystem-match=i2c-dev" uit als root of start de computer opnieuw op.</translation>
+    </message>
+    <message>
+        <source>The system shows no I2C device files, so external monitors cannot be controlled. Load the kernel module i2c-dev: run "modprobe i2c-dev" as root, or install modules-load.d/lumen-desk.conf of this program and restart the computer.</source>
+        <translation>Het systeem toont geen I2C-apparaatbestanden, dus externe monitoren kunnen niet worden bediend. Laad de kernelmodule i2c-dev: voer "modprobe i2c-dev" uit als root, of installeer modules-load.d/lumen-desk.conf van dit programma en start de computer opnieuw op.</translation>
+    </message>
+    <message>
+        <source>%1 leads to another monitor now; nothing was sent to it.</source>
+        <translation>%1 leidt nu naar een andere monitor; er is niets naartoe gestuurd.</translation>
     </message>
 </context>
 </TS>

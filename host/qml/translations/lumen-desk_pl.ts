@@ -327,6 +327,70 @@
         <source>The report could not be written to %1: %2</source>
         <translation>Nie można zapisać raportu w %1: %2</translation>
     </message>
+    <message>
+        <source>no reply</source>
+        <translation>brak odpowiedzi</translation>
+    </message>
+    <message>
+        <source>null reply</source>
+        <translation>pusta odpowiedź</translation>
+    </message>
+    <message>
+        <source>bad checksum</source>
+        <translation>błędna suma kontrolna</translation>
+    </message>
+    <message>
+        <source>unsupported code</source>
+        <translation>nieobsługiwany kod</translation>
+    </message>
+    <message>
+        <source>malformed reply</source>
+        <translation>nieprawidłowa odpowiedź</translation>
+    </message>
+    <message>
+        <source>bus busy</source>
+        <translation>magistrala zajęta</translation>
+    </message>
+    <message>
+        <source>no access to the bus</source>
+        <translation>brak dostępu do magistrali</translation>
+    </message>
+    <message>
+        <source>monitor gone</source>
+        <translation>monitor zniknął</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>anulowano</translation>
+    </message>
+    <message>
+        <source>refused after too many writes</source>
+        <translation>odrzucono po zbyt wielu zapisach</translation>
+    </message>
+    <message>
+        <source>display asleep</source>
+        <translation>ekran uśpiony</translation>
+    </message>
+    <message>
+        <source>%1 ms before a reply</source>
+        <translation>%1 ms przed odpowiedzią</translation>
+    </message>
+    <message>
+        <source>%1 ms after a write</source>
+        <translation>%1 ms po zapisie</translation>
+    </message>
+    <message>
+        <source>open for %1</source>
+        <translation>otwarty dla %1</translation>
+    </message>
+    <message>
+        <source>closed; times opened: %1</source>
+        <translation>zamknięty; liczba otwarć: %1</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%1 na %2</translation>
+    </message>
 </context>
 <context>
     <name>LuHelpButton</name>
@@ -718,6 +782,37 @@
     <message>
         <source>In an X11 session it works.</source>
         <translation>W sesji X11 to działa.</translation>
+    </message>
+</context>
+<context>
+    <name>RealMonitors</name>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. Your account is in the group %2 already: log out and in again.</source>
+        <translation>Brak uprawnień do %1, dlatego nie można sterować jego monitorem. Konto należy już do grupy %2: wyloguj się i zaloguj ponownie.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule %2 of this program is not installed: install it below %3 and restart the computer.</source>
+        <translation>Brak uprawnień do %1, dlatego nie można sterować jego monitorem. Reguła udev %2 tego programu nie jest zainstalowana: zainstaluj ją w %3 i uruchom komputer ponownie.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule %2 of this program is not installed: install it below %3 and restart the computer, or add your account to the group %4 and log in again.</source>
+        <translation>Brak uprawnień do %1, dlatego nie można sterować jego monitorem. Reguła udev %2 tego programu nie jest zainstalowana: zainstaluj ją w %3 i uruchom komputer ponownie albo dodaj konto do grupy %4 i zaloguj się ponownie.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule is installed, but this session has no seat at this computer: add your account to the group %2 and log in again.</source>
+        <translation>Brak uprawnień do %1, dlatego nie można sterować jego monitorem. Reguła udev jest zainstalowana, ale ta sesja nie ma stanowiska przy tym komputerze: dodaj konto do grupy %2 i zaloguj się ponownie.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule is installed but not in force: run "udevadm trigger --subsystem-match=i2c-dev" as root or restart the computer.</source>
+        <translation>Brak uprawnień do %1, dlatego nie można sterować jego monitorem. Reguła udev jest zainstalowana, ale nie działa: uruchom "udevadm trigger --subsystem-match=i2c-dev" jako root albo uruchom komputer ponownie.</translation>
+    </message>
+    <message>
+        <source>The system shows no I2C device files, so external monitors cannot be controlled. Load the kernel module i2c-dev: run "modprobe i2c-dev" as root, or install modules-load.d/lumen-desk.conf of this program and restart the computer.</source>
+        <translation>System nie udostępnia plików urządzeń I2C, dlatego nie można sterować monitorami zewnętrznymi. Załaduj moduł jądra i2c-dev: uruchom "modprobe i2c-dev" jako root albo zainstaluj modules-load.d/lumen-desk.conf tego programu i uruchom komputer ponownie.</translation>
+    </message>
+    <message>
+        <source>%1 leads to another monitor now; nothing was sent to it.</source>
+        <translation>%1 prowadzi teraz do innego monitora; nic do niego nie wysłano.</translation>
     </message>
 </context>
 </TS>

@@ -327,6 +327,70 @@
         <source>The report could not be written to %1: %2</source>
         <translation>Não foi possível guardar o relatório em %1: %2</translation>
     </message>
+    <message>
+        <source>no reply</source>
+        <translation>sem resposta</translation>
+    </message>
+    <message>
+        <source>null reply</source>
+        <translation>resposta vazia</translation>
+    </message>
+    <message>
+        <source>bad checksum</source>
+        <translation>soma de verificação errada</translation>
+    </message>
+    <message>
+        <source>unsupported code</source>
+        <translation>código não suportado</translation>
+    </message>
+    <message>
+        <source>malformed reply</source>
+        <translation>resposta malformada</translation>
+    </message>
+    <message>
+        <source>bus busy</source>
+        <translation>barramento ocupado</translation>
+    </message>
+    <message>
+        <source>no access to the bus</source>
+        <translation>sem acesso ao barramento</translation>
+    </message>
+    <message>
+        <source>monitor gone</source>
+        <translation>monitor desapareceu</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>cancelado</translation>
+    </message>
+    <message>
+        <source>refused after too many writes</source>
+        <translation>recusado após demasiadas escritas</translation>
+    </message>
+    <message>
+        <source>display asleep</source>
+        <translation>ecrã em repouso</translation>
+    </message>
+    <message>
+        <source>%1 ms before a reply</source>
+        <translation>%1 ms antes de uma resposta</translation>
+    </message>
+    <message>
+        <source>%1 ms after a write</source>
+        <translation>%1 ms após uma escrita</translation>
+    </message>
+    <message>
+        <source>open for %1</source>
+        <translation>aberto para %1</translation>
+    </message>
+    <message>
+        <source>closed; times opened: %1</source>
+        <translation>fechado; vezes aberto: %1</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%1 em %2</translation>
+    </message>
 </context>
 <context>
     <name>LuHelpButton</name>
@@ -718,6 +782,37 @@
     <message>
         <source>In an X11 session it works.</source>
         <translation>Numa sessão X11 funciona.</translation>
+    </message>
+</context>
+<context>
+    <name>RealMonitors</name>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. Your account is in the group %2 already: log out and in again.</source>
+        <translation>Sem permissão para usar %1, por isso não é possível controlar o respetivo monitor. A sua conta já está no grupo %2: termine a sessão e volte a iniciá-la.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule %2 of this program is not installed: install it below %3 and restart the computer.</source>
+        <translation>Sem permissão para usar %1, por isso não é possível controlar o respetivo monitor. A regra udev %2 deste programa não está instalada: instale-a em %3 e reinicie o computador.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule %2 of this program is not installed: install it below %3 and restart the computer, or add your account to the group %4 and log in again.</source>
+        <translation>Sem permissão para usar %1, por isso não é possível controlar o respetivo monitor. A regra udev %2 deste programa não está instalada: instale-a em %3 e reinicie o computador, ou adicione a sua conta ao grupo %4 e inicie sessão novamente.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule is installed, but this session has no seat at this computer: add your account to the group %2 and log in again.</source>
+        <translation>Sem permissão para usar %1, por isso não é possível controlar o respetivo monitor. A regra udev está instalada, mas esta sessão não tem um posto neste computador: adicione a sua conta ao grupo %2 e inicie sessão novamente.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule is installed but not in force: run "udevadm trigger --subsystem-match=i2c-dev" as root or restart the computer.</source>
+        <translation>Sem permissão para usar %1, por isso não é possível controlar o respetivo monitor. A regra udev está instalada, mas não em vigor: execute "udevadm trigger --subsystem-match=i2c-dev" como root ou reinicie o computador.</translation>
+    </message>
+    <message>
+        <source>The system shows no I2C device files, so external monitors cannot be controlled. Load the kernel module i2c-dev: run "modprobe i2c-dev" as root, or install modules-load.d/lumen-desk.conf of this program and restart the computer.</source>
+        <translation>O sistema não mostra ficheiros de dispositivo I2C, por isso não é possível controlar monitores externos. Carregue o módulo do kernel i2c-dev: execute "modprobe i2c-dev" como root, ou instale modules-load.d/lumen-desk.conf deste programa e reinicie o computador.</translation>
+    </message>
+    <message>
+        <source>%1 leads to another monitor now; nothing was sent to it.</source>
+        <translation>%1 leva agora a outro monitor; nada lhe foi enviado.</translation>
     </message>
 </context>
 </TS>

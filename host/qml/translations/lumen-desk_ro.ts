@@ -327,6 +327,70 @@
         <source>The report could not be written to %1: %2</source>
         <translation>Raportul nu a putut fi scris în %1: %2</translation>
     </message>
+    <message>
+        <source>no reply</source>
+        <translation>fără răspuns</translation>
+    </message>
+    <message>
+        <source>null reply</source>
+        <translation>răspuns gol</translation>
+    </message>
+    <message>
+        <source>bad checksum</source>
+        <translation>sumă de control greșită</translation>
+    </message>
+    <message>
+        <source>unsupported code</source>
+        <translation>cod neacceptat</translation>
+    </message>
+    <message>
+        <source>malformed reply</source>
+        <translation>răspuns malformat</translation>
+    </message>
+    <message>
+        <source>bus busy</source>
+        <translation>magistrală ocupată</translation>
+    </message>
+    <message>
+        <source>no access to the bus</source>
+        <translation>fără acces la magistrală</translation>
+    </message>
+    <message>
+        <source>monitor gone</source>
+        <translation>monitor dispărut</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>anulat</translation>
+    </message>
+    <message>
+        <source>refused after too many writes</source>
+        <translation>refuzat după prea multe scrieri</translation>
+    </message>
+    <message>
+        <source>display asleep</source>
+        <translation>ecran în repaus</translation>
+    </message>
+    <message>
+        <source>%1 ms before a reply</source>
+        <translation>%1 ms înainte de un răspuns</translation>
+    </message>
+    <message>
+        <source>%1 ms after a write</source>
+        <translation>%1 ms după o scriere</translation>
+    </message>
+    <message>
+        <source>open for %1</source>
+        <translation>deschis pentru %1</translation>
+    </message>
+    <message>
+        <source>closed; times opened: %1</source>
+        <translation>închis; deschideri: %1</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%1 pe %2</translation>
+    </message>
 </context>
 <context>
     <name>LuHelpButton</name>
@@ -718,6 +782,37 @@
     <message>
         <source>In an X11 session it works.</source>
         <translation>Într-o sesiune X11 funcționează.</translation>
+    </message>
+</context>
+<context>
+    <name>RealMonitors</name>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. Your account is in the group %2 already: log out and in again.</source>
+        <translation>Nu există permisiune pentru %1, așa că monitorul său nu poate fi controlat. Contul este deja în grupul %2: deconectați-vă și conectați-vă din nou.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule %2 of this program is not installed: install it below %3 and restart the computer.</source>
+        <translation>Nu există permisiune pentru %1, așa că monitorul său nu poate fi controlat. Regula udev %2 a acestui program nu este instalată: instalați-o în %3 și reporniți calculatorul.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule %2 of this program is not installed: install it below %3 and restart the computer, or add your account to the group %4 and log in again.</source>
+        <translation>Nu există permisiune pentru %1, așa că monitorul său nu poate fi controlat. Regula udev %2 a acestui program nu este instalată: instalați-o în %3 și reporniți calculatorul sau adăugați contul în grupul %4 și conectați-vă din nou.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule is installed, but this session has no seat at this computer: add your account to the group %2 and log in again.</source>
+        <translation>Nu există permisiune pentru %1, așa că monitorul său nu poate fi controlat. Regula udev este instalată, dar această sesiune nu are un loc la acest calculator: adăugați contul în grupul %2 și conectați-vă din nou.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule is installed but not in force: run "udevadm trigger --subsystem-match=i2c-dev" as root or restart the computer.</source>
+        <translation>Nu există permisiune pentru %1, așa că monitorul său nu poate fi controlat. Regula udev este instalată, dar nu este în vigoare: rulați "udevadm trigger --subsystem-match=i2c-dev" ca root sau reporniți calculatorul.</translation>
+    </message>
+    <message>
+        <source>The system shows no I2C device files, so external monitors cannot be controlled. Load the kernel module i2c-dev: run "modprobe i2c-dev" as root, or install modules-load.d/lumen-desk.conf of this program and restart the computer.</source>
+        <translation>Sistemul nu arată fișiere de dispozitiv I2C, așa că monitoarele externe nu pot fi controlate. Încărcați modulul de nucleu i2c-dev: rulați "modprobe i2c-dev" ca root sau instalați modules-load.d/lumen-desk.conf al acestui program și reporniți calculatorul.</translation>
+    </message>
+    <message>
+        <source>%1 leads to another monitor now; nothing was sent to it.</source>
+        <translation>%1 duce acum la alt monitor; nu i s-a trimis nimic.</translation>
     </message>
 </context>
 </TS>

@@ -327,6 +327,70 @@
         <source>The report could not be written to %1: %2</source>
         <translation>Не удалось записать отчёт в %1: %2</translation>
     </message>
+    <message>
+        <source>no reply</source>
+        <translation>нет ответа</translation>
+    </message>
+    <message>
+        <source>null reply</source>
+        <translation>пустой ответ</translation>
+    </message>
+    <message>
+        <source>bad checksum</source>
+        <translation>неверная контрольная сумма</translation>
+    </message>
+    <message>
+        <source>unsupported code</source>
+        <translation>неподдерживаемый код</translation>
+    </message>
+    <message>
+        <source>malformed reply</source>
+        <translation>искажённый ответ</translation>
+    </message>
+    <message>
+        <source>bus busy</source>
+        <translation>шина занята</translation>
+    </message>
+    <message>
+        <source>no access to the bus</source>
+        <translation>нет доступа к шине</translation>
+    </message>
+    <message>
+        <source>monitor gone</source>
+        <translation>монитор исчез</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>отменено</translation>
+    </message>
+    <message>
+        <source>refused after too many writes</source>
+        <translation>отклонено после слишком многих записей</translation>
+    </message>
+    <message>
+        <source>display asleep</source>
+        <translation>экран спит</translation>
+    </message>
+    <message>
+        <source>%1 ms before a reply</source>
+        <translation>%1 мс до ответа</translation>
+    </message>
+    <message>
+        <source>%1 ms after a write</source>
+        <translation>%1 мс после записи</translation>
+    </message>
+    <message>
+        <source>open for %1</source>
+        <translation>разомкнут для %1</translation>
+    </message>
+    <message>
+        <source>closed; times opened: %1</source>
+        <translation>замкнут; размыканий: %1</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%1 на %2</translation>
+    </message>
 </context>
 <context>
     <name>LuHelpButton</name>
@@ -718,6 +782,37 @@
     <message>
         <source>In an X11 session it works.</source>
         <translation>В сеансе X11 это работает.</translation>
+    </message>
+</context>
+<context>
+    <name>RealMonitors</name>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. Your account is in the group %2 already: log out and in again.</source>
+        <translation>Нет прав на использование %1, поэтому его монитором нельзя управлять. Ваша учётная запись уже в группе %2: выйдите из системы и войдите снова.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule %2 of this program is not installed: install it below %3 and restart the computer.</source>
+        <translation>Нет прав на использование %1, поэтому его монитором нельзя управлять. Правило udev %2 этой программы не установлено: установите его в %3 и перезагрузите компьютер.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule %2 of this program is not installed: install it below %3 and restart the computer, or add your account to the group %4 and log in again.</source>
+        <translation>Нет прав на использование %1, поэтому его монитором нельзя управлять. Правило udev %2 этой программы не установлено: установите его в %3 и перезагрузите компьютер либо добавьте свою учётную запись в группу %4 и войдите снова.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule is installed, but this session has no seat at this computer: add your account to the group %2 and log in again.</source>
+        <translation>Нет прав на использование %1, поэтому его монитором нельзя управлять. Правило udev установлено, но у этого сеанса нет рабочего места за этим компьютером: добавьте свою учётную запись в группу %2 и войдите снова.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule is installed but not in force: run "udevadm trigger --subsystem-match=i2c-dev" as root or restart the computer.</source>
+        <translation>Нет прав на использование %1, поэтому его монитором нельзя управлять. Правило udev установлено, но не действует: выполните "udevadm trigger --subsystem-match=i2c-dev" от имени root или перезагрузите компьютер.</translation>
+    </message>
+    <message>
+        <source>The system shows no I2C device files, so external monitors cannot be controlled. Load the kernel module i2c-dev: run "modprobe i2c-dev" as root, or install modules-load.d/lumen-desk.conf of this program and restart the computer.</source>
+        <translation>В системе нет файлов устройств I2C, поэтому внешними мониторами нельзя управлять. Загрузите модуль ядра i2c-dev: выполните "modprobe i2c-dev" от имени root или установите modules-load.d/lumen-desk.conf этой программы и перезагрузите компьютер.</translation>
+    </message>
+    <message>
+        <source>%1 leads to another monitor now; nothing was sent to it.</source>
+        <translation>%1 теперь ведёт к другому монитору; ему ничего не отправлено.</translation>
     </message>
 </context>
 </TS>

@@ -327,6 +327,70 @@
         <source>The report could not be written to %1: %2</source>
         <translation>Rapporten kunde inte skrivas till %1: %2</translation>
     </message>
+    <message>
+        <source>no reply</source>
+        <translation>inget svar</translation>
+    </message>
+    <message>
+        <source>null reply</source>
+        <translation>tomt svar</translation>
+    </message>
+    <message>
+        <source>bad checksum</source>
+        <translation>fel kontrollsumma</translation>
+    </message>
+    <message>
+        <source>unsupported code</source>
+        <translation>kod som inte stöds</translation>
+    </message>
+    <message>
+        <source>malformed reply</source>
+        <translation>felaktigt svar</translation>
+    </message>
+    <message>
+        <source>bus busy</source>
+        <translation>bussen upptagen</translation>
+    </message>
+    <message>
+        <source>no access to the bus</source>
+        <translation>ingen åtkomst till bussen</translation>
+    </message>
+    <message>
+        <source>monitor gone</source>
+        <translation>bildskärmen borta</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>avbrutet</translation>
+    </message>
+    <message>
+        <source>refused after too many writes</source>
+        <translation>nekat efter för många skrivningar</translation>
+    </message>
+    <message>
+        <source>display asleep</source>
+        <translation>skärmen sover</translation>
+    </message>
+    <message>
+        <source>%1 ms before a reply</source>
+        <translation>%1 ms före ett svar</translation>
+    </message>
+    <message>
+        <source>%1 ms after a write</source>
+        <translation>%1 ms efter en skrivning</translation>
+    </message>
+    <message>
+        <source>open for %1</source>
+        <translation>öppen för %1</translation>
+    </message>
+    <message>
+        <source>closed; times opened: %1</source>
+        <translation>stängd; antal öppningar: %1</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%1 på %2</translation>
+    </message>
 </context>
 <context>
     <name>LuHelpButton</name>
@@ -718,6 +782,37 @@
     <message>
         <source>In an X11 session it works.</source>
         <translation>I en X11-session fungerar det.</translation>
+    </message>
+</context>
+<context>
+    <name>RealMonitors</name>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. Your account is in the group %2 already: log out and in again.</source>
+        <translation>Behörighet saknas för %1, så dess bildskärm kan inte styras. Ditt konto är redan med i gruppen %2: logga ut och in igen.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule %2 of this program is not installed: install it below %3 and restart the computer.</source>
+        <translation>Behörighet saknas för %1, så dess bildskärm kan inte styras. Programmets udev-regel %2 är inte installerad: installera den i %3 och starta om datorn.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule %2 of this program is not installed: install it below %3 and restart the computer, or add your account to the group %4 and log in again.</source>
+        <translation>Behörighet saknas för %1, så dess bildskärm kan inte styras. Programmets udev-regel %2 är inte installerad: installera den i %3 och starta om datorn, eller lägg till ditt konto i gruppen %4 och logga in igen.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule is installed, but this session has no seat at this computer: add your account to the group %2 and log in again.</source>
+        <translation>Behörighet saknas för %1, så dess bildskärm kan inte styras. Udev-regeln är installerad, men den här sessionen har ingen plats vid den här datorn: lägg till ditt konto i gruppen %2 och logga in igen.</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule is installed but not in force: run "udevadm trigger --subsystem-match=i2c-dev" as root or restart the computer.</source>
+        <translation>Behörighet saknas för %1, så dess bildskärm kan inte styras. Udev-regeln är installerad men gäller inte ännu: kör "udevadm trigger --subsystem-match=i2c-dev" som root eller starta om datorn.</translation>
+    </message>
+    <message>
+        <source>The system shows no I2C device files, so external monitors cannot be controlled. Load the kernel module i2c-dev: run "modprobe i2c-dev" as root, or install modules-load.d/lumen-desk.conf of this program and restart the computer.</source>
+        <translation>Systemet visar inga I2C-enhetsfiler, så externa bildskärmar kan inte styras. Ladda kärnmodulen i2c-dev: kör "modprobe i2c-dev" som root, eller installera programmets modules-load.d/lumen-desk.conf och starta om datorn.</translation>
+    </message>
+    <message>
+        <source>%1 leads to another monitor now; nothing was sent to it.</source>
+        <translation>%1 leder nu till en annan bildskärm; inget skickades till den.</translation>
     </message>
 </context>
 </TS>

@@ -327,6 +327,70 @@
         <source>The report could not be written to %1: %2</source>
         <translation>无法将报告写入 %1：%2</translation>
     </message>
+    <message>
+        <source>no reply</source>
+        <translation>无应答</translation>
+    </message>
+    <message>
+        <source>null reply</source>
+        <translation>空应答</translation>
+    </message>
+    <message>
+        <source>bad checksum</source>
+        <translation>校验和错误</translation>
+    </message>
+    <message>
+        <source>unsupported code</source>
+        <translation>不支持的代码</translation>
+    </message>
+    <message>
+        <source>malformed reply</source>
+        <translation>应答格式错误</translation>
+    </message>
+    <message>
+        <source>bus busy</source>
+        <translation>总线忙</translation>
+    </message>
+    <message>
+        <source>no access to the bus</source>
+        <translation>无法访问总线</translation>
+    </message>
+    <message>
+        <source>monitor gone</source>
+        <translation>显示器已断开</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>已取消</translation>
+    </message>
+    <message>
+        <source>refused after too many writes</source>
+        <translation>写入过多，已拒绝</translation>
+    </message>
+    <message>
+        <source>display asleep</source>
+        <translation>屏幕休眠</translation>
+    </message>
+    <message>
+        <source>%1 ms before a reply</source>
+        <translation>应答前 %1 毫秒</translation>
+    </message>
+    <message>
+        <source>%1 ms after a write</source>
+        <translation>写入后 %1 毫秒</translation>
+    </message>
+    <message>
+        <source>open for %1</source>
+        <translation>对 %1 已断开</translation>
+    </message>
+    <message>
+        <source>closed; times opened: %1</source>
+        <translation>闭合；断开次数：%1</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%1（%2）</translation>
+    </message>
 </context>
 <context>
     <name>LuHelpButton</name>
@@ -718,6 +782,37 @@
     <message>
         <source>In an X11 session it works.</source>
         <translation>在 X11 会话中可以使用。</translation>
+    </message>
+</context>
+<context>
+    <name>RealMonitors</name>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. Your account is in the group %2 already: log out and in again.</source>
+        <translation>没有使用 %1 的权限，因此无法控制其显示器。您的账户已在 %2 组中：请注销后重新登录。</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule %2 of this program is not installed: install it below %3 and restart the computer.</source>
+        <translation>没有使用 %1 的权限，因此无法控制其显示器。本程序的 udev 规则 %2 尚未安装：请将其安装到 %3，然后重新启动计算机。</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule %2 of this program is not installed: install it below %3 and restart the computer, or add your account to the group %4 and log in again.</source>
+        <translation>没有使用 %1 的权限，因此无法控制其显示器。本程序的 udev 规则 %2 尚未安装：请将其安装到 %3 并重新启动计算机，或将您的账户加入 %4 组并重新登录。</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule is installed, but this session has no seat at this computer: add your account to the group %2 and log in again.</source>
+        <translation>没有使用 %1 的权限，因此无法控制其显示器。udev 规则已安装，但此会话在这台计算机上没有席位：请将您的账户加入 %2 组并重新登录。</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule is installed but not in force: run "udevadm trigger --subsystem-match=i2c-dev" as root or restart the computer.</source>
+        <translation>没有使用 %1 的权限，因此无法控制其显示器。udev 规则已安装但未生效：请以 root 身份运行 "udevadm trigger --subsystem-match=i2c-dev"，或重新启动计算机。</translation>
+    </message>
+    <message>
+        <source>The system shows no I2C device files, so external monitors cannot be controlled. Load the kernel module i2c-dev: run "modprobe i2c-dev" as root, or install modules-load.d/lumen-desk.conf of this program and restart the computer.</source>
+        <translation>系统中没有 I2C 设备文件，因此无法控制外接显示器。请加载内核模块 i2c-dev：以 root 身份运行 "modprobe i2c-dev"，或安装本程序的 modules-load.d/lumen-desk.conf 并重新启动计算机。</translation>
+    </message>
+    <message>
+        <source>%1 leads to another monitor now; nothing was sent to it.</source>
+        <translation>%1 现在连接到另一台显示器；未向其发送任何内容。</translation>
     </message>
 </context>
 </TS>

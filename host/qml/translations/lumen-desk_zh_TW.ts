@@ -327,6 +327,70 @@
         <source>The report could not be written to %1: %2</source>
         <translation>無法將報告寫入 %1：%2</translation>
     </message>
+    <message>
+        <source>no reply</source>
+        <translation>無回應</translation>
+    </message>
+    <message>
+        <source>null reply</source>
+        <translation>空回應</translation>
+    </message>
+    <message>
+        <source>bad checksum</source>
+        <translation>總和檢查碼錯誤</translation>
+    </message>
+    <message>
+        <source>unsupported code</source>
+        <translation>不支援的代碼</translation>
+    </message>
+    <message>
+        <source>malformed reply</source>
+        <translation>回應格式錯誤</translation>
+    </message>
+    <message>
+        <source>bus busy</source>
+        <translation>匯流排忙碌</translation>
+    </message>
+    <message>
+        <source>no access to the bus</source>
+        <translation>無法存取匯流排</translation>
+    </message>
+    <message>
+        <source>monitor gone</source>
+        <translation>顯示器已中斷</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>已取消</translation>
+    </message>
+    <message>
+        <source>refused after too many writes</source>
+        <translation>寫入過多，已拒絕</translation>
+    </message>
+    <message>
+        <source>display asleep</source>
+        <translation>螢幕休眠</translation>
+    </message>
+    <message>
+        <source>%1 ms before a reply</source>
+        <translation>回應前 %1 毫秒</translation>
+    </message>
+    <message>
+        <source>%1 ms after a write</source>
+        <translation>寫入後 %1 毫秒</translation>
+    </message>
+    <message>
+        <source>open for %1</source>
+        <translation>對 %1 已斷開</translation>
+    </message>
+    <message>
+        <source>closed; times opened: %1</source>
+        <translation>閉合；斷開次數：%1</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%1（%2）</translation>
+    </message>
 </context>
 <context>
     <name>LuHelpButton</name>
@@ -718,6 +782,37 @@
     <message>
         <source>In an X11 session it works.</source>
         <translation>在 X11 工作階段中可以使用。</translation>
+    </message>
+</context>
+<context>
+    <name>RealMonitors</name>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. Your account is in the group %2 already: log out and in again.</source>
+        <translation>沒有使用 %1 的權限，因此無法控制其顯示器。您的帳戶已在 %2 群組中：請登出後重新登入。</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule %2 of this program is not installed: install it below %3 and restart the computer.</source>
+        <translation>沒有使用 %1 的權限，因此無法控制其顯示器。本程式的 udev 規則 %2 尚未安裝：請將其安裝到 %3，然後重新啟動電腦。</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule %2 of this program is not installed: install it below %3 and restart the computer, or add your account to the group %4 and log in again.</source>
+        <translation>沒有使用 %1 的權限，因此無法控制其顯示器。本程式的 udev 規則 %2 尚未安裝：請將其安裝到 %3 並重新啟動電腦，或將您的帳戶加入 %4 群組並重新登入。</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule is installed, but this session has no seat at this computer: add your account to the group %2 and log in again.</source>
+        <translation>沒有使用 %1 的權限，因此無法控制其顯示器。udev 規則已安裝，但此工作階段在這台電腦上沒有席位：請將您的帳戶加入 %2 群組並重新登入。</translation>
+    </message>
+    <message>
+        <source>No permission to use %1, so its monitor cannot be controlled. The udev rule is installed but not in force: run "udevadm trigger --subsystem-match=i2c-dev" as root or restart the computer.</source>
+        <translation>沒有使用 %1 的權限，因此無法控制其顯示器。udev 規則已安裝但未生效：請以 root 身分執行 "udevadm trigger --subsystem-match=i2c-dev"，或重新啟動電腦。</translation>
+    </message>
+    <message>
+        <source>The system shows no I2C device files, so external monitors cannot be controlled. Load the kernel module i2c-dev: run "modprobe i2c-dev" as root, or install modules-load.d/lumen-desk.conf of this program and restart the computer.</source>
+        <translation>系統中沒有 I2C 裝置檔案，因此無法控制外接顯示器。請載入核心模組 i2c-dev：以 root 身分執行 "modprobe i2c-dev"，或安裝本程式的 modules-load.d/lumen-desk.conf 並重新啟動電腦。</translation>
+    </message>
+    <message>
+        <source>%1 leads to another monitor now; nothing was sent to it.</source>
+        <translation>%1 現在連接到另一台顯示器；未向其傳送任何內容。</translation>
     </message>
 </context>
 </TS>

@@ -1339,4 +1339,23 @@
         <translation>Režim zvuku:</translation>
     </message>
 </context>
+<context>
+    <name>Walkthrough</name>
+    <message>
+        <source>BackGlow Auto-dimming</source>
+        <translation>BackGlow: automatické stmívání</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Ochrana v noci</translation>
+    </message>
+    <message>
+        <source>The light behind your monitor dims with the room, so that your eyes stay at ease.</source>
+        <translation>Světlo za monitorem se tlumí spolu s místností, aby vaše oči zůstaly v klidu.</translation>
+    </message>
+    <message>
+        <source>After dark the picture turns darker than the lowest brightness, without losing its details.</source>
+        <translation>Po setmění obraz ztmavne pod nejnižší jas, aniž by ztratil podrobnosti.</translation>
+    </message>
+</context>
 </TS>

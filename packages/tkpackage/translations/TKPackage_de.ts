@@ -1339,4 +1339,23 @@
         <translation>Audiomodus:</translation>
     </message>
 </context>
+<context>
+    <name>Walkthrough</name>
+    <message>
+        <source>BackGlow Auto-dimming</source>
+        <translation>BackGlow: Automatisch dimmen</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Nachtschutz</translation>
+    </message>
+    <message>
+        <source>The light behind your monitor dims with the room, so that your eyes stay at ease.</source>
+        <translation>Das Licht hinter Ihrem Monitor dimmt sich mit dem Raum, damit Ihre Augen entspannt bleiben.</translation>
+    </message>
+    <message>
+        <source>After dark the picture turns darker than the lowest brightness, without losing its details.</source>
+        <translation>Nach Einbruch der Dunkelheit wird das Bild dunkler als die niedrigste Helligkeit, ohne Details zu verlieren.</translation>
+    </message>
+</context>
 </TS>

@@ -1339,4 +1339,23 @@
         <translation>Audio Mode :</translation>
     </message>
 </context>
+<context>
+    <name>Walkthrough</name>
+    <message>
+        <source>BackGlow Auto-dimming</source>
+        <translation>BackGlow Auto-dimming</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Night Hours Protection</translation>
+    </message>
+    <message>
+        <source>The light behind your monitor dims with the room, so that your eyes stay at ease.</source>
+        <translation>The light behind your monitor dims with the room, so that your eyes stay at ease.</translation>
+    </message>
+    <message>
+        <source>After dark the picture turns darker than the lowest brightness, without losing its details.</source>
+        <translation>After dark the picture turns darker than the lowest brightness, without losing its details.</translation>
+    </message>
+</context>
 </TS>

@@ -1339,4 +1339,23 @@
         <translation>Modo de audio:</translation>
     </message>
 </context>
+<context>
+    <name>Walkthrough</name>
+    <message>
+        <source>BackGlow Auto-dimming</source>
+        <translation>BackGlow: atenuación automática</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Protección nocturna</translation>
+    </message>
+    <message>
+        <source>The light behind your monitor dims with the room, so that your eyes stay at ease.</source>
+        <translation>La luz de detrás del monitor se atenúa con la habitación, para que sus ojos descansen.</translation>
+    </message>
+    <message>
+        <source>After dark the picture turns darker than the lowest brightness, without losing its details.</source>
+        <translation>Al anochecer la imagen se oscurece por debajo del brillo mínimo, sin perder detalles.</translation>
+    </message>
+</context>
 </TS>

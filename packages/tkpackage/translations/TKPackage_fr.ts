@@ -1339,4 +1339,23 @@
         <translation>Mode audio :</translation>
     </message>
 </context>
+<context>
+    <name>Walkthrough</name>
+    <message>
+        <source>BackGlow Auto-dimming</source>
+        <translation>BackGlow : gradation automatique</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Protection nocturne</translation>
+    </message>
+    <message>
+        <source>The light behind your monitor dims with the room, so that your eyes stay at ease.</source>
+        <translation>La lumière derrière votre moniteur s’adapte à celle de la pièce, pour le confort de vos yeux.</translation>
+    </message>
+    <message>
+        <source>After dark the picture turns darker than the lowest brightness, without losing its details.</source>
+        <translation>La nuit tombée, l’image devient plus sombre que la luminosité minimale, sans perdre ses détails.</translation>
+    </message>
+</context>
 </TS>

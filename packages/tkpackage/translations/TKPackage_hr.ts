@@ -1339,4 +1339,23 @@
         <translation>Način zvuka:</translation>
     </message>
 </context>
+<context>
+    <name>Walkthrough</name>
+    <message>
+        <source>BackGlow Auto-dimming</source>
+        <translation>BackGlow: automatsko prigušivanje</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Noćna zaštita</translation>
+    </message>
+    <message>
+        <source>The light behind your monitor dims with the room, so that your eyes stay at ease.</source>
+        <translation>Svjetlo iza monitora prigušuje se zajedno s prostorijom kako bi vam oči ostale odmorne.</translation>
+    </message>
+    <message>
+        <source>After dark the picture turns darker than the lowest brightness, without losing its details.</source>
+        <translation>Nakon mraka slika postaje tamnija od najniže svjetline, a da ne gubi pojedinosti.</translation>
+    </message>
+</context>
 </TS>

@@ -1339,4 +1339,23 @@
         <translation>Hangmód:</translation>
     </message>
 </context>
+<context>
+    <name>Walkthrough</name>
+    <message>
+        <source>BackGlow Auto-dimming</source>
+        <translation>BackGlow: automatikus fényerő</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Éjszakai védelem</translation>
+    </message>
+    <message>
+        <source>The light behind your monitor dims with the room, so that your eyes stay at ease.</source>
+        <translation>A monitor mögötti fény a szobával együtt halványul, hogy a szeme ne fáradjon.</translation>
+    </message>
+    <message>
+        <source>After dark the picture turns darker than the lowest brightness, without losing its details.</source>
+        <translation>Sötétedés után a kép a legkisebb fényerőnél is sötétebb lesz, anélkül hogy elveszítené részleteit.</translation>
+    </message>
+</context>
 </TS>

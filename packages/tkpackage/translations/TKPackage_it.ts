@@ -1339,4 +1339,23 @@
         <translation>Modalità audio:</translation>
     </message>
 </context>
+<context>
+    <name>Walkthrough</name>
+    <message>
+        <source>BackGlow Auto-dimming</source>
+        <translation>BackGlow: attenuazione automatica</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Protezione notturna</translation>
+    </message>
+    <message>
+        <source>The light behind your monitor dims with the room, so that your eyes stay at ease.</source>
+        <translation>La luce dietro il monitor si attenua con la stanza, così i suoi occhi restano riposati.</translation>
+    </message>
+    <message>
+        <source>After dark the picture turns darker than the lowest brightness, without losing its details.</source>
+        <translation>Al buio l’immagine diventa più scura della luminosità minima, senza perdere i dettagli.</translation>
+    </message>
+</context>
 </TS>

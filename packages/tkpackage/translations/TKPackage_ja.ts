@@ -1339,4 +1339,23 @@
         <translation>オーディオモード：</translation>
     </message>
 </context>
+<context>
+    <name>Walkthrough</name>
+    <message>
+        <source>BackGlow Auto-dimming</source>
+        <translation>BackGlow：自動調光</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>夜間保護</translation>
+    </message>
+    <message>
+        <source>The light behind your monitor dims with the room, so that your eyes stay at ease.</source>
+        <translation>モニター背面のライトが部屋の明るさに合わせて暗くなり、目の負担を和らげます。</translation>
+    </message>
+    <message>
+        <source>After dark the picture turns darker than the lowest brightness, without losing its details.</source>
+        <translation>暗くなると、細部を失わずに最低輝度よりもさらに暗く表示されます。</translation>
+    </message>
+</context>
 </TS>

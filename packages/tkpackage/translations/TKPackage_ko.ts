@@ -1339,4 +1339,23 @@
         <translation>오디오 모드:</translation>
     </message>
 </context>
+<context>
+    <name>Walkthrough</name>
+    <message>
+        <source>BackGlow Auto-dimming</source>
+        <translation>BackGlow: 자동 조광</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>야간 보호</translation>
+    </message>
+    <message>
+        <source>The light behind your monitor dims with the room, so that your eyes stay at ease.</source>
+        <translation>모니터 뒤의 조명이 방의 밝기에 맞춰 어두워져 눈이 편안합니다.</translation>
+    </message>
+    <message>
+        <source>After dark the picture turns darker than the lowest brightness, without losing its details.</source>
+        <translation>어두워지면 화면이 세부 표현을 잃지 않고 최저 밝기보다 더 어두워집니다.</translation>
+    </message>
+</context>
 </TS>

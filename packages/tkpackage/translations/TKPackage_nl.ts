@@ -1339,4 +1339,23 @@
         <translation>Audiomodus:</translation>
     </message>
 </context>
+<context>
+    <name>Walkthrough</name>
+    <message>
+        <source>BackGlow Auto-dimming</source>
+        <translation>BackGlow: automatisch dimmen</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Nacht­bescherming</translation>
+    </message>
+    <message>
+        <source>The light behind your monitor dims with the room, so that your eyes stay at ease.</source>
+        <translation>Het licht achter uw monitor dimt mee met de kamer, zodat uw ogen ontspannen blijven.</translation>
+    </message>
+    <message>
+        <source>After dark the picture turns darker than the lowest brightness, without losing its details.</source>
+        <translation>Na zonsondergang wordt het beeld donkerder dan de laagste helderheid, zonder details te verliezen.</translation>
+    </message>
+</context>
 </TS>

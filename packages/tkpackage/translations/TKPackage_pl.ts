@@ -1339,4 +1339,23 @@
         <translation>Tryb dźwięku:</translation>
     </message>
 </context>
+<context>
+    <name>Walkthrough</name>
+    <message>
+        <source>BackGlow Auto-dimming</source>
+        <translation>BackGlow: automatyczne ściemnianie</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Ochrona nocna</translation>
+    </message>
+    <message>
+        <source>The light behind your monitor dims with the room, so that your eyes stay at ease.</source>
+        <translation>Światło za monitorem przygasa razem z pomieszczeniem, aby oczy odpoczywały.</translation>
+    </message>
+    <message>
+        <source>After dark the picture turns darker than the lowest brightness, without losing its details.</source>
+        <translation>Po zmroku obraz staje się ciemniejszy niż przy najniższej jasności, nie tracąc szczegółów.</translation>
+    </message>
+</context>
 </TS>

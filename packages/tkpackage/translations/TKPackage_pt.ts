@@ -1339,4 +1339,23 @@
         <translation>Modo de áudio:</translation>
     </message>
 </context>
+<context>
+    <name>Walkthrough</name>
+    <message>
+        <source>BackGlow Auto-dimming</source>
+        <translation>BackGlow: escurecimento automático</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Proteção noturna</translation>
+    </message>
+    <message>
+        <source>The light behind your monitor dims with the room, so that your eyes stay at ease.</source>
+        <translation>A luz por trás do monitor diminui com a da sala, para descanso dos seus olhos.</translation>
+    </message>
+    <message>
+        <source>After dark the picture turns darker than the lowest brightness, without losing its details.</source>
+        <translation>Depois de escurecer, a imagem fica mais escura do que o brilho mínimo, sem perder pormenores.</translation>
+    </message>
+</context>
 </TS>

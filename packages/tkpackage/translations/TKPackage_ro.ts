@@ -1339,4 +1339,23 @@
         <translation>Mod audio:</translation>
     </message>
 </context>
+<context>
+    <name>Walkthrough</name>
+    <message>
+        <source>BackGlow Auto-dimming</source>
+        <translation>BackGlow: reglare automată</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Protecție nocturnă</translation>
+    </message>
+    <message>
+        <source>The light behind your monitor dims with the room, so that your eyes stay at ease.</source>
+        <translation>Lumina din spatele monitorului scade odată cu cea din cameră, pentru ca ochii să rămână odihniți.</translation>
+    </message>
+    <message>
+        <source>After dark the picture turns darker than the lowest brightness, without losing its details.</source>
+        <translation>După lăsarea întunericului imaginea devine mai întunecată decât luminozitatea minimă, fără a pierde detalii.</translation>
+    </message>
+</context>
 </TS>

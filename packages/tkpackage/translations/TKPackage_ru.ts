@@ -1339,4 +1339,23 @@
         <translation>Режим звука:</translation>
     </message>
 </context>
+<context>
+    <name>Walkthrough</name>
+    <message>
+        <source>BackGlow Auto-dimming</source>
+        <translation>BackGlow: автояркость</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Ночная защита</translation>
+    </message>
+    <message>
+        <source>The light behind your monitor dims with the room, so that your eyes stay at ease.</source>
+        <translation>Свет позади монитора приглушается вместе с освещением комнаты, чтобы глаза не уставали.</translation>
+    </message>
+    <message>
+        <source>After dark the picture turns darker than the lowest brightness, without losing its details.</source>
+        <translation>С наступлением темноты изображение становится темнее минимальной яркости, не теряя деталей.</translation>
+    </message>
+</context>
 </TS>

@@ -1339,4 +1339,23 @@
         <translation>Ljudläge:</translation>
     </message>
 </context>
+<context>
+    <name>Walkthrough</name>
+    <message>
+        <source>BackGlow Auto-dimming</source>
+        <translation>BackGlow: automatisk dimning</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>Nattskydd</translation>
+    </message>
+    <message>
+        <source>The light behind your monitor dims with the room, so that your eyes stay at ease.</source>
+        <translation>Ljuset bakom bildskärmen dämpas med rummet, så att ögonen får vila.</translation>
+    </message>
+    <message>
+        <source>After dark the picture turns darker than the lowest brightness, without losing its details.</source>
+        <translation>Efter mörkrets inbrott blir bilden mörkare än den lägsta ljusstyrkan, utan att förlora detaljer.</translation>
+    </message>
+</context>
 </TS>

@@ -1339,4 +1339,23 @@
         <translation>音频模式：</translation>
     </message>
 </context>
+<context>
+    <name>Walkthrough</name>
+    <message>
+        <source>BackGlow Auto-dimming</source>
+        <translation>BackGlow：自动调光</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>夜间保护</translation>
+    </message>
+    <message>
+        <source>The light behind your monitor dims with the room, so that your eyes stay at ease.</source>
+        <translation>显示器背后的灯光会随室内亮度变暗，让您的眼睛保持舒适。</translation>
+    </message>
+    <message>
+        <source>After dark the picture turns darker than the lowest brightness, without losing its details.</source>
+        <translation>天黑后，画面会比最低亮度更暗，但不会丢失细节。</translation>
+    </message>
+</context>
 </TS>

@@ -1339,4 +1339,23 @@
         <translation>音訊模式：</translation>
     </message>
 </context>
+<context>
+    <name>Walkthrough</name>
+    <message>
+        <source>BackGlow Auto-dimming</source>
+        <translation>BackGlow：自動調光</translation>
+    </message>
+    <message>
+        <source>Night Hours Protection</source>
+        <translation>夜間保護</translation>
+    </message>
+    <message>
+        <source>The light behind your monitor dims with the room, so that your eyes stay at ease.</source>
+        <translation>顯示器背後的燈光會隨室內亮度變暗，讓您的眼睛保持舒適。</translation>
+    </message>
+    <message>
+        <source>After dark the picture turns darker than the lowest brightness, without losing its details.</source>
+        <translation>天黑後，畫面會比最低亮度更暗，但不會遺失細節。</translation>
+    </message>
+</context>
 </TS>

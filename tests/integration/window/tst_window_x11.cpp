@@ -20,8 +20,8 @@ public:
     /// Starts it on a free display number; false with the reason in errors().
     bool start()
     {
-        m_process.start(u"Xvfb"_s, {u"-displayfd"_s, u"1"_s, u"-screen"_s, u"0"_s, u"1280x900x24"_s,
-                                    u"-nolisten"_s, u"tcp"_s});
+        m_process.start(u"Xvfb"_s, {u"-noreset"_s, u"-displayfd"_s, u"1"_s, u"-screen"_s, u"0"_s,
+                                    u"1280x900x24"_s, u"-nolisten"_s, u"tcp"_s});
         QByteArray number;
         while (!number.endsWith('\n')) {
             if (!m_process.waitForReadyRead(20000))

@@ -42,7 +42,9 @@ private:
             result.edid = alpha.edid;
         result.link = link;
         result.calls = calls;
-        result.report = [this](const std::string& text) { said.append(QString::fromStdString(text)); };
+        result.report = [this](const ddci2c::Advice& advice) {
+            said.append(QString::fromStdString(advice.english()));
+        };
         return result;
     }
     FakeCalls::Node& node() { return calls->nodes[Path]; }
@@ -276,8 +278,10 @@ private Q_SLOTS:
         QFETCH(bool, account);
         QFETCH(QString, says);
         const QString advice = QString::fromStdString(
-            ddci2c::accessAdvice(Path, ddci2c::AccessFacts{rule, group.toStdString(), inGroup, account}));
+            ddci2c::accessAdvice(Path, ddci2c::AccessFacts{rule, group.toStdString(), inGroup, account})
+                .english());
         QVERIFY2(advice.contains(says), qPrintable(advice));
+        QVERIFY2(!advice.contains(u'%'), qPrintable(advice));
     }
 };
 

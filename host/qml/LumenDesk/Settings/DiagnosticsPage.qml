@@ -20,6 +20,8 @@ LuPage {
         property: "watched"
         value: page.visible && (!page.Window.window || page.Window.window.visible)
     }
+    // At once, so that the page is never seen without its facts.
+    Component.onCompleted: LuDiagnostics.refresh()
     Component.onDestruction: LuDiagnostics.watched = false
 
     Repeater {
