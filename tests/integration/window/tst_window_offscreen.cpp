@@ -57,6 +57,7 @@ private Q_SLOTS:
     void unsupportedMonitorHasAWindow();
     void monitorComesAndGoes();
     void picturesAreTaken();
+    void aPictureHoldsMoreThanTheScreen();
     void theWindowStaysSmoothWhileTheMonitorHangs();
 
 private:
@@ -219,6 +220,26 @@ void TestWindowOffscreen::picturesAreTaken()
     QVERIFY(m_desk->waitForEnd());
     QCOMPARE(m_desk->process().exitCode(), 0);
     QVERIFY(QFileInfo(file).size() > 1000);
+}
+
+void TestWindowOffscreen::aPictureHoldsMoreThanTheScreen()
+{
+    QCOMPARE(m_desk->stop(), 0);
+    // The screen of this platform has 800 by 800 pixels: at twice the size, 400 by 400 are left for a window.
+    const auto picture = [this](const QByteArray& scale, const QStringList& options) {
+        const QString file = m_desk->filePath(u"x%1.png"_s.arg(QString::fromLatin1(scale)));
+        qputenv("QT_SCALE_FACTOR", scale);
+        m_desk->launch(WithWindow + m_desk->ownOptions() + QStringList{u"--screenshot"_s, file} + options);
+        const bool ended = m_desk->waitForEnd();
+        qunsetenv("QT_SCALE_FACTOR");
+        return ended && m_desk->process().exitCode() == 0 ? QImage(file).size() : QSize();
+    };
+    for (const QStringList& options : {QStringList(), QStringList{u"--page"_s, u"LuBrightnessWidget"_s}}) {
+        const QSize plain = picture("1", options);
+        QVERIFY2(plain.height() > 400, qPrintable(QString::number(plain.height())));
+        QCOMPARE(picture("2", options), 2 * plain);
+        QCOMPARE(picture("3", options), 3 * plain);
+    }
 }
 
 void TestWindowOffscreen::theWindowStaysSmoothWhileTheMonitorHangs()

@@ -4,6 +4,7 @@
 
 #include "../support/ServerProcess.h"
 
+#include <QRegularExpression>
 #include <QTest>
 
 #include <linux/capability.h>
@@ -63,6 +64,12 @@ private Q_SLOTS:
 
 private:
     bool start(const QByteArray& platform);
+    /// The display's number stands in a line of its own among the server's complaints.
+    QByteArray serverNumber()
+    {
+        static const QRegularExpression line(u"^(\\d+)\\n"_s, QRegularExpression::MultilineOption);
+        return line.match(m_server.output()).captured(1).toLatin1();
+    }
     ControlClient& client() { return m_desk->client(); }
     QStringList names(const QString& role) { return namesIn(client().call(u"ui.tree"_s).result, role); }
     bool isIntroduced();
@@ -115,14 +122,14 @@ bool TestWindow::start(const QByteArray& platform)
         const QString problem = m_server.start(u"Xvfb"_s,
                                                {u"-noreset"_s, u"-displayfd"_s, u"1"_s, u"-screen"_s, u"0"_s,
                                                 u"1280x900x24"_s, u"-nolisten"_s, u"tcp"_s},
-                                               [this] { return m_server.output().contains(u'\n'); });
+                                               [this] { return !serverNumber().isEmpty(); });
         if (!problem.isEmpty()) {
             qWarning().noquote() << problem;
             return false;
         }
     }
     if (platform == "xcb")
-        qputenv("DISPLAY", ":" + m_server.output().section(u'\n', 0, 0).trimmed().toLatin1());
+        qputenv("DISPLAY", ":" + serverNumber());
     qputenv("QT_QPA_PLATFORM", platform);
     return m_desk->start({u"--services"_s, u"simulated"_s}, LimitMs);
 }
