@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
-import QtQuick.Templates as T
 import LumenDesk.BrightnessSync
 import LumenDesk.Controls
 import LumenDesk.Style

@@ -2,7 +2,6 @@
 import QtQuick
 import LumenDesk.Controls
 import LumenDesk.Style
-import LumenDesk.Widgets
 
 // One topic of the shortcuts page: its functions, two to a line.
 Column {
