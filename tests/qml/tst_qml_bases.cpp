@@ -47,7 +47,7 @@ void TestBases::init()
     m_shell->engine.load(QUrl(u"qrc:/tests/Bases.qml"_s));
     m_window = qobject_cast<QQuickWindow*>(m_shell->engine.rootObjects().constLast());
     QVERIFY(m_window);
-    QVERIFY(QTest::qWaitForWindowExposed(m_window));
+    QVERIFY(QTest::qWaitForWindowExposed(m_window, PatienceMs));
     QVERIFY(!m_window->grabWindow().isNull());
 }
 

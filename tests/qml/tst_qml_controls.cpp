@@ -51,7 +51,7 @@ void TestControls::init()
     m_shell->engine.load(QUrl(u"qrc:/tests/Controls.qml"_s));
     m_window = qobject_cast<QQuickWindow*>(m_shell->engine.rootObjects().constLast());
     QVERIFY(m_window);
-    QVERIFY(QTest::qWaitForWindowExposed(m_window));
+    QVERIFY(QTest::qWaitForWindowExposed(m_window, PatienceMs));
 }
 
 void TestControls::cleanup()
@@ -205,7 +205,7 @@ void TestControls::rolesAndValues()
 void TestControls::aKeyboardUserSeesWhereTheyAre()
 {
     m_window->requestActivate();
-    QVERIFY(QTest::qWaitForWindowActive(m_window));
+    QVERIFY(QTest::qWaitForWindowActive(m_window, PatienceMs));
     const QImage before = m_window->grabWindow();
     QTest::keyClick(m_window, Qt::Key_Tab);
     QTRY_VERIFY(m_window->activeFocusItem());

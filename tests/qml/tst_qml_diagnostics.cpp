@@ -112,7 +112,7 @@ QQuickWindow* TestDiagnostics::open()
 {
     m_shell->engine.load(QUrl(u"qrc:/tests/Diagnostics.qml"_s));
     m_window = qobject_cast<QQuickWindow*>(m_shell->engine.rootObjects().constLast());
-    return m_window && QTest::qWaitForWindowExposed(m_window) ? m_window : nullptr;
+    return m_window && QTest::qWaitForWindowExposed(m_window, PatienceMs) ? m_window : nullptr;
 }
 
 QQuickItem* TestDiagnostics::item(const char* name) const

@@ -40,7 +40,7 @@ void TestEffects::init()
     m_shell->engine.load(QUrl(u"qrc:/tests/Effects.qml"_s));
     m_window = qobject_cast<QQuickWindow*>(m_shell->engine.rootObjects().constLast());
     QVERIFY(m_window);
-    QVERIFY(QTest::qWaitForWindowExposed(m_window));
+    QVERIFY(QTest::qWaitForWindowExposed(m_window, PatienceMs));
     m_image = m_window->grabWindow();
     m_software = m_window->rendererInterface()->graphicsApi() == QSGRendererInterface::Software;
 }

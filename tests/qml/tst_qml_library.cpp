@@ -73,7 +73,7 @@ void TestLibrary::init()
     m_window = qobject_cast<QQuickWindow*>(m_shell->engine.rootObjects().constLast());
     QVERIFY(m_window);
     m_window->requestActivate();
-    QVERIFY(QTest::qWaitForWindowActive(m_window));
+    QVERIFY(QTest::qWaitForWindowActive(m_window, PatienceMs));
 }
 
 void TestLibrary::cleanup()
@@ -313,7 +313,7 @@ void TestLibrary::escapeCancelsASelection()
 {
     bridge().show();
     m_shell->window()->requestActivate();
-    QVERIFY(QTest::qWaitForWindowActive(m_shell->window()));
+    QVERIFY(QTest::qWaitForWindowActive(m_shell->window(), PatienceMs));
     call("ask");
     QTRY_VERIFY(item("selectionWindow"));
     QTest::keyClick(m_shell->window(), Qt::Key_Escape);
@@ -325,7 +325,7 @@ void TestLibrary::focusStaysInsideASelection()
 {
     bridge().show();
     m_shell->window()->requestActivate();
-    QVERIFY(QTest::qWaitForWindowActive(m_shell->window()));
+    QVERIFY(QTest::qWaitForWindowActive(m_shell->window(), PatienceMs));
     call("ask");
     QTRY_VERIFY(item("selectionConfirm") && item("selectionConfirm")->hasActiveFocus());
     QTest::keyClick(m_shell->window(), Qt::Key_Tab);
@@ -381,7 +381,7 @@ void TestLibrary::aHintOpensAndClosesByItsButton()
     QTRY_VERIFY(!hint());
     call("toggleHint");
     QTRY_VERIFY(hint());
-    QVERIFY(QTest::qWaitForWindowActive(hint()));
+    QVERIFY(QTest::qWaitForWindowActive(hint(), PatienceMs));
     QTest::keyClick(hint(), Qt::Key_Escape);
     QTRY_VERIFY(!hint());
 }

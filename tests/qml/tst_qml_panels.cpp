@@ -67,7 +67,7 @@ void TestPanels::start(bool secondWithoutSensor)
                                         : QList<FakeMonitor*>{&*m_first, &*m_second});
     QVERIFY(m_shell->window());
     m_shell->window()->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_shell->window()));
+    QVERIFY(QTest::qWaitForWindowExposed(m_shell->window(), PatienceMs));
 }
 
 void TestPanels::click(const QString& name)
@@ -75,7 +75,7 @@ void TestPanels::click(const QString& name)
     QQuickItem* item = nullptr;
     QTRY_VERIFY((item = m_shell->item(name)));
     QTRY_VERIFY(item->width() > 0 && item->height() > 0);
-    QVERIFY(QTest::qWaitForWindowExposed(item->window()));
+    QVERIFY(QTest::qWaitForWindowExposed(item->window(), PatienceMs));
     // Layout is due with the next frame; a click must not land where the item was before it.
     QVERIFY(!item->window()->grabWindow().isNull());
     const QPointF centre = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));

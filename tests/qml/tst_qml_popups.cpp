@@ -338,7 +338,7 @@ void TestPopups::feedbackOpenedAgainStaysItsWholeTime()
     QQmlComponent component(&m_shell->engine);
     component.setData(
         "import QtQuick\nimport LumenDesk\n"
-        "LuWindow { width: 100; height: 50; timeout: 400; property int ends: 0; onClosed: ++ends }\n",
+        "LuWindow { width: 100; height: 50; timeout: 2000; property int ends: 0; onClosed: ++ends }\n",
         QUrl(u"qrc:/tests/Feedback.qml"_s));
     const std::unique_ptr<QObject> object(component.create());
     auto* window = qobject_cast<QQuickWindow*>(object.get());
@@ -350,7 +350,7 @@ void TestPopups::feedbackOpenedAgainStaysItsWholeTime()
         QTRY_VERIFY(sinceLast.elapsed() > 150);
     }
     QTRY_COMPARE(window->property("ends").toInt(), 1);
-    QVERIFY(sinceLast.elapsed() >= 380);
+    QVERIFY(sinceLast.elapsed() >= 1900); // a timer of the engine may be a twentieth early
     QVERIFY(!window->isVisible());
 }
 

@@ -110,7 +110,7 @@ void TestSettings::start(const QList<FakeMonitor*>& monitors)
     m_shell->context.setWidgetUrlSource([](QObject*) { return testUrls(); });
     QVERIFY(m_shell->window());
     QVERIFY(m_shell->bridge->show().ok());
-    QVERIFY(QTest::qWaitForWindowExposed(m_shell->window()));
+    QVERIFY(QTest::qWaitForWindowExposed(m_shell->window(), PatienceMs));
 }
 
 QStringList TestSettings::labels(QQuickWindow* window) const

@@ -81,7 +81,7 @@ void TestShell::start(const QList<FakeMonitor*>& monitors)
     m_shell.emplace(monitors);
     QVERIFY(m_shell->window());
     QVERIFY(m_shell->bridge->show().ok());
-    QVERIFY(QTest::qWaitForWindowExposed(m_shell->window()));
+    QVERIFY(QTest::qWaitForWindowExposed(m_shell->window(), PatienceMs));
 }
 
 QJsonObject TestShell::node(const QJsonObject& tree, const QString& name, const QString& role)
@@ -144,7 +144,7 @@ void TestShell::withoutAMonitorTheWindowSaysWhatToCheck()
     QVERIFY(!node(tree, u"DDC/CI is switched on in the monitor's own menu."_s).isEmpty());
     m_shell->context.setMonitors({&*m_first});
     QTRY_VERIFY(m_shell->widget("LuAiContrastWidget"));
-    QVERIFY(node(m_shell->bridge->tree().value.toObject(), u"No supported monitor found"_s).isEmpty());
+    QTRY_VERIFY(node(m_shell->bridge->tree().value.toObject(), u"No supported monitor found"_s).isEmpty());
 }
 
 void TestShell::aMonitorThatIsDeletedLeavesTheWindow()
@@ -158,7 +158,7 @@ void TestShell::aMonitorThatIsDeletedLeavesTheWindow()
     QVERIFY(!m_shell->widget("LuAiContrastWidget")->property("active").toBool());
     m_second.reset();
     QTRY_VERIFY(!m_shell->widget("LuAiContrastWidget"));
-    QVERIFY(m_shell->window()->property("empty").toBool());
+    QTRY_VERIFY(m_shell->window()->property("empty").toBool());
 }
 
 void TestShell::theWindowIsNarrowAndStandsAtTheLowerRightCorner()
@@ -266,7 +266,7 @@ void TestShell::theKeyboardReachesEveryTile()
 {
     start({&*m_first});
     m_shell->window()->requestActivate();
-    QVERIFY(QTest::qWaitForWindowActive(m_shell->window()));
+    QVERIFY(QTest::qWaitForWindowActive(m_shell->window(), PatienceMs));
     QStringList reached;
     for (int step = 0; step < 12; ++step) {
         QTest::keyClick(m_shell->window(), Qt::Key_Tab);

@@ -47,7 +47,7 @@ void TestStates::init()
     m_window = qobject_cast<QQuickWindow*>(m_shell->engine.rootObjects().constLast());
     QVERIFY(m_window);
     m_window->requestActivate();
-    QVERIFY(QTest::qWaitForWindowActive(m_window));
+    QVERIFY(QTest::qWaitForWindowActive(m_window, PatienceMs));
 }
 
 void TestStates::cleanup()

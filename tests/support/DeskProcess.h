@@ -2,6 +2,7 @@
 #pragma once
 
 #include "ControlClient.h"
+#include "Patience.h"
 
 #include <QElapsedTimer>
 #include <QProcess>
@@ -35,7 +36,7 @@ public:
     void setChildModifier(std::function<void()> modifier) { m_modifier = std::move(modifier); }
 
     /// Starts the program and connects to it. False if its socket does not come; errors() tells why.
-    bool start(const QStringList& options = usualOptions(), int timeoutMs = 30'000)
+    bool start(const QStringList& options = usualOptions(), int timeoutMs = 60'000)
     {
         launch(options + ownOptions());
         QElapsedTimer elapsed;
@@ -101,8 +102,12 @@ public:
     /// What the program has written on standard error so far.
     QString errors()
     {
-        if (m_process)
+        if (m_process) {
+            // What is in the pipe but not yet read from it counts, too.
+            m_process->setReadChannel(QProcess::StandardError);
+            m_process->waitForReadyRead(0);
             m_errors += QString::fromUtf8(m_process->readAllStandardError());
+        }
         return m_errors;
     }
 

@@ -176,7 +176,7 @@ void TestEyeCarePanels::theOptimizersPageIsOffWithIt()
     QVERIFY(!press(u"Light Meter"_s, u"switch"_s));
     QVERIFY(desk().set(u"abPlus.state"_s, true));
     QTRY_COMPARE(find(u"slider"_s, u"Sensor Sensitivity"_s).value(u"value"_s).toInt(), 7);
-    QVERIFY(find(u"slider"_s, u"Sensor Sensitivity"_s).value(u"enabled"_s).toBool());
+    QTRY_VERIFY(find(u"slider"_s, u"Sensor Sensitivity"_s).value(u"enabled"_s).toBool());
 }
 
 void TestEyeCarePanels::theHintExplainsTheOptimizer()

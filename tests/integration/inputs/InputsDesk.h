@@ -30,9 +30,10 @@ public:
     bool idle() { return client().call(QStringLiteral("idle")).ok(); }
     bool sync(const QString& module)
     {
-        return client().call(QStringLiteral("sync"), {{QStringLiteral("module"), module}}).ok();
+        // What was read may have moved something else.
+        return client().call(QStringLiteral("sync"), {{QStringLiteral("module"), module}}).ok() && idle();
     }
-    bool apply() { return client().call(QStringLiteral("apply")).ok(); }
+    bool apply() { return client().call(QStringLiteral("apply")).ok() && idle(); }
     QJsonValue get(const QString& path) { return client().get(path); }
     bool set(const QString& path, const QJsonValue& value)
     {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "DeskProcess.h"
 
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
 #include <QImage>
@@ -322,9 +323,18 @@ void TestGallery::openEverything(const QString& model, const std::function<void(
 QStringList TestGallery::problemsEverywhere(const QString& model)
 {
     QStringList found;
-    checkProblems(u"window"_s, found);
-    openEverything(
-        model, [&](const QString& name) { checkProblems(name, found); }, found);
+    // What has just opened finds its size with the next frames.
+    const auto look = [&](const QString& name) {
+        QStringList problems;
+        const QDeadlineTimer limit(5000);
+        do {
+            problems.clear();
+            checkProblems(name, problems);
+        } while (!problems.isEmpty() && !limit.hasExpired());
+        found += problems;
+    };
+    look(u"window"_s);
+    openEverything(model, look, found);
     found.removeDuplicates();
     return found;
 }

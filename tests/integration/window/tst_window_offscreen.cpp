@@ -264,9 +264,13 @@ void TestWindowOffscreen::theWindowStaysSmoothWhileTheMonitorHangs()
     QVERIFY(client().call(u"ui.screenshot"_s, {{u"file"_s, m_desk->filePath(u"slow.png"_s)}}).ok());
     QVERIFY(client().call(u"ui.frames"_s).result[u"longestMs"_s].toDouble() > 1);
     QVERIFY(client().call(u"sim.fault"_s, {{u"kind"_s, u"timeout"_s}}).ok());
-    const double hanging = sweep();
-    // A machine that is busy with other things is slow in both; one wait of the bus would be twice this.
-    QVERIFY2(hanging <= std::max(16.0, well + 20), qPrintable(u"%1 ms, else %2 ms"_s.arg(hanging).arg(well)));
+    // One wait of the bus in a turn would be twice this, and would come in every sweep. A machine that is
+    // busy with other things may hold up some of them.
+    const double limit = std::max(16.0, well + 20);
+    double hanging = sweep();
+    for (int more = 0; hanging > limit && more < 9; ++more)
+        hanging = std::min(hanging, sweep());
+    QVERIFY2(hanging <= limit, qPrintable(u"%1 ms, else %2 ms"_s.arg(hanging).arg(well)));
     QVERIFY(client().call(u"sim.fault"_s).ok());
 }
 

@@ -75,6 +75,7 @@ private Q_SLOTS:
 
 private:
     bool xdotool(const QStringList& arguments);
+    QString focused();
     QPoint centreOf(const QString& name);
     QJsonValue state() { return m_desk->client().get(u"aiContrast.state"_s); }
 
@@ -108,6 +109,22 @@ bool TestWindowX11::xdotool(const QStringList& arguments)
     return QProcess::execute(u"xdotool"_s, arguments) == 0;
 }
 
+// Role, name and place of the control that has the focus.
+QString TestWindowX11::focused()
+{
+    QList<QJsonValue> waiting{m_desk->client().call(u"ui.tree"_s).result};
+    while (!waiting.isEmpty()) {
+        const QJsonValue node = waiting.takeFirst();
+        if (node[u"focused"_s].toBool() && node[u"role"_s].toString() != u"window"_s)
+            return u"%1 %2 %3,%4"_s.arg(node[u"role"_s].toString(), node[u"name"_s].toString())
+                .arg(node[u"rect"_s][u"x"_s].toDouble())
+                .arg(node[u"rect"_s][u"y"_s].toDouble());
+        for (const QJsonValue& child : node.isArray() ? node.toArray() : node[u"children"_s].toArray())
+            waiting.append(child);
+    }
+    return {};
+}
+
 QPoint TestWindowX11::centreOf(const QString& name)
 {
     const QJsonValue tree = m_desk->client().call(u"ui.tree"_s).result;
@@ -127,8 +144,16 @@ QPoint TestWindowX11::centreOf(const QString& name)
 
 void TestWindowX11::realClickSwitchesTheMonitor()
 {
-    const QPoint point = centreOf(u"Local Contrast"_s);
-    QVERIFY(!point.isNull());
+    // It is on the screen, drawn, and has come to its place.
+    QVERIFY(xdotool({u"search"_s, u"--sync"_s, u"--onlyvisible"_s, u"--class"_s, u"lumen-desk"_s}));
+    QVERIFY(m_desk->client().call(u"ui.screenshot"_s, {{u"file"_s, m_desk->filePath(u"first.png"_s)}}).ok());
+    QPoint point;
+    const auto stands = [&] {
+        const QPoint before = point;
+        point = centreOf(u"Local Contrast"_s);
+        return point == before && !point.isNull();
+    };
+    QTRY_VERIFY(stands());
     QCOMPARE(state(), QJsonValue(false));
     QVERIFY(xdotool(
         {u"mousemove"_s, QString::number(point.x()), QString::number(point.y()), u"click"_s, u"1"_s}));
@@ -144,14 +169,13 @@ void TestWindowX11::realKeySwitchesTheMonitor()
     // before.
     QVERIFY(xdotool(
         {u"search"_s, u"--onlyvisible"_s, u"--class"_s, u"lumen-desk"_s, u"windowfocus"_s, u"--sync"_s}));
-    const auto isFocused = [this] {
-        return findInTree(m_desk->client().call(u"ui.tree"_s).result, u"button"_s, u"Local Contrast"_s)
-            .value(u"focused"_s)
-            .toBool();
-    };
-    for (int i = 0; i < 12 && !isFocused(); ++i)
+    // The key reaches the program some time after it was sent: each is awaited before the next.
+    for (int i = 0; i < 30 && !focused().startsWith(u"button Local Contrast "_s); ++i) {
+        const QString before = focused();
         QVERIFY(xdotool({u"key"_s, u"Tab"_s}));
-    QTRY_VERIFY(isFocused());
+        QTRY_VERIFY(focused() != before);
+    }
+    QVERIFY(focused().startsWith(u"button Local Contrast "_s));
     QVERIFY(xdotool({u"key"_s, u"space"_s}));
     QTRY_COMPARE(state(), QJsonValue(true));
 }

@@ -4,6 +4,7 @@
 #include "LuContext.h"
 #include "LuWindowBridge.h"
 #include "Monitor.h"
+#include "Patience.h"
 
 #include <QJsonDocument>
 #include <QQmlApplicationEngine>

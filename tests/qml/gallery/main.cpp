@@ -55,7 +55,7 @@ int main(int argc, char** argv)
     controls->setProperty("confirmed", 55);
     for (const QString& theme : {u"light"_s, u"dark"_s}) {
         shell.context.setTheme(theme);
-        if (!QTest::qWaitForWindowExposed(controls) ||
+        if (!QTest::qWaitForWindowExposed(controls, PatienceMs) ||
             !controls->grabWindow().save(folder.filePath(u"controls-"_s + theme + suffix + u".png"_s)))
             qCritical("cannot draw the controls");
     }

@@ -152,7 +152,7 @@ void TestSmartKvm::show()
                     QStringList{u"LuSmartKvmWidget"_s, u"LuPIPPBPWidget"_s});
     QVERIFY(m_shell->window());
     m_shell->window()->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_shell->window()));
+    QVERIFY(QTest::qWaitForWindowExposed(m_shell->window(), PatienceMs));
     QVERIFY(m_shell->bridge->openPage(QString::fromLatin1(Widget)).ok());
 }
 
@@ -364,7 +364,7 @@ void TestSmartKvm::theStatusIsShown()
     show();
     QTRY_VERIFY(m_shell->item(u"smartKvmStatus"_s));
     QTRY_COMPARE(m_shell->item(u"smartKvmStatus"_s)->property("text").toString(), text);
-    QCOMPARE(!control(u"label"_s, u"Smart KVM Enabled"_s).isEmpty(), on);
+    QTRY_COMPARE(!control(u"label"_s, u"Smart KVM Enabled"_s).isEmpty(), on);
 }
 
 void TestSmartKvm::theSidesFollowTheRotation()
@@ -385,7 +385,7 @@ void TestSmartKvm::theSidesFollowTheRotation()
 void TestSmartKvm::theHubRestsWhileConnected()
 {
     show();
-    QVERIFY(control(u"radio"_s, u"TBT Upstream"_s)[u"enabled"_s].toBool());
+    QTRY_VERIFY(control(u"radio"_s, u"TBT Upstream"_s)[u"enabled"_s].toBool());
     QVERIFY(setKvm({{u"connected"_s, true}}));
     QTRY_VERIFY(!control(u"radio"_s, u"TBT Upstream"_s)[u"enabled"_s].toBool());
 }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "MockBed.h"
+#include "Patience.h"
 
 #include <ddc-i2c/Enumerator.h>
 #include <ddc-i2c/HotplugWatcher.h>
@@ -11,7 +12,6 @@
 #include <QSocketNotifier>
 #include <QTest>
 
-#include <algorithm>
 #include <future>
 
 Q_DECLARE_METATYPE(ddc::Error)
@@ -170,24 +170,16 @@ private Q_SLOTS:
         QCOMPARE(other->getVcp(Brightness).error, ddc::Error::None);
         sim::Fault fault;
         fault.kind = sim::FaultKind::Timeout;
-        fault.blocks = std::chrono::seconds(10);
+        fault.blocks = std::chrono::minutes(2);
         alpha->armFault(fault);
-        QElapsedTimer since;
-        since.start();
         auto hanging = std::async(std::launch::async, [&silent] { return silent->getVcp(Brightness).error; });
-        std::vector<double> gets;
-        for (int i = 0; i < 20; ++i) {
-            QElapsedTimer timer;
-            timer.start();
+        QTRY_VERIFY(bed->isTransferring(*first));
+        for (int i = 0; i < 20; ++i)
             QCOMPARE(other->getVcp(Brightness).error, ddc::Error::None);
-            gets.push_back(double(timer.nsecsElapsed()) / 1e6);
-        }
+        // All that while the first one hung.
         QVERIFY(bed->isTransferring(*first));
-        QVERIFY(since.elapsed() < 8000);
         QVERIFY(hanging.wait_for(std::chrono::seconds(0)) == std::future_status::timeout);
-        std::sort(gets.begin(), gets.end());
-        QVERIFY2(gets[10] < 44, qPrintable(QStringLiteral("median %1 ms").arg(gets[10])));
-        alpha->unplug(); // nobody waits for the ten seconds to end
+        alpha->unplug(); // nobody waits for the two minutes to end
         QVERIFY(hanging.get() != ddc::Error::None);
     }
 
@@ -197,7 +189,7 @@ private Q_SLOTS:
         QCOMPARE(transactor->getVcp(Brightness).error, ddc::Error::None);
         sim::Fault fault;
         fault.kind = sim::FaultKind::Timeout;
-        fault.blocks = std::chrono::seconds(10);
+        fault.blocks = std::chrono::minutes(2);
         alpha->armFault(fault);
         QElapsedTimer timer;
         timer.start();
@@ -208,7 +200,7 @@ private Q_SLOTS:
         alpha->unplug();
         const ddc::Error error = call.get();
         QVERIFY2(error == ddc::Error::NoReply || error == ddc::Error::Gone, ddc::text(error));
-        QVERIFY(timer.elapsed() < 4000);
+        QVERIFY(timer.elapsed() < 60'000);
         QVERIFY(alpha->value(Brightness) != 5);
     }
 

@@ -245,13 +245,13 @@ private Q_SLOTS:
     {
         sim::Fault fault;
         fault.kind = sim::FaultKind::Timeout;
-        fault.blocks = std::chrono::seconds(10);
+        fault.blocks = std::chrono::minutes(2);
         alpha->armFault(fault);
         bed->plug(*first, *alpha);
         bed->plug(*second, *beta);
         monitors = std::make_unique<RealMonitors>(*registry);
         monitors->start();
-        QTRY_COMPARE_WITH_TIMEOUT(ids(), QStringList{QStringLiteral("Beta32U@SN-B")}, 5000);
+        QTRY_COMPARE_WITH_TIMEOUT(ids(), QStringList{QStringLiteral("Beta32U@SN-B")}, LimitMs);
         QVERIFY(bed->isTransferring(*first));
         alpha->unplug();
         QTRY_COMPARE_WITH_TIMEOUT(ids().size(), 2, LimitMs);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <LuShared/LuKvm.h>
 
+#include "Patience.h"
 #include "lushared/LuSettings.h"
 #include "services/kvm/NativeKvm.h"
 

@@ -405,7 +405,7 @@ void TestControlServer::aFloodDoesNotBlockOthers()
         QElapsedTimer elapsed;
         elapsed.start();
         QVERIFY(client.call(u"size"_s, {{u"text"_s, u"x"_s}}).ok());
-        QVERIFY2(elapsed.elapsed() < 2000, qPrintable(QString::number(elapsed.elapsed())));
+        QVERIFY2(elapsed.elapsed() < 10'000, qPrintable(QString::number(elapsed.elapsed())));
     }
     stop = true;
     flood.join();

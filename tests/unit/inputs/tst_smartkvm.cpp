@@ -320,7 +320,7 @@ void TestSmartKvm::crossingsThatWaitAreOne()
     fault.code = UpstreamCode;
     fault.op = sim::Op::Set;
     fault.count = 1;
-    fault.blocks = std::chrono::milliseconds(300);
+    fault.blocks = std::chrono::milliseconds(1500);
     bed.monitor().armFault(fault);
     const quint64 before = bed.monitor().traffic().last().seq;
     calls();

@@ -248,7 +248,7 @@ void TestLeaving::aQuestionThatHangsDelaysNobody()
     QElapsedTimer timer;
     timer.start();
     QVERIFY(registry.removeMonitor(plug.info->id()));
-    QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
+    QVERIFY2(timer.elapsed() < 10'000, qPrintable(QString::number(timer.elapsed())));
     QVERIFY(!registry.isBusy());
     plug.hanger->hang(false);
     QVERIFY(registry.shutDown());

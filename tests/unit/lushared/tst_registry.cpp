@@ -232,7 +232,7 @@ void TestRegistry::monitorRemovedWhileItIsAskedLeavesNothing()
     QElapsedTimer timer;
     timer.start();
     QVERIFY(registry.removeMonitor(QStringLiteral("TK10@R10")));
-    QVERIFY2(timer.elapsed() < 5000, qPrintable(QString::number(timer.elapsed())));
+    QVERIFY2(timer.elapsed() < 20'000, qPrintable(QString::number(timer.elapsed())));
     QVERIFY(waitForRest());
     QVERIFY(registry.monitors().isEmpty());
     QVERIFY(!registry.isBusy());

@@ -265,7 +265,7 @@ private Q_SLOTS:
         LuPlatform::setMonitorBrightness(monitor, 0.5);
         QVERIFY(LuPlatform::getMonitorBrightness(monitor) <= 0.5);
         // The bus hangs all the while; without it both calls take microseconds.
-        QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
+        QVERIFY2(timer.elapsed() < 10'000, qPrintable(QString::number(timer.elapsed())));
         QVERIFY(device->sets().isEmpty());
         device->gate.release();
         QTRY_COMPARE(device->sets(), QList<int>{40});
