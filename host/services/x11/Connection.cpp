@@ -31,6 +31,8 @@ constexpr const char* atomNames[] = {
     "_NET_WM_WINDOW_TYPE_NORMAL",
     "_NET_WM_WINDOW_TYPE_DIALOG",
     "CONNECTOR_ID",
+    "_XSETTINGS_S0",
+    "_XSETTINGS_SETTINGS",
 };
 static_assert(std::size(atomNames) == AtomCount);
 

@@ -26,7 +26,7 @@ enum Atom {
     NetActiveWindow, NetClientListStacking, NetCurrentDesktop, NetFrameExtents, GtkFrameExtents,
     NetMoveResizeWindow, NetWmPid, NetWmDesktop, NetWmState, NetWmStateFullscreen,
     NetWmStateMaximizedHorz, NetWmStateMaximizedVert, NetWmWindowType, NetWmWindowTypeNormal,
-    NetWmWindowTypeDialog, ConnectorId,
+    NetWmWindowTypeDialog, ConnectorId, XsettingsSelection, XsettingsSettings,
     // clang-format on
     AtomCount
 };

@@ -117,8 +117,12 @@ void Display::setDpiScaling(const MonitorInfo& monitor, int percent)
         return;
     }
     const std::lock_guard lock(m_changing);
-    if (find(monitor) && percent != std::lround(readXftDpi(*m_connection) * 100 / UsualDpi))
-        writeXftDpi(*m_connection, int(std::lround(UsualDpi * percent / 100)));
+    if (!find(monitor) || percent == std::lround(readXftDpi(*m_connection) * 100 / UsualDpi))
+        return;
+    const int dpi = int(std::lround(UsualDpi * percent / 100));
+    // At once where it is read again. A settings daemon writes the same there, later.
+    writeXftDpi(*m_connection, dpi);
+    m_daemon.setDpi(dpi);
 }
 
 bool Display::hiDpi(const MonitorInfo& monitor) const
@@ -141,7 +145,8 @@ bool Display::setHiDpi(const MonitorInfo& monitor, bool enabled)
     const double scale = enabled ? crtc.scale * HiDpiScale : visibleScale(crtc);
     if (!change(*target, {.mode = {}, .degrees = {}, .scale = scale}))
         return false;
-    // Texts keep their size to the eye where no screen without HiDPI would show them at twice the size.
+    // Texts keep their size to the eye where no screen without HiDPI would show them at twice the size. The
+    // desktop's own setting is left alone: it outlasts the session, and HiDPI does not.
     if (wereAll != areAll) {
         const double dpi = readXftDpi(*m_connection) * (areAll ? HiDpiScale : 1 / HiDpiScale);
         writeXftDpi(*m_connection, int(std::lround(std::max(dpi, UsualDpi / 2))));

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "OutputChange.h"
+#include "SettingsDaemon.h"
 #include "services/api/DisplayService.h"
 
 #include <functional>
@@ -14,7 +15,11 @@ namespace services::x11 {
 class Display : public DisplayService
 {
 public:
-    explicit Display(std::shared_ptr<Connection> connection) : m_connection(std::move(connection)) {}
+    /// On the GUI thread; everything else from any thread.
+    explicit Display(std::shared_ptr<Connection> connection)
+        : m_connection(std::move(connection)), m_daemon(m_connection)
+    {
+    }
 
     /// Not without the RandR extension.
     bool isAvailable() const override;
@@ -50,6 +55,7 @@ private:
     bool change(const Target& target, const OutputChange::Wish& wish);
 
     const std::shared_ptr<Connection> m_connection;
+    SettingsDaemon m_daemon;
     std::mutex m_changing; ///< A change is made from what was read just before.
 };
 

@@ -590,6 +590,13 @@ void TestDesktopWindows::windowIsOnAllDesktops()
     QTRY_COMPARE_WITH_TIMEOUT(desktop(), u"_NET_WM_DESKTOP(CARDINAL) = 4294967295"_s, PatienceMs);
     overlay.hide();
     overlay.show();
+    // What the window manager does with the next window it does after it has let go of this one and taken it
+    // again.
+    QQuickWindow next;
+    next.setGeometry(500, 50, 100, 100);
+    next.show();
+    QTRY_VERIFY_WITH_TIMEOUT(property(quint32(next.winId()), u"_NET_WM_DESKTOP"_s).contains(u'='),
+                             PatienceMs);
     QTRY_COMPARE_WITH_TIMEOUT(desktop(), u"_NET_WM_DESKTOP(CARDINAL) = 4294967295"_s, PatienceMs);
 }
 
