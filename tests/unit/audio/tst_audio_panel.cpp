@@ -12,6 +12,20 @@ namespace {
 
 const QString Folder = u"qrc:///TKPackage/qml/TKPackage/"_s;
 
+/// The keys of a system that has some for the volume.
+class SystemKeys : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(bool state MEMBER state NOTIFY stateChanged)
+
+public:
+    bool state = false;
+
+Q_SIGNALS:
+    void stateChanged();
+    void triggered(const QVariantList& monitors);
+};
+
 /// The row of the volume over a simulated monitor, with its page beside it.
 class Panel
 {
@@ -24,15 +38,19 @@ public:
             m_selector->setExtraSelectors({variant});
         }
         lumenQmlInit(&m_engine, {u"TKPackage"_s});
-        m_window.resize(640, 600);
-        m_window.show();
+        QQmlComponent window(&m_engine);
+        window.setData("import QtQuick\nWindow { width: 640; height: 600; visible: true }", QUrl());
+        m_window.reset(qobject_cast<QQuickWindow*>(window.create()));
+        m_engine.singletonInstance<QObject*>(qmlTypeId("LumenDesk", 1, 0, "LuContext"))
+            ->setProperty("mainWindow", QVariant::fromValue(m_window.get()));
         QQmlComponent component(&m_engine, QUrl(Folder + u"Widgets/LuVolumeWidget.qml"_s));
         if (!component.isReady())
             qFatal("%s", qPrintable(component.errorString()));
         m_widget.reset(qobject_cast<QQuickItem*>(component.createWithInitialProperties(
             {{u"monitor"_s, QVariant::fromValue<QObject*>(&bed.model())},
+             {u"mainWindow"_s, QVariant::fromValue(m_window.get())},
              {u"width"_s, 308},
-             {u"parent"_s, QVariant::fromValue(m_window.contentItem())}})));
+             {u"parent"_s, QVariant::fromValue(m_window->contentItem())}})));
         if (!m_widget)
             qFatal("%s", qPrintable(component.errorString()));
         m_page = make("page");
@@ -69,13 +87,13 @@ public:
             qobject_cast<QQuickItem*>(component->create(component->creationContext())));
         if (!item)
             qFatal("%s", qPrintable(component->errorString()));
-        item->setParentItem(m_window.contentItem());
+        item->setParentItem(m_window->contentItem());
         return item;
     }
 
 private:
     QQmlEngine m_engine;
-    QQuickWindow m_window;
+    std::unique_ptr<QQuickWindow> m_window;
     std::unique_ptr<QQmlFileSelector> m_selector;
     std::unique_ptr<QQuickItem> m_widget;
     std::unique_ptr<QQuickItem> m_page;
@@ -129,6 +147,7 @@ private Q_SLOTS:
     void soundSettingsAreOpened();
     void aVisitIsOneEvent();
     void theOtherPlatformsVariant();
+    void systemKeysShowTheVolumeOnEachMonitor();
     void theFeedbackShowsSixteenLevels_data();
     void theFeedbackShowsSixteenLevels();
     void theEditorIsHeardAndSaved_data();
@@ -399,12 +418,51 @@ void TestAudioPanel::theOtherPlatformsVariant()
     QCOMPARE(row->property("description").toString(), u"Enable iKeyboard Control to use the F11/F12 volume "
                                                       u"keys on Mac keyboard to adjust the volume of the "
                                                       "selected audio output."_s);
-    // This session has no such keys.
-    QVERIFY(!press(findControl(settings.get(), "LuSwitch", u"iKeyboard Control"_s)));
+    // A session may have no such keys.
+    QQuickItem* const box = findControl(settings.get(), "LuSwitch", u"iKeyboard Control"_s);
+    QVERIFY(!press(box));
+    SystemKeys keys;
+    panel.widget()->setProperty("keyboard", QVariant::fromValue<QObject*>(&keys));
+    QTRY_VERIFY(box->isEnabled());
+    QVERIFY(press(box));
+    QCOMPARE(keys.state, true);
     // The slider stays on the page while the system plays elsewhere.
     AudioBed::play("usb-0");
     QTRY_VERIFY(!panel.slider()->isEnabled());
     QVERIFY(panel.onPage("LuSlider", u"Volume"_s));
+}
+
+void TestAudioPanel::systemKeysShowTheVolumeOnEachMonitor()
+{
+    AudioBed first(u"TK30Z"_s);
+    AudioBed second(u"TK20"_s);
+    first.begin();
+    second.begin();
+    const auto shown = [] {
+        QStringList pictures;
+        const QWindowList windows = QGuiApplication::topLevelWindows();
+        for (const QWindow* window : windows) {
+            if (window->isVisible() && window->property("levels").toInt() == 16)
+                pictures.append(window->property("picture").toString());
+        }
+        return pictures;
+    };
+    {
+        const Panel panel(first, u"osx"_s);
+        SystemKeys keys;
+        panel.widget()->setProperty("keyboard", QVariant::fromValue<QObject*>(&keys));
+        const QVariantList both{QVariant::fromValue<QObject*>(&first.model()),
+                                QVariant::fromValue<QObject*>(&second.model())};
+        QVERIFY(panel.widget()->property("inMainWindow").toBool());
+        // Again: the same two windows.
+        for (int i = 0; i < 2; ++i)
+            QTRY_COMPARE((Q_EMIT keys.triggered(both), shown()),
+                         (QStringList{u"ico48_volume"_s, u"ico48_volume"_s}));
+        second.put("mute", true);
+        QVERIFY(second.idle());
+        QTRY_COMPARE((Q_EMIT keys.triggered(both), shown().contains(u"ico48_mute"_s)), true);
+    }
+    QTRY_COMPARE(shown(), QStringList());
 }
 
 void TestAudioPanel::theFeedbackShowsSixteenLevels_data()

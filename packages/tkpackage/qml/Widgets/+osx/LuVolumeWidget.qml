@@ -13,7 +13,8 @@ LuWidget {
     id: _self
 
     readonly property var volume: monitor?.volume ?? null
-    readonly property var keyboard: LuContext.volumeIKeyboard ?? null
+    // The keys of the system, or null: {state, triggered(monitors)}.
+    property var keyboard: LuContext.volumeIKeyboard ?? null
     readonly property MonitorVolume state: MonitorVolume {
         volume: _self.volume
     }
@@ -31,6 +32,25 @@ LuWidget {
             }
         }
     ]
+
+    // The feedback on each monitor whose volume the keys have moved, by the monitor's id. It has no parent: a window below
+    // one that is hidden stays hidden, too.
+    property var feedback: ({})
+    Component.onDestruction: Object.values(feedback).forEach(window => window.destroy())
+    Component {
+        id: _feedback
+        LuPopupVolumeShortcut { }
+    }
+    Connections {
+        target: _self.inMainWindow ? _self.keyboard : null
+        function onTriggered(monitors: var): void {
+            for (const monitor of monitors) {
+                _self.feedback[monitor.id] = _self.feedback[monitor.id] ?? _feedback.createObject(null, { "monitor": monitor })
+                _self.feedback[monitor.id].monitor = monitor
+                _self.feedback[monitor.id].open()
+            }
+        }
+    }
 
     VolumeRow {
         widget: _self
