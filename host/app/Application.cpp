@@ -9,6 +9,8 @@
 #include "WindowKeys.h"
 #include "adapters/ClockMethods.h"
 #include "adapters/KvmMethods.h"
+#include "adapters/PlaceSettings.h"
+#include "adapters/SecondComputer.h"
 #include "adapters/ServiceMethods.h"
 #include "adapters/SimulatorMethods.h"
 #include "adapters/WindowMethods.h"
@@ -33,6 +35,7 @@
 #include <lushared/services/Abilities.h>
 #include <lushared/services/ServiceRegistry.h>
 #include <panelcore/MonitorLink.h>
+#include <qml/LuComputers.h>
 #include <qml/LuContext.h>
 #include <qml/LuDiagnostics.h>
 #include <qml/LuPreferences.h>
@@ -40,6 +43,7 @@
 #include <qml/LuWindowBridge.h>
 #include <services/api/DesktopEvents.h>
 #include <services/api/ProgramService.h>
+#include <services/kvm/NativeKvm.h>
 #include <services/linux/DesktopLook.h>
 #include <services/native/NativeServices.h>
 #include <services/native/Session.h>
@@ -211,6 +215,12 @@ void Application::installServices()
     // A compositor may tell its displays only some time after it was asked.
     connect(LuPlatformNotifications::instance(), &LuPlatformNotifications::screenGeometryChanged, context,
             &LuContext::touchAbsences);
+    if (const auto kvm = std::dynamic_pointer_cast<services::NativeKvm>(services::Registry::current().kvm)) {
+        LuComputers::instance()->setBackend(new SecondComputer(kvm, this));
+        connect(kvm.get(), &services::NativeKvm::setUpRequested, context,
+                [context] { context->openSettings(QStringLiteral("computers")); });
+    }
+    connectPlaceSettings();
     LuProgramIcons::setLookup([](const QString& appId) {
         const auto programs = services::Registry::current().programs;
         return programs ? programs->icon(appId) : QString();

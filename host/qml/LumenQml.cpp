@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "LumenQml.h"
 
+#include "LuComputers.h"
 #include "LuContext.h"
 #include "LuDiagnostics.h"
 #include "LuFlowActions.h"
 #include "LuIconProvider.h"
 #include "LuLottieItem.h"
+#include "LuPlace.h"
 #include "LuPreferences.h"
 #include "LuProgramIcons.h"
 
@@ -46,12 +48,23 @@ void registerTypes()
                                             QJSEngine::setObjectOwnership(context, QJSEngine::CppOwnership);
                                             return context;
                                         });
+    qmlRegisterSingletonType<LuComputers>(
+        "LumenDesk", 1, 0, "LuComputers", [](QQmlEngine*, QJSEngine*) -> QObject* {
+            LuComputers* computers = LuComputers::instance();
+            QJSEngine::setObjectOwnership(computers, QJSEngine::CppOwnership);
+            return computers;
+        });
     qmlRegisterSingletonType<LuDiagnostics>(
         "LumenDesk", 1, 0, "LuDiagnostics", [](QQmlEngine*, QJSEngine*) -> QObject* {
             LuDiagnostics* diagnostics = LuDiagnostics::instance();
             QJSEngine::setObjectOwnership(diagnostics, QJSEngine::CppOwnership);
             return diagnostics;
         });
+    qmlRegisterSingletonType<LuPlace>("LumenDesk", 1, 0, "LuPlace", [](QQmlEngine*, QJSEngine*) -> QObject* {
+        LuPlace* place = LuPlace::instance();
+        QJSEngine::setObjectOwnership(place, QJSEngine::CppOwnership);
+        return place;
+    });
     qmlRegisterSingletonType<LuPreferences>(
         "LumenDesk", 1, 0, "LuPreferences", [](QQmlEngine*, QJSEngine*) -> QObject* {
             LuPreferences* preferences = LuPreferences::instance();

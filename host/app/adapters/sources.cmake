@@ -3,6 +3,9 @@
 set(LUMEN_ADAPTER_SOURCES
   adapters/ClockMethods.cpp
   adapters/KvmMethods.cpp
+  adapters/PlaceSettings.cpp
+  adapters/SecondComputer.cpp
+  adapters/SecondComputer.h
   adapters/ServiceMethods.cpp
   adapters/SimulatorMethods.cpp
   adapters/WindowMethods.cpp)

@@ -17,10 +17,12 @@ Window {
     readonly property var sections: keeper.sections
     readonly property url diagnostics: Qt.resolvedUrl("Settings/DiagnosticsPage.qml")
     readonly property var shellPages: [
-        { "page": "general", "title": qsTr("General"), "icon": "gear", "shown": true },
-        { "page": "widgets", "title": qsTr("Widgets"), "icon": "grid", "shown": true },
-        { "page": "diagnostics", "title": qsTr("Diagnostics"), "icon": "pulse", "shown": LuContext.exists(diagnostics) },
-        { "page": "about", "title": qsTr("About"), "icon": "info", "shown": true }
+        { "page": "general", "title": qsTr("General"), "icon": "gear", "file": "GeneralPage", "shown": true },
+        { "page": "widgets", "title": qsTr("Widgets"), "icon": "grid", "file": "WidgetsPage", "shown": true },
+        { "page": "location", "title": qsTr("Location"), "icon": "compass", "file": "LocationPage", "shown": true },
+        { "page": "computers", "title": qsTr("Two computers"), "icon": "kvm", "file": "ComputersPage", "shown": LuContext.isLinux },
+        { "page": "diagnostics", "title": qsTr("Diagnostics"), "icon": "pulse", "file": "DiagnosticsPage", "shown": LuContext.exists(diagnostics) },
+        { "page": "about", "title": qsTr("About"), "icon": "info", "file": "AboutPage", "shown": true }
     ]
     // The section that is shown; one that is not offered any more is none.
     readonly property Item section: shownSection(keeper.byName(page, sections))
@@ -200,18 +202,7 @@ Window {
                 width: parent.width
                 active: window.section === null
                 visible: active
-                source: {
-                    switch (window.page) {
-                    case "widgets":
-                        return "Settings/WidgetsPage.qml"
-                    case "diagnostics":
-                        return window.diagnostics
-                    case "about":
-                        return "Settings/AboutPage.qml"
-                    default:
-                        return "Settings/GeneralPage.qml"
-                    }
-                }
+                source: "Settings/" + (window.shellPages.find(each => each.page === window.page)?.file ?? "GeneralPage") + ".qml"
                 Binding {
                     target: shell.item
                     property: "widgets"

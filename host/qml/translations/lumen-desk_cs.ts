@@ -675,6 +675,14 @@
         <source>Advanced</source>
         <translation>Pokročilé</translation>
     </message>
+    <message>
+        <source>Location</source>
+        <translation>Poloha</translation>
+    </message>
+    <message>
+        <source>Two computers</source>
+        <translation>Dva počítače</translation>
+    </message>
 </context>
 <context>
     <name>Tray</name>
@@ -813,6 +821,372 @@
     <message>
         <source>%1 leads to another monitor now; nothing was sent to it.</source>
         <translation>%1 teď vede k jinému monitoru; nic mu nebylo odesláno.</translation>
+    </message>
+</context>
+<context>
+    <name>ComputersPage</name>
+    <message>
+        <source>Two computers</source>
+        <translation>Dva počítače</translation>
+    </message>
+    <message>
+        <source>Two computers that share a monitor can hand over keyboard and mouse at the edge of the screen. Connected, they agree who has the pointer, and it enters where it left.</source>
+        <translation>Dva počítače u jednoho monitoru si mohou na okraji obrazovky předat klávesnici a myš. Spojené se shodnou, kdo má ukazatel, a ten vstoupí tam, kudy odešel.</translation>
+    </message>
+    <message>
+        <source>Connection to a second computer</source>
+        <translation>Spojení s druhým počítačem</translation>
+    </message>
+    <message>
+        <source>Only the computer that you pair can connect, encrypted, on your local network. It learns where the pointer is: no keys, texts or files are sent. While it is on, the network sees this computer's name.</source>
+        <translation>Připojit se může jen spárovaný počítač, šifrovaně a v místní síti. Dozví se, kde je ukazatel: klávesy, texty ani soubory se neposílají. Dokud je zapnuto, síť vidí název tohoto počítače.</translation>
+    </message>
+    <message>
+        <source>This computer</source>
+        <translation>Tento počítač</translation>
+    </message>
+    <message>
+        <source>It has no address on a local network.</source>
+        <translation>Nemá adresu v místní síti.</translation>
+    </message>
+    <message>
+        <source>Paired computer</source>
+        <translation>Spárovaný počítač</translation>
+    </message>
+    <message>
+        <source>Pair again</source>
+        <translation>Spárovat znovu</translation>
+    </message>
+    <message>
+        <source>Pair a computer</source>
+        <translation>Spárovat počítač</translation>
+    </message>
+</context>
+<context>
+    <name>PairedComputer</name>
+    <message>
+        <source>Computer without a name</source>
+        <translation>Počítač bez názvu</translation>
+    </message>
+    <message>
+        <source>Last met at %1</source>
+        <translation>Naposledy na %1</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Vypnuto</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Připojeno</translation>
+    </message>
+    <message>
+        <source>Not paired there</source>
+        <translation>Tam nespárováno</translation>
+    </message>
+    <message>
+        <source>Searching</source>
+        <translation>Hledá se</translation>
+    </message>
+    <message>
+        <source>It answers, and does not know this computer any more. Pair the two anew.</source>
+        <translation>Odpovídá, ale tento počítač už nezná. Spárujte je znovu.</translation>
+    </message>
+    <message>
+        <source>It is found again by itself once it runs in the same network. If it has another address, you can type it here.</source>
+        <translation>Najde se sám, jakmile poběží ve stejné síti. Má-li jinou adresu, můžete ji zadat zde.</translation>
+    </message>
+    <message>
+        <source>Another address</source>
+        <translation>Jiná adresa</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>Zapomenout</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>Připojit</translation>
+    </message>
+    <message>
+        <source>Forget %1?</source>
+        <translation>Zapomenout %1?</translation>
+    </message>
+    <message>
+        <source>The two do not connect any more until they are paired again.</source>
+        <translation>Počítače se nepřipojí, dokud je znovu nespárujete.</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Ponechat</translation>
+    </message>
+</context>
+<context>
+    <name>ComputerChoice</name>
+    <message>
+        <source>1. On one computer</source>
+        <translation>1. Na jednom počítači</translation>
+    </message>
+    <message>
+        <source>It waits for two minutes, for one call.</source>
+        <translation>Dvě minuty čeká na jedno volání.</translation>
+    </message>
+    <message>
+        <source>Wait for the other computer</source>
+        <translation>Čekat na druhý počítač</translation>
+    </message>
+    <message>
+        <source>2. On the other computer</source>
+        <translation>2. Na druhém počítači</translation>
+    </message>
+    <message>
+        <source>Type the address of the computer that waits. Where the service Avahi runs, it is found by itself.</source>
+        <translation>Zadejte adresu čekajícího počítače. Kde běží služba Avahi, najde se sám.</translation>
+    </message>
+    <message>
+        <source>Choose the computer that waits, or type its address.</source>
+        <translation>Vyberte čekající počítač nebo zadejte jeho adresu.</translation>
+    </message>
+    <message>
+        <source>No computer nearby has this switched on. You can also type its address.</source>
+        <translation>Žádný počítač v okolí to nemá zapnuto. Můžete také zadat jeho adresu.</translation>
+    </message>
+    <message>
+        <source>Pair</source>
+        <translation>Spárovat</translation>
+    </message>
+    <message>
+        <source>Pair with %1</source>
+        <translation>Spárovat s %1</translation>
+    </message>
+    <message>
+        <source>Address of the other computer</source>
+        <translation>Adresa druhého počítače</translation>
+    </message>
+</context>
+<context>
+    <name>ComputerPairing</name>
+    <message>
+        <source>Waiting for the other computer</source>
+        <translation>Čeká se na druhý počítač</translation>
+    </message>
+    <message>
+        <source>Calling the other computer</source>
+        <translation>Volá se druhý počítač</translation>
+    </message>
+    <message>
+        <source>Now confirm the code on the other computer</source>
+        <translation>Nyní potvrďte kód na druhém počítači</translation>
+    </message>
+    <message>
+        <source>Does %1 show the same code?</source>
+        <translation>Ukazuje %1 stejný kód?</translation>
+    </message>
+    <message>
+        <source>Does the other computer show the same code?</source>
+        <translation>Ukazuje druhý počítač stejný kód?</translation>
+    </message>
+    <message>
+        <source>Choose this computer there, or type its address: %1</source>
+        <translation>Vyberte tam tento počítač nebo zadejte jeho adresu: %1</translation>
+    </message>
+    <message>
+        <source>If the codes differ, somebody else is in between: answer no.</source>
+        <translation>Liší-li se kódy, je někdo mezi vámi: odpovězte ne.</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Ne</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Zrušit</translation>
+    </message>
+    <message>
+        <source>Yes, pair</source>
+        <translation>Ano, spárovat</translation>
+    </message>
+</context>
+<context>
+    <name>AddressLine</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Zrušit</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsNotice</name>
+    <message>
+        <source>Close</source>
+        <translation>Zavřít</translation>
+    </message>
+</context>
+<context>
+    <name>LocationPage</name>
+    <message>
+        <source>Location service of the system</source>
+        <translation>Služba určování polohy systému</translation>
+    </message>
+    <message>
+        <source>GeoClue is asked for your city, and no closer. To find it, it may send which networks are around you to a service on the Internet. Without an answer the city of the time zone is used.</source>
+        <translation>GeoClue se zeptá na vaše město, nic přesnějšího. Kvůli tomu může službě na internetu sdělit, jaké sítě jsou kolem vás. Bez odpovědi se použije město časového pásma.</translation>
+    </message>
+    <message>
+        <source>City of the time zone</source>
+        <translation>Město časového pásma</translation>
+    </message>
+    <message>
+        <source>%1. Nobody is asked.</source>
+        <translation>%1. Nikdo se neptá.</translation>
+    </message>
+    <message>
+        <source>Your time zone has no city.</source>
+        <translation>Vaše časové pásmo nemá město.</translation>
+    </message>
+    <message>
+        <source>A place that I choose</source>
+        <translation>Místo, které zvolím</translation>
+    </message>
+    <message>
+        <source>Nobody is asked.</source>
+        <translation>Nikdo se neptá.</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Vypnuto</translation>
+    </message>
+    <message>
+        <source>Nothing follows the sun. Times that you set yourself still work.</source>
+        <translation>Nic nesleduje slunce. Časy, které nastavíte sami, fungují dál.</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Poloha</translation>
+    </message>
+    <message>
+        <source>Functions that follow sunrise and sunset need to know roughly where you are. Nothing else uses it.</source>
+        <translation>Funkce, které sledují východ a západ slunce, musí přibližně vědět, kde jste. Nic jiného to nepoužívá.</translation>
+    </message>
+    <message>
+        <source>Position in use</source>
+        <translation>Použitá poloha</translation>
+    </message>
+    <message>
+        <source>It is sent, rounded to hundredths of a degree, to %1 for the times of sunrise and sunset.</source>
+        <translation>Posílá se, zaokrouhlená na setiny stupně, na %1 kvůli časům východu a západu slunce.</translation>
+    </message>
+    <message>
+        <source>The times of sunrise and sunset are computed on this computer. The position is sent to nobody.</source>
+        <translation>Časy východu a západu slunce se počítají na tomto počítači. Poloha se nikomu neposílá.</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Žádná</translation>
+    </message>
+</context>
+<context>
+    <name>PlaceChoice</name>
+    <message>
+        <source>Chosen place: %1</source>
+        <translation>Zvolené místo: %1</translation>
+    </message>
+    <message>
+        <source>Chosen place</source>
+        <translation>Zvolené místo</translation>
+    </message>
+    <message>
+        <source>City</source>
+        <translation>Město</translation>
+    </message>
+    <message>
+        <source>Of the cities that name a time zone. They are known here: nothing is sent.</source>
+        <translation>Z měst, podle nichž se jmenují časová pásma. Jsou známa zde: nic se neposílá.</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Hledat</translation>
+    </message>
+    <message>
+        <source>Latitude</source>
+        <translation>Šířka</translation>
+    </message>
+    <message>
+        <source>Degrees, north of the equator. South is negative.</source>
+        <translation>Stupně severně od rovníku. Jih je záporný.</translation>
+    </message>
+    <message>
+        <source>Longitude</source>
+        <translation>Délka</translation>
+    </message>
+    <message>
+        <source>Degrees, east of Greenwich. West is negative.</source>
+        <translation>Stupně východně od Greenwiche. Západ je záporný.</translation>
+    </message>
+    <message>
+        <source>A latitude is a number from -90 to 90, a longitude one from -180 to 180.</source>
+        <translation>Šířka je číslo od -90 do 90, délka od -180 do 180.</translation>
+    </message>
+</context>
+<context>
+    <name>LuComputers</name>
+    <message>
+        <source>The connection could not be switched on: %1.</source>
+        <translation>Spojení se nepodařilo zapnout: %1.</translation>
+    </message>
+    <message>
+        <source>This is neither an address, such as 192.168.1.7, nor the name of a computer.</source>
+        <translation>Není to adresa, jako 192.168.1.7, ani název počítače.</translation>
+    </message>
+    <message>
+        <source>Only a computer of your local network can be paired.</source>
+        <translation>Spárovat lze jen počítač z vaší místní sítě.</translation>
+    </message>
+    <message>
+        <source>No other computer has called within two minutes.</source>
+        <translation>Do dvou minut se žádný jiný počítač neozval.</translation>
+    </message>
+    <message>
+        <source>The code was not confirmed on both computers within two minutes.</source>
+        <translation>Kód nebyl do dvou minut potvrzen na obou počítačích.</translation>
+    </message>
+    <message>
+        <source>No Lumen Desk answers there. Are both computers on the same network, is the connection switched on there, and does a firewall let it through?</source>
+        <translation>Neodpovídá tam žádný Lumen Desk. Jsou oba počítače ve stejné síti, je tam spojení zapnuté a propouští je firewall?</translation>
+    </message>
+    <message>
+        <source>The other computer is not waiting. Choose "Wait for the other computer" there first.</source>
+        <translation>Druhý počítač nečeká. Zvolte tam nejprve „Čekat na druhý počítač“.</translation>
+    </message>
+    <message>
+        <source>The other computer did not confirm the code.</source>
+        <translation>Druhý počítač kód nepotvrdil.</translation>
+    </message>
+    <message>
+        <source>What has called does not keep to the rules. Nothing was paired.</source>
+        <translation>Volající nedodržuje pravidla. Nic nebylo spárováno.</translation>
+    </message>
+    <message>
+        <source>No computer of this name was found.</source>
+        <translation>Počítač tohoto názvu nebyl nalezen.</translation>
+    </message>
+</context>
+<context>
+    <name>LuPlace</name>
+    <message>
+        <source>%1° S</source>
+        <translation>%1° j. š.</translation>
+    </message>
+    <message>
+        <source>%1° N</source>
+        <translation>%1° s. š.</translation>
+    </message>
+    <message>
+        <source>%1° W</source>
+        <translation>%1° z. d.</translation>
+    </message>
+    <message>
+        <source>%1° E</source>
+        <translation>%1° v. d.</translation>
     </message>
 </context>
 </TS>

@@ -675,6 +675,14 @@
         <source>Advanced</source>
         <translation>Erweitert</translation>
     </message>
+    <message>
+        <source>Location</source>
+        <translation>Standort</translation>
+    </message>
+    <message>
+        <source>Two computers</source>
+        <translation>Zwei Computer</translation>
+    </message>
 </context>
 <context>
     <name>Tray</name>
@@ -813,6 +821,372 @@
     <message>
         <source>%1 leads to another monitor now; nothing was sent to it.</source>
         <translation>%1 führt jetzt zu einem anderen Monitor; ihm wurde nichts gesendet.</translation>
+    </message>
+</context>
+<context>
+    <name>ComputersPage</name>
+    <message>
+        <source>Two computers</source>
+        <translation>Zwei Computer</translation>
+    </message>
+    <message>
+        <source>Two computers that share a monitor can hand over keyboard and mouse at the edge of the screen. Connected, they agree who has the pointer, and it enters where it left.</source>
+        <translation>Zwei Computer an einem Monitor können Tastatur und Maus am Bildschirmrand übergeben. Verbunden sind sie sich einig, wer den Zeiger hat, und er kommt dort an, wo er hinausging.</translation>
+    </message>
+    <message>
+        <source>Connection to a second computer</source>
+        <translation>Verbindung zu einem zweiten Computer</translation>
+    </message>
+    <message>
+        <source>Only the computer that you pair can connect, encrypted, on your local network. It learns where the pointer is: no keys, texts or files are sent. While it is on, the network sees this computer's name.</source>
+        <translation>Nur der gekoppelte Computer kann sich verbinden, verschlüsselt und im lokalen Netz. Er erfährt, wo der Zeiger ist; Tasten, Texte und Dateien werden nicht gesendet. Solange sie an ist, sieht das Netz den Namen dieses Computers.</translation>
+    </message>
+    <message>
+        <source>This computer</source>
+        <translation>Dieser Computer</translation>
+    </message>
+    <message>
+        <source>It has no address on a local network.</source>
+        <translation>Er hat keine Adresse in einem lokalen Netz.</translation>
+    </message>
+    <message>
+        <source>Paired computer</source>
+        <translation>Gekoppelter Computer</translation>
+    </message>
+    <message>
+        <source>Pair again</source>
+        <translation>Neu koppeln</translation>
+    </message>
+    <message>
+        <source>Pair a computer</source>
+        <translation>Computer koppeln</translation>
+    </message>
+</context>
+<context>
+    <name>PairedComputer</name>
+    <message>
+        <source>Computer without a name</source>
+        <translation>Computer ohne Namen</translation>
+    </message>
+    <message>
+        <source>Last met at %1</source>
+        <translation>Zuletzt unter %1 getroffen</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Verbunden</translation>
+    </message>
+    <message>
+        <source>Not paired there</source>
+        <translation>Dort nicht gekoppelt</translation>
+    </message>
+    <message>
+        <source>Searching</source>
+        <translation>Suche läuft</translation>
+    </message>
+    <message>
+        <source>It answers, and does not know this computer any more. Pair the two anew.</source>
+        <translation>Er antwortet, kennt diesen Computer aber nicht mehr. Koppeln Sie die beiden neu.</translation>
+    </message>
+    <message>
+        <source>It is found again by itself once it runs in the same network. If it has another address, you can type it here.</source>
+        <translation>Er wird von selbst wiedergefunden, sobald er im selben Netz läuft. Hat er eine andere Adresse, können Sie sie hier eingeben.</translation>
+    </message>
+    <message>
+        <source>Another address</source>
+        <translation>Andere Adresse</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>Vergessen</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>Verbinden</translation>
+    </message>
+    <message>
+        <source>Forget %1?</source>
+        <translation>%1 vergessen?</translation>
+    </message>
+    <message>
+        <source>The two do not connect any more until they are paired again.</source>
+        <translation>Die beiden verbinden sich erst wieder, wenn sie neu gekoppelt sind.</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Behalten</translation>
+    </message>
+</context>
+<context>
+    <name>ComputerChoice</name>
+    <message>
+        <source>1. On one computer</source>
+        <translation>1. Auf einem Computer</translation>
+    </message>
+    <message>
+        <source>It waits for two minutes, for one call.</source>
+        <translation>Er wartet zwei Minuten auf einen Anruf.</translation>
+    </message>
+    <message>
+        <source>Wait for the other computer</source>
+        <translation>Auf anderen Computer warten</translation>
+    </message>
+    <message>
+        <source>2. On the other computer</source>
+        <translation>2. Auf dem anderen Computer</translation>
+    </message>
+    <message>
+        <source>Type the address of the computer that waits. Where the service Avahi runs, it is found by itself.</source>
+        <translation>Geben Sie die Adresse des wartenden Computers ein. Wo der Dienst Avahi läuft, wird er von selbst gefunden.</translation>
+    </message>
+    <message>
+        <source>Choose the computer that waits, or type its address.</source>
+        <translation>Wählen Sie den wartenden Computer oder geben Sie seine Adresse ein.</translation>
+    </message>
+    <message>
+        <source>No computer nearby has this switched on. You can also type its address.</source>
+        <translation>Kein Computer in der Nähe hat dies eingeschaltet. Sie können auch seine Adresse eingeben.</translation>
+    </message>
+    <message>
+        <source>Pair</source>
+        <translation>Koppeln</translation>
+    </message>
+    <message>
+        <source>Pair with %1</source>
+        <translation>Mit %1 koppeln</translation>
+    </message>
+    <message>
+        <source>Address of the other computer</source>
+        <translation>Adresse des anderen Computers</translation>
+    </message>
+</context>
+<context>
+    <name>ComputerPairing</name>
+    <message>
+        <source>Waiting for the other computer</source>
+        <translation>Warten auf den anderen Computer</translation>
+    </message>
+    <message>
+        <source>Calling the other computer</source>
+        <translation>Anruf beim anderen Computer</translation>
+    </message>
+    <message>
+        <source>Now confirm the code on the other computer</source>
+        <translation>Bestätigen Sie den Code jetzt auf dem anderen Computer</translation>
+    </message>
+    <message>
+        <source>Does %1 show the same code?</source>
+        <translation>Zeigt %1 denselben Code?</translation>
+    </message>
+    <message>
+        <source>Does the other computer show the same code?</source>
+        <translation>Zeigt der andere Computer denselben Code?</translation>
+    </message>
+    <message>
+        <source>Choose this computer there, or type its address: %1</source>
+        <translation>Wählen Sie dort diesen Computer oder geben Sie seine Adresse ein: %1</translation>
+    </message>
+    <message>
+        <source>If the codes differ, somebody else is in between: answer no.</source>
+        <translation>Sind die Codes verschieden, ist jemand dazwischen: Antworten Sie mit Nein.</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Nein</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Yes, pair</source>
+        <translation>Ja, koppeln</translation>
+    </message>
+</context>
+<context>
+    <name>AddressLine</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsNotice</name>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>LocationPage</name>
+    <message>
+        <source>Location service of the system</source>
+        <translation>Standortdienst des Systems</translation>
+    </message>
+    <message>
+        <source>GeoClue is asked for your city, and no closer. To find it, it may send which networks are around you to a service on the Internet. Without an answer the city of the time zone is used.</source>
+        <translation>GeoClue wird nach Ihrer Stadt gefragt und nicht genauer. Dazu kann es einem Dienst im Internet mitteilen, welche Netze um Sie sind. Ohne Antwort gilt die Stadt der Zeitzone.</translation>
+    </message>
+    <message>
+        <source>City of the time zone</source>
+        <translation>Stadt der Zeitzone</translation>
+    </message>
+    <message>
+        <source>%1. Nobody is asked.</source>
+        <translation>%1. Niemand wird gefragt.</translation>
+    </message>
+    <message>
+        <source>Your time zone has no city.</source>
+        <translation>Ihre Zeitzone hat keine Stadt.</translation>
+    </message>
+    <message>
+        <source>A place that I choose</source>
+        <translation>Ein Ort meiner Wahl</translation>
+    </message>
+    <message>
+        <source>Nobody is asked.</source>
+        <translation>Niemand wird gefragt.</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>Nothing follows the sun. Times that you set yourself still work.</source>
+        <translation>Nichts folgt der Sonne. Selbst eingestellte Zeiten gelten weiter.</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Standort</translation>
+    </message>
+    <message>
+        <source>Functions that follow sunrise and sunset need to know roughly where you are. Nothing else uses it.</source>
+        <translation>Funktionen, die Sonnenauf- und -untergang folgen, müssen ungefähr wissen, wo Sie sind. Sonst nutzt das nichts.</translation>
+    </message>
+    <message>
+        <source>Position in use</source>
+        <translation>Verwendete Position</translation>
+    </message>
+    <message>
+        <source>It is sent, rounded to hundredths of a degree, to %1 for the times of sunrise and sunset.</source>
+        <translation>Sie wird, auf hundertstel Grad gerundet, für die Zeiten von Sonnenauf- und -untergang an %1 gesendet.</translation>
+    </message>
+    <message>
+        <source>The times of sunrise and sunset are computed on this computer. The position is sent to nobody.</source>
+        <translation>Sonnenauf- und -untergang werden auf diesem Computer berechnet. Die Position wird niemandem gesendet.</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+</context>
+<context>
+    <name>PlaceChoice</name>
+    <message>
+        <source>Chosen place: %1</source>
+        <translation>Gewählter Ort: %1</translation>
+    </message>
+    <message>
+        <source>Chosen place</source>
+        <translation>Gewählter Ort</translation>
+    </message>
+    <message>
+        <source>City</source>
+        <translation>Stadt</translation>
+    </message>
+    <message>
+        <source>Of the cities that name a time zone. They are known here: nothing is sent.</source>
+        <translation>Von den Städten, nach denen Zeitzonen heißen. Sie sind hier bekannt: Nichts wird gesendet.</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Latitude</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>Degrees, north of the equator. South is negative.</source>
+        <translation>Grad nördlich des Äquators. Süden ist negativ.</translation>
+    </message>
+    <message>
+        <source>Longitude</source>
+        <translation>Länge</translation>
+    </message>
+    <message>
+        <source>Degrees, east of Greenwich. West is negative.</source>
+        <translation>Grad östlich von Greenwich. Westen ist negativ.</translation>
+    </message>
+    <message>
+        <source>A latitude is a number from -90 to 90, a longitude one from -180 to 180.</source>
+        <translation>Eine Breite ist eine Zahl von -90 bis 90, eine Länge eine von -180 bis 180.</translation>
+    </message>
+</context>
+<context>
+    <name>LuComputers</name>
+    <message>
+        <source>The connection could not be switched on: %1.</source>
+        <translation>Die Verbindung ließ sich nicht einschalten: %1.</translation>
+    </message>
+    <message>
+        <source>This is neither an address, such as 192.168.1.7, nor the name of a computer.</source>
+        <translation>Das ist weder eine Adresse wie 192.168.1.7 noch der Name eines Computers.</translation>
+    </message>
+    <message>
+        <source>Only a computer of your local network can be paired.</source>
+        <translation>Nur ein Computer Ihres lokalen Netzes kann gekoppelt werden.</translation>
+    </message>
+    <message>
+        <source>No other computer has called within two minutes.</source>
+        <translation>Kein anderer Computer hat sich innerhalb von zwei Minuten gemeldet.</translation>
+    </message>
+    <message>
+        <source>The code was not confirmed on both computers within two minutes.</source>
+        <translation>Der Code wurde nicht innerhalb von zwei Minuten auf beiden Computern bestätigt.</translation>
+    </message>
+    <message>
+        <source>No Lumen Desk answers there. Are both computers on the same network, is the connection switched on there, and does a firewall let it through?</source>
+        <translation>Dort antwortet kein Lumen Desk. Sind beide Computer im selben Netz, ist die Verbindung dort eingeschaltet, und lässt eine Firewall sie durch?</translation>
+    </message>
+    <message>
+        <source>The other computer is not waiting. Choose "Wait for the other computer" there first.</source>
+        <translation>Der andere Computer wartet nicht. Wählen Sie dort zuerst „Auf anderen Computer warten“.</translation>
+    </message>
+    <message>
+        <source>The other computer did not confirm the code.</source>
+        <translation>Der andere Computer hat den Code nicht bestätigt.</translation>
+    </message>
+    <message>
+        <source>What has called does not keep to the rules. Nothing was paired.</source>
+        <translation>Der Anrufer hält sich nicht an die Regeln. Nichts wurde gekoppelt.</translation>
+    </message>
+    <message>
+        <source>No computer of this name was found.</source>
+        <translation>Kein Computer dieses Namens wurde gefunden.</translation>
+    </message>
+</context>
+<context>
+    <name>LuPlace</name>
+    <message>
+        <source>%1° S</source>
+        <translation>%1° S</translation>
+    </message>
+    <message>
+        <source>%1° N</source>
+        <translation>%1° N</translation>
+    </message>
+    <message>
+        <source>%1° W</source>
+        <translation>%1° W</translation>
+    </message>
+    <message>
+        <source>%1° E</source>
+        <translation>%1° O</translation>
     </message>
 </context>
 </TS>

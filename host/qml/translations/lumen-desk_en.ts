@@ -675,6 +675,14 @@
         <source>Advanced</source>
         <translation>Advanced</translation>
     </message>
+    <message>
+        <source>Location</source>
+        <translation>Location</translation>
+    </message>
+    <message>
+        <source>Two computers</source>
+        <translation>Two computers</translation>
+    </message>
 </context>
 <context>
     <name>Tray</name>
@@ -813,6 +821,372 @@
     <message>
         <source>%1 leads to another monitor now; nothing was sent to it.</source>
         <translation>%1 leads to another monitor now; nothing was sent to it.</translation>
+    </message>
+</context>
+<context>
+    <name>ComputersPage</name>
+    <message>
+        <source>Two computers</source>
+        <translation>Two computers</translation>
+    </message>
+    <message>
+        <source>Two computers that share a monitor can hand over keyboard and mouse at the edge of the screen. Connected, they agree who has the pointer, and it enters where it left.</source>
+        <translation>Two computers that share a monitor can hand over keyboard and mouse at the edge of the screen. Connected, they agree who has the pointer, and it enters where it left.</translation>
+    </message>
+    <message>
+        <source>Connection to a second computer</source>
+        <translation>Connection to a second computer</translation>
+    </message>
+    <message>
+        <source>Only the computer that you pair can connect, encrypted, on your local network. It learns where the pointer is: no keys, texts or files are sent. While it is on, the network sees this computer's name.</source>
+        <translation>Only the computer that you pair can connect, encrypted, on your local network. It learns where the pointer is: no keys, texts or files are sent. While it is on, the network sees this computer's name.</translation>
+    </message>
+    <message>
+        <source>This computer</source>
+        <translation>This computer</translation>
+    </message>
+    <message>
+        <source>It has no address on a local network.</source>
+        <translation>It has no address on a local network.</translation>
+    </message>
+    <message>
+        <source>Paired computer</source>
+        <translation>Paired computer</translation>
+    </message>
+    <message>
+        <source>Pair again</source>
+        <translation>Pair again</translation>
+    </message>
+    <message>
+        <source>Pair a computer</source>
+        <translation>Pair a computer</translation>
+    </message>
+</context>
+<context>
+    <name>PairedComputer</name>
+    <message>
+        <source>Computer without a name</source>
+        <translation>Computer without a name</translation>
+    </message>
+    <message>
+        <source>Last met at %1</source>
+        <translation>Last met at %1</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Off</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Connected</translation>
+    </message>
+    <message>
+        <source>Not paired there</source>
+        <translation>Not paired there</translation>
+    </message>
+    <message>
+        <source>Searching</source>
+        <translation>Searching</translation>
+    </message>
+    <message>
+        <source>It answers, and does not know this computer any more. Pair the two anew.</source>
+        <translation>It answers, and does not know this computer any more. Pair the two anew.</translation>
+    </message>
+    <message>
+        <source>It is found again by itself once it runs in the same network. If it has another address, you can type it here.</source>
+        <translation>It is found again by itself once it runs in the same network. If it has another address, you can type it here.</translation>
+    </message>
+    <message>
+        <source>Another address</source>
+        <translation>Another address</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>Forget</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>Connect</translation>
+    </message>
+    <message>
+        <source>Forget %1?</source>
+        <translation>Forget %1?</translation>
+    </message>
+    <message>
+        <source>The two do not connect any more until they are paired again.</source>
+        <translation>The two do not connect any more until they are paired again.</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Keep</translation>
+    </message>
+</context>
+<context>
+    <name>ComputerChoice</name>
+    <message>
+        <source>1. On one computer</source>
+        <translation>1. On one computer</translation>
+    </message>
+    <message>
+        <source>It waits for two minutes, for one call.</source>
+        <translation>It waits for two minutes, for one call.</translation>
+    </message>
+    <message>
+        <source>Wait for the other computer</source>
+        <translation>Wait for the other computer</translation>
+    </message>
+    <message>
+        <source>2. On the other computer</source>
+        <translation>2. On the other computer</translation>
+    </message>
+    <message>
+        <source>Type the address of the computer that waits. Where the service Avahi runs, it is found by itself.</source>
+        <translation>Type the address of the computer that waits. Where the service Avahi runs, it is found by itself.</translation>
+    </message>
+    <message>
+        <source>Choose the computer that waits, or type its address.</source>
+        <translation>Choose the computer that waits, or type its address.</translation>
+    </message>
+    <message>
+        <source>No computer nearby has this switched on. You can also type its address.</source>
+        <translation>No computer nearby has this switched on. You can also type its address.</translation>
+    </message>
+    <message>
+        <source>Pair</source>
+        <translation>Pair</translation>
+    </message>
+    <message>
+        <source>Pair with %1</source>
+        <translation>Pair with %1</translation>
+    </message>
+    <message>
+        <source>Address of the other computer</source>
+        <translation>Address of the other computer</translation>
+    </message>
+</context>
+<context>
+    <name>ComputerPairing</name>
+    <message>
+        <source>Waiting for the other computer</source>
+        <translation>Waiting for the other computer</translation>
+    </message>
+    <message>
+        <source>Calling the other computer</source>
+        <translation>Calling the other computer</translation>
+    </message>
+    <message>
+        <source>Now confirm the code on the other computer</source>
+        <translation>Now confirm the code on the other computer</translation>
+    </message>
+    <message>
+        <source>Does %1 show the same code?</source>
+        <translation>Does %1 show the same code?</translation>
+    </message>
+    <message>
+        <source>Does the other computer show the same code?</source>
+        <translation>Does the other computer show the same code?</translation>
+    </message>
+    <message>
+        <source>Choose this computer there, or type its address: %1</source>
+        <translation>Choose this computer there, or type its address: %1</translation>
+    </message>
+    <message>
+        <source>If the codes differ, somebody else is in between: answer no.</source>
+        <translation>If the codes differ, somebody else is in between: answer no.</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Yes, pair</source>
+        <translation>Yes, pair</translation>
+    </message>
+</context>
+<context>
+    <name>AddressLine</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsNotice</name>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+</context>
+<context>
+    <name>LocationPage</name>
+    <message>
+        <source>Location service of the system</source>
+        <translation>Location service of the system</translation>
+    </message>
+    <message>
+        <source>GeoClue is asked for your city, and no closer. To find it, it may send which networks are around you to a service on the Internet. Without an answer the city of the time zone is used.</source>
+        <translation>GeoClue is asked for your city, and no closer. To find it, it may send which networks are around you to a service on the Internet. Without an answer the city of the time zone is used.</translation>
+    </message>
+    <message>
+        <source>City of the time zone</source>
+        <translation>City of the time zone</translation>
+    </message>
+    <message>
+        <source>%1. Nobody is asked.</source>
+        <translation>%1. Nobody is asked.</translation>
+    </message>
+    <message>
+        <source>Your time zone has no city.</source>
+        <translation>Your time zone has no city.</translation>
+    </message>
+    <message>
+        <source>A place that I choose</source>
+        <translation>A place that I choose</translation>
+    </message>
+    <message>
+        <source>Nobody is asked.</source>
+        <translation>Nobody is asked.</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Off</translation>
+    </message>
+    <message>
+        <source>Nothing follows the sun. Times that you set yourself still work.</source>
+        <translation>Nothing follows the sun. Times that you set yourself still work.</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Location</translation>
+    </message>
+    <message>
+        <source>Functions that follow sunrise and sunset need to know roughly where you are. Nothing else uses it.</source>
+        <translation>Functions that follow sunrise and sunset need to know roughly where you are. Nothing else uses it.</translation>
+    </message>
+    <message>
+        <source>Position in use</source>
+        <translation>Position in use</translation>
+    </message>
+    <message>
+        <source>It is sent, rounded to hundredths of a degree, to %1 for the times of sunrise and sunset.</source>
+        <translation>It is sent, rounded to hundredths of a degree, to %1 for the times of sunrise and sunset.</translation>
+    </message>
+    <message>
+        <source>The times of sunrise and sunset are computed on this computer. The position is sent to nobody.</source>
+        <translation>The times of sunrise and sunset are computed on this computer. The position is sent to nobody.</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>None</translation>
+    </message>
+</context>
+<context>
+    <name>PlaceChoice</name>
+    <message>
+        <source>Chosen place: %1</source>
+        <translation>Chosen place: %1</translation>
+    </message>
+    <message>
+        <source>Chosen place</source>
+        <translation>Chosen place</translation>
+    </message>
+    <message>
+        <source>City</source>
+        <translation>City</translation>
+    </message>
+    <message>
+        <source>Of the cities that name a time zone. They are known here: nothing is sent.</source>
+        <translation>Of the cities that name a time zone. They are known here: nothing is sent.</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Search</translation>
+    </message>
+    <message>
+        <source>Latitude</source>
+        <translation>Latitude</translation>
+    </message>
+    <message>
+        <source>Degrees, north of the equator. South is negative.</source>
+        <translation>Degrees, north of the equator. South is negative.</translation>
+    </message>
+    <message>
+        <source>Longitude</source>
+        <translation>Longitude</translation>
+    </message>
+    <message>
+        <source>Degrees, east of Greenwich. West is negative.</source>
+        <translation>Degrees, east of Greenwich. West is negative.</translation>
+    </message>
+    <message>
+        <source>A latitude is a number from -90 to 90, a longitude one from -180 to 180.</source>
+        <translation>A latitude is a number from -90 to 90, a longitude one from -180 to 180.</translation>
+    </message>
+</context>
+<context>
+    <name>LuComputers</name>
+    <message>
+        <source>The connection could not be switched on: %1.</source>
+        <translation>The connection could not be switched on: %1.</translation>
+    </message>
+    <message>
+        <source>This is neither an address, such as 192.168.1.7, nor the name of a computer.</source>
+        <translation>This is neither an address, such as 192.168.1.7, nor the name of a computer.</translation>
+    </message>
+    <message>
+        <source>Only a computer of your local network can be paired.</source>
+        <translation>Only a computer of your local network can be paired.</translation>
+    </message>
+    <message>
+        <source>No other computer has called within two minutes.</source>
+        <translation>No other computer has called within two minutes.</translation>
+    </message>
+    <message>
+        <source>The code was not confirmed on both computers within two minutes.</source>
+        <translation>The code was not confirmed on both computers within two minutes.</translation>
+    </message>
+    <message>
+        <source>No Lumen Desk answers there. Are both computers on the same network, is the connection switched on there, and does a firewall let it through?</source>
+        <translation>No Lumen Desk answers there. Are both computers on the same network, is the connection switched on there, and does a firewall let it through?</translation>
+    </message>
+    <message>
+        <source>The other computer is not waiting. Choose "Wait for the other computer" there first.</source>
+        <translation>The other computer is not waiting. Choose "Wait for the other computer" there first.</translation>
+    </message>
+    <message>
+        <source>The other computer did not confirm the code.</source>
+        <translation>The other computer did not confirm the code.</translation>
+    </message>
+    <message>
+        <source>What has called does not keep to the rules. Nothing was paired.</source>
+        <translation>What has called does not keep to the rules. Nothing was paired.</translation>
+    </message>
+    <message>
+        <source>No computer of this name was found.</source>
+        <translation>No computer of this name was found.</translation>
+    </message>
+</context>
+<context>
+    <name>LuPlace</name>
+    <message>
+        <source>%1° S</source>
+        <translation>%1° S</translation>
+    </message>
+    <message>
+        <source>%1° N</source>
+        <translation>%1° N</translation>
+    </message>
+    <message>
+        <source>%1° W</source>
+        <translation>%1° W</translation>
+    </message>
+    <message>
+        <source>%1° E</source>
+        <translation>%1° E</translation>
     </message>
 </context>
 </TS>

@@ -675,6 +675,14 @@
         <source>Advanced</source>
         <translation>Avanzado</translation>
     </message>
+    <message>
+        <source>Location</source>
+        <translation>Ubicación</translation>
+    </message>
+    <message>
+        <source>Two computers</source>
+        <translation>Dos ordenadores</translation>
+    </message>
 </context>
 <context>
     <name>Tray</name>
@@ -813,6 +821,372 @@
     <message>
         <source>%1 leads to another monitor now; nothing was sent to it.</source>
         <translation>%1 lleva ahora a otro monitor; no se le ha enviado nada.</translation>
+    </message>
+</context>
+<context>
+    <name>ComputersPage</name>
+    <message>
+        <source>Two computers</source>
+        <translation>Dos ordenadores</translation>
+    </message>
+    <message>
+        <source>Two computers that share a monitor can hand over keyboard and mouse at the edge of the screen. Connected, they agree who has the pointer, and it enters where it left.</source>
+        <translation>Dos ordenadores que comparten un monitor pueden pasarse el teclado y el ratón en el borde de la pantalla. Conectados, acuerdan quién tiene el puntero, y este entra por donde salió.</translation>
+    </message>
+    <message>
+        <source>Connection to a second computer</source>
+        <translation>Conexión con un segundo ordenador</translation>
+    </message>
+    <message>
+        <source>Only the computer that you pair can connect, encrypted, on your local network. It learns where the pointer is: no keys, texts or files are sent. While it is on, the network sees this computer's name.</source>
+        <translation>Solo puede conectarse el ordenador que empareje, cifrado y en su red local. Sabe dónde está el puntero: no se envían teclas, textos ni archivos. Mientras está activada, la red ve el nombre de este ordenador.</translation>
+    </message>
+    <message>
+        <source>This computer</source>
+        <translation>Este ordenador</translation>
+    </message>
+    <message>
+        <source>It has no address on a local network.</source>
+        <translation>No tiene dirección en una red local.</translation>
+    </message>
+    <message>
+        <source>Paired computer</source>
+        <translation>Ordenador emparejado</translation>
+    </message>
+    <message>
+        <source>Pair again</source>
+        <translation>Emparejar de nuevo</translation>
+    </message>
+    <message>
+        <source>Pair a computer</source>
+        <translation>Emparejar un ordenador</translation>
+    </message>
+</context>
+<context>
+    <name>PairedComputer</name>
+    <message>
+        <source>Computer without a name</source>
+        <translation>Ordenador sin nombre</translation>
+    </message>
+    <message>
+        <source>Last met at %1</source>
+        <translation>Visto por última vez en %1</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Desactivado</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Conectado</translation>
+    </message>
+    <message>
+        <source>Not paired there</source>
+        <translation>No emparejado allí</translation>
+    </message>
+    <message>
+        <source>Searching</source>
+        <translation>Buscando</translation>
+    </message>
+    <message>
+        <source>It answers, and does not know this computer any more. Pair the two anew.</source>
+        <translation>Responde, pero ya no conoce este ordenador. Empareje los dos de nuevo.</translation>
+    </message>
+    <message>
+        <source>It is found again by itself once it runs in the same network. If it has another address, you can type it here.</source>
+        <translation>Se encuentra solo en cuanto funciona en la misma red. Si tiene otra dirección, puede escribirla aquí.</translation>
+    </message>
+    <message>
+        <source>Another address</source>
+        <translation>Otra dirección</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>Olvidar</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>Conectar</translation>
+    </message>
+    <message>
+        <source>Forget %1?</source>
+        <translation>¿Olvidar %1?</translation>
+    </message>
+    <message>
+        <source>The two do not connect any more until they are paired again.</source>
+        <translation>Los dos no se conectarán hasta que se emparejen de nuevo.</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Conservar</translation>
+    </message>
+</context>
+<context>
+    <name>ComputerChoice</name>
+    <message>
+        <source>1. On one computer</source>
+        <translation>1. En un ordenador</translation>
+    </message>
+    <message>
+        <source>It waits for two minutes, for one call.</source>
+        <translation>Espera una llamada durante dos minutos.</translation>
+    </message>
+    <message>
+        <source>Wait for the other computer</source>
+        <translation>Esperar al otro ordenador</translation>
+    </message>
+    <message>
+        <source>2. On the other computer</source>
+        <translation>2. En el otro ordenador</translation>
+    </message>
+    <message>
+        <source>Type the address of the computer that waits. Where the service Avahi runs, it is found by itself.</source>
+        <translation>Escriba la dirección del ordenador que espera. Donde funciona el servicio Avahi, se encuentra solo.</translation>
+    </message>
+    <message>
+        <source>Choose the computer that waits, or type its address.</source>
+        <translation>Elija el ordenador que espera o escriba su dirección.</translation>
+    </message>
+    <message>
+        <source>No computer nearby has this switched on. You can also type its address.</source>
+        <translation>Ningún ordenador cercano tiene esto activado. También puede escribir su dirección.</translation>
+    </message>
+    <message>
+        <source>Pair</source>
+        <translation>Emparejar</translation>
+    </message>
+    <message>
+        <source>Pair with %1</source>
+        <translation>Emparejar con %1</translation>
+    </message>
+    <message>
+        <source>Address of the other computer</source>
+        <translation>Dirección del otro ordenador</translation>
+    </message>
+</context>
+<context>
+    <name>ComputerPairing</name>
+    <message>
+        <source>Waiting for the other computer</source>
+        <translation>Esperando al otro ordenador</translation>
+    </message>
+    <message>
+        <source>Calling the other computer</source>
+        <translation>Llamando al otro ordenador</translation>
+    </message>
+    <message>
+        <source>Now confirm the code on the other computer</source>
+        <translation>Confirme ahora el código en el otro ordenador</translation>
+    </message>
+    <message>
+        <source>Does %1 show the same code?</source>
+        <translation>¿Muestra %1 el mismo código?</translation>
+    </message>
+    <message>
+        <source>Does the other computer show the same code?</source>
+        <translation>¿Muestra el otro ordenador el mismo código?</translation>
+    </message>
+    <message>
+        <source>Choose this computer there, or type its address: %1</source>
+        <translation>Elija allí este ordenador o escriba su dirección: %1</translation>
+    </message>
+    <message>
+        <source>If the codes differ, somebody else is in between: answer no.</source>
+        <translation>Si los códigos difieren, hay alguien en medio: responda que no.</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Yes, pair</source>
+        <translation>Sí, emparejar</translation>
+    </message>
+</context>
+<context>
+    <name>AddressLine</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsNotice</name>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+</context>
+<context>
+    <name>LocationPage</name>
+    <message>
+        <source>Location service of the system</source>
+        <translation>Servicio de ubicación del sistema</translation>
+    </message>
+    <message>
+        <source>GeoClue is asked for your city, and no closer. To find it, it may send which networks are around you to a service on the Internet. Without an answer the city of the time zone is used.</source>
+        <translation>Se pregunta a GeoClue por su ciudad, sin más detalle. Para hallarla, puede enviar a un servicio de Internet qué redes hay a su alrededor. Sin respuesta se usa la ciudad de la zona horaria.</translation>
+    </message>
+    <message>
+        <source>City of the time zone</source>
+        <translation>Ciudad de la zona horaria</translation>
+    </message>
+    <message>
+        <source>%1. Nobody is asked.</source>
+        <translation>%1. No se pregunta a nadie.</translation>
+    </message>
+    <message>
+        <source>Your time zone has no city.</source>
+        <translation>Su zona horaria no tiene ciudad.</translation>
+    </message>
+    <message>
+        <source>A place that I choose</source>
+        <translation>Un lugar que elijo</translation>
+    </message>
+    <message>
+        <source>Nobody is asked.</source>
+        <translation>No se pregunta a nadie.</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Desactivado</translation>
+    </message>
+    <message>
+        <source>Nothing follows the sun. Times that you set yourself still work.</source>
+        <translation>Nada sigue al sol. Las horas que usted fije siguen funcionando.</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Ubicación</translation>
+    </message>
+    <message>
+        <source>Functions that follow sunrise and sunset need to know roughly where you are. Nothing else uses it.</source>
+        <translation>Las funciones que siguen la salida y la puesta del sol necesitan saber más o menos dónde está. Nada más lo usa.</translation>
+    </message>
+    <message>
+        <source>Position in use</source>
+        <translation>Posición en uso</translation>
+    </message>
+    <message>
+        <source>It is sent, rounded to hundredths of a degree, to %1 for the times of sunrise and sunset.</source>
+        <translation>Se envía, redondeada a centésimas de grado, a %1 para las horas de salida y puesta del sol.</translation>
+    </message>
+    <message>
+        <source>The times of sunrise and sunset are computed on this computer. The position is sent to nobody.</source>
+        <translation>Las horas de salida y puesta del sol se calculan en este ordenador. La posición no se envía a nadie.</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Ninguna</translation>
+    </message>
+</context>
+<context>
+    <name>PlaceChoice</name>
+    <message>
+        <source>Chosen place: %1</source>
+        <translation>Lugar elegido: %1</translation>
+    </message>
+    <message>
+        <source>Chosen place</source>
+        <translation>Lugar elegido</translation>
+    </message>
+    <message>
+        <source>City</source>
+        <translation>Ciudad</translation>
+    </message>
+    <message>
+        <source>Of the cities that name a time zone. They are known here: nothing is sent.</source>
+        <translation>De las ciudades que dan nombre a una zona horaria. Se conocen aquí: no se envía nada.</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Buscar</translation>
+    </message>
+    <message>
+        <source>Latitude</source>
+        <translation>Latitud</translation>
+    </message>
+    <message>
+        <source>Degrees, north of the equator. South is negative.</source>
+        <translation>Grados al norte del ecuador. El sur es negativo.</translation>
+    </message>
+    <message>
+        <source>Longitude</source>
+        <translation>Longitud</translation>
+    </message>
+    <message>
+        <source>Degrees, east of Greenwich. West is negative.</source>
+        <translation>Grados al este de Greenwich. El oeste es negativo.</translation>
+    </message>
+    <message>
+        <source>A latitude is a number from -90 to 90, a longitude one from -180 to 180.</source>
+        <translation>Una latitud es un número de -90 a 90, una longitud de -180 a 180.</translation>
+    </message>
+</context>
+<context>
+    <name>LuComputers</name>
+    <message>
+        <source>The connection could not be switched on: %1.</source>
+        <translation>No se pudo activar la conexión: %1.</translation>
+    </message>
+    <message>
+        <source>This is neither an address, such as 192.168.1.7, nor the name of a computer.</source>
+        <translation>No es una dirección, como 192.168.1.7, ni el nombre de un ordenador.</translation>
+    </message>
+    <message>
+        <source>Only a computer of your local network can be paired.</source>
+        <translation>Solo se puede emparejar un ordenador de su red local.</translation>
+    </message>
+    <message>
+        <source>No other computer has called within two minutes.</source>
+        <translation>Ningún otro ordenador ha llamado en dos minutos.</translation>
+    </message>
+    <message>
+        <source>The code was not confirmed on both computers within two minutes.</source>
+        <translation>El código no se confirmó en los dos ordenadores en dos minutos.</translation>
+    </message>
+    <message>
+        <source>No Lumen Desk answers there. Are both computers on the same network, is the connection switched on there, and does a firewall let it through?</source>
+        <translation>Allí no responde ningún Lumen Desk. ¿Están los dos ordenadores en la misma red, está activada allí la conexión y la deja pasar un cortafuegos?</translation>
+    </message>
+    <message>
+        <source>The other computer is not waiting. Choose "Wait for the other computer" there first.</source>
+        <translation>El otro ordenador no está esperando. Elija allí primero «Esperar al otro ordenador».</translation>
+    </message>
+    <message>
+        <source>The other computer did not confirm the code.</source>
+        <translation>El otro ordenador no confirmó el código.</translation>
+    </message>
+    <message>
+        <source>What has called does not keep to the rules. Nothing was paired.</source>
+        <translation>Quien ha llamado no cumple las reglas. No se emparejó nada.</translation>
+    </message>
+    <message>
+        <source>No computer of this name was found.</source>
+        <translation>No se encontró ningún ordenador con este nombre.</translation>
+    </message>
+</context>
+<context>
+    <name>LuPlace</name>
+    <message>
+        <source>%1° S</source>
+        <translation>%1° S</translation>
+    </message>
+    <message>
+        <source>%1° N</source>
+        <translation>%1° N</translation>
+    </message>
+    <message>
+        <source>%1° W</source>
+        <translation>%1° O</translation>
+    </message>
+    <message>
+        <source>%1° E</source>
+        <translation>%1° E</translation>
     </message>
 </context>
 </TS>

@@ -675,6 +675,14 @@
         <source>Advanced</source>
         <translation>Avancé</translation>
     </message>
+    <message>
+        <source>Location</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Two computers</source>
+        <translation>Deux ordinateurs</translation>
+    </message>
 </context>
 <context>
     <name>Tray</name>
@@ -813,6 +821,372 @@
     <message>
         <source>%1 leads to another monitor now; nothing was sent to it.</source>
         <translation>%1 mène maintenant à un autre moniteur ; rien ne lui a été envoyé.</translation>
+    </message>
+</context>
+<context>
+    <name>ComputersPage</name>
+    <message>
+        <source>Two computers</source>
+        <translation>Deux ordinateurs</translation>
+    </message>
+    <message>
+        <source>Two computers that share a monitor can hand over keyboard and mouse at the edge of the screen. Connected, they agree who has the pointer, and it enters where it left.</source>
+        <translation>Deux ordinateurs qui partagent un moniteur peuvent se passer le clavier et la souris au bord de l'écran. Connectés, ils savent lequel a le pointeur, et celui-ci entre là où il est sorti.</translation>
+    </message>
+    <message>
+        <source>Connection to a second computer</source>
+        <translation>Connexion à un second ordinateur</translation>
+    </message>
+    <message>
+        <source>Only the computer that you pair can connect, encrypted, on your local network. It learns where the pointer is: no keys, texts or files are sent. While it is on, the network sees this computer's name.</source>
+        <translation>Seul l'ordinateur que vous associez peut se connecter, de façon chiffrée, sur votre réseau local. Il apprend où est le pointeur : ni touches, ni textes, ni fichiers ne sont envoyés. Tant qu'elle est active, le réseau voit le nom de cet ordinateur.</translation>
+    </message>
+    <message>
+        <source>This computer</source>
+        <translation>Cet ordinateur</translation>
+    </message>
+    <message>
+        <source>It has no address on a local network.</source>
+        <translation>Il n'a pas d'adresse sur un réseau local.</translation>
+    </message>
+    <message>
+        <source>Paired computer</source>
+        <translation>Ordinateur associé</translation>
+    </message>
+    <message>
+        <source>Pair again</source>
+        <translation>Associer à nouveau</translation>
+    </message>
+    <message>
+        <source>Pair a computer</source>
+        <translation>Associer un ordinateur</translation>
+    </message>
+</context>
+<context>
+    <name>PairedComputer</name>
+    <message>
+        <source>Computer without a name</source>
+        <translation>Ordinateur sans nom</translation>
+    </message>
+    <message>
+        <source>Last met at %1</source>
+        <translation>Vu en dernier à %1</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Désactivé</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Connecté</translation>
+    </message>
+    <message>
+        <source>Not paired there</source>
+        <translation>Non associé là-bas</translation>
+    </message>
+    <message>
+        <source>Searching</source>
+        <translation>Recherche</translation>
+    </message>
+    <message>
+        <source>It answers, and does not know this computer any more. Pair the two anew.</source>
+        <translation>Il répond, mais ne connaît plus cet ordinateur. Associez à nouveau les deux.</translation>
+    </message>
+    <message>
+        <source>It is found again by itself once it runs in the same network. If it has another address, you can type it here.</source>
+        <translation>Il est retrouvé tout seul dès qu'il fonctionne sur le même réseau. S'il a une autre adresse, vous pouvez la saisir ici.</translation>
+    </message>
+    <message>
+        <source>Another address</source>
+        <translation>Autre adresse</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>Oublier</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>Connecter</translation>
+    </message>
+    <message>
+        <source>Forget %1?</source>
+        <translation>Oublier %1 ?</translation>
+    </message>
+    <message>
+        <source>The two do not connect any more until they are paired again.</source>
+        <translation>Les deux ne se connectent plus tant qu'ils ne sont pas associés à nouveau.</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Garder</translation>
+    </message>
+</context>
+<context>
+    <name>ComputerChoice</name>
+    <message>
+        <source>1. On one computer</source>
+        <translation>1. Sur un ordinateur</translation>
+    </message>
+    <message>
+        <source>It waits for two minutes, for one call.</source>
+        <translation>Il attend un appel pendant deux minutes.</translation>
+    </message>
+    <message>
+        <source>Wait for the other computer</source>
+        <translation>Attendre l'autre ordinateur</translation>
+    </message>
+    <message>
+        <source>2. On the other computer</source>
+        <translation>2. Sur l'autre ordinateur</translation>
+    </message>
+    <message>
+        <source>Type the address of the computer that waits. Where the service Avahi runs, it is found by itself.</source>
+        <translation>Saisissez l'adresse de l'ordinateur qui attend. Là où le service Avahi fonctionne, il est trouvé tout seul.</translation>
+    </message>
+    <message>
+        <source>Choose the computer that waits, or type its address.</source>
+        <translation>Choisissez l'ordinateur qui attend ou saisissez son adresse.</translation>
+    </message>
+    <message>
+        <source>No computer nearby has this switched on. You can also type its address.</source>
+        <translation>Aucun ordinateur proche n'a activé ceci. Vous pouvez aussi saisir son adresse.</translation>
+    </message>
+    <message>
+        <source>Pair</source>
+        <translation>Associer</translation>
+    </message>
+    <message>
+        <source>Pair with %1</source>
+        <translation>Associer avec %1</translation>
+    </message>
+    <message>
+        <source>Address of the other computer</source>
+        <translation>Adresse de l'autre ordinateur</translation>
+    </message>
+</context>
+<context>
+    <name>ComputerPairing</name>
+    <message>
+        <source>Waiting for the other computer</source>
+        <translation>En attente de l'autre ordinateur</translation>
+    </message>
+    <message>
+        <source>Calling the other computer</source>
+        <translation>Appel de l'autre ordinateur</translation>
+    </message>
+    <message>
+        <source>Now confirm the code on the other computer</source>
+        <translation>Confirmez maintenant le code sur l'autre ordinateur</translation>
+    </message>
+    <message>
+        <source>Does %1 show the same code?</source>
+        <translation>%1 affiche-t-il le même code ?</translation>
+    </message>
+    <message>
+        <source>Does the other computer show the same code?</source>
+        <translation>L'autre ordinateur affiche-t-il le même code ?</translation>
+    </message>
+    <message>
+        <source>Choose this computer there, or type its address: %1</source>
+        <translation>Choisissez-y cet ordinateur ou saisissez son adresse : %1</translation>
+    </message>
+    <message>
+        <source>If the codes differ, somebody else is in between: answer no.</source>
+        <translation>Si les codes diffèrent, quelqu'un s'est glissé entre les deux : répondez non.</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Non</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Yes, pair</source>
+        <translation>Oui, associer</translation>
+    </message>
+</context>
+<context>
+    <name>AddressLine</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsNotice</name>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>LocationPage</name>
+    <message>
+        <source>Location service of the system</source>
+        <translation>Service de localisation du système</translation>
+    </message>
+    <message>
+        <source>GeoClue is asked for your city, and no closer. To find it, it may send which networks are around you to a service on the Internet. Without an answer the city of the time zone is used.</source>
+        <translation>GeoClue est interrogé sur votre ville, sans plus de précision. Pour la trouver, il peut envoyer à un service sur Internet les réseaux qui vous entourent. Sans réponse, la ville du fuseau horaire est utilisée.</translation>
+    </message>
+    <message>
+        <source>City of the time zone</source>
+        <translation>Ville du fuseau horaire</translation>
+    </message>
+    <message>
+        <source>%1. Nobody is asked.</source>
+        <translation>%1. Personne n'est interrogé.</translation>
+    </message>
+    <message>
+        <source>Your time zone has no city.</source>
+        <translation>Votre fuseau horaire n'a pas de ville.</translation>
+    </message>
+    <message>
+        <source>A place that I choose</source>
+        <translation>Un lieu de mon choix</translation>
+    </message>
+    <message>
+        <source>Nobody is asked.</source>
+        <translation>Personne n'est interrogé.</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Désactivé</translation>
+    </message>
+    <message>
+        <source>Nothing follows the sun. Times that you set yourself still work.</source>
+        <translation>Rien ne suit le soleil. Les heures que vous réglez vous-même restent valables.</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Functions that follow sunrise and sunset need to know roughly where you are. Nothing else uses it.</source>
+        <translation>Les fonctions qui suivent le lever et le coucher du soleil doivent savoir à peu près où vous êtes. Rien d'autre ne l'utilise.</translation>
+    </message>
+    <message>
+        <source>Position in use</source>
+        <translation>Position utilisée</translation>
+    </message>
+    <message>
+        <source>It is sent, rounded to hundredths of a degree, to %1 for the times of sunrise and sunset.</source>
+        <translation>Elle est envoyée, arrondie au centième de degré, à %1 pour les heures de lever et de coucher du soleil.</translation>
+    </message>
+    <message>
+        <source>The times of sunrise and sunset are computed on this computer. The position is sent to nobody.</source>
+        <translation>Les heures de lever et de coucher du soleil sont calculées sur cet ordinateur. La position n'est envoyée à personne.</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Aucune</translation>
+    </message>
+</context>
+<context>
+    <name>PlaceChoice</name>
+    <message>
+        <source>Chosen place: %1</source>
+        <translation>Lieu choisi : %1</translation>
+    </message>
+    <message>
+        <source>Chosen place</source>
+        <translation>Lieu choisi</translation>
+    </message>
+    <message>
+        <source>City</source>
+        <translation>Ville</translation>
+    </message>
+    <message>
+        <source>Of the cities that name a time zone. They are known here: nothing is sent.</source>
+        <translation>Parmi les villes qui nomment un fuseau horaire. Elles sont connues ici : rien n'est envoyé.</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Rechercher</translation>
+    </message>
+    <message>
+        <source>Latitude</source>
+        <translation>Latitude</translation>
+    </message>
+    <message>
+        <source>Degrees, north of the equator. South is negative.</source>
+        <translation>Degrés au nord de l'équateur. Le sud est négatif.</translation>
+    </message>
+    <message>
+        <source>Longitude</source>
+        <translation>Longitude</translation>
+    </message>
+    <message>
+        <source>Degrees, east of Greenwich. West is negative.</source>
+        <translation>Degrés à l'est de Greenwich. L'ouest est négatif.</translation>
+    </message>
+    <message>
+        <source>A latitude is a number from -90 to 90, a longitude one from -180 to 180.</source>
+        <translation>Une latitude est un nombre de -90 à 90, une longitude de -180 à 180.</translation>
+    </message>
+</context>
+<context>
+    <name>LuComputers</name>
+    <message>
+        <source>The connection could not be switched on: %1.</source>
+        <translation>La connexion n'a pas pu être activée : %1.</translation>
+    </message>
+    <message>
+        <source>This is neither an address, such as 192.168.1.7, nor the name of a computer.</source>
+        <translation>Ce n'est ni une adresse, comme 192.168.1.7, ni le nom d'un ordinateur.</translation>
+    </message>
+    <message>
+        <source>Only a computer of your local network can be paired.</source>
+        <translation>Seul un ordinateur de votre réseau local peut être associé.</translation>
+    </message>
+    <message>
+        <source>No other computer has called within two minutes.</source>
+        <translation>Aucun autre ordinateur n'a appelé en deux minutes.</translation>
+    </message>
+    <message>
+        <source>The code was not confirmed on both computers within two minutes.</source>
+        <translation>Le code n'a pas été confirmé sur les deux ordinateurs en deux minutes.</translation>
+    </message>
+    <message>
+        <source>No Lumen Desk answers there. Are both computers on the same network, is the connection switched on there, and does a firewall let it through?</source>
+        <translation>Aucun Lumen Desk ne répond là-bas. Les deux ordinateurs sont-ils sur le même réseau, la connexion y est-elle activée, et un pare-feu la laisse-t-il passer ?</translation>
+    </message>
+    <message>
+        <source>The other computer is not waiting. Choose "Wait for the other computer" there first.</source>
+        <translation>L'autre ordinateur n'attend pas. Choisissez-y d'abord « Attendre l'autre ordinateur ».</translation>
+    </message>
+    <message>
+        <source>The other computer did not confirm the code.</source>
+        <translation>L'autre ordinateur n'a pas confirmé le code.</translation>
+    </message>
+    <message>
+        <source>What has called does not keep to the rules. Nothing was paired.</source>
+        <translation>L'appelant ne respecte pas les règles. Rien n'a été associé.</translation>
+    </message>
+    <message>
+        <source>No computer of this name was found.</source>
+        <translation>Aucun ordinateur de ce nom n'a été trouvé.</translation>
+    </message>
+</context>
+<context>
+    <name>LuPlace</name>
+    <message>
+        <source>%1° S</source>
+        <translation>%1° S</translation>
+    </message>
+    <message>
+        <source>%1° N</source>
+        <translation>%1° N</translation>
+    </message>
+    <message>
+        <source>%1° W</source>
+        <translation>%1° O</translation>
+    </message>
+    <message>
+        <source>%1° E</source>
+        <translation>%1° E</translation>
     </message>
 </context>
 </TS>

@@ -675,6 +675,14 @@
         <source>Advanced</source>
         <translation>Napredno</translation>
     </message>
+    <message>
+        <source>Location</source>
+        <translation>Lokacija</translation>
+    </message>
+    <message>
+        <source>Two computers</source>
+        <translation>Dva računala</translation>
+    </message>
 </context>
 <context>
     <name>Tray</name>
@@ -813,6 +821,372 @@
     <message>
         <source>%1 leads to another monitor now; nothing was sent to it.</source>
         <translation>%1 sada vodi do drugog monitora; ništa mu nije poslano.</translation>
+    </message>
+</context>
+<context>
+    <name>ComputersPage</name>
+    <message>
+        <source>Two computers</source>
+        <translation>Dva računala</translation>
+    </message>
+    <message>
+        <source>Two computers that share a monitor can hand over keyboard and mouse at the edge of the screen. Connected, they agree who has the pointer, and it enters where it left.</source>
+        <translation>Dva računala na jednom monitoru mogu na rubu zaslona predati tipkovnicu i miš. Povezana se slažu tko ima pokazivač, a on ulazi ondje gdje je izašao.</translation>
+    </message>
+    <message>
+        <source>Connection to a second computer</source>
+        <translation>Veza s drugim računalom</translation>
+    </message>
+    <message>
+        <source>Only the computer that you pair can connect, encrypted, on your local network. It learns where the pointer is: no keys, texts or files are sent. While it is on, the network sees this computer's name.</source>
+        <translation>Povezati se može samo upareno računalo, šifrirano i u lokalnoj mreži. Ono doznaje gdje je pokazivač: tipke, tekstovi i datoteke se ne šalju. Dok je uključena, mreža vidi ime ovog računala.</translation>
+    </message>
+    <message>
+        <source>This computer</source>
+        <translation>Ovo računalo</translation>
+    </message>
+    <message>
+        <source>It has no address on a local network.</source>
+        <translation>Nema adresu u lokalnoj mreži.</translation>
+    </message>
+    <message>
+        <source>Paired computer</source>
+        <translation>Upareno računalo</translation>
+    </message>
+    <message>
+        <source>Pair again</source>
+        <translation>Upari ponovno</translation>
+    </message>
+    <message>
+        <source>Pair a computer</source>
+        <translation>Upari računalo</translation>
+    </message>
+</context>
+<context>
+    <name>PairedComputer</name>
+    <message>
+        <source>Computer without a name</source>
+        <translation>Računalo bez imena</translation>
+    </message>
+    <message>
+        <source>Last met at %1</source>
+        <translation>Zadnji put na %1</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Isključeno</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Povezano</translation>
+    </message>
+    <message>
+        <source>Not paired there</source>
+        <translation>Ondje neupareno</translation>
+    </message>
+    <message>
+        <source>Searching</source>
+        <translation>Traženje</translation>
+    </message>
+    <message>
+        <source>It answers, and does not know this computer any more. Pair the two anew.</source>
+        <translation>Odgovara, ali više ne poznaje ovo računalo. Uparite ih ponovno.</translation>
+    </message>
+    <message>
+        <source>It is found again by itself once it runs in the same network. If it has another address, you can type it here.</source>
+        <translation>Pronalazi se samo čim radi u istoj mreži. Ako ima drugu adresu, možete je upisati ovdje.</translation>
+    </message>
+    <message>
+        <source>Another address</source>
+        <translation>Druga adresa</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>Zaboravi</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>Poveži</translation>
+    </message>
+    <message>
+        <source>Forget %1?</source>
+        <translation>Zaboraviti %1?</translation>
+    </message>
+    <message>
+        <source>The two do not connect any more until they are paired again.</source>
+        <translation>Računala se ne povezuju dok se ponovno ne upare.</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Zadrži</translation>
+    </message>
+</context>
+<context>
+    <name>ComputerChoice</name>
+    <message>
+        <source>1. On one computer</source>
+        <translation>1. Na jednom računalu</translation>
+    </message>
+    <message>
+        <source>It waits for two minutes, for one call.</source>
+        <translation>Dvije minute čeka jedan poziv.</translation>
+    </message>
+    <message>
+        <source>Wait for the other computer</source>
+        <translation>Čekaj drugo računalo</translation>
+    </message>
+    <message>
+        <source>2. On the other computer</source>
+        <translation>2. Na drugom računalu</translation>
+    </message>
+    <message>
+        <source>Type the address of the computer that waits. Where the service Avahi runs, it is found by itself.</source>
+        <translation>Upišite adresu računala koje čeka. Gdje radi usluga Avahi, pronalazi se samo.</translation>
+    </message>
+    <message>
+        <source>Choose the computer that waits, or type its address.</source>
+        <translation>Odaberite računalo koje čeka ili upišite njegovu adresu.</translation>
+    </message>
+    <message>
+        <source>No computer nearby has this switched on. You can also type its address.</source>
+        <translation>Nijedno računalo u blizini nema ovo uključeno. Možete i upisati njegovu adresu.</translation>
+    </message>
+    <message>
+        <source>Pair</source>
+        <translation>Upari</translation>
+    </message>
+    <message>
+        <source>Pair with %1</source>
+        <translation>Upari s %1</translation>
+    </message>
+    <message>
+        <source>Address of the other computer</source>
+        <translation>Adresa drugog računala</translation>
+    </message>
+</context>
+<context>
+    <name>ComputerPairing</name>
+    <message>
+        <source>Waiting for the other computer</source>
+        <translation>Čeka se drugo računalo</translation>
+    </message>
+    <message>
+        <source>Calling the other computer</source>
+        <translation>Poziva se drugo računalo</translation>
+    </message>
+    <message>
+        <source>Now confirm the code on the other computer</source>
+        <translation>Sada potvrdite kod na drugom računalu</translation>
+    </message>
+    <message>
+        <source>Does %1 show the same code?</source>
+        <translation>Pokazuje li %1 isti kod?</translation>
+    </message>
+    <message>
+        <source>Does the other computer show the same code?</source>
+        <translation>Pokazuje li drugo računalo isti kod?</translation>
+    </message>
+    <message>
+        <source>Choose this computer there, or type its address: %1</source>
+        <translation>Ondje odaberite ovo računalo ili upišite njegovu adresu: %1</translation>
+    </message>
+    <message>
+        <source>If the codes differ, somebody else is in between: answer no.</source>
+        <translation>Ako se kodovi razlikuju, netko je između: odgovorite ne.</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Ne</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Odustani</translation>
+    </message>
+    <message>
+        <source>Yes, pair</source>
+        <translation>Da, upari</translation>
+    </message>
+</context>
+<context>
+    <name>AddressLine</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Odustani</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsNotice</name>
+    <message>
+        <source>Close</source>
+        <translation>Zatvori</translation>
+    </message>
+</context>
+<context>
+    <name>LocationPage</name>
+    <message>
+        <source>Location service of the system</source>
+        <translation>Usluga lokacije sustava</translation>
+    </message>
+    <message>
+        <source>GeoClue is asked for your city, and no closer. To find it, it may send which networks are around you to a service on the Internet. Without an answer the city of the time zone is used.</source>
+        <translation>GeoClue se pita za vaš grad, ništa preciznije. Kako bi ga našao, može usluzi na internetu poslati koje su mreže oko vas. Bez odgovora vrijedi grad vremenske zone.</translation>
+    </message>
+    <message>
+        <source>City of the time zone</source>
+        <translation>Grad vremenske zone</translation>
+    </message>
+    <message>
+        <source>%1. Nobody is asked.</source>
+        <translation>%1. Nikoga se ne pita.</translation>
+    </message>
+    <message>
+        <source>Your time zone has no city.</source>
+        <translation>Vaša vremenska zona nema grad.</translation>
+    </message>
+    <message>
+        <source>A place that I choose</source>
+        <translation>Mjesto koje odaberem</translation>
+    </message>
+    <message>
+        <source>Nobody is asked.</source>
+        <translation>Nikoga se ne pita.</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Isključeno</translation>
+    </message>
+    <message>
+        <source>Nothing follows the sun. Times that you set yourself still work.</source>
+        <translation>Ništa ne slijedi sunce. Vremena koja sami postavite i dalje vrijede.</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Lokacija</translation>
+    </message>
+    <message>
+        <source>Functions that follow sunrise and sunset need to know roughly where you are. Nothing else uses it.</source>
+        <translation>Funkcije koje slijede izlazak i zalazak sunca moraju otprilike znati gdje ste. Ništa drugo to ne koristi.</translation>
+    </message>
+    <message>
+        <source>Position in use</source>
+        <translation>Korišteni položaj</translation>
+    </message>
+    <message>
+        <source>It is sent, rounded to hundredths of a degree, to %1 for the times of sunrise and sunset.</source>
+        <translation>Šalje se, zaokružen na stotinke stupnja, na %1 za vremena izlaska i zalaska sunca.</translation>
+    </message>
+    <message>
+        <source>The times of sunrise and sunset are computed on this computer. The position is sent to nobody.</source>
+        <translation>Vremena izlaska i zalaska sunca računaju se na ovom računalu. Položaj se nikome ne šalje.</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Nijedan</translation>
+    </message>
+</context>
+<context>
+    <name>PlaceChoice</name>
+    <message>
+        <source>Chosen place: %1</source>
+        <translation>Odabrano mjesto: %1</translation>
+    </message>
+    <message>
+        <source>Chosen place</source>
+        <translation>Odabrano mjesto</translation>
+    </message>
+    <message>
+        <source>City</source>
+        <translation>Grad</translation>
+    </message>
+    <message>
+        <source>Of the cities that name a time zone. They are known here: nothing is sent.</source>
+        <translation>Od gradova po kojima se zovu vremenske zone. Poznati su ovdje: ništa se ne šalje.</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Traži</translation>
+    </message>
+    <message>
+        <source>Latitude</source>
+        <translation>Širina</translation>
+    </message>
+    <message>
+        <source>Degrees, north of the equator. South is negative.</source>
+        <translation>Stupnjevi sjeverno od ekvatora. Jug je negativan.</translation>
+    </message>
+    <message>
+        <source>Longitude</source>
+        <translation>Dužina</translation>
+    </message>
+    <message>
+        <source>Degrees, east of Greenwich. West is negative.</source>
+        <translation>Stupnjevi istočno od Greenwicha. Zapad je negativan.</translation>
+    </message>
+    <message>
+        <source>A latitude is a number from -90 to 90, a longitude one from -180 to 180.</source>
+        <translation>Širina je broj od -90 do 90, dužina od -180 do 180.</translation>
+    </message>
+</context>
+<context>
+    <name>LuComputers</name>
+    <message>
+        <source>The connection could not be switched on: %1.</source>
+        <translation>Vezu nije bilo moguće uključiti: %1.</translation>
+    </message>
+    <message>
+        <source>This is neither an address, such as 192.168.1.7, nor the name of a computer.</source>
+        <translation>To nije ni adresa, poput 192.168.1.7, ni ime računala.</translation>
+    </message>
+    <message>
+        <source>Only a computer of your local network can be paired.</source>
+        <translation>Upariti se može samo računalo iz vaše lokalne mreže.</translation>
+    </message>
+    <message>
+        <source>No other computer has called within two minutes.</source>
+        <translation>Nijedno se drugo računalo nije javilo u dvije minute.</translation>
+    </message>
+    <message>
+        <source>The code was not confirmed on both computers within two minutes.</source>
+        <translation>Kod nije potvrđen na oba računala u dvije minute.</translation>
+    </message>
+    <message>
+        <source>No Lumen Desk answers there. Are both computers on the same network, is the connection switched on there, and does a firewall let it through?</source>
+        <translation>Ondje ne odgovara nijedan Lumen Desk. Jesu li oba računala u istoj mreži, je li veza ondje uključena i propušta li je vatrozid?</translation>
+    </message>
+    <message>
+        <source>The other computer is not waiting. Choose "Wait for the other computer" there first.</source>
+        <translation>Drugo računalo ne čeka. Ondje najprije odaberite „Čekaj drugo računalo”.</translation>
+    </message>
+    <message>
+        <source>The other computer did not confirm the code.</source>
+        <translation>Drugo računalo nije potvrdilo kod.</translation>
+    </message>
+    <message>
+        <source>What has called does not keep to the rules. Nothing was paired.</source>
+        <translation>Pozivatelj se ne drži pravila. Ništa nije upareno.</translation>
+    </message>
+    <message>
+        <source>No computer of this name was found.</source>
+        <translation>Nije pronađeno računalo tog imena.</translation>
+    </message>
+</context>
+<context>
+    <name>LuPlace</name>
+    <message>
+        <source>%1° S</source>
+        <translation>%1° J</translation>
+    </message>
+    <message>
+        <source>%1° N</source>
+        <translation>%1° S</translation>
+    </message>
+    <message>
+        <source>%1° W</source>
+        <translation>%1° Z</translation>
+    </message>
+    <message>
+        <source>%1° E</source>
+        <translation>%1° I</translation>
     </message>
 </context>
 </TS>

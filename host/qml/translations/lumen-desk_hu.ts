@@ -675,6 +675,14 @@
         <source>Advanced</source>
         <translation>Speciális</translation>
     </message>
+    <message>
+        <source>Location</source>
+        <translation>Hely</translation>
+    </message>
+    <message>
+        <source>Two computers</source>
+        <translation>Két számítógép</translation>
+    </message>
 </context>
 <context>
     <name>Tray</name>
@@ -813,6 +821,372 @@
     <message>
         <source>%1 leads to another monitor now; nothing was sent to it.</source>
         <translation>A(z) %1 most másik monitorhoz vezet; semmi nem lett elküldve neki.</translation>
+    </message>
+</context>
+<context>
+    <name>ComputersPage</name>
+    <message>
+        <source>Two computers</source>
+        <translation>Két számítógép</translation>
+    </message>
+    <message>
+        <source>Two computers that share a monitor can hand over keyboard and mouse at the edge of the screen. Connected, they agree who has the pointer, and it enters where it left.</source>
+        <translation>Egy monitoron osztozó két számítógép a képernyő szélén átadhatja a billentyűzetet és az egeret. Összekapcsolva tudják, kinél van a mutató, és az ott lép be, ahol kilépett.</translation>
+    </message>
+    <message>
+        <source>Connection to a second computer</source>
+        <translation>Kapcsolat egy második számítógéppel</translation>
+    </message>
+    <message>
+        <source>Only the computer that you pair can connect, encrypted, on your local network. It learns where the pointer is: no keys, texts or files are sent. While it is on, the network sees this computer's name.</source>
+        <translation>Csak a párosított számítógép kapcsolódhat, titkosítva, a helyi hálózaton. Megtudja, hol van a mutató: billentyűket, szövegeket, fájlokat nem küld. Amíg be van kapcsolva, a hálózat látja e számítógép nevét.</translation>
+    </message>
+    <message>
+        <source>This computer</source>
+        <translation>Ez a számítógép</translation>
+    </message>
+    <message>
+        <source>It has no address on a local network.</source>
+        <translation>Nincs címe helyi hálózaton.</translation>
+    </message>
+    <message>
+        <source>Paired computer</source>
+        <translation>Párosított számítógép</translation>
+    </message>
+    <message>
+        <source>Pair again</source>
+        <translation>Párosítás újra</translation>
+    </message>
+    <message>
+        <source>Pair a computer</source>
+        <translation>Számítógép párosítása</translation>
+    </message>
+</context>
+<context>
+    <name>PairedComputer</name>
+    <message>
+        <source>Computer without a name</source>
+        <translation>Névtelen számítógép</translation>
+    </message>
+    <message>
+        <source>Last met at %1</source>
+        <translation>Utoljára itt: %1</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Ki</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Kapcsolódva</translation>
+    </message>
+    <message>
+        <source>Not paired there</source>
+        <translation>Ott nincs párosítva</translation>
+    </message>
+    <message>
+        <source>Searching</source>
+        <translation>Keresés</translation>
+    </message>
+    <message>
+        <source>It answers, and does not know this computer any more. Pair the two anew.</source>
+        <translation>Válaszol, de már nem ismeri ezt a számítógépet. Párosítsa újra a kettőt.</translation>
+    </message>
+    <message>
+        <source>It is found again by itself once it runs in the same network. If it has another address, you can type it here.</source>
+        <translation>Magától megtalálható, amint ugyanazon a hálózaton fut. Ha más a címe, itt megadhatja.</translation>
+    </message>
+    <message>
+        <source>Another address</source>
+        <translation>Másik cím</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>Elfelejtés</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>Kapcsolódás</translation>
+    </message>
+    <message>
+        <source>Forget %1?</source>
+        <translation>Elfelejti ezt: %1?</translation>
+    </message>
+    <message>
+        <source>The two do not connect any more until they are paired again.</source>
+        <translation>A kettő nem kapcsolódik, amíg újra nem párosítja őket.</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Megtartás</translation>
+    </message>
+</context>
+<context>
+    <name>ComputerChoice</name>
+    <message>
+        <source>1. On one computer</source>
+        <translation>1. Az egyik számítógépen</translation>
+    </message>
+    <message>
+        <source>It waits for two minutes, for one call.</source>
+        <translation>Két percig vár egy hívásra.</translation>
+    </message>
+    <message>
+        <source>Wait for the other computer</source>
+        <translation>Várakozás a másik számítógépre</translation>
+    </message>
+    <message>
+        <source>2. On the other computer</source>
+        <translation>2. A másik számítógépen</translation>
+    </message>
+    <message>
+        <source>Type the address of the computer that waits. Where the service Avahi runs, it is found by itself.</source>
+        <translation>Írja be a várakozó számítógép címét. Ahol fut az Avahi szolgáltatás, magától megtalálható.</translation>
+    </message>
+    <message>
+        <source>Choose the computer that waits, or type its address.</source>
+        <translation>Válassza ki a várakozó számítógépet, vagy írja be a címét.</translation>
+    </message>
+    <message>
+        <source>No computer nearby has this switched on. You can also type its address.</source>
+        <translation>A közelben egyik számítógépen sincs ez bekapcsolva. A címét is beírhatja.</translation>
+    </message>
+    <message>
+        <source>Pair</source>
+        <translation>Párosítás</translation>
+    </message>
+    <message>
+        <source>Pair with %1</source>
+        <translation>Párosítás ezzel: %1</translation>
+    </message>
+    <message>
+        <source>Address of the other computer</source>
+        <translation>A másik számítógép címe</translation>
+    </message>
+</context>
+<context>
+    <name>ComputerPairing</name>
+    <message>
+        <source>Waiting for the other computer</source>
+        <translation>Várakozás a másik számítógépre</translation>
+    </message>
+    <message>
+        <source>Calling the other computer</source>
+        <translation>A másik számítógép hívása</translation>
+    </message>
+    <message>
+        <source>Now confirm the code on the other computer</source>
+        <translation>Most erősítse meg a kódot a másik számítógépen</translation>
+    </message>
+    <message>
+        <source>Does %1 show the same code?</source>
+        <translation>Ugyanezt a kódot mutatja: %1?</translation>
+    </message>
+    <message>
+        <source>Does the other computer show the same code?</source>
+        <translation>Ugyanezt a kódot mutatja a másik számítógép?</translation>
+    </message>
+    <message>
+        <source>Choose this computer there, or type its address: %1</source>
+        <translation>Válassza ott ezt a számítógépet, vagy írja be a címét: %1</translation>
+    </message>
+    <message>
+        <source>If the codes differ, somebody else is in between: answer no.</source>
+        <translation>Ha a kódok eltérnek, valaki közbeékelődött: válaszoljon nemmel.</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Nem</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Mégse</translation>
+    </message>
+    <message>
+        <source>Yes, pair</source>
+        <translation>Igen, párosítás</translation>
+    </message>
+</context>
+<context>
+    <name>AddressLine</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Mégse</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsNotice</name>
+    <message>
+        <source>Close</source>
+        <translation>Bezárás</translation>
+    </message>
+</context>
+<context>
+    <name>LocationPage</name>
+    <message>
+        <source>Location service of the system</source>
+        <translation>A rendszer helymeghatározása</translation>
+    </message>
+    <message>
+        <source>GeoClue is asked for your city, and no closer. To find it, it may send which networks are around you to a service on the Internet. Without an answer the city of the time zone is used.</source>
+        <translation>A GeoClue csak a várost kérdezi, pontosabbat nem. Ehhez egy internetes szolgáltatásnak elküldheti, milyen hálózatok vannak a közelben. Válasz nélkül az időzóna városa számít.</translation>
+    </message>
+    <message>
+        <source>City of the time zone</source>
+        <translation>Az időzóna városa</translation>
+    </message>
+    <message>
+        <source>%1. Nobody is asked.</source>
+        <translation>%1. Senkit sem kérdez.</translation>
+    </message>
+    <message>
+        <source>Your time zone has no city.</source>
+        <translation>Az időzónának nincs városa.</translation>
+    </message>
+    <message>
+        <source>A place that I choose</source>
+        <translation>Általam választott hely</translation>
+    </message>
+    <message>
+        <source>Nobody is asked.</source>
+        <translation>Senkit sem kérdez.</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Ki</translation>
+    </message>
+    <message>
+        <source>Nothing follows the sun. Times that you set yourself still work.</source>
+        <translation>Semmi sem követi a napot. A saját időpontok továbbra is működnek.</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Hely</translation>
+    </message>
+    <message>
+        <source>Functions that follow sunrise and sunset need to know roughly where you are. Nothing else uses it.</source>
+        <translation>A napkeltét és napnyugtát követő funkcióknak nagyjából tudniuk kell, hol van. Semmi más nem használja.</translation>
+    </message>
+    <message>
+        <source>Position in use</source>
+        <translation>Használt hely</translation>
+    </message>
+    <message>
+        <source>It is sent, rounded to hundredths of a degree, to %1 for the times of sunrise and sunset.</source>
+        <translation>Századfokra kerekítve ide kerül a napkelte és napnyugta idejéért: %1.</translation>
+    </message>
+    <message>
+        <source>The times of sunrise and sunset are computed on this computer. The position is sent to nobody.</source>
+        <translation>A napkelte és napnyugta idejét ez a számítógép számítja ki. A helyet senkinek sem küldi el.</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Nincs</translation>
+    </message>
+</context>
+<context>
+    <name>PlaceChoice</name>
+    <message>
+        <source>Chosen place: %1</source>
+        <translation>Választott hely: %1</translation>
+    </message>
+    <message>
+        <source>Chosen place</source>
+        <translation>Választott hely</translation>
+    </message>
+    <message>
+        <source>City</source>
+        <translation>Város</translation>
+    </message>
+    <message>
+        <source>Of the cities that name a time zone. They are known here: nothing is sent.</source>
+        <translation>Az időzónák névadó városaiból. Itt ismertek: semmit sem küld el.</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Keresés</translation>
+    </message>
+    <message>
+        <source>Latitude</source>
+        <translation>Szélesség</translation>
+    </message>
+    <message>
+        <source>Degrees, north of the equator. South is negative.</source>
+        <translation>Fok az egyenlítőtől északra. A dél negatív.</translation>
+    </message>
+    <message>
+        <source>Longitude</source>
+        <translation>Hosszúság</translation>
+    </message>
+    <message>
+        <source>Degrees, east of Greenwich. West is negative.</source>
+        <translation>Fok Greenwichtől keletre. A nyugat negatív.</translation>
+    </message>
+    <message>
+        <source>A latitude is a number from -90 to 90, a longitude one from -180 to 180.</source>
+        <translation>A szélesség -90 és 90, a hosszúság -180 és 180 közötti szám.</translation>
+    </message>
+</context>
+<context>
+    <name>LuComputers</name>
+    <message>
+        <source>The connection could not be switched on: %1.</source>
+        <translation>A kapcsolatot nem sikerült bekapcsolni: %1.</translation>
+    </message>
+    <message>
+        <source>This is neither an address, such as 192.168.1.7, nor the name of a computer.</source>
+        <translation>Ez nem cím (mint 192.168.1.7), és nem is számítógép neve.</translation>
+    </message>
+    <message>
+        <source>Only a computer of your local network can be paired.</source>
+        <translation>Csak a helyi hálózat számítógépe párosítható.</translation>
+    </message>
+    <message>
+        <source>No other computer has called within two minutes.</source>
+        <translation>Két percen belül nem jelentkezett másik számítógép.</translation>
+    </message>
+    <message>
+        <source>The code was not confirmed on both computers within two minutes.</source>
+        <translation>A kódot két percen belül nem erősítették meg mindkét számítógépen.</translation>
+    </message>
+    <message>
+        <source>No Lumen Desk answers there. Are both computers on the same network, is the connection switched on there, and does a firewall let it through?</source>
+        <translation>Ott nem válaszol Lumen Desk. Ugyanazon a hálózaton van mindkét számítógép, be van ott kapcsolva a kapcsolat, és átengedi a tűzfal?</translation>
+    </message>
+    <message>
+        <source>The other computer is not waiting. Choose "Wait for the other computer" there first.</source>
+        <translation>A másik számítógép nem várakozik. Előbb ott válassza: „Várakozás a másik számítógépre”.</translation>
+    </message>
+    <message>
+        <source>The other computer did not confirm the code.</source>
+        <translation>A másik számítógép nem erősítette meg a kódot.</translation>
+    </message>
+    <message>
+        <source>What has called does not keep to the rules. Nothing was paired.</source>
+        <translation>A hívó nem tartja be a szabályokat. Semmi sem lett párosítva.</translation>
+    </message>
+    <message>
+        <source>No computer of this name was found.</source>
+        <translation>Nem található ilyen nevű számítógép.</translation>
+    </message>
+</context>
+<context>
+    <name>LuPlace</name>
+    <message>
+        <source>%1° S</source>
+        <translation>d. sz. %1°</translation>
+    </message>
+    <message>
+        <source>%1° N</source>
+        <translation>é. sz. %1°</translation>
+    </message>
+    <message>
+        <source>%1° W</source>
+        <translation>ny. h. %1°</translation>
+    </message>
+    <message>
+        <source>%1° E</source>
+        <translation>k. h. %1°</translation>
     </message>
 </context>
 </TS>

@@ -675,6 +675,14 @@
         <source>Advanced</source>
         <translation>Avanzate</translation>
     </message>
+    <message>
+        <source>Location</source>
+        <translation>Posizione</translation>
+    </message>
+    <message>
+        <source>Two computers</source>
+        <translation>Due computer</translation>
+    </message>
 </context>
 <context>
     <name>Tray</name>
@@ -813,6 +821,372 @@
     <message>
         <source>%1 leads to another monitor now; nothing was sent to it.</source>
         <translation>%1 porta ora a un altro monitor; non gli è stato inviato nulla.</translation>
+    </message>
+</context>
+<context>
+    <name>ComputersPage</name>
+    <message>
+        <source>Two computers</source>
+        <translation>Due computer</translation>
+    </message>
+    <message>
+        <source>Two computers that share a monitor can hand over keyboard and mouse at the edge of the screen. Connected, they agree who has the pointer, and it enters where it left.</source>
+        <translation>Due computer che condividono un monitor possono passarsi tastiera e mouse al bordo dello schermo. Collegati, concordano chi ha il puntatore, che entra da dove è uscito.</translation>
+    </message>
+    <message>
+        <source>Connection to a second computer</source>
+        <translation>Connessione a un secondo computer</translation>
+    </message>
+    <message>
+        <source>Only the computer that you pair can connect, encrypted, on your local network. It learns where the pointer is: no keys, texts or files are sent. While it is on, the network sees this computer's name.</source>
+        <translation>Può collegarsi solo il computer che abbini, in modo cifrato e nella rete locale. Sa dove si trova il puntatore: non vengono inviati tasti, testi o file. Finché è attiva, la rete vede il nome di questo computer.</translation>
+    </message>
+    <message>
+        <source>This computer</source>
+        <translation>Questo computer</translation>
+    </message>
+    <message>
+        <source>It has no address on a local network.</source>
+        <translation>Non ha un indirizzo in una rete locale.</translation>
+    </message>
+    <message>
+        <source>Paired computer</source>
+        <translation>Computer abbinato</translation>
+    </message>
+    <message>
+        <source>Pair again</source>
+        <translation>Abbina di nuovo</translation>
+    </message>
+    <message>
+        <source>Pair a computer</source>
+        <translation>Abbina un computer</translation>
+    </message>
+</context>
+<context>
+    <name>PairedComputer</name>
+    <message>
+        <source>Computer without a name</source>
+        <translation>Computer senza nome</translation>
+    </message>
+    <message>
+        <source>Last met at %1</source>
+        <translation>Visto l'ultima volta a %1</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Disattivato</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Connesso</translation>
+    </message>
+    <message>
+        <source>Not paired there</source>
+        <translation>Non abbinato lì</translation>
+    </message>
+    <message>
+        <source>Searching</source>
+        <translation>Ricerca</translation>
+    </message>
+    <message>
+        <source>It answers, and does not know this computer any more. Pair the two anew.</source>
+        <translation>Risponde, ma non conosce più questo computer. Abbina di nuovo i due.</translation>
+    </message>
+    <message>
+        <source>It is found again by itself once it runs in the same network. If it has another address, you can type it here.</source>
+        <translation>Viene ritrovato da solo appena è attivo nella stessa rete. Se ha un altro indirizzo, puoi scriverlo qui.</translation>
+    </message>
+    <message>
+        <source>Another address</source>
+        <translation>Altro indirizzo</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>Dimentica</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>Collega</translation>
+    </message>
+    <message>
+        <source>Forget %1?</source>
+        <translation>Dimenticare %1?</translation>
+    </message>
+    <message>
+        <source>The two do not connect any more until they are paired again.</source>
+        <translation>I due non si collegano più finché non vengono abbinati di nuovo.</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Mantieni</translation>
+    </message>
+</context>
+<context>
+    <name>ComputerChoice</name>
+    <message>
+        <source>1. On one computer</source>
+        <translation>1. Su un computer</translation>
+    </message>
+    <message>
+        <source>It waits for two minutes, for one call.</source>
+        <translation>Attende una chiamata per due minuti.</translation>
+    </message>
+    <message>
+        <source>Wait for the other computer</source>
+        <translation>Attendi l'altro computer</translation>
+    </message>
+    <message>
+        <source>2. On the other computer</source>
+        <translation>2. Sull'altro computer</translation>
+    </message>
+    <message>
+        <source>Type the address of the computer that waits. Where the service Avahi runs, it is found by itself.</source>
+        <translation>Scrivi l'indirizzo del computer in attesa. Dove è attivo il servizio Avahi, viene trovato da solo.</translation>
+    </message>
+    <message>
+        <source>Choose the computer that waits, or type its address.</source>
+        <translation>Scegli il computer in attesa o scrivi il suo indirizzo.</translation>
+    </message>
+    <message>
+        <source>No computer nearby has this switched on. You can also type its address.</source>
+        <translation>Nessun computer vicino ha attivato questa funzione. Puoi anche scrivere il suo indirizzo.</translation>
+    </message>
+    <message>
+        <source>Pair</source>
+        <translation>Abbina</translation>
+    </message>
+    <message>
+        <source>Pair with %1</source>
+        <translation>Abbina con %1</translation>
+    </message>
+    <message>
+        <source>Address of the other computer</source>
+        <translation>Indirizzo dell'altro computer</translation>
+    </message>
+</context>
+<context>
+    <name>ComputerPairing</name>
+    <message>
+        <source>Waiting for the other computer</source>
+        <translation>In attesa dell'altro computer</translation>
+    </message>
+    <message>
+        <source>Calling the other computer</source>
+        <translation>Chiamata all'altro computer</translation>
+    </message>
+    <message>
+        <source>Now confirm the code on the other computer</source>
+        <translation>Ora conferma il codice sull'altro computer</translation>
+    </message>
+    <message>
+        <source>Does %1 show the same code?</source>
+        <translation>%1 mostra lo stesso codice?</translation>
+    </message>
+    <message>
+        <source>Does the other computer show the same code?</source>
+        <translation>L'altro computer mostra lo stesso codice?</translation>
+    </message>
+    <message>
+        <source>Choose this computer there, or type its address: %1</source>
+        <translation>Scegli lì questo computer o scrivi il suo indirizzo: %1</translation>
+    </message>
+    <message>
+        <source>If the codes differ, somebody else is in between: answer no.</source>
+        <translation>Se i codici sono diversi, c'è qualcuno in mezzo: rispondi no.</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Yes, pair</source>
+        <translation>Sì, abbina</translation>
+    </message>
+</context>
+<context>
+    <name>AddressLine</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsNotice</name>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+</context>
+<context>
+    <name>LocationPage</name>
+    <message>
+        <source>Location service of the system</source>
+        <translation>Servizio di localizzazione del sistema</translation>
+    </message>
+    <message>
+        <source>GeoClue is asked for your city, and no closer. To find it, it may send which networks are around you to a service on the Internet. Without an answer the city of the time zone is used.</source>
+        <translation>A GeoClue si chiede la tua città, niente di più preciso. Per trovarla può inviare a un servizio su Internet quali reti ti circondano. Senza risposta si usa la città del fuso orario.</translation>
+    </message>
+    <message>
+        <source>City of the time zone</source>
+        <translation>Città del fuso orario</translation>
+    </message>
+    <message>
+        <source>%1. Nobody is asked.</source>
+        <translation>%1. Non si chiede a nessuno.</translation>
+    </message>
+    <message>
+        <source>Your time zone has no city.</source>
+        <translation>Il tuo fuso orario non ha una città.</translation>
+    </message>
+    <message>
+        <source>A place that I choose</source>
+        <translation>Un luogo che scelgo</translation>
+    </message>
+    <message>
+        <source>Nobody is asked.</source>
+        <translation>Non si chiede a nessuno.</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Disattivato</translation>
+    </message>
+    <message>
+        <source>Nothing follows the sun. Times that you set yourself still work.</source>
+        <translation>Nulla segue il sole. Gli orari che imposti tu continuano a valere.</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Posizione</translation>
+    </message>
+    <message>
+        <source>Functions that follow sunrise and sunset need to know roughly where you are. Nothing else uses it.</source>
+        <translation>Le funzioni che seguono alba e tramonto devono sapere all'incirca dove ti trovi. Nient'altro lo usa.</translation>
+    </message>
+    <message>
+        <source>Position in use</source>
+        <translation>Posizione in uso</translation>
+    </message>
+    <message>
+        <source>It is sent, rounded to hundredths of a degree, to %1 for the times of sunrise and sunset.</source>
+        <translation>Viene inviata, arrotondata al centesimo di grado, a %1 per gli orari di alba e tramonto.</translation>
+    </message>
+    <message>
+        <source>The times of sunrise and sunset are computed on this computer. The position is sent to nobody.</source>
+        <translation>Gli orari di alba e tramonto sono calcolati su questo computer. La posizione non viene inviata a nessuno.</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Nessuna</translation>
+    </message>
+</context>
+<context>
+    <name>PlaceChoice</name>
+    <message>
+        <source>Chosen place: %1</source>
+        <translation>Luogo scelto: %1</translation>
+    </message>
+    <message>
+        <source>Chosen place</source>
+        <translation>Luogo scelto</translation>
+    </message>
+    <message>
+        <source>City</source>
+        <translation>Città</translation>
+    </message>
+    <message>
+        <source>Of the cities that name a time zone. They are known here: nothing is sent.</source>
+        <translation>Tra le città che danno il nome a un fuso orario. Sono note qui: non viene inviato nulla.</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Cerca</translation>
+    </message>
+    <message>
+        <source>Latitude</source>
+        <translation>Latitudine</translation>
+    </message>
+    <message>
+        <source>Degrees, north of the equator. South is negative.</source>
+        <translation>Gradi a nord dell'equatore. Il sud è negativo.</translation>
+    </message>
+    <message>
+        <source>Longitude</source>
+        <translation>Longitudine</translation>
+    </message>
+    <message>
+        <source>Degrees, east of Greenwich. West is negative.</source>
+        <translation>Gradi a est di Greenwich. L'ovest è negativo.</translation>
+    </message>
+    <message>
+        <source>A latitude is a number from -90 to 90, a longitude one from -180 to 180.</source>
+        <translation>Una latitudine è un numero da -90 a 90, una longitudine da -180 a 180.</translation>
+    </message>
+</context>
+<context>
+    <name>LuComputers</name>
+    <message>
+        <source>The connection could not be switched on: %1.</source>
+        <translation>Non è stato possibile attivare la connessione: %1.</translation>
+    </message>
+    <message>
+        <source>This is neither an address, such as 192.168.1.7, nor the name of a computer.</source>
+        <translation>Non è un indirizzo, come 192.168.1.7, né il nome di un computer.</translation>
+    </message>
+    <message>
+        <source>Only a computer of your local network can be paired.</source>
+        <translation>Si può abbinare solo un computer della rete locale.</translation>
+    </message>
+    <message>
+        <source>No other computer has called within two minutes.</source>
+        <translation>Nessun altro computer ha chiamato entro due minuti.</translation>
+    </message>
+    <message>
+        <source>The code was not confirmed on both computers within two minutes.</source>
+        <translation>Il codice non è stato confermato su entrambi i computer entro due minuti.</translation>
+    </message>
+    <message>
+        <source>No Lumen Desk answers there. Are both computers on the same network, is the connection switched on there, and does a firewall let it through?</source>
+        <translation>Lì non risponde alcun Lumen Desk. I due computer sono nella stessa rete, la connessione è attiva lì e un firewall la lascia passare?</translation>
+    </message>
+    <message>
+        <source>The other computer is not waiting. Choose "Wait for the other computer" there first.</source>
+        <translation>L'altro computer non è in attesa. Scegli prima lì «Attendi l'altro computer».</translation>
+    </message>
+    <message>
+        <source>The other computer did not confirm the code.</source>
+        <translation>L'altro computer non ha confermato il codice.</translation>
+    </message>
+    <message>
+        <source>What has called does not keep to the rules. Nothing was paired.</source>
+        <translation>Chi ha chiamato non rispetta le regole. Non è stato abbinato nulla.</translation>
+    </message>
+    <message>
+        <source>No computer of this name was found.</source>
+        <translation>Nessun computer con questo nome è stato trovato.</translation>
+    </message>
+</context>
+<context>
+    <name>LuPlace</name>
+    <message>
+        <source>%1° S</source>
+        <translation>%1° S</translation>
+    </message>
+    <message>
+        <source>%1° N</source>
+        <translation>%1° N</translation>
+    </message>
+    <message>
+        <source>%1° W</source>
+        <translation>%1° O</translation>
+    </message>
+    <message>
+        <source>%1° E</source>
+        <translation>%1° E</translation>
     </message>
 </context>
 </TS>

@@ -675,6 +675,14 @@
         <source>Advanced</source>
         <translation>詳細</translation>
     </message>
+    <message>
+        <source>Location</source>
+        <translation>位置情報</translation>
+    </message>
+    <message>
+        <source>Two computers</source>
+        <translation>2 台のコンピューター</translation>
+    </message>
 </context>
 <context>
     <name>Tray</name>
@@ -813,6 +821,372 @@
     <message>
         <source>%1 leads to another monitor now; nothing was sent to it.</source>
         <translation>%1 は別のモニターにつながっています。そのモニターには何も送信していません。</translation>
+    </message>
+</context>
+<context>
+    <name>ComputersPage</name>
+    <message>
+        <source>Two computers</source>
+        <translation>2 台のコンピューター</translation>
+    </message>
+    <message>
+        <source>Two computers that share a monitor can hand over keyboard and mouse at the edge of the screen. Connected, they agree who has the pointer, and it enters where it left.</source>
+        <translation>1 台のモニターを共有する 2 台のコンピューターは、画面の端でキーボードとマウスを受け渡せます。接続すると、どちらにポインターがあるかを互いに把握し、出た場所から入ります。</translation>
+    </message>
+    <message>
+        <source>Connection to a second computer</source>
+        <translation>2 台目のコンピューターとの接続</translation>
+    </message>
+    <message>
+        <source>Only the computer that you pair can connect, encrypted, on your local network. It learns where the pointer is: no keys, texts or files are sent. While it is on, the network sees this computer's name.</source>
+        <translation>接続できるのはペアリングしたコンピューターだけで、ローカルネットワーク内で暗号化されます。伝わるのはポインターの位置だけで、キー入力、文字、ファイルは送られません。オンの間、このコンピューターの名前がネットワークに見えます。</translation>
+    </message>
+    <message>
+        <source>This computer</source>
+        <translation>このコンピューター</translation>
+    </message>
+    <message>
+        <source>It has no address on a local network.</source>
+        <translation>ローカルネットワークのアドレスがありません。</translation>
+    </message>
+    <message>
+        <source>Paired computer</source>
+        <translation>ペアリング済みのコンピューター</translation>
+    </message>
+    <message>
+        <source>Pair again</source>
+        <translation>もう一度ペアリング</translation>
+    </message>
+    <message>
+        <source>Pair a computer</source>
+        <translation>コンピューターをペアリング</translation>
+    </message>
+</context>
+<context>
+    <name>PairedComputer</name>
+    <message>
+        <source>Computer without a name</source>
+        <translation>名前のないコンピューター</translation>
+    </message>
+    <message>
+        <source>Last met at %1</source>
+        <translation>最後の接続先: %1</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>オフ</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>接続済み</translation>
+    </message>
+    <message>
+        <source>Not paired there</source>
+        <translation>相手側で未ペアリング</translation>
+    </message>
+    <message>
+        <source>Searching</source>
+        <translation>検索中</translation>
+    </message>
+    <message>
+        <source>It answers, and does not know this computer any more. Pair the two anew.</source>
+        <translation>応答はありますが、このコンピューターを覚えていません。もう一度ペアリングしてください。</translation>
+    </message>
+    <message>
+        <source>It is found again by itself once it runs in the same network. If it has another address, you can type it here.</source>
+        <translation>同じネットワークで動作していれば自動的に見つかります。アドレスが変わった場合は、ここに入力できます。</translation>
+    </message>
+    <message>
+        <source>Another address</source>
+        <translation>別のアドレス</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>接続</translation>
+    </message>
+    <message>
+        <source>Forget %1?</source>
+        <translation>%1 を削除しますか?</translation>
+    </message>
+    <message>
+        <source>The two do not connect any more until they are paired again.</source>
+        <translation>もう一度ペアリングするまで、2 台は接続しません。</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>残す</translation>
+    </message>
+</context>
+<context>
+    <name>ComputerChoice</name>
+    <message>
+        <source>1. On one computer</source>
+        <translation>1. 一方のコンピューターで</translation>
+    </message>
+    <message>
+        <source>It waits for two minutes, for one call.</source>
+        <translation>2 分間、1 回の呼び出しを待ちます。</translation>
+    </message>
+    <message>
+        <source>Wait for the other computer</source>
+        <translation>もう一方を待つ</translation>
+    </message>
+    <message>
+        <source>2. On the other computer</source>
+        <translation>2. もう一方のコンピューターで</translation>
+    </message>
+    <message>
+        <source>Type the address of the computer that waits. Where the service Avahi runs, it is found by itself.</source>
+        <translation>待っているコンピューターのアドレスを入力してください。Avahi サービスが動作していれば自動的に見つかります。</translation>
+    </message>
+    <message>
+        <source>Choose the computer that waits, or type its address.</source>
+        <translation>待っているコンピューターを選ぶか、アドレスを入力してください。</translation>
+    </message>
+    <message>
+        <source>No computer nearby has this switched on. You can also type its address.</source>
+        <translation>近くにこの機能がオンのコンピューターはありません。アドレスを入力することもできます。</translation>
+    </message>
+    <message>
+        <source>Pair</source>
+        <translation>ペアリング</translation>
+    </message>
+    <message>
+        <source>Pair with %1</source>
+        <translation>%1 とペアリング</translation>
+    </message>
+    <message>
+        <source>Address of the other computer</source>
+        <translation>もう一方のコンピューターのアドレス</translation>
+    </message>
+</context>
+<context>
+    <name>ComputerPairing</name>
+    <message>
+        <source>Waiting for the other computer</source>
+        <translation>もう一方のコンピューターを待っています</translation>
+    </message>
+    <message>
+        <source>Calling the other computer</source>
+        <translation>もう一方のコンピューターを呼び出しています</translation>
+    </message>
+    <message>
+        <source>Now confirm the code on the other computer</source>
+        <translation>もう一方のコンピューターでコードを確認してください</translation>
+    </message>
+    <message>
+        <source>Does %1 show the same code?</source>
+        <translation>%1 に同じコードが表示されていますか?</translation>
+    </message>
+    <message>
+        <source>Does the other computer show the same code?</source>
+        <translation>もう一方のコンピューターに同じコードが表示されていますか?</translation>
+    </message>
+    <message>
+        <source>Choose this computer there, or type its address: %1</source>
+        <translation>相手側でこのコンピューターを選ぶか、アドレスを入力してください: %1</translation>
+    </message>
+    <message>
+        <source>If the codes differ, somebody else is in between: answer no.</source>
+        <translation>コードが違う場合は、誰かが割り込んでいます。「いいえ」と答えてください。</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>いいえ</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Yes, pair</source>
+        <translation>はい、ペアリング</translation>
+    </message>
+</context>
+<context>
+    <name>AddressLine</name>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsNotice</name>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+</context>
+<context>
+    <name>LocationPage</name>
+    <message>
+        <source>Location service of the system</source>
+        <translation>システムの位置情報サービス</translation>
+    </message>
+    <message>
+        <source>GeoClue is asked for your city, and no closer. To find it, it may send which networks are around you to a service on the Internet. Without an answer the city of the time zone is used.</source>
+        <translation>GeoClue に都市だけを尋ねます。そのために、周囲のネットワークがインターネット上のサービスに送られることがあります。応答がなければタイムゾーンの都市を使います。</translation>
+    </message>
+    <message>
+        <source>City of the time zone</source>
+        <translation>タイムゾーンの都市</translation>
+    </message>
+    <message>
+        <source>%1. Nobody is asked.</source>
+        <translation>%1。どこにも問い合わせません。</translation>
+    </message>
+    <message>
+        <source>Your time zone has no city.</source>
+        <translation>このタイムゾーンには都市がありません。</translation>
+    </message>
+    <message>
+        <source>A place that I choose</source>
+        <translation>自分で選ぶ場所</translation>
+    </message>
+    <message>
+        <source>Nobody is asked.</source>
+        <translation>どこにも問い合わせません。</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>オフ</translation>
+    </message>
+    <message>
+        <source>Nothing follows the sun. Times that you set yourself still work.</source>
+        <translation>太陽には追従しません。自分で設定した時刻は引き続き使えます。</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>位置情報</translation>
+    </message>
+    <message>
+        <source>Functions that follow sunrise and sunset need to know roughly where you are. Nothing else uses it.</source>
+        <translation>日の出と日の入りに従う機能には、おおよその場所が必要です。ほかには使われません。</translation>
+    </message>
+    <message>
+        <source>Position in use</source>
+        <translation>使用中の位置</translation>
+    </message>
+    <message>
+        <source>It is sent, rounded to hundredths of a degree, to %1 for the times of sunrise and sunset.</source>
+        <translation>日の出と日の入りの時刻のため、100 分の 1 度に丸めて %1 に送られます。</translation>
+    </message>
+    <message>
+        <source>The times of sunrise and sunset are computed on this computer. The position is sent to nobody.</source>
+        <translation>日の出と日の入りの時刻はこのコンピューターで計算されます。位置はどこにも送られません。</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>なし</translation>
+    </message>
+</context>
+<context>
+    <name>PlaceChoice</name>
+    <message>
+        <source>Chosen place: %1</source>
+        <translation>選んだ場所: %1</translation>
+    </message>
+    <message>
+        <source>Chosen place</source>
+        <translation>選んだ場所</translation>
+    </message>
+    <message>
+        <source>City</source>
+        <translation>都市</translation>
+    </message>
+    <message>
+        <source>Of the cities that name a time zone. They are known here: nothing is sent.</source>
+        <translation>タイムゾーンの名前になっている都市から選べます。ここに保存されており、何も送られません。</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>検索</translation>
+    </message>
+    <message>
+        <source>Latitude</source>
+        <translation>緯度</translation>
+    </message>
+    <message>
+        <source>Degrees, north of the equator. South is negative.</source>
+        <translation>赤道から北への度数。南は負の数です。</translation>
+    </message>
+    <message>
+        <source>Longitude</source>
+        <translation>経度</translation>
+    </message>
+    <message>
+        <source>Degrees, east of Greenwich. West is negative.</source>
+        <translation>グリニッジから東への度数。西は負の数です。</translation>
+    </message>
+    <message>
+        <source>A latitude is a number from -90 to 90, a longitude one from -180 to 180.</source>
+        <translation>緯度は -90 から 90、経度は -180 から 180 の数です。</translation>
+    </message>
+</context>
+<context>
+    <name>LuComputers</name>
+    <message>
+        <source>The connection could not be switched on: %1.</source>
+        <translation>接続をオンにできませんでした: %1。</translation>
+    </message>
+    <message>
+        <source>This is neither an address, such as 192.168.1.7, nor the name of a computer.</source>
+        <translation>192.168.1.7 のようなアドレスでも、コンピューターの名前でもありません。</translation>
+    </message>
+    <message>
+        <source>Only a computer of your local network can be paired.</source>
+        <translation>ペアリングできるのはローカルネットワークのコンピューターだけです。</translation>
+    </message>
+    <message>
+        <source>No other computer has called within two minutes.</source>
+        <translation>2 分以内にほかのコンピューターからの呼び出しがありませんでした。</translation>
+    </message>
+    <message>
+        <source>The code was not confirmed on both computers within two minutes.</source>
+        <translation>2 分以内に両方のコンピューターでコードが確認されませんでした。</translation>
+    </message>
+    <message>
+        <source>No Lumen Desk answers there. Are both computers on the same network, is the connection switched on there, and does a firewall let it through?</source>
+        <translation>そこでは Lumen Desk が応答しません。2 台が同じネットワークにあるか、相手側で接続がオンか、ファイアウォールが通しているかを確認してください。</translation>
+    </message>
+    <message>
+        <source>The other computer is not waiting. Choose "Wait for the other computer" there first.</source>
+        <translation>相手のコンピューターは待っていません。先に相手側で「もう一方を待つ」を選んでください。</translation>
+    </message>
+    <message>
+        <source>The other computer did not confirm the code.</source>
+        <translation>相手のコンピューターでコードが確認されませんでした。</translation>
+    </message>
+    <message>
+        <source>What has called does not keep to the rules. Nothing was paired.</source>
+        <translation>呼び出し元が規則に従っていません。ペアリングは行われませんでした。</translation>
+    </message>
+    <message>
+        <source>No computer of this name was found.</source>
+        <translation>その名前のコンピューターは見つかりませんでした。</translation>
+    </message>
+</context>
+<context>
+    <name>LuPlace</name>
+    <message>
+        <source>%1° S</source>
+        <translation>南緯 %1°</translation>
+    </message>
+    <message>
+        <source>%1° N</source>
+        <translation>北緯 %1°</translation>
+    </message>
+    <message>
+        <source>%1° W</source>
+        <translation>西経 %1°</translation>
+    </message>
+    <message>
+        <source>%1° E</source>
+        <translation>東経 %1°</translation>
     </message>
 </context>
 </TS>

@@ -675,6 +675,14 @@
         <source>Advanced</source>
         <translation>고급</translation>
     </message>
+    <message>
+        <source>Location</source>
+        <translation>위치</translation>
+    </message>
+    <message>
+        <source>Two computers</source>
+        <translation>두 대의 컴퓨터</translation>
+    </message>
 </context>
 <context>
     <name>Tray</name>
@@ -813,6 +821,372 @@
     <message>
         <source>%1 leads to another monitor now; nothing was sent to it.</source>
         <translation>%1이(가) 이제 다른 모니터에 연결되어 있습니다. 그 모니터에는 아무것도 보내지 않았습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>ComputersPage</name>
+    <message>
+        <source>Two computers</source>
+        <translation>두 대의 컴퓨터</translation>
+    </message>
+    <message>
+        <source>Two computers that share a monitor can hand over keyboard and mouse at the edge of the screen. Connected, they agree who has the pointer, and it enters where it left.</source>
+        <translation>모니터를 함께 쓰는 두 컴퓨터는 화면 가장자리에서 키보드와 마우스를 넘겨줄 수 있습니다. 연결되면 포인터가 어느 쪽에 있는지 서로 알고, 나간 곳으로 들어옵니다.</translation>
+    </message>
+    <message>
+        <source>Connection to a second computer</source>
+        <translation>두 번째 컴퓨터와의 연결</translation>
+    </message>
+    <message>
+        <source>Only the computer that you pair can connect, encrypted, on your local network. It learns where the pointer is: no keys, texts or files are sent. While it is on, the network sees this computer's name.</source>
+        <translation>페어링한 컴퓨터만 로컬 네트워크에서 암호화하여 연결할 수 있습니다. 포인터의 위치만 알게 되며 키, 텍스트, 파일은 전송되지 않습니다. 켜져 있는 동안 네트워크에 이 컴퓨터의 이름이 보입니다.</translation>
+    </message>
+    <message>
+        <source>This computer</source>
+        <translation>이 컴퓨터</translation>
+    </message>
+    <message>
+        <source>It has no address on a local network.</source>
+        <translation>로컬 네트워크 주소가 없습니다.</translation>
+    </message>
+    <message>
+        <source>Paired computer</source>
+        <translation>페어링된 컴퓨터</translation>
+    </message>
+    <message>
+        <source>Pair again</source>
+        <translation>다시 페어링</translation>
+    </message>
+    <message>
+        <source>Pair a computer</source>
+        <translation>컴퓨터 페어링</translation>
+    </message>
+</context>
+<context>
+    <name>PairedComputer</name>
+    <message>
+        <source>Computer without a name</source>
+        <translation>이름 없는 컴퓨터</translation>
+    </message>
+    <message>
+        <source>Last met at %1</source>
+        <translation>마지막 주소: %1</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>꺼짐</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>연결됨</translation>
+    </message>
+    <message>
+        <source>Not paired there</source>
+        <translation>상대가 모름</translation>
+    </message>
+    <message>
+        <source>Searching</source>
+        <translation>찾는 중</translation>
+    </message>
+    <message>
+        <source>It answers, and does not know this computer any more. Pair the two anew.</source>
+        <translation>응답하지만 이 컴퓨터를 더 이상 알지 못합니다. 두 컴퓨터를 다시 페어링하세요.</translation>
+    </message>
+    <message>
+        <source>It is found again by itself once it runs in the same network. If it has another address, you can type it here.</source>
+        <translation>같은 네트워크에서 실행되면 자동으로 다시 찾습니다. 주소가 바뀌었다면 여기에 입력할 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>Another address</source>
+        <translation>다른 주소</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>지우기</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>연결</translation>
+    </message>
+    <message>
+        <source>Forget %1?</source>
+        <translation>%1을(를) 지울까요?</translation>
+    </message>
+    <message>
+        <source>The two do not connect any more until they are paired again.</source>
+        <translation>다시 페어링할 때까지 두 컴퓨터는 연결되지 않습니다.</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>유지</translation>
+    </message>
+</context>
+<context>
+    <name>ComputerChoice</name>
+    <message>
+        <source>1. On one computer</source>
+        <translation>1. 한 컴퓨터에서</translation>
+    </message>
+    <message>
+        <source>It waits for two minutes, for one call.</source>
+        <translation>2분 동안 한 번의 호출을 기다립니다.</translation>
+    </message>
+    <message>
+        <source>Wait for the other computer</source>
+        <translation>다른 컴퓨터 기다리기</translation>
+    </message>
+    <message>
+        <source>2. On the other computer</source>
+        <translation>2. 다른 컴퓨터에서</translation>
+    </message>
+    <message>
+        <source>Type the address of the computer that waits. Where the service Avahi runs, it is found by itself.</source>
+        <translation>기다리는 컴퓨터의 주소를 입력하세요. Avahi 서비스가 실행 중이면 자동으로 찾습니다.</translation>
+    </message>
+    <message>
+        <source>Choose the computer that waits, or type its address.</source>
+        <translation>기다리는 컴퓨터를 선택하거나 주소를 입력하세요.</translation>
+    </message>
+    <message>
+        <source>No computer nearby has this switched on. You can also type its address.</source>
+        <translation>근처에 이 기능을 켠 컴퓨터가 없습니다. 주소를 입력할 수도 있습니다.</translation>
+    </message>
+    <message>
+        <source>Pair</source>
+        <translation>페어링</translation>
+    </message>
+    <message>
+        <source>Pair with %1</source>
+        <translation>%1과(와) 페어링</translation>
+    </message>
+    <message>
+        <source>Address of the other computer</source>
+        <translation>다른 컴퓨터의 주소</translation>
+    </message>
+</context>
+<context>
+    <name>ComputerPairing</name>
+    <message>
+        <source>Waiting for the other computer</source>
+        <translation>다른 컴퓨터를 기다리는 중</translation>
+    </message>
+    <message>
+        <source>Calling the other computer</source>
+        <translation>다른 컴퓨터를 호출하는 중</translation>
+    </message>
+    <message>
+        <source>Now confirm the code on the other computer</source>
+        <translation>이제 다른 컴퓨터에서 코드를 확인하세요</translation>
+    </message>
+    <message>
+        <source>Does %1 show the same code?</source>
+        <translation>%1에 같은 코드가 표시됩니까?</translation>
+    </message>
+    <message>
+        <source>Does the other computer show the same code?</source>
+        <translation>다른 컴퓨터에 같은 코드가 표시됩니까?</translation>
+    </message>
+    <message>
+        <source>Choose this computer there, or type its address: %1</source>
+        <translation>거기에서 이 컴퓨터를 선택하거나 주소를 입력하세요: %1</translation>
+    </message>
+    <message>
+        <source>If the codes differ, somebody else is in between: answer no.</source>
+        <translation>코드가 다르면 누군가 중간에 있는 것입니다. 아니요를 선택하세요.</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>아니요</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>Yes, pair</source>
+        <translation>예, 페어링</translation>
+    </message>
+</context>
+<context>
+    <name>AddressLine</name>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsNotice</name>
+    <message>
+        <source>Close</source>
+        <translation>닫기</translation>
+    </message>
+</context>
+<context>
+    <name>LocationPage</name>
+    <message>
+        <source>Location service of the system</source>
+        <translation>시스템 위치 서비스</translation>
+    </message>
+    <message>
+        <source>GeoClue is asked for your city, and no closer. To find it, it may send which networks are around you to a service on the Internet. Without an answer the city of the time zone is used.</source>
+        <translation>GeoClue에 도시만 묻습니다. 이를 위해 주변 네트워크를 인터넷 서비스에 보낼 수 있습니다. 응답이 없으면 시간대의 도시를 씁니다.</translation>
+    </message>
+    <message>
+        <source>City of the time zone</source>
+        <translation>시간대의 도시</translation>
+    </message>
+    <message>
+        <source>%1. Nobody is asked.</source>
+        <translation>%1. 아무에게도 묻지 않습니다.</translation>
+    </message>
+    <message>
+        <source>Your time zone has no city.</source>
+        <translation>이 시간대에는 도시가 없습니다.</translation>
+    </message>
+    <message>
+        <source>A place that I choose</source>
+        <translation>직접 고른 장소</translation>
+    </message>
+    <message>
+        <source>Nobody is asked.</source>
+        <translation>아무에게도 묻지 않습니다.</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>꺼짐</translation>
+    </message>
+    <message>
+        <source>Nothing follows the sun. Times that you set yourself still work.</source>
+        <translation>해를 따르지 않습니다. 직접 정한 시간은 계속 작동합니다.</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>위치</translation>
+    </message>
+    <message>
+        <source>Functions that follow sunrise and sunset need to know roughly where you are. Nothing else uses it.</source>
+        <translation>일출과 일몰을 따르는 기능은 대략적인 위치를 알아야 합니다. 다른 곳에는 쓰이지 않습니다.</translation>
+    </message>
+    <message>
+        <source>Position in use</source>
+        <translation>사용 중인 위치</translation>
+    </message>
+    <message>
+        <source>It is sent, rounded to hundredths of a degree, to %1 for the times of sunrise and sunset.</source>
+        <translation>일출과 일몰 시간을 위해 100분의 1도로 반올림하여 %1(으)로 보냅니다.</translation>
+    </message>
+    <message>
+        <source>The times of sunrise and sunset are computed on this computer. The position is sent to nobody.</source>
+        <translation>일출과 일몰 시간은 이 컴퓨터에서 계산됩니다. 위치는 아무에게도 보내지 않습니다.</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>없음</translation>
+    </message>
+</context>
+<context>
+    <name>PlaceChoice</name>
+    <message>
+        <source>Chosen place: %1</source>
+        <translation>고른 장소: %1</translation>
+    </message>
+    <message>
+        <source>Chosen place</source>
+        <translation>고른 장소</translation>
+    </message>
+    <message>
+        <source>City</source>
+        <translation>도시</translation>
+    </message>
+    <message>
+        <source>Of the cities that name a time zone. They are known here: nothing is sent.</source>
+        <translation>시간대 이름이 된 도시 중에서 고릅니다. 여기에 저장되어 있어 아무것도 보내지 않습니다.</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>검색</translation>
+    </message>
+    <message>
+        <source>Latitude</source>
+        <translation>위도</translation>
+    </message>
+    <message>
+        <source>Degrees, north of the equator. South is negative.</source>
+        <translation>적도에서 북쪽으로의 도수. 남쪽은 음수입니다.</translation>
+    </message>
+    <message>
+        <source>Longitude</source>
+        <translation>경도</translation>
+    </message>
+    <message>
+        <source>Degrees, east of Greenwich. West is negative.</source>
+        <translation>그리니치에서 동쪽으로의 도수. 서쪽은 음수입니다.</translation>
+    </message>
+    <message>
+        <source>A latitude is a number from -90 to 90, a longitude one from -180 to 180.</source>
+        <translation>위도는 -90에서 90, 경도는 -180에서 180 사이의 수입니다.</translation>
+    </message>
+</context>
+<context>
+    <name>LuComputers</name>
+    <message>
+        <source>The connection could not be switched on: %1.</source>
+        <translation>연결을 켤 수 없습니다: %1.</translation>
+    </message>
+    <message>
+        <source>This is neither an address, such as 192.168.1.7, nor the name of a computer.</source>
+        <translation>192.168.1.7 같은 주소도, 컴퓨터 이름도 아닙니다.</translation>
+    </message>
+    <message>
+        <source>Only a computer of your local network can be paired.</source>
+        <translation>로컬 네트워크의 컴퓨터만 페어링할 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>No other computer has called within two minutes.</source>
+        <translation>2분 안에 다른 컴퓨터의 호출이 없었습니다.</translation>
+    </message>
+    <message>
+        <source>The code was not confirmed on both computers within two minutes.</source>
+        <translation>2분 안에 두 컴퓨터에서 코드가 확인되지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>No Lumen Desk answers there. Are both computers on the same network, is the connection switched on there, and does a firewall let it through?</source>
+        <translation>그곳에서 Lumen Desk가 응답하지 않습니다. 두 컴퓨터가 같은 네트워크에 있는지, 그쪽 연결이 켜져 있는지, 방화벽이 허용하는지 확인하세요.</translation>
+    </message>
+    <message>
+        <source>The other computer is not waiting. Choose "Wait for the other computer" there first.</source>
+        <translation>다른 컴퓨터가 기다리고 있지 않습니다. 먼저 그쪽에서 "다른 컴퓨터 기다리기"를 선택하세요.</translation>
+    </message>
+    <message>
+        <source>The other computer did not confirm the code.</source>
+        <translation>다른 컴퓨터가 코드를 확인하지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>What has called does not keep to the rules. Nothing was paired.</source>
+        <translation>호출한 쪽이 규칙을 지키지 않습니다. 페어링되지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>No computer of this name was found.</source>
+        <translation>이 이름의 컴퓨터를 찾지 못했습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>LuPlace</name>
+    <message>
+        <source>%1° S</source>
+        <translation>남위 %1°</translation>
+    </message>
+    <message>
+        <source>%1° N</source>
+        <translation>북위 %1°</translation>
+    </message>
+    <message>
+        <source>%1° W</source>
+        <translation>서경 %1°</translation>
+    </message>
+    <message>
+        <source>%1° E</source>
+        <translation>동경 %1°</translation>
     </message>
 </context>
 </TS>

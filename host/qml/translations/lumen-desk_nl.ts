@@ -675,6 +675,14 @@
         <source>Advanced</source>
         <translation>Geavanceerd</translation>
     </message>
+    <message>
+        <source>Location</source>
+        <translation>Locatie</translation>
+    </message>
+    <message>
+        <source>Two computers</source>
+        <translation>Twee computers</translation>
+    </message>
 </context>
 <context>
     <name>Tray</name>
@@ -813,6 +821,372 @@
     <message>
         <source>%1 leads to another monitor now; nothing was sent to it.</source>
         <translation>%1 leidt nu naar een andere monitor; er is niets naartoe gestuurd.</translation>
+    </message>
+</context>
+<context>
+    <name>ComputersPage</name>
+    <message>
+        <source>Two computers</source>
+        <translation>Twee computers</translation>
+    </message>
+    <message>
+        <source>Two computers that share a monitor can hand over keyboard and mouse at the edge of the screen. Connected, they agree who has the pointer, and it enters where it left.</source>
+        <translation>Twee computers aan één monitor kunnen toetsenbord en muis overdragen aan de rand van het scherm. Verbonden spreken ze af wie de aanwijzer heeft, en hij komt binnen waar hij vertrok.</translation>
+    </message>
+    <message>
+        <source>Connection to a second computer</source>
+        <translation>Verbinding met een tweede computer</translation>
+    </message>
+    <message>
+        <source>Only the computer that you pair can connect, encrypted, on your local network. It learns where the pointer is: no keys, texts or files are sent. While it is on, the network sees this computer's name.</source>
+        <translation>Alleen de computer die u koppelt kan verbinden, versleuteld en in uw lokale netwerk. Hij weet waar de aanwijzer is: toetsen, teksten en bestanden worden niet verzonden. Zolang ze aan is, ziet het netwerk de naam van deze computer.</translation>
+    </message>
+    <message>
+        <source>This computer</source>
+        <translation>Deze computer</translation>
+    </message>
+    <message>
+        <source>It has no address on a local network.</source>
+        <translation>Hij heeft geen adres in een lokaal netwerk.</translation>
+    </message>
+    <message>
+        <source>Paired computer</source>
+        <translation>Gekoppelde computer</translation>
+    </message>
+    <message>
+        <source>Pair again</source>
+        <translation>Opnieuw koppelen</translation>
+    </message>
+    <message>
+        <source>Pair a computer</source>
+        <translation>Een computer koppelen</translation>
+    </message>
+</context>
+<context>
+    <name>PairedComputer</name>
+    <message>
+        <source>Computer without a name</source>
+        <translation>Computer zonder naam</translation>
+    </message>
+    <message>
+        <source>Last met at %1</source>
+        <translation>Laatst gezien op %1</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Uit</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Verbonden</translation>
+    </message>
+    <message>
+        <source>Not paired there</source>
+        <translation>Daar niet gekoppeld</translation>
+    </message>
+    <message>
+        <source>Searching</source>
+        <translation>Zoeken</translation>
+    </message>
+    <message>
+        <source>It answers, and does not know this computer any more. Pair the two anew.</source>
+        <translation>Hij antwoordt, maar kent deze computer niet meer. Koppel de twee opnieuw.</translation>
+    </message>
+    <message>
+        <source>It is found again by itself once it runs in the same network. If it has another address, you can type it here.</source>
+        <translation>Hij wordt vanzelf teruggevonden zodra hij in hetzelfde netwerk draait. Heeft hij een ander adres, dan kunt u het hier invoeren.</translation>
+    </message>
+    <message>
+        <source>Another address</source>
+        <translation>Ander adres</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>Vergeten</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>Verbinden</translation>
+    </message>
+    <message>
+        <source>Forget %1?</source>
+        <translation>%1 vergeten?</translation>
+    </message>
+    <message>
+        <source>The two do not connect any more until they are paired again.</source>
+        <translation>De twee verbinden niet meer tot ze opnieuw gekoppeld zijn.</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Behouden</translation>
+    </message>
+</context>
+<context>
+    <name>ComputerChoice</name>
+    <message>
+        <source>1. On one computer</source>
+        <translation>1. Op de ene computer</translation>
+    </message>
+    <message>
+        <source>It waits for two minutes, for one call.</source>
+        <translation>Hij wacht twee minuten op één oproep.</translation>
+    </message>
+    <message>
+        <source>Wait for the other computer</source>
+        <translation>Wachten op de andere computer</translation>
+    </message>
+    <message>
+        <source>2. On the other computer</source>
+        <translation>2. Op de andere computer</translation>
+    </message>
+    <message>
+        <source>Type the address of the computer that waits. Where the service Avahi runs, it is found by itself.</source>
+        <translation>Voer het adres in van de computer die wacht. Waar de dienst Avahi draait, wordt hij vanzelf gevonden.</translation>
+    </message>
+    <message>
+        <source>Choose the computer that waits, or type its address.</source>
+        <translation>Kies de computer die wacht, of voer zijn adres in.</translation>
+    </message>
+    <message>
+        <source>No computer nearby has this switched on. You can also type its address.</source>
+        <translation>Geen computer in de buurt heeft dit ingeschakeld. U kunt ook zijn adres invoeren.</translation>
+    </message>
+    <message>
+        <source>Pair</source>
+        <translation>Koppelen</translation>
+    </message>
+    <message>
+        <source>Pair with %1</source>
+        <translation>Koppelen met %1</translation>
+    </message>
+    <message>
+        <source>Address of the other computer</source>
+        <translation>Adres van de andere computer</translation>
+    </message>
+</context>
+<context>
+    <name>ComputerPairing</name>
+    <message>
+        <source>Waiting for the other computer</source>
+        <translation>Wachten op de andere computer</translation>
+    </message>
+    <message>
+        <source>Calling the other computer</source>
+        <translation>De andere computer wordt opgeroepen</translation>
+    </message>
+    <message>
+        <source>Now confirm the code on the other computer</source>
+        <translation>Bevestig de code nu op de andere computer</translation>
+    </message>
+    <message>
+        <source>Does %1 show the same code?</source>
+        <translation>Toont %1 dezelfde code?</translation>
+    </message>
+    <message>
+        <source>Does the other computer show the same code?</source>
+        <translation>Toont de andere computer dezelfde code?</translation>
+    </message>
+    <message>
+        <source>Choose this computer there, or type its address: %1</source>
+        <translation>Kies daar deze computer, of voer zijn adres in: %1</translation>
+    </message>
+    <message>
+        <source>If the codes differ, somebody else is in between: answer no.</source>
+        <translation>Verschillen de codes, dan zit er iemand tussen: antwoord nee.</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Nee</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+    <message>
+        <source>Yes, pair</source>
+        <translation>Ja, koppelen</translation>
+    </message>
+</context>
+<context>
+    <name>AddressLine</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsNotice</name>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
+</context>
+<context>
+    <name>LocationPage</name>
+    <message>
+        <source>Location service of the system</source>
+        <translation>Locatiedienst van het systeem</translation>
+    </message>
+    <message>
+        <source>GeoClue is asked for your city, and no closer. To find it, it may send which networks are around you to a service on the Internet. Without an answer the city of the time zone is used.</source>
+        <translation>GeoClue wordt naar uw stad gevraagd, en niet preciezer. Daarvoor kan het een dienst op internet melden welke netwerken om u heen zijn. Zonder antwoord geldt de stad van de tijdzone.</translation>
+    </message>
+    <message>
+        <source>City of the time zone</source>
+        <translation>Stad van de tijdzone</translation>
+    </message>
+    <message>
+        <source>%1. Nobody is asked.</source>
+        <translation>%1. Niemand wordt gevraagd.</translation>
+    </message>
+    <message>
+        <source>Your time zone has no city.</source>
+        <translation>Uw tijdzone heeft geen stad.</translation>
+    </message>
+    <message>
+        <source>A place that I choose</source>
+        <translation>Een plaats die ik kies</translation>
+    </message>
+    <message>
+        <source>Nobody is asked.</source>
+        <translation>Niemand wordt gevraagd.</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Uit</translation>
+    </message>
+    <message>
+        <source>Nothing follows the sun. Times that you set yourself still work.</source>
+        <translation>Niets volgt de zon. Tijden die u zelf instelt, blijven werken.</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Locatie</translation>
+    </message>
+    <message>
+        <source>Functions that follow sunrise and sunset need to know roughly where you are. Nothing else uses it.</source>
+        <translation>Functies die zonsopgang en zonsondergang volgen, moeten ongeveer weten waar u bent. Niets anders gebruikt dat.</translation>
+    </message>
+    <message>
+        <source>Position in use</source>
+        <translation>Gebruikte positie</translation>
+    </message>
+    <message>
+        <source>It is sent, rounded to hundredths of a degree, to %1 for the times of sunrise and sunset.</source>
+        <translation>Ze wordt, afgerond op honderdsten van een graad, naar %1 gestuurd voor de tijden van zonsopgang en zonsondergang.</translation>
+    </message>
+    <message>
+        <source>The times of sunrise and sunset are computed on this computer. The position is sent to nobody.</source>
+        <translation>De tijden van zonsopgang en zonsondergang worden op deze computer berekend. De positie wordt naar niemand gestuurd.</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Geen</translation>
+    </message>
+</context>
+<context>
+    <name>PlaceChoice</name>
+    <message>
+        <source>Chosen place: %1</source>
+        <translation>Gekozen plaats: %1</translation>
+    </message>
+    <message>
+        <source>Chosen place</source>
+        <translation>Gekozen plaats</translation>
+    </message>
+    <message>
+        <source>City</source>
+        <translation>Stad</translation>
+    </message>
+    <message>
+        <source>Of the cities that name a time zone. They are known here: nothing is sent.</source>
+        <translation>Uit de steden die een tijdzone hun naam geven. Ze zijn hier bekend: er wordt niets verzonden.</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Zoeken</translation>
+    </message>
+    <message>
+        <source>Latitude</source>
+        <translation>Breedte</translation>
+    </message>
+    <message>
+        <source>Degrees, north of the equator. South is negative.</source>
+        <translation>Graden ten noorden van de evenaar. Zuid is negatief.</translation>
+    </message>
+    <message>
+        <source>Longitude</source>
+        <translation>Lengte</translation>
+    </message>
+    <message>
+        <source>Degrees, east of Greenwich. West is negative.</source>
+        <translation>Graden ten oosten van Greenwich. West is negatief.</translation>
+    </message>
+    <message>
+        <source>A latitude is a number from -90 to 90, a longitude one from -180 to 180.</source>
+        <translation>Een breedte is een getal van -90 tot 90, een lengte van -180 tot 180.</translation>
+    </message>
+</context>
+<context>
+    <name>LuComputers</name>
+    <message>
+        <source>The connection could not be switched on: %1.</source>
+        <translation>De verbinding kon niet worden ingeschakeld: %1.</translation>
+    </message>
+    <message>
+        <source>This is neither an address, such as 192.168.1.7, nor the name of a computer.</source>
+        <translation>Dit is geen adres, zoals 192.168.1.7, en geen naam van een computer.</translation>
+    </message>
+    <message>
+        <source>Only a computer of your local network can be paired.</source>
+        <translation>Alleen een computer in uw lokale netwerk kan worden gekoppeld.</translation>
+    </message>
+    <message>
+        <source>No other computer has called within two minutes.</source>
+        <translation>Geen andere computer heeft zich binnen twee minuten gemeld.</translation>
+    </message>
+    <message>
+        <source>The code was not confirmed on both computers within two minutes.</source>
+        <translation>De code is niet binnen twee minuten op beide computers bevestigd.</translation>
+    </message>
+    <message>
+        <source>No Lumen Desk answers there. Are both computers on the same network, is the connection switched on there, and does a firewall let it through?</source>
+        <translation>Daar antwoordt geen Lumen Desk. Zijn beide computers in hetzelfde netwerk, is de verbinding daar ingeschakeld en laat een firewall haar door?</translation>
+    </message>
+    <message>
+        <source>The other computer is not waiting. Choose "Wait for the other computer" there first.</source>
+        <translation>De andere computer wacht niet. Kies daar eerst „Wachten op de andere computer”.</translation>
+    </message>
+    <message>
+        <source>The other computer did not confirm the code.</source>
+        <translation>De andere computer heeft de code niet bevestigd.</translation>
+    </message>
+    <message>
+        <source>What has called does not keep to the rules. Nothing was paired.</source>
+        <translation>De beller houdt zich niet aan de regels. Er is niets gekoppeld.</translation>
+    </message>
+    <message>
+        <source>No computer of this name was found.</source>
+        <translation>Er is geen computer met deze naam gevonden.</translation>
+    </message>
+</context>
+<context>
+    <name>LuPlace</name>
+    <message>
+        <source>%1° S</source>
+        <translation>%1° Z</translation>
+    </message>
+    <message>
+        <source>%1° N</source>
+        <translation>%1° N</translation>
+    </message>
+    <message>
+        <source>%1° W</source>
+        <translation>%1° W</translation>
+    </message>
+    <message>
+        <source>%1° E</source>
+        <translation>%1° O</translation>
     </message>
 </context>
 </TS>

@@ -675,6 +675,14 @@
         <source>Advanced</source>
         <translation>Zaawansowane</translation>
     </message>
+    <message>
+        <source>Location</source>
+        <translation>Położenie</translation>
+    </message>
+    <message>
+        <source>Two computers</source>
+        <translation>Dwa komputery</translation>
+    </message>
 </context>
 <context>
     <name>Tray</name>
@@ -813,6 +821,372 @@
     <message>
         <source>%1 leads to another monitor now; nothing was sent to it.</source>
         <translation>%1 prowadzi teraz do innego monitora; nic do niego nie wysłano.</translation>
+    </message>
+</context>
+<context>
+    <name>ComputersPage</name>
+    <message>
+        <source>Two computers</source>
+        <translation>Dwa komputery</translation>
+    </message>
+    <message>
+        <source>Two computers that share a monitor can hand over keyboard and mouse at the edge of the screen. Connected, they agree who has the pointer, and it enters where it left.</source>
+        <translation>Dwa komputery przy jednym monitorze mogą przekazywać sobie klawiaturę i mysz na krawędzi ekranu. Połączone uzgadniają, kto ma wskaźnik, a ten wchodzi tam, gdzie wyszedł.</translation>
+    </message>
+    <message>
+        <source>Connection to a second computer</source>
+        <translation>Połączenie z drugim komputerem</translation>
+    </message>
+    <message>
+        <source>Only the computer that you pair can connect, encrypted, on your local network. It learns where the pointer is: no keys, texts or files are sent. While it is on, the network sees this computer's name.</source>
+        <translation>Połączyć się może tylko sparowany komputer, z szyfrowaniem i w sieci lokalnej. Dowiaduje się, gdzie jest wskaźnik: klawisze, teksty ani pliki nie są wysyłane. Gdy jest włączone, sieć widzi nazwę tego komputera.</translation>
+    </message>
+    <message>
+        <source>This computer</source>
+        <translation>Ten komputer</translation>
+    </message>
+    <message>
+        <source>It has no address on a local network.</source>
+        <translation>Nie ma adresu w sieci lokalnej.</translation>
+    </message>
+    <message>
+        <source>Paired computer</source>
+        <translation>Sparowany komputer</translation>
+    </message>
+    <message>
+        <source>Pair again</source>
+        <translation>Sparuj ponownie</translation>
+    </message>
+    <message>
+        <source>Pair a computer</source>
+        <translation>Sparuj komputer</translation>
+    </message>
+</context>
+<context>
+    <name>PairedComputer</name>
+    <message>
+        <source>Computer without a name</source>
+        <translation>Komputer bez nazwy</translation>
+    </message>
+    <message>
+        <source>Last met at %1</source>
+        <translation>Ostatnio pod %1</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Wyłączone</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Połączony</translation>
+    </message>
+    <message>
+        <source>Not paired there</source>
+        <translation>Tam niesparowany</translation>
+    </message>
+    <message>
+        <source>Searching</source>
+        <translation>Szukanie</translation>
+    </message>
+    <message>
+        <source>It answers, and does not know this computer any more. Pair the two anew.</source>
+        <translation>Odpowiada, ale nie zna już tego komputera. Sparuj je ponownie.</translation>
+    </message>
+    <message>
+        <source>It is found again by itself once it runs in the same network. If it has another address, you can type it here.</source>
+        <translation>Odnajdzie się sam, gdy będzie działać w tej samej sieci. Jeśli ma inny adres, możesz go tu wpisać.</translation>
+    </message>
+    <message>
+        <source>Another address</source>
+        <translation>Inny adres</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>Zapomnij</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>Połącz</translation>
+    </message>
+    <message>
+        <source>Forget %1?</source>
+        <translation>Zapomnieć %1?</translation>
+    </message>
+    <message>
+        <source>The two do not connect any more until they are paired again.</source>
+        <translation>Komputery nie połączą się, dopóki nie zostaną ponownie sparowane.</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Zachowaj</translation>
+    </message>
+</context>
+<context>
+    <name>ComputerChoice</name>
+    <message>
+        <source>1. On one computer</source>
+        <translation>1. Na jednym komputerze</translation>
+    </message>
+    <message>
+        <source>It waits for two minutes, for one call.</source>
+        <translation>Czeka dwie minuty na jedno połączenie.</translation>
+    </message>
+    <message>
+        <source>Wait for the other computer</source>
+        <translation>Czekaj na drugi komputer</translation>
+    </message>
+    <message>
+        <source>2. On the other computer</source>
+        <translation>2. Na drugim komputerze</translation>
+    </message>
+    <message>
+        <source>Type the address of the computer that waits. Where the service Avahi runs, it is found by itself.</source>
+        <translation>Wpisz adres czekającego komputera. Gdzie działa usługa Avahi, znajdzie się sam.</translation>
+    </message>
+    <message>
+        <source>Choose the computer that waits, or type its address.</source>
+        <translation>Wybierz czekający komputer lub wpisz jego adres.</translation>
+    </message>
+    <message>
+        <source>No computer nearby has this switched on. You can also type its address.</source>
+        <translation>Żaden komputer w pobliżu nie ma tego włączonego. Możesz też wpisać jego adres.</translation>
+    </message>
+    <message>
+        <source>Pair</source>
+        <translation>Sparuj</translation>
+    </message>
+    <message>
+        <source>Pair with %1</source>
+        <translation>Sparuj z %1</translation>
+    </message>
+    <message>
+        <source>Address of the other computer</source>
+        <translation>Adres drugiego komputera</translation>
+    </message>
+</context>
+<context>
+    <name>ComputerPairing</name>
+    <message>
+        <source>Waiting for the other computer</source>
+        <translation>Czekanie na drugi komputer</translation>
+    </message>
+    <message>
+        <source>Calling the other computer</source>
+        <translation>Łączenie z drugim komputerem</translation>
+    </message>
+    <message>
+        <source>Now confirm the code on the other computer</source>
+        <translation>Teraz potwierdź kod na drugim komputerze</translation>
+    </message>
+    <message>
+        <source>Does %1 show the same code?</source>
+        <translation>Czy %1 pokazuje ten sam kod?</translation>
+    </message>
+    <message>
+        <source>Does the other computer show the same code?</source>
+        <translation>Czy drugi komputer pokazuje ten sam kod?</translation>
+    </message>
+    <message>
+        <source>Choose this computer there, or type its address: %1</source>
+        <translation>Wybierz tam ten komputer lub wpisz jego adres: %1</translation>
+    </message>
+    <message>
+        <source>If the codes differ, somebody else is in between: answer no.</source>
+        <translation>Jeśli kody się różnią, ktoś jest pomiędzy: odpowiedz nie.</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Nie</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Anuluj</translation>
+    </message>
+    <message>
+        <source>Yes, pair</source>
+        <translation>Tak, sparuj</translation>
+    </message>
+</context>
+<context>
+    <name>AddressLine</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Anuluj</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsNotice</name>
+    <message>
+        <source>Close</source>
+        <translation>Zamknij</translation>
+    </message>
+</context>
+<context>
+    <name>LocationPage</name>
+    <message>
+        <source>Location service of the system</source>
+        <translation>Usługa lokalizacji systemu</translation>
+    </message>
+    <message>
+        <source>GeoClue is asked for your city, and no closer. To find it, it may send which networks are around you to a service on the Internet. Without an answer the city of the time zone is used.</source>
+        <translation>GeoClue jest pytany o miasto, nic dokładniejszego. Aby je znaleźć, może wysłać do usługi w Internecie, jakie sieci są wokół. Bez odpowiedzi używane jest miasto strefy czasowej.</translation>
+    </message>
+    <message>
+        <source>City of the time zone</source>
+        <translation>Miasto strefy czasowej</translation>
+    </message>
+    <message>
+        <source>%1. Nobody is asked.</source>
+        <translation>%1. Nikt nie jest pytany.</translation>
+    </message>
+    <message>
+        <source>Your time zone has no city.</source>
+        <translation>Twoja strefa czasowa nie ma miasta.</translation>
+    </message>
+    <message>
+        <source>A place that I choose</source>
+        <translation>Miejsce, które wybiorę</translation>
+    </message>
+    <message>
+        <source>Nobody is asked.</source>
+        <translation>Nikt nie jest pytany.</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Wyłączone</translation>
+    </message>
+    <message>
+        <source>Nothing follows the sun. Times that you set yourself still work.</source>
+        <translation>Nic nie podąża za słońcem. Godziny ustawione samodzielnie nadal działają.</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Położenie</translation>
+    </message>
+    <message>
+        <source>Functions that follow sunrise and sunset need to know roughly where you are. Nothing else uses it.</source>
+        <translation>Funkcje podążające za wschodem i zachodem słońca muszą mniej więcej wiedzieć, gdzie jesteś. Nic innego tego nie używa.</translation>
+    </message>
+    <message>
+        <source>Position in use</source>
+        <translation>Używane położenie</translation>
+    </message>
+    <message>
+        <source>It is sent, rounded to hundredths of a degree, to %1 for the times of sunrise and sunset.</source>
+        <translation>Jest wysyłane, zaokrąglone do setnych stopnia, do %1 dla godzin wschodu i zachodu słońca.</translation>
+    </message>
+    <message>
+        <source>The times of sunrise and sunset are computed on this computer. The position is sent to nobody.</source>
+        <translation>Godziny wschodu i zachodu słońca są obliczane na tym komputerze. Położenie nie jest nikomu wysyłane.</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Brak</translation>
+    </message>
+</context>
+<context>
+    <name>PlaceChoice</name>
+    <message>
+        <source>Chosen place: %1</source>
+        <translation>Wybrane miejsce: %1</translation>
+    </message>
+    <message>
+        <source>Chosen place</source>
+        <translation>Wybrane miejsce</translation>
+    </message>
+    <message>
+        <source>City</source>
+        <translation>Miasto</translation>
+    </message>
+    <message>
+        <source>Of the cities that name a time zone. They are known here: nothing is sent.</source>
+        <translation>Z miast, od których nazwano strefy czasowe. Są znane tutaj: nic nie jest wysyłane.</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Szukaj</translation>
+    </message>
+    <message>
+        <source>Latitude</source>
+        <translation>Szerokość</translation>
+    </message>
+    <message>
+        <source>Degrees, north of the equator. South is negative.</source>
+        <translation>Stopnie na północ od równika. Południe jest ujemne.</translation>
+    </message>
+    <message>
+        <source>Longitude</source>
+        <translation>Długość</translation>
+    </message>
+    <message>
+        <source>Degrees, east of Greenwich. West is negative.</source>
+        <translation>Stopnie na wschód od Greenwich. Zachód jest ujemny.</translation>
+    </message>
+    <message>
+        <source>A latitude is a number from -90 to 90, a longitude one from -180 to 180.</source>
+        <translation>Szerokość to liczba od -90 do 90, długość od -180 do 180.</translation>
+    </message>
+</context>
+<context>
+    <name>LuComputers</name>
+    <message>
+        <source>The connection could not be switched on: %1.</source>
+        <translation>Nie udało się włączyć połączenia: %1.</translation>
+    </message>
+    <message>
+        <source>This is neither an address, such as 192.168.1.7, nor the name of a computer.</source>
+        <translation>To nie jest adres, taki jak 192.168.1.7, ani nazwa komputera.</translation>
+    </message>
+    <message>
+        <source>Only a computer of your local network can be paired.</source>
+        <translation>Sparować można tylko komputer z sieci lokalnej.</translation>
+    </message>
+    <message>
+        <source>No other computer has called within two minutes.</source>
+        <translation>W ciągu dwóch minut nie zgłosił się inny komputer.</translation>
+    </message>
+    <message>
+        <source>The code was not confirmed on both computers within two minutes.</source>
+        <translation>Kod nie został potwierdzony na obu komputerach w ciągu dwóch minut.</translation>
+    </message>
+    <message>
+        <source>No Lumen Desk answers there. Are both computers on the same network, is the connection switched on there, and does a firewall let it through?</source>
+        <translation>Nie odpowiada tam żaden Lumen Desk. Czy oba komputery są w tej samej sieci, czy połączenie jest tam włączone i czy przepuszcza je zapora?</translation>
+    </message>
+    <message>
+        <source>The other computer is not waiting. Choose "Wait for the other computer" there first.</source>
+        <translation>Drugi komputer nie czeka. Wybierz tam najpierw „Czekaj na drugi komputer”.</translation>
+    </message>
+    <message>
+        <source>The other computer did not confirm the code.</source>
+        <translation>Drugi komputer nie potwierdził kodu.</translation>
+    </message>
+    <message>
+        <source>What has called does not keep to the rules. Nothing was paired.</source>
+        <translation>Dzwoniący nie trzyma się zasad. Nic nie sparowano.</translation>
+    </message>
+    <message>
+        <source>No computer of this name was found.</source>
+        <translation>Nie znaleziono komputera o tej nazwie.</translation>
+    </message>
+</context>
+<context>
+    <name>LuPlace</name>
+    <message>
+        <source>%1° S</source>
+        <translation>%1° S</translation>
+    </message>
+    <message>
+        <source>%1° N</source>
+        <translation>%1° N</translation>
+    </message>
+    <message>
+        <source>%1° W</source>
+        <translation>%1° W</translation>
+    </message>
+    <message>
+        <source>%1° E</source>
+        <translation>%1° E</translation>
     </message>
 </context>
 </TS>

@@ -675,6 +675,14 @@
         <source>Advanced</source>
         <translation>Avançado</translation>
     </message>
+    <message>
+        <source>Location</source>
+        <translation>Localização</translation>
+    </message>
+    <message>
+        <source>Two computers</source>
+        <translation>Dois computadores</translation>
+    </message>
 </context>
 <context>
     <name>Tray</name>
@@ -813,6 +821,372 @@
     <message>
         <source>%1 leads to another monitor now; nothing was sent to it.</source>
         <translation>%1 leva agora a outro monitor; nada lhe foi enviado.</translation>
+    </message>
+</context>
+<context>
+    <name>ComputersPage</name>
+    <message>
+        <source>Two computers</source>
+        <translation>Dois computadores</translation>
+    </message>
+    <message>
+        <source>Two computers that share a monitor can hand over keyboard and mouse at the edge of the screen. Connected, they agree who has the pointer, and it enters where it left.</source>
+        <translation>Dois computadores que partilham um monitor podem passar o teclado e o rato na margem do ecrã. Ligados, acordam quem tem o ponteiro, que entra por onde saiu.</translation>
+    </message>
+    <message>
+        <source>Connection to a second computer</source>
+        <translation>Ligação a um segundo computador</translation>
+    </message>
+    <message>
+        <source>Only the computer that you pair can connect, encrypted, on your local network. It learns where the pointer is: no keys, texts or files are sent. While it is on, the network sees this computer's name.</source>
+        <translation>Só o computador que emparelhar se pode ligar, cifrado e na rede local. Fica a saber onde está o ponteiro: não são enviadas teclas, textos nem ficheiros. Enquanto está ativa, a rede vê o nome deste computador.</translation>
+    </message>
+    <message>
+        <source>This computer</source>
+        <translation>Este computador</translation>
+    </message>
+    <message>
+        <source>It has no address on a local network.</source>
+        <translation>Não tem endereço numa rede local.</translation>
+    </message>
+    <message>
+        <source>Paired computer</source>
+        <translation>Computador emparelhado</translation>
+    </message>
+    <message>
+        <source>Pair again</source>
+        <translation>Emparelhar de novo</translation>
+    </message>
+    <message>
+        <source>Pair a computer</source>
+        <translation>Emparelhar um computador</translation>
+    </message>
+</context>
+<context>
+    <name>PairedComputer</name>
+    <message>
+        <source>Computer without a name</source>
+        <translation>Computador sem nome</translation>
+    </message>
+    <message>
+        <source>Last met at %1</source>
+        <translation>Visto pela última vez em %1</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Desligado</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Ligado</translation>
+    </message>
+    <message>
+        <source>Not paired there</source>
+        <translation>Não emparelhado lá</translation>
+    </message>
+    <message>
+        <source>Searching</source>
+        <translation>A procurar</translation>
+    </message>
+    <message>
+        <source>It answers, and does not know this computer any more. Pair the two anew.</source>
+        <translation>Responde, mas já não conhece este computador. Emparelhe os dois de novo.</translation>
+    </message>
+    <message>
+        <source>It is found again by itself once it runs in the same network. If it has another address, you can type it here.</source>
+        <translation>É encontrado sozinho assim que funciona na mesma rede. Se tiver outro endereço, pode escrevê-lo aqui.</translation>
+    </message>
+    <message>
+        <source>Another address</source>
+        <translation>Outro endereço</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>Esquecer</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>Ligar</translation>
+    </message>
+    <message>
+        <source>Forget %1?</source>
+        <translation>Esquecer %1?</translation>
+    </message>
+    <message>
+        <source>The two do not connect any more until they are paired again.</source>
+        <translation>Os dois só se voltam a ligar quando forem emparelhados de novo.</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Manter</translation>
+    </message>
+</context>
+<context>
+    <name>ComputerChoice</name>
+    <message>
+        <source>1. On one computer</source>
+        <translation>1. Num computador</translation>
+    </message>
+    <message>
+        <source>It waits for two minutes, for one call.</source>
+        <translation>Espera uma chamada durante dois minutos.</translation>
+    </message>
+    <message>
+        <source>Wait for the other computer</source>
+        <translation>Esperar pelo outro computador</translation>
+    </message>
+    <message>
+        <source>2. On the other computer</source>
+        <translation>2. No outro computador</translation>
+    </message>
+    <message>
+        <source>Type the address of the computer that waits. Where the service Avahi runs, it is found by itself.</source>
+        <translation>Escreva o endereço do computador que espera. Onde o serviço Avahi funciona, é encontrado sozinho.</translation>
+    </message>
+    <message>
+        <source>Choose the computer that waits, or type its address.</source>
+        <translation>Escolha o computador que espera ou escreva o seu endereço.</translation>
+    </message>
+    <message>
+        <source>No computer nearby has this switched on. You can also type its address.</source>
+        <translation>Nenhum computador próximo tem isto ligado. Também pode escrever o seu endereço.</translation>
+    </message>
+    <message>
+        <source>Pair</source>
+        <translation>Emparelhar</translation>
+    </message>
+    <message>
+        <source>Pair with %1</source>
+        <translation>Emparelhar com %1</translation>
+    </message>
+    <message>
+        <source>Address of the other computer</source>
+        <translation>Endereço do outro computador</translation>
+    </message>
+</context>
+<context>
+    <name>ComputerPairing</name>
+    <message>
+        <source>Waiting for the other computer</source>
+        <translation>À espera do outro computador</translation>
+    </message>
+    <message>
+        <source>Calling the other computer</source>
+        <translation>A chamar o outro computador</translation>
+    </message>
+    <message>
+        <source>Now confirm the code on the other computer</source>
+        <translation>Confirme agora o código no outro computador</translation>
+    </message>
+    <message>
+        <source>Does %1 show the same code?</source>
+        <translation>%1 mostra o mesmo código?</translation>
+    </message>
+    <message>
+        <source>Does the other computer show the same code?</source>
+        <translation>O outro computador mostra o mesmo código?</translation>
+    </message>
+    <message>
+        <source>Choose this computer there, or type its address: %1</source>
+        <translation>Escolha lá este computador ou escreva o seu endereço: %1</translation>
+    </message>
+    <message>
+        <source>If the codes differ, somebody else is in between: answer no.</source>
+        <translation>Se os códigos forem diferentes, há alguém no meio: responda não.</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Não</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Yes, pair</source>
+        <translation>Sim, emparelhar</translation>
+    </message>
+</context>
+<context>
+    <name>AddressLine</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsNotice</name>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+</context>
+<context>
+    <name>LocationPage</name>
+    <message>
+        <source>Location service of the system</source>
+        <translation>Serviço de localização do sistema</translation>
+    </message>
+    <message>
+        <source>GeoClue is asked for your city, and no closer. To find it, it may send which networks are around you to a service on the Internet. Without an answer the city of the time zone is used.</source>
+        <translation>Pergunta-se ao GeoClue a sua cidade, e nada mais preciso. Para a encontrar, pode enviar a um serviço na Internet que redes estão à sua volta. Sem resposta usa-se a cidade do fuso horário.</translation>
+    </message>
+    <message>
+        <source>City of the time zone</source>
+        <translation>Cidade do fuso horário</translation>
+    </message>
+    <message>
+        <source>%1. Nobody is asked.</source>
+        <translation>%1. Não se pergunta a ninguém.</translation>
+    </message>
+    <message>
+        <source>Your time zone has no city.</source>
+        <translation>O seu fuso horário não tem cidade.</translation>
+    </message>
+    <message>
+        <source>A place that I choose</source>
+        <translation>Um lugar que escolho</translation>
+    </message>
+    <message>
+        <source>Nobody is asked.</source>
+        <translation>Não se pergunta a ninguém.</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Desligado</translation>
+    </message>
+    <message>
+        <source>Nothing follows the sun. Times that you set yourself still work.</source>
+        <translation>Nada segue o sol. As horas que definir continuam a valer.</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Localização</translation>
+    </message>
+    <message>
+        <source>Functions that follow sunrise and sunset need to know roughly where you are. Nothing else uses it.</source>
+        <translation>As funções que seguem o nascer e o pôr do sol precisam de saber mais ou menos onde está. Nada mais o usa.</translation>
+    </message>
+    <message>
+        <source>Position in use</source>
+        <translation>Posição em uso</translation>
+    </message>
+    <message>
+        <source>It is sent, rounded to hundredths of a degree, to %1 for the times of sunrise and sunset.</source>
+        <translation>É enviada, arredondada a centésimos de grau, a %1 para as horas do nascer e do pôr do sol.</translation>
+    </message>
+    <message>
+        <source>The times of sunrise and sunset are computed on this computer. The position is sent to nobody.</source>
+        <translation>As horas do nascer e do pôr do sol são calculadas neste computador. A posição não é enviada a ninguém.</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Nenhuma</translation>
+    </message>
+</context>
+<context>
+    <name>PlaceChoice</name>
+    <message>
+        <source>Chosen place: %1</source>
+        <translation>Lugar escolhido: %1</translation>
+    </message>
+    <message>
+        <source>Chosen place</source>
+        <translation>Lugar escolhido</translation>
+    </message>
+    <message>
+        <source>City</source>
+        <translation>Cidade</translation>
+    </message>
+    <message>
+        <source>Of the cities that name a time zone. They are known here: nothing is sent.</source>
+        <translation>Das cidades que dão nome a um fuso horário. São conhecidas aqui: nada é enviado.</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Procurar</translation>
+    </message>
+    <message>
+        <source>Latitude</source>
+        <translation>Latitude</translation>
+    </message>
+    <message>
+        <source>Degrees, north of the equator. South is negative.</source>
+        <translation>Graus a norte do equador. O sul é negativo.</translation>
+    </message>
+    <message>
+        <source>Longitude</source>
+        <translation>Longitude</translation>
+    </message>
+    <message>
+        <source>Degrees, east of Greenwich. West is negative.</source>
+        <translation>Graus a leste de Greenwich. O oeste é negativo.</translation>
+    </message>
+    <message>
+        <source>A latitude is a number from -90 to 90, a longitude one from -180 to 180.</source>
+        <translation>Uma latitude é um número de -90 a 90, uma longitude de -180 a 180.</translation>
+    </message>
+</context>
+<context>
+    <name>LuComputers</name>
+    <message>
+        <source>The connection could not be switched on: %1.</source>
+        <translation>Não foi possível ativar a ligação: %1.</translation>
+    </message>
+    <message>
+        <source>This is neither an address, such as 192.168.1.7, nor the name of a computer.</source>
+        <translation>Não é um endereço, como 192.168.1.7, nem o nome de um computador.</translation>
+    </message>
+    <message>
+        <source>Only a computer of your local network can be paired.</source>
+        <translation>Só é possível emparelhar um computador da sua rede local.</translation>
+    </message>
+    <message>
+        <source>No other computer has called within two minutes.</source>
+        <translation>Nenhum outro computador chamou em dois minutos.</translation>
+    </message>
+    <message>
+        <source>The code was not confirmed on both computers within two minutes.</source>
+        <translation>O código não foi confirmado nos dois computadores em dois minutos.</translation>
+    </message>
+    <message>
+        <source>No Lumen Desk answers there. Are both computers on the same network, is the connection switched on there, and does a firewall let it through?</source>
+        <translation>Nenhum Lumen Desk responde lá. Estão os dois computadores na mesma rede, a ligação está ativada lá e uma firewall deixa-a passar?</translation>
+    </message>
+    <message>
+        <source>The other computer is not waiting. Choose "Wait for the other computer" there first.</source>
+        <translation>O outro computador não está à espera. Escolha lá primeiro "Esperar pelo outro computador".</translation>
+    </message>
+    <message>
+        <source>The other computer did not confirm the code.</source>
+        <translation>O outro computador não confirmou o código.</translation>
+    </message>
+    <message>
+        <source>What has called does not keep to the rules. Nothing was paired.</source>
+        <translation>Quem chamou não cumpre as regras. Nada foi emparelhado.</translation>
+    </message>
+    <message>
+        <source>No computer of this name was found.</source>
+        <translation>Não foi encontrado nenhum computador com este nome.</translation>
+    </message>
+</context>
+<context>
+    <name>LuPlace</name>
+    <message>
+        <source>%1° S</source>
+        <translation>%1° S</translation>
+    </message>
+    <message>
+        <source>%1° N</source>
+        <translation>%1° N</translation>
+    </message>
+    <message>
+        <source>%1° W</source>
+        <translation>%1° O</translation>
+    </message>
+    <message>
+        <source>%1° E</source>
+        <translation>%1° E</translation>
     </message>
 </context>
 </TS>

@@ -675,6 +675,14 @@
         <source>Advanced</source>
         <translation>Avansat</translation>
     </message>
+    <message>
+        <source>Location</source>
+        <translation>Locație</translation>
+    </message>
+    <message>
+        <source>Two computers</source>
+        <translation>Două calculatoare</translation>
+    </message>
 </context>
 <context>
     <name>Tray</name>
@@ -813,6 +821,372 @@
     <message>
         <source>%1 leads to another monitor now; nothing was sent to it.</source>
         <translation>%1 duce acum la alt monitor; nu i s-a trimis nimic.</translation>
+    </message>
+</context>
+<context>
+    <name>ComputersPage</name>
+    <message>
+        <source>Two computers</source>
+        <translation>Două calculatoare</translation>
+    </message>
+    <message>
+        <source>Two computers that share a monitor can hand over keyboard and mouse at the edge of the screen. Connected, they agree who has the pointer, and it enters where it left.</source>
+        <translation>Două calculatoare la același monitor își pot preda tastatura și mausul la marginea ecranului. Conectate, știu cine are indicatorul, iar el intră pe unde a ieșit.</translation>
+    </message>
+    <message>
+        <source>Connection to a second computer</source>
+        <translation>Conexiune la un al doilea calculator</translation>
+    </message>
+    <message>
+        <source>Only the computer that you pair can connect, encrypted, on your local network. It learns where the pointer is: no keys, texts or files are sent. While it is on, the network sees this computer's name.</source>
+        <translation>Se poate conecta doar calculatorul asociat, criptat și în rețeaua locală. El află unde este indicatorul: nu se trimit taste, texte sau fișiere. Cât este activă, rețeaua vede numele acestui calculator.</translation>
+    </message>
+    <message>
+        <source>This computer</source>
+        <translation>Acest calculator</translation>
+    </message>
+    <message>
+        <source>It has no address on a local network.</source>
+        <translation>Nu are o adresă într-o rețea locală.</translation>
+    </message>
+    <message>
+        <source>Paired computer</source>
+        <translation>Calculator asociat</translation>
+    </message>
+    <message>
+        <source>Pair again</source>
+        <translation>Asociază din nou</translation>
+    </message>
+    <message>
+        <source>Pair a computer</source>
+        <translation>Asociază un calculator</translation>
+    </message>
+</context>
+<context>
+    <name>PairedComputer</name>
+    <message>
+        <source>Computer without a name</source>
+        <translation>Calculator fără nume</translation>
+    </message>
+    <message>
+        <source>Last met at %1</source>
+        <translation>Văzut ultima dată la %1</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Oprit</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Conectat</translation>
+    </message>
+    <message>
+        <source>Not paired there</source>
+        <translation>Neasociat acolo</translation>
+    </message>
+    <message>
+        <source>Searching</source>
+        <translation>Se caută</translation>
+    </message>
+    <message>
+        <source>It answers, and does not know this computer any more. Pair the two anew.</source>
+        <translation>Răspunde, dar nu mai cunoaște acest calculator. Asociați-le din nou.</translation>
+    </message>
+    <message>
+        <source>It is found again by itself once it runs in the same network. If it has another address, you can type it here.</source>
+        <translation>Este regăsit de la sine de îndată ce rulează în aceeași rețea. Dacă are altă adresă, o puteți scrie aici.</translation>
+    </message>
+    <message>
+        <source>Another address</source>
+        <translation>Altă adresă</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>Uită</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>Conectează</translation>
+    </message>
+    <message>
+        <source>Forget %1?</source>
+        <translation>Uitați %1?</translation>
+    </message>
+    <message>
+        <source>The two do not connect any more until they are paired again.</source>
+        <translation>Cele două nu se mai conectează până nu sunt asociate din nou.</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Păstrează</translation>
+    </message>
+</context>
+<context>
+    <name>ComputerChoice</name>
+    <message>
+        <source>1. On one computer</source>
+        <translation>1. Pe un calculator</translation>
+    </message>
+    <message>
+        <source>It waits for two minutes, for one call.</source>
+        <translation>Așteaptă un apel timp de două minute.</translation>
+    </message>
+    <message>
+        <source>Wait for the other computer</source>
+        <translation>Așteaptă celălalt calculator</translation>
+    </message>
+    <message>
+        <source>2. On the other computer</source>
+        <translation>2. Pe celălalt calculator</translation>
+    </message>
+    <message>
+        <source>Type the address of the computer that waits. Where the service Avahi runs, it is found by itself.</source>
+        <translation>Scrieți adresa calculatorului care așteaptă. Unde rulează serviciul Avahi, este găsit de la sine.</translation>
+    </message>
+    <message>
+        <source>Choose the computer that waits, or type its address.</source>
+        <translation>Alegeți calculatorul care așteaptă sau scrieți adresa lui.</translation>
+    </message>
+    <message>
+        <source>No computer nearby has this switched on. You can also type its address.</source>
+        <translation>Niciun calculator din apropiere nu are aceasta pornită. Puteți scrie și adresa lui.</translation>
+    </message>
+    <message>
+        <source>Pair</source>
+        <translation>Asociază</translation>
+    </message>
+    <message>
+        <source>Pair with %1</source>
+        <translation>Asociază cu %1</translation>
+    </message>
+    <message>
+        <source>Address of the other computer</source>
+        <translation>Adresa celuilalt calculator</translation>
+    </message>
+</context>
+<context>
+    <name>ComputerPairing</name>
+    <message>
+        <source>Waiting for the other computer</source>
+        <translation>Se așteaptă celălalt calculator</translation>
+    </message>
+    <message>
+        <source>Calling the other computer</source>
+        <translation>Se apelează celălalt calculator</translation>
+    </message>
+    <message>
+        <source>Now confirm the code on the other computer</source>
+        <translation>Confirmați acum codul pe celălalt calculator</translation>
+    </message>
+    <message>
+        <source>Does %1 show the same code?</source>
+        <translation>Arată %1 același cod?</translation>
+    </message>
+    <message>
+        <source>Does the other computer show the same code?</source>
+        <translation>Arată celălalt calculator același cod?</translation>
+    </message>
+    <message>
+        <source>Choose this computer there, or type its address: %1</source>
+        <translation>Alegeți acolo acest calculator sau scrieți adresa lui: %1</translation>
+    </message>
+    <message>
+        <source>If the codes differ, somebody else is in between: answer no.</source>
+        <translation>Dacă codurile diferă, este cineva la mijloc: răspundeți nu.</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Nu</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Anulează</translation>
+    </message>
+    <message>
+        <source>Yes, pair</source>
+        <translation>Da, asociază</translation>
+    </message>
+</context>
+<context>
+    <name>AddressLine</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Anulează</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsNotice</name>
+    <message>
+        <source>Close</source>
+        <translation>Închide</translation>
+    </message>
+</context>
+<context>
+    <name>LocationPage</name>
+    <message>
+        <source>Location service of the system</source>
+        <translation>Serviciul de localizare al sistemului</translation>
+    </message>
+    <message>
+        <source>GeoClue is asked for your city, and no closer. To find it, it may send which networks are around you to a service on the Internet. Without an answer the city of the time zone is used.</source>
+        <translation>GeoClue este întrebat de orașul dvs., nimic mai precis. Pentru a-l afla, poate trimite unui serviciu de pe internet ce rețele sunt în jur. Fără răspuns se folosește orașul fusului orar.</translation>
+    </message>
+    <message>
+        <source>City of the time zone</source>
+        <translation>Orașul fusului orar</translation>
+    </message>
+    <message>
+        <source>%1. Nobody is asked.</source>
+        <translation>%1. Nu este întrebat nimeni.</translation>
+    </message>
+    <message>
+        <source>Your time zone has no city.</source>
+        <translation>Fusul dvs. orar nu are un oraș.</translation>
+    </message>
+    <message>
+        <source>A place that I choose</source>
+        <translation>Un loc ales de mine</translation>
+    </message>
+    <message>
+        <source>Nobody is asked.</source>
+        <translation>Nu este întrebat nimeni.</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Oprit</translation>
+    </message>
+    <message>
+        <source>Nothing follows the sun. Times that you set yourself still work.</source>
+        <translation>Nimic nu urmează soarele. Orele setate de dvs. rămân valabile.</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Locație</translation>
+    </message>
+    <message>
+        <source>Functions that follow sunrise and sunset need to know roughly where you are. Nothing else uses it.</source>
+        <translation>Funcțiile care urmează răsăritul și apusul trebuie să știe aproximativ unde sunteți. Nimic altceva nu folosește asta.</translation>
+    </message>
+    <message>
+        <source>Position in use</source>
+        <translation>Poziția folosită</translation>
+    </message>
+    <message>
+        <source>It is sent, rounded to hundredths of a degree, to %1 for the times of sunrise and sunset.</source>
+        <translation>Este trimisă, rotunjită la sutimi de grad, la %1 pentru orele răsăritului și apusului.</translation>
+    </message>
+    <message>
+        <source>The times of sunrise and sunset are computed on this computer. The position is sent to nobody.</source>
+        <translation>Orele răsăritului și apusului se calculează pe acest calculator. Poziția nu este trimisă nimănui.</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Niciuna</translation>
+    </message>
+</context>
+<context>
+    <name>PlaceChoice</name>
+    <message>
+        <source>Chosen place: %1</source>
+        <translation>Loc ales: %1</translation>
+    </message>
+    <message>
+        <source>Chosen place</source>
+        <translation>Loc ales</translation>
+    </message>
+    <message>
+        <source>City</source>
+        <translation>Oraș</translation>
+    </message>
+    <message>
+        <source>Of the cities that name a time zone. They are known here: nothing is sent.</source>
+        <translation>Dintre orașele care dau numele unui fus orar. Sunt cunoscute aici: nu se trimite nimic.</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Caută</translation>
+    </message>
+    <message>
+        <source>Latitude</source>
+        <translation>Latitudine</translation>
+    </message>
+    <message>
+        <source>Degrees, north of the equator. South is negative.</source>
+        <translation>Grade la nord de ecuator. Sudul este negativ.</translation>
+    </message>
+    <message>
+        <source>Longitude</source>
+        <translation>Longitudine</translation>
+    </message>
+    <message>
+        <source>Degrees, east of Greenwich. West is negative.</source>
+        <translation>Grade la est de Greenwich. Vestul este negativ.</translation>
+    </message>
+    <message>
+        <source>A latitude is a number from -90 to 90, a longitude one from -180 to 180.</source>
+        <translation>O latitudine este un număr de la -90 la 90, o longitudine de la -180 la 180.</translation>
+    </message>
+</context>
+<context>
+    <name>LuComputers</name>
+    <message>
+        <source>The connection could not be switched on: %1.</source>
+        <translation>Conexiunea nu a putut fi pornită: %1.</translation>
+    </message>
+    <message>
+        <source>This is neither an address, such as 192.168.1.7, nor the name of a computer.</source>
+        <translation>Nu este nici o adresă, ca 192.168.1.7, nici numele unui calculator.</translation>
+    </message>
+    <message>
+        <source>Only a computer of your local network can be paired.</source>
+        <translation>Se poate asocia doar un calculator din rețeaua locală.</translation>
+    </message>
+    <message>
+        <source>No other computer has called within two minutes.</source>
+        <translation>Niciun alt calculator nu a apelat în două minute.</translation>
+    </message>
+    <message>
+        <source>The code was not confirmed on both computers within two minutes.</source>
+        <translation>Codul nu a fost confirmat pe ambele calculatoare în două minute.</translation>
+    </message>
+    <message>
+        <source>No Lumen Desk answers there. Are both computers on the same network, is the connection switched on there, and does a firewall let it through?</source>
+        <translation>Acolo nu răspunde niciun Lumen Desk. Sunt ambele calculatoare în aceeași rețea, este conexiunea pornită acolo și o lasă firewallul să treacă?</translation>
+    </message>
+    <message>
+        <source>The other computer is not waiting. Choose "Wait for the other computer" there first.</source>
+        <translation>Celălalt calculator nu așteaptă. Alegeți întâi acolo „Așteaptă celălalt calculator”.</translation>
+    </message>
+    <message>
+        <source>The other computer did not confirm the code.</source>
+        <translation>Celălalt calculator nu a confirmat codul.</translation>
+    </message>
+    <message>
+        <source>What has called does not keep to the rules. Nothing was paired.</source>
+        <translation>Cine a apelat nu respectă regulile. Nu s-a asociat nimic.</translation>
+    </message>
+    <message>
+        <source>No computer of this name was found.</source>
+        <translation>Nu s-a găsit niciun calculator cu acest nume.</translation>
+    </message>
+</context>
+<context>
+    <name>LuPlace</name>
+    <message>
+        <source>%1° S</source>
+        <translation>%1° S</translation>
+    </message>
+    <message>
+        <source>%1° N</source>
+        <translation>%1° N</translation>
+    </message>
+    <message>
+        <source>%1° W</source>
+        <translation>%1° V</translation>
+    </message>
+    <message>
+        <source>%1° E</source>
+        <translation>%1° E</translation>
     </message>
 </context>
 </TS>

@@ -675,6 +675,14 @@
         <source>Advanced</source>
         <translation>Дополнительно</translation>
     </message>
+    <message>
+        <source>Location</source>
+        <translation>Местоположение</translation>
+    </message>
+    <message>
+        <source>Two computers</source>
+        <translation>Два компьютера</translation>
+    </message>
 </context>
 <context>
     <name>Tray</name>
@@ -813,6 +821,372 @@
     <message>
         <source>%1 leads to another monitor now; nothing was sent to it.</source>
         <translation>%1 теперь ведёт к другому монитору; ему ничего не отправлено.</translation>
+    </message>
+</context>
+<context>
+    <name>ComputersPage</name>
+    <message>
+        <source>Two computers</source>
+        <translation>Два компьютера</translation>
+    </message>
+    <message>
+        <source>Two computers that share a monitor can hand over keyboard and mouse at the edge of the screen. Connected, they agree who has the pointer, and it enters where it left.</source>
+        <translation>Два компьютера с общим монитором могут передавать друг другу клавиатуру и мышь у края экрана. Соединённые, они знают, у кого указатель, и он входит там, где вышел.</translation>
+    </message>
+    <message>
+        <source>Connection to a second computer</source>
+        <translation>Связь со вторым компьютером</translation>
+    </message>
+    <message>
+        <source>Only the computer that you pair can connect, encrypted, on your local network. It learns where the pointer is: no keys, texts or files are sent. While it is on, the network sees this computer's name.</source>
+        <translation>Подключиться может только связанный компьютер, с шифрованием и в локальной сети. Он узнаёт, где указатель: клавиши, тексты и файлы не отправляются. Пока связь включена, сеть видит имя этого компьютера.</translation>
+    </message>
+    <message>
+        <source>This computer</source>
+        <translation>Этот компьютер</translation>
+    </message>
+    <message>
+        <source>It has no address on a local network.</source>
+        <translation>У него нет адреса в локальной сети.</translation>
+    </message>
+    <message>
+        <source>Paired computer</source>
+        <translation>Связанный компьютер</translation>
+    </message>
+    <message>
+        <source>Pair again</source>
+        <translation>Связать заново</translation>
+    </message>
+    <message>
+        <source>Pair a computer</source>
+        <translation>Связать компьютер</translation>
+    </message>
+</context>
+<context>
+    <name>PairedComputer</name>
+    <message>
+        <source>Computer without a name</source>
+        <translation>Компьютер без имени</translation>
+    </message>
+    <message>
+        <source>Last met at %1</source>
+        <translation>Последний адрес: %1</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Выключено</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Подключён</translation>
+    </message>
+    <message>
+        <source>Not paired there</source>
+        <translation>Там не связан</translation>
+    </message>
+    <message>
+        <source>Searching</source>
+        <translation>Поиск</translation>
+    </message>
+    <message>
+        <source>It answers, and does not know this computer any more. Pair the two anew.</source>
+        <translation>Он отвечает, но больше не знает этот компьютер. Свяжите их заново.</translation>
+    </message>
+    <message>
+        <source>It is found again by itself once it runs in the same network. If it has another address, you can type it here.</source>
+        <translation>Он найдётся сам, как только заработает в той же сети. Если у него другой адрес, его можно ввести здесь.</translation>
+    </message>
+    <message>
+        <source>Another address</source>
+        <translation>Другой адрес</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>Забыть</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>Подключить</translation>
+    </message>
+    <message>
+        <source>Forget %1?</source>
+        <translation>Забыть %1?</translation>
+    </message>
+    <message>
+        <source>The two do not connect any more until they are paired again.</source>
+        <translation>Компьютеры не соединятся, пока их не свяжут заново.</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Оставить</translation>
+    </message>
+</context>
+<context>
+    <name>ComputerChoice</name>
+    <message>
+        <source>1. On one computer</source>
+        <translation>1. На одном компьютере</translation>
+    </message>
+    <message>
+        <source>It waits for two minutes, for one call.</source>
+        <translation>Он две минуты ждёт одного вызова.</translation>
+    </message>
+    <message>
+        <source>Wait for the other computer</source>
+        <translation>Ждать другой компьютер</translation>
+    </message>
+    <message>
+        <source>2. On the other computer</source>
+        <translation>2. На другом компьютере</translation>
+    </message>
+    <message>
+        <source>Type the address of the computer that waits. Where the service Avahi runs, it is found by itself.</source>
+        <translation>Введите адрес ожидающего компьютера. Где работает служба Avahi, он найдётся сам.</translation>
+    </message>
+    <message>
+        <source>Choose the computer that waits, or type its address.</source>
+        <translation>Выберите ожидающий компьютер или введите его адрес.</translation>
+    </message>
+    <message>
+        <source>No computer nearby has this switched on. You can also type its address.</source>
+        <translation>Ни на одном компьютере рядом это не включено. Можно также ввести его адрес.</translation>
+    </message>
+    <message>
+        <source>Pair</source>
+        <translation>Связать</translation>
+    </message>
+    <message>
+        <source>Pair with %1</source>
+        <translation>Связать с %1</translation>
+    </message>
+    <message>
+        <source>Address of the other computer</source>
+        <translation>Адрес другого компьютера</translation>
+    </message>
+</context>
+<context>
+    <name>ComputerPairing</name>
+    <message>
+        <source>Waiting for the other computer</source>
+        <translation>Ожидание другого компьютера</translation>
+    </message>
+    <message>
+        <source>Calling the other computer</source>
+        <translation>Вызов другого компьютера</translation>
+    </message>
+    <message>
+        <source>Now confirm the code on the other computer</source>
+        <translation>Теперь подтвердите код на другом компьютере</translation>
+    </message>
+    <message>
+        <source>Does %1 show the same code?</source>
+        <translation>%1 показывает тот же код?</translation>
+    </message>
+    <message>
+        <source>Does the other computer show the same code?</source>
+        <translation>Другой компьютер показывает тот же код?</translation>
+    </message>
+    <message>
+        <source>Choose this computer there, or type its address: %1</source>
+        <translation>Выберите там этот компьютер или введите его адрес: %1</translation>
+    </message>
+    <message>
+        <source>If the codes differ, somebody else is in between: answer no.</source>
+        <translation>Если коды различаются, между вами кто-то есть: ответьте «нет».</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Нет</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Yes, pair</source>
+        <translation>Да, связать</translation>
+    </message>
+</context>
+<context>
+    <name>AddressLine</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsNotice</name>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+</context>
+<context>
+    <name>LocationPage</name>
+    <message>
+        <source>Location service of the system</source>
+        <translation>Служба геолокации системы</translation>
+    </message>
+    <message>
+        <source>GeoClue is asked for your city, and no closer. To find it, it may send which networks are around you to a service on the Internet. Without an answer the city of the time zone is used.</source>
+        <translation>У GeoClue спрашивается ваш город и ничего точнее. Для этого она может сообщить службе в Интернете, какие сети вокруг вас. Без ответа берётся город часового пояса.</translation>
+    </message>
+    <message>
+        <source>City of the time zone</source>
+        <translation>Город часового пояса</translation>
+    </message>
+    <message>
+        <source>%1. Nobody is asked.</source>
+        <translation>%1. Никого не спрашивают.</translation>
+    </message>
+    <message>
+        <source>Your time zone has no city.</source>
+        <translation>У вашего часового пояса нет города.</translation>
+    </message>
+    <message>
+        <source>A place that I choose</source>
+        <translation>Место по моему выбору</translation>
+    </message>
+    <message>
+        <source>Nobody is asked.</source>
+        <translation>Никого не спрашивают.</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Выключено</translation>
+    </message>
+    <message>
+        <source>Nothing follows the sun. Times that you set yourself still work.</source>
+        <translation>Ничто не следует за солнцем. Время, заданное вами, действует по-прежнему.</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Местоположение</translation>
+    </message>
+    <message>
+        <source>Functions that follow sunrise and sunset need to know roughly where you are. Nothing else uses it.</source>
+        <translation>Функциям, которые следуют за восходом и закатом, нужно примерно знать, где вы. Больше ничто это не использует.</translation>
+    </message>
+    <message>
+        <source>Position in use</source>
+        <translation>Используемое положение</translation>
+    </message>
+    <message>
+        <source>It is sent, rounded to hundredths of a degree, to %1 for the times of sunrise and sunset.</source>
+        <translation>Отправляется, округлённое до сотых долей градуса, на %1 ради времени восхода и заката.</translation>
+    </message>
+    <message>
+        <source>The times of sunrise and sunset are computed on this computer. The position is sent to nobody.</source>
+        <translation>Время восхода и заката вычисляется на этом компьютере. Положение никому не отправляется.</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Нет</translation>
+    </message>
+</context>
+<context>
+    <name>PlaceChoice</name>
+    <message>
+        <source>Chosen place: %1</source>
+        <translation>Выбранное место: %1</translation>
+    </message>
+    <message>
+        <source>Chosen place</source>
+        <translation>Выбранное место</translation>
+    </message>
+    <message>
+        <source>City</source>
+        <translation>Город</translation>
+    </message>
+    <message>
+        <source>Of the cities that name a time zone. They are known here: nothing is sent.</source>
+        <translation>Из городов, по которым названы часовые пояса. Они известны здесь: ничего не отправляется.</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Поиск</translation>
+    </message>
+    <message>
+        <source>Latitude</source>
+        <translation>Широта</translation>
+    </message>
+    <message>
+        <source>Degrees, north of the equator. South is negative.</source>
+        <translation>Градусы к северу от экватора. Юг отрицателен.</translation>
+    </message>
+    <message>
+        <source>Longitude</source>
+        <translation>Долгота</translation>
+    </message>
+    <message>
+        <source>Degrees, east of Greenwich. West is negative.</source>
+        <translation>Градусы к востоку от Гринвича. Запад отрицателен.</translation>
+    </message>
+    <message>
+        <source>A latitude is a number from -90 to 90, a longitude one from -180 to 180.</source>
+        <translation>Широта — число от -90 до 90, долгота — от -180 до 180.</translation>
+    </message>
+</context>
+<context>
+    <name>LuComputers</name>
+    <message>
+        <source>The connection could not be switched on: %1.</source>
+        <translation>Не удалось включить связь: %1.</translation>
+    </message>
+    <message>
+        <source>This is neither an address, such as 192.168.1.7, nor the name of a computer.</source>
+        <translation>Это не адрес вида 192.168.1.7 и не имя компьютера.</translation>
+    </message>
+    <message>
+        <source>Only a computer of your local network can be paired.</source>
+        <translation>Связать можно только компьютер вашей локальной сети.</translation>
+    </message>
+    <message>
+        <source>No other computer has called within two minutes.</source>
+        <translation>За две минуты не отозвался ни один другой компьютер.</translation>
+    </message>
+    <message>
+        <source>The code was not confirmed on both computers within two minutes.</source>
+        <translation>Код не был подтверждён на обоих компьютерах за две минуты.</translation>
+    </message>
+    <message>
+        <source>No Lumen Desk answers there. Are both computers on the same network, is the connection switched on there, and does a firewall let it through?</source>
+        <translation>Там не отвечает ни один Lumen Desk. Оба ли компьютера в одной сети, включена ли там связь и пропускает ли её брандмауэр?</translation>
+    </message>
+    <message>
+        <source>The other computer is not waiting. Choose "Wait for the other computer" there first.</source>
+        <translation>Другой компьютер не ждёт. Сначала выберите там «Ждать другой компьютер».</translation>
+    </message>
+    <message>
+        <source>The other computer did not confirm the code.</source>
+        <translation>Другой компьютер не подтвердил код.</translation>
+    </message>
+    <message>
+        <source>What has called does not keep to the rules. Nothing was paired.</source>
+        <translation>Вызвавший не соблюдает правила. Ничего не связано.</translation>
+    </message>
+    <message>
+        <source>No computer of this name was found.</source>
+        <translation>Компьютер с таким именем не найден.</translation>
+    </message>
+</context>
+<context>
+    <name>LuPlace</name>
+    <message>
+        <source>%1° S</source>
+        <translation>%1° ю. ш.</translation>
+    </message>
+    <message>
+        <source>%1° N</source>
+        <translation>%1° с. ш.</translation>
+    </message>
+    <message>
+        <source>%1° W</source>
+        <translation>%1° з. д.</translation>
+    </message>
+    <message>
+        <source>%1° E</source>
+        <translation>%1° в. д.</translation>
     </message>
 </context>
 </TS>

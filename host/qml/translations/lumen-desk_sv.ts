@@ -675,6 +675,14 @@
         <source>Advanced</source>
         <translation>Avancerat</translation>
     </message>
+    <message>
+        <source>Location</source>
+        <translation>Plats</translation>
+    </message>
+    <message>
+        <source>Two computers</source>
+        <translation>Två datorer</translation>
+    </message>
 </context>
 <context>
     <name>Tray</name>
@@ -813,6 +821,372 @@
     <message>
         <source>%1 leads to another monitor now; nothing was sent to it.</source>
         <translation>%1 leder nu till en annan bildskärm; inget skickades till den.</translation>
+    </message>
+</context>
+<context>
+    <name>ComputersPage</name>
+    <message>
+        <source>Two computers</source>
+        <translation>Två datorer</translation>
+    </message>
+    <message>
+        <source>Two computers that share a monitor can hand over keyboard and mouse at the edge of the screen. Connected, they agree who has the pointer, and it enters where it left.</source>
+        <translation>Två datorer som delar en bildskärm kan lämna över tangentbord och mus vid skärmens kant. Anslutna är de överens om vem som har pekaren, och den kommer in där den gick ut.</translation>
+    </message>
+    <message>
+        <source>Connection to a second computer</source>
+        <translation>Anslutning till en andra dator</translation>
+    </message>
+    <message>
+        <source>Only the computer that you pair can connect, encrypted, on your local network. It learns where the pointer is: no keys, texts or files are sent. While it is on, the network sees this computer's name.</source>
+        <translation>Bara datorn som du parkopplar kan ansluta, krypterat och i ditt lokala nätverk. Den får veta var pekaren är: inga tangenter, texter eller filer skickas. Medan den är på ser nätverket den här datorns namn.</translation>
+    </message>
+    <message>
+        <source>This computer</source>
+        <translation>Den här datorn</translation>
+    </message>
+    <message>
+        <source>It has no address on a local network.</source>
+        <translation>Den har ingen adress i ett lokalt nätverk.</translation>
+    </message>
+    <message>
+        <source>Paired computer</source>
+        <translation>Parkopplad dator</translation>
+    </message>
+    <message>
+        <source>Pair again</source>
+        <translation>Parkoppla på nytt</translation>
+    </message>
+    <message>
+        <source>Pair a computer</source>
+        <translation>Parkoppla en dator</translation>
+    </message>
+</context>
+<context>
+    <name>PairedComputer</name>
+    <message>
+        <source>Computer without a name</source>
+        <translation>Dator utan namn</translation>
+    </message>
+    <message>
+        <source>Last met at %1</source>
+        <translation>Senast sedd på %1</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Av</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Ansluten</translation>
+    </message>
+    <message>
+        <source>Not paired there</source>
+        <translation>Inte parkopplad där</translation>
+    </message>
+    <message>
+        <source>Searching</source>
+        <translation>Söker</translation>
+    </message>
+    <message>
+        <source>It answers, and does not know this computer any more. Pair the two anew.</source>
+        <translation>Den svarar men känner inte den här datorn längre. Parkoppla de två på nytt.</translation>
+    </message>
+    <message>
+        <source>It is found again by itself once it runs in the same network. If it has another address, you can type it here.</source>
+        <translation>Den hittas av sig själv så snart den är igång i samma nätverk. Har den en annan adress kan du skriva den här.</translation>
+    </message>
+    <message>
+        <source>Another address</source>
+        <translation>Annan adress</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>Glöm</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>Anslut</translation>
+    </message>
+    <message>
+        <source>Forget %1?</source>
+        <translation>Glöm %1?</translation>
+    </message>
+    <message>
+        <source>The two do not connect any more until they are paired again.</source>
+        <translation>De två ansluter inte förrän de parkopplas på nytt.</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Behåll</translation>
+    </message>
+</context>
+<context>
+    <name>ComputerChoice</name>
+    <message>
+        <source>1. On one computer</source>
+        <translation>1. På den ena datorn</translation>
+    </message>
+    <message>
+        <source>It waits for two minutes, for one call.</source>
+        <translation>Den väntar i två minuter på ett anrop.</translation>
+    </message>
+    <message>
+        <source>Wait for the other computer</source>
+        <translation>Vänta på den andra datorn</translation>
+    </message>
+    <message>
+        <source>2. On the other computer</source>
+        <translation>2. På den andra datorn</translation>
+    </message>
+    <message>
+        <source>Type the address of the computer that waits. Where the service Avahi runs, it is found by itself.</source>
+        <translation>Skriv adressen till datorn som väntar. Där tjänsten Avahi är igång hittas den av sig själv.</translation>
+    </message>
+    <message>
+        <source>Choose the computer that waits, or type its address.</source>
+        <translation>Välj datorn som väntar eller skriv dess adress.</translation>
+    </message>
+    <message>
+        <source>No computer nearby has this switched on. You can also type its address.</source>
+        <translation>Ingen dator i närheten har detta på. Du kan också skriva dess adress.</translation>
+    </message>
+    <message>
+        <source>Pair</source>
+        <translation>Parkoppla</translation>
+    </message>
+    <message>
+        <source>Pair with %1</source>
+        <translation>Parkoppla med %1</translation>
+    </message>
+    <message>
+        <source>Address of the other computer</source>
+        <translation>Den andra datorns adress</translation>
+    </message>
+</context>
+<context>
+    <name>ComputerPairing</name>
+    <message>
+        <source>Waiting for the other computer</source>
+        <translation>Väntar på den andra datorn</translation>
+    </message>
+    <message>
+        <source>Calling the other computer</source>
+        <translation>Anropar den andra datorn</translation>
+    </message>
+    <message>
+        <source>Now confirm the code on the other computer</source>
+        <translation>Bekräfta nu koden på den andra datorn</translation>
+    </message>
+    <message>
+        <source>Does %1 show the same code?</source>
+        <translation>Visar %1 samma kod?</translation>
+    </message>
+    <message>
+        <source>Does the other computer show the same code?</source>
+        <translation>Visar den andra datorn samma kod?</translation>
+    </message>
+    <message>
+        <source>Choose this computer there, or type its address: %1</source>
+        <translation>Välj den här datorn där eller skriv dess adress: %1</translation>
+    </message>
+    <message>
+        <source>If the codes differ, somebody else is in between: answer no.</source>
+        <translation>Om koderna skiljer sig är någon emellan: svara nej.</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Nej</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Avbryt</translation>
+    </message>
+    <message>
+        <source>Yes, pair</source>
+        <translation>Ja, parkoppla</translation>
+    </message>
+</context>
+<context>
+    <name>AddressLine</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Avbryt</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsNotice</name>
+    <message>
+        <source>Close</source>
+        <translation>Stäng</translation>
+    </message>
+</context>
+<context>
+    <name>LocationPage</name>
+    <message>
+        <source>Location service of the system</source>
+        <translation>Systemets platstjänst</translation>
+    </message>
+    <message>
+        <source>GeoClue is asked for your city, and no closer. To find it, it may send which networks are around you to a service on the Internet. Without an answer the city of the time zone is used.</source>
+        <translation>GeoClue tillfrågas om din stad, inte närmare. För att hitta den kan den berätta för en tjänst på internet vilka nätverk som finns omkring dig. Utan svar används tidszonens stad.</translation>
+    </message>
+    <message>
+        <source>City of the time zone</source>
+        <translation>Tidszonens stad</translation>
+    </message>
+    <message>
+        <source>%1. Nobody is asked.</source>
+        <translation>%1. Ingen tillfrågas.</translation>
+    </message>
+    <message>
+        <source>Your time zone has no city.</source>
+        <translation>Din tidszon har ingen stad.</translation>
+    </message>
+    <message>
+        <source>A place that I choose</source>
+        <translation>En plats som jag väljer</translation>
+    </message>
+    <message>
+        <source>Nobody is asked.</source>
+        <translation>Ingen tillfrågas.</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Av</translation>
+    </message>
+    <message>
+        <source>Nothing follows the sun. Times that you set yourself still work.</source>
+        <translation>Inget följer solen. Tider som du själv ställer in gäller fortfarande.</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Plats</translation>
+    </message>
+    <message>
+        <source>Functions that follow sunrise and sunset need to know roughly where you are. Nothing else uses it.</source>
+        <translation>Funktioner som följer soluppgång och solnedgång behöver veta ungefär var du är. Inget annat använder det.</translation>
+    </message>
+    <message>
+        <source>Position in use</source>
+        <translation>Använd position</translation>
+    </message>
+    <message>
+        <source>It is sent, rounded to hundredths of a degree, to %1 for the times of sunrise and sunset.</source>
+        <translation>Den skickas, avrundad till hundradels grader, till %1 för tiderna för soluppgång och solnedgång.</translation>
+    </message>
+    <message>
+        <source>The times of sunrise and sunset are computed on this computer. The position is sent to nobody.</source>
+        <translation>Tiderna för soluppgång och solnedgång beräknas på den här datorn. Positionen skickas inte till någon.</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Ingen</translation>
+    </message>
+</context>
+<context>
+    <name>PlaceChoice</name>
+    <message>
+        <source>Chosen place: %1</source>
+        <translation>Vald plats: %1</translation>
+    </message>
+    <message>
+        <source>Chosen place</source>
+        <translation>Vald plats</translation>
+    </message>
+    <message>
+        <source>City</source>
+        <translation>Stad</translation>
+    </message>
+    <message>
+        <source>Of the cities that name a time zone. They are known here: nothing is sent.</source>
+        <translation>Av städerna som ger en tidszon dess namn. De är kända här: inget skickas.</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Sök</translation>
+    </message>
+    <message>
+        <source>Latitude</source>
+        <translation>Latitud</translation>
+    </message>
+    <message>
+        <source>Degrees, north of the equator. South is negative.</source>
+        <translation>Grader norr om ekvatorn. Söder är negativt.</translation>
+    </message>
+    <message>
+        <source>Longitude</source>
+        <translation>Longitud</translation>
+    </message>
+    <message>
+        <source>Degrees, east of Greenwich. West is negative.</source>
+        <translation>Grader öster om Greenwich. Väster är negativt.</translation>
+    </message>
+    <message>
+        <source>A latitude is a number from -90 to 90, a longitude one from -180 to 180.</source>
+        <translation>En latitud är ett tal från -90 till 90, en longitud från -180 till 180.</translation>
+    </message>
+</context>
+<context>
+    <name>LuComputers</name>
+    <message>
+        <source>The connection could not be switched on: %1.</source>
+        <translation>Anslutningen kunde inte slås på: %1.</translation>
+    </message>
+    <message>
+        <source>This is neither an address, such as 192.168.1.7, nor the name of a computer.</source>
+        <translation>Det är varken en adress, som 192.168.1.7, eller namnet på en dator.</translation>
+    </message>
+    <message>
+        <source>Only a computer of your local network can be paired.</source>
+        <translation>Bara en dator i ditt lokala nätverk kan parkopplas.</translation>
+    </message>
+    <message>
+        <source>No other computer has called within two minutes.</source>
+        <translation>Ingen annan dator har anropat inom två minuter.</translation>
+    </message>
+    <message>
+        <source>The code was not confirmed on both computers within two minutes.</source>
+        <translation>Koden bekräftades inte på båda datorerna inom två minuter.</translation>
+    </message>
+    <message>
+        <source>No Lumen Desk answers there. Are both computers on the same network, is the connection switched on there, and does a firewall let it through?</source>
+        <translation>Inget Lumen Desk svarar där. Är båda datorerna i samma nätverk, är anslutningen påslagen där och släpper en brandvägg igenom den?</translation>
+    </message>
+    <message>
+        <source>The other computer is not waiting. Choose "Wait for the other computer" there first.</source>
+        <translation>Den andra datorn väntar inte. Välj först ”Vänta på den andra datorn” där.</translation>
+    </message>
+    <message>
+        <source>The other computer did not confirm the code.</source>
+        <translation>Den andra datorn bekräftade inte koden.</translation>
+    </message>
+    <message>
+        <source>What has called does not keep to the rules. Nothing was paired.</source>
+        <translation>Den som anropade följer inte reglerna. Inget parkopplades.</translation>
+    </message>
+    <message>
+        <source>No computer of this name was found.</source>
+        <translation>Ingen dator med det namnet hittades.</translation>
+    </message>
+</context>
+<context>
+    <name>LuPlace</name>
+    <message>
+        <source>%1° S</source>
+        <translation>%1° S</translation>
+    </message>
+    <message>
+        <source>%1° N</source>
+        <translation>%1° N</translation>
+    </message>
+    <message>
+        <source>%1° W</source>
+        <translation>%1° V</translation>
+    </message>
+    <message>
+        <source>%1° E</source>
+        <translation>%1° Ö</translation>
     </message>
 </context>
 </TS>

@@ -675,6 +675,14 @@
         <source>Advanced</source>
         <translation>高级</translation>
     </message>
+    <message>
+        <source>Location</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>Two computers</source>
+        <translation>两台计算机</translation>
+    </message>
 </context>
 <context>
     <name>Tray</name>
@@ -813,6 +821,372 @@
     <message>
         <source>%1 leads to another monitor now; nothing was sent to it.</source>
         <translation>%1 现在连接到另一台显示器；未向其发送任何内容。</translation>
+    </message>
+</context>
+<context>
+    <name>ComputersPage</name>
+    <message>
+        <source>Two computers</source>
+        <translation>两台计算机</translation>
+    </message>
+    <message>
+        <source>Two computers that share a monitor can hand over keyboard and mouse at the edge of the screen. Connected, they agree who has the pointer, and it enters where it left.</source>
+        <translation>共用一台显示器的两台计算机可以在屏幕边缘交接键盘和鼠标。连接后,它们知道指针在哪一方,指针从离开处进入。</translation>
+    </message>
+    <message>
+        <source>Connection to a second computer</source>
+        <translation>与第二台计算机的连接</translation>
+    </message>
+    <message>
+        <source>Only the computer that you pair can connect, encrypted, on your local network. It learns where the pointer is: no keys, texts or files are sent. While it is on, the network sees this computer's name.</source>
+        <translation>只有您配对的计算机才能在本地网络中加密连接。它只知道指针在哪里:不发送按键、文字或文件。开启期间,网络可以看到此计算机的名称。</translation>
+    </message>
+    <message>
+        <source>This computer</source>
+        <translation>此计算机</translation>
+    </message>
+    <message>
+        <source>It has no address on a local network.</source>
+        <translation>它没有本地网络地址。</translation>
+    </message>
+    <message>
+        <source>Paired computer</source>
+        <translation>已配对的计算机</translation>
+    </message>
+    <message>
+        <source>Pair again</source>
+        <translation>重新配对</translation>
+    </message>
+    <message>
+        <source>Pair a computer</source>
+        <translation>配对计算机</translation>
+    </message>
+</context>
+<context>
+    <name>PairedComputer</name>
+    <message>
+        <source>Computer without a name</source>
+        <translation>没有名称的计算机</translation>
+    </message>
+    <message>
+        <source>Last met at %1</source>
+        <translation>上次地址:%1</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>已连接</translation>
+    </message>
+    <message>
+        <source>Not paired there</source>
+        <translation>对方未配对</translation>
+    </message>
+    <message>
+        <source>Searching</source>
+        <translation>正在搜索</translation>
+    </message>
+    <message>
+        <source>It answers, and does not know this computer any more. Pair the two anew.</source>
+        <translation>它有应答,但已不认识此计算机。请将两台重新配对。</translation>
+    </message>
+    <message>
+        <source>It is found again by itself once it runs in the same network. If it has another address, you can type it here.</source>
+        <translation>只要它在同一网络中运行,就会自动找到。如果它换了地址,可以在这里输入。</translation>
+    </message>
+    <message>
+        <source>Another address</source>
+        <translation>其他地址</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>忘记</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>连接</translation>
+    </message>
+    <message>
+        <source>Forget %1?</source>
+        <translation>忘记 %1?</translation>
+    </message>
+    <message>
+        <source>The two do not connect any more until they are paired again.</source>
+        <translation>在重新配对之前,两台计算机不再连接。</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>保留</translation>
+    </message>
+</context>
+<context>
+    <name>ComputerChoice</name>
+    <message>
+        <source>1. On one computer</source>
+        <translation>1. 在一台计算机上</translation>
+    </message>
+    <message>
+        <source>It waits for two minutes, for one call.</source>
+        <translation>它会等待一次呼叫,为时两分钟。</translation>
+    </message>
+    <message>
+        <source>Wait for the other computer</source>
+        <translation>等待另一台计算机</translation>
+    </message>
+    <message>
+        <source>2. On the other computer</source>
+        <translation>2. 在另一台计算机上</translation>
+    </message>
+    <message>
+        <source>Type the address of the computer that waits. Where the service Avahi runs, it is found by itself.</source>
+        <translation>输入正在等待的计算机的地址。如果 Avahi 服务在运行,会自动找到它。</translation>
+    </message>
+    <message>
+        <source>Choose the computer that waits, or type its address.</source>
+        <translation>选择正在等待的计算机,或输入它的地址。</translation>
+    </message>
+    <message>
+        <source>No computer nearby has this switched on. You can also type its address.</source>
+        <translation>附近没有计算机开启此功能。您也可以输入它的地址。</translation>
+    </message>
+    <message>
+        <source>Pair</source>
+        <translation>配对</translation>
+    </message>
+    <message>
+        <source>Pair with %1</source>
+        <translation>与 %1 配对</translation>
+    </message>
+    <message>
+        <source>Address of the other computer</source>
+        <translation>另一台计算机的地址</translation>
+    </message>
+</context>
+<context>
+    <name>ComputerPairing</name>
+    <message>
+        <source>Waiting for the other computer</source>
+        <translation>正在等待另一台计算机</translation>
+    </message>
+    <message>
+        <source>Calling the other computer</source>
+        <translation>正在呼叫另一台计算机</translation>
+    </message>
+    <message>
+        <source>Now confirm the code on the other computer</source>
+        <translation>现在请在另一台计算机上确认代码</translation>
+    </message>
+    <message>
+        <source>Does %1 show the same code?</source>
+        <translation>%1 显示的代码相同吗?</translation>
+    </message>
+    <message>
+        <source>Does the other computer show the same code?</source>
+        <translation>另一台计算机显示的代码相同吗?</translation>
+    </message>
+    <message>
+        <source>Choose this computer there, or type its address: %1</source>
+        <translation>在那里选择此计算机,或输入它的地址:%1</translation>
+    </message>
+    <message>
+        <source>If the codes differ, somebody else is in between: answer no.</source>
+        <translation>如果代码不同,说明有人介入其中:请回答否。</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>否</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Yes, pair</source>
+        <translation>是,配对</translation>
+    </message>
+</context>
+<context>
+    <name>AddressLine</name>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsNotice</name>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+</context>
+<context>
+    <name>LocationPage</name>
+    <message>
+        <source>Location service of the system</source>
+        <translation>系统的位置服务</translation>
+    </message>
+    <message>
+        <source>GeoClue is asked for your city, and no closer. To find it, it may send which networks are around you to a service on the Internet. Without an answer the city of the time zone is used.</source>
+        <translation>只向 GeoClue 询问您所在的城市。为此它可能会把您周围有哪些网络发送给互联网上的服务。没有应答时使用时区的城市。</translation>
+    </message>
+    <message>
+        <source>City of the time zone</source>
+        <translation>时区的城市</translation>
+    </message>
+    <message>
+        <source>%1. Nobody is asked.</source>
+        <translation>%1。不询问任何人。</translation>
+    </message>
+    <message>
+        <source>Your time zone has no city.</source>
+        <translation>您的时区没有城市。</translation>
+    </message>
+    <message>
+        <source>A place that I choose</source>
+        <translation>我选择的地点</translation>
+    </message>
+    <message>
+        <source>Nobody is asked.</source>
+        <translation>不询问任何人。</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Nothing follows the sun. Times that you set yourself still work.</source>
+        <translation>不跟随太阳。您自己设置的时间仍然有效。</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>Functions that follow sunrise and sunset need to know roughly where you are. Nothing else uses it.</source>
+        <translation>跟随日出和日落的功能需要大致知道您在哪里。其他功能不使用它。</translation>
+    </message>
+    <message>
+        <source>Position in use</source>
+        <translation>使用中的位置</translation>
+    </message>
+    <message>
+        <source>It is sent, rounded to hundredths of a degree, to %1 for the times of sunrise and sunset.</source>
+        <translation>为获取日出和日落时间,它会四舍五入到百分之一度后发送给 %1。</translation>
+    </message>
+    <message>
+        <source>The times of sunrise and sunset are computed on this computer. The position is sent to nobody.</source>
+        <translation>日出和日落时间在此计算机上计算。位置不会发送给任何人。</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>无</translation>
+    </message>
+</context>
+<context>
+    <name>PlaceChoice</name>
+    <message>
+        <source>Chosen place: %1</source>
+        <translation>选择的地点:%1</translation>
+    </message>
+    <message>
+        <source>Chosen place</source>
+        <translation>选择的地点</translation>
+    </message>
+    <message>
+        <source>City</source>
+        <translation>城市</translation>
+    </message>
+    <message>
+        <source>Of the cities that name a time zone. They are known here: nothing is sent.</source>
+        <translation>来自为时区命名的城市。它们在本机已知:不发送任何内容。</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>搜索</translation>
+    </message>
+    <message>
+        <source>Latitude</source>
+        <translation>纬度</translation>
+    </message>
+    <message>
+        <source>Degrees, north of the equator. South is negative.</source>
+        <translation>赤道以北的度数。南为负。</translation>
+    </message>
+    <message>
+        <source>Longitude</source>
+        <translation>经度</translation>
+    </message>
+    <message>
+        <source>Degrees, east of Greenwich. West is negative.</source>
+        <translation>格林尼治以东的度数。西为负。</translation>
+    </message>
+    <message>
+        <source>A latitude is a number from -90 to 90, a longitude one from -180 to 180.</source>
+        <translation>纬度是 -90 到 90 的数,经度是 -180 到 180 的数。</translation>
+    </message>
+</context>
+<context>
+    <name>LuComputers</name>
+    <message>
+        <source>The connection could not be switched on: %1.</source>
+        <translation>无法开启连接:%1。</translation>
+    </message>
+    <message>
+        <source>This is neither an address, such as 192.168.1.7, nor the name of a computer.</source>
+        <translation>这既不是地址(如 192.168.1.7),也不是计算机名称。</translation>
+    </message>
+    <message>
+        <source>Only a computer of your local network can be paired.</source>
+        <translation>只能配对本地网络中的计算机。</translation>
+    </message>
+    <message>
+        <source>No other computer has called within two minutes.</source>
+        <translation>两分钟内没有其他计算机呼叫。</translation>
+    </message>
+    <message>
+        <source>The code was not confirmed on both computers within two minutes.</source>
+        <translation>两分钟内未在两台计算机上确认代码。</translation>
+    </message>
+    <message>
+        <source>No Lumen Desk answers there. Are both computers on the same network, is the connection switched on there, and does a firewall let it through?</source>
+        <translation>那里没有 Lumen Desk 应答。两台计算机是否在同一网络、那里的连接是否已开启、防火墙是否放行?</translation>
+    </message>
+    <message>
+        <source>The other computer is not waiting. Choose "Wait for the other computer" there first.</source>
+        <translation>另一台计算机没有在等待。请先在那里选择“等待另一台计算机”。</translation>
+    </message>
+    <message>
+        <source>The other computer did not confirm the code.</source>
+        <translation>另一台计算机没有确认代码。</translation>
+    </message>
+    <message>
+        <source>What has called does not keep to the rules. Nothing was paired.</source>
+        <translation>呼叫方不遵守规则。没有配对。</translation>
+    </message>
+    <message>
+        <source>No computer of this name was found.</source>
+        <translation>找不到此名称的计算机。</translation>
+    </message>
+</context>
+<context>
+    <name>LuPlace</name>
+    <message>
+        <source>%1° S</source>
+        <translation>南纬 %1°</translation>
+    </message>
+    <message>
+        <source>%1° N</source>
+        <translation>北纬 %1°</translation>
+    </message>
+    <message>
+        <source>%1° W</source>
+        <translation>西经 %1°</translation>
+    </message>
+    <message>
+        <source>%1° E</source>
+        <translation>东经 %1°</translation>
     </message>
 </context>
 </TS>

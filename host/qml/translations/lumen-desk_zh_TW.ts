@@ -675,6 +675,14 @@
         <source>Advanced</source>
         <translation>進階</translation>
     </message>
+    <message>
+        <source>Location</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>Two computers</source>
+        <translation>兩台電腦</translation>
+    </message>
 </context>
 <context>
     <name>Tray</name>
@@ -813,6 +821,372 @@
     <message>
         <source>%1 leads to another monitor now; nothing was sent to it.</source>
         <translation>%1 現在連接到另一台顯示器；未向其傳送任何內容。</translation>
+    </message>
+</context>
+<context>
+    <name>ComputersPage</name>
+    <message>
+        <source>Two computers</source>
+        <translation>兩台電腦</translation>
+    </message>
+    <message>
+        <source>Two computers that share a monitor can hand over keyboard and mouse at the edge of the screen. Connected, they agree who has the pointer, and it enters where it left.</source>
+        <translation>共用一台顯示器的兩台電腦可以在螢幕邊緣交接鍵盤和滑鼠。連線後,它們知道指標在哪一方,指標從離開處進入。</translation>
+    </message>
+    <message>
+        <source>Connection to a second computer</source>
+        <translation>與第二台電腦的連線</translation>
+    </message>
+    <message>
+        <source>Only the computer that you pair can connect, encrypted, on your local network. It learns where the pointer is: no keys, texts or files are sent. While it is on, the network sees this computer's name.</source>
+        <translation>只有您配對的電腦才能在區域網路中加密連線。它只知道指標在哪裡:不會傳送按鍵、文字或檔案。開啟期間,網路可以看到這台電腦的名稱。</translation>
+    </message>
+    <message>
+        <source>This computer</source>
+        <translation>這台電腦</translation>
+    </message>
+    <message>
+        <source>It has no address on a local network.</source>
+        <translation>它沒有區域網路位址。</translation>
+    </message>
+    <message>
+        <source>Paired computer</source>
+        <translation>已配對的電腦</translation>
+    </message>
+    <message>
+        <source>Pair again</source>
+        <translation>重新配對</translation>
+    </message>
+    <message>
+        <source>Pair a computer</source>
+        <translation>配對電腦</translation>
+    </message>
+</context>
+<context>
+    <name>PairedComputer</name>
+    <message>
+        <source>Computer without a name</source>
+        <translation>沒有名稱的電腦</translation>
+    </message>
+    <message>
+        <source>Last met at %1</source>
+        <translation>上次位址:%1</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>關閉</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>已連線</translation>
+    </message>
+    <message>
+        <source>Not paired there</source>
+        <translation>對方未配對</translation>
+    </message>
+    <message>
+        <source>Searching</source>
+        <translation>正在搜尋</translation>
+    </message>
+    <message>
+        <source>It answers, and does not know this computer any more. Pair the two anew.</source>
+        <translation>它有回應,但已不認識這台電腦。請將兩台重新配對。</translation>
+    </message>
+    <message>
+        <source>It is found again by itself once it runs in the same network. If it has another address, you can type it here.</source>
+        <translation>只要它在同一網路中執行,就會自動找到。如果它換了位址,可以在這裡輸入。</translation>
+    </message>
+    <message>
+        <source>Another address</source>
+        <translation>其他位址</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>忘記</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>連線</translation>
+    </message>
+    <message>
+        <source>Forget %1?</source>
+        <translation>忘記 %1?</translation>
+    </message>
+    <message>
+        <source>The two do not connect any more until they are paired again.</source>
+        <translation>在重新配對之前,兩台電腦不再連線。</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>保留</translation>
+    </message>
+</context>
+<context>
+    <name>ComputerChoice</name>
+    <message>
+        <source>1. On one computer</source>
+        <translation>1. 在一台電腦上</translation>
+    </message>
+    <message>
+        <source>It waits for two minutes, for one call.</source>
+        <translation>它會等待一次呼叫,為時兩分鐘。</translation>
+    </message>
+    <message>
+        <source>Wait for the other computer</source>
+        <translation>等待另一台電腦</translation>
+    </message>
+    <message>
+        <source>2. On the other computer</source>
+        <translation>2. 在另一台電腦上</translation>
+    </message>
+    <message>
+        <source>Type the address of the computer that waits. Where the service Avahi runs, it is found by itself.</source>
+        <translation>輸入正在等待的電腦的位址。如果 Avahi 服務在執行,會自動找到它。</translation>
+    </message>
+    <message>
+        <source>Choose the computer that waits, or type its address.</source>
+        <translation>選擇正在等待的電腦,或輸入它的位址。</translation>
+    </message>
+    <message>
+        <source>No computer nearby has this switched on. You can also type its address.</source>
+        <translation>附近沒有電腦開啟此功能。您也可以輸入它的位址。</translation>
+    </message>
+    <message>
+        <source>Pair</source>
+        <translation>配對</translation>
+    </message>
+    <message>
+        <source>Pair with %1</source>
+        <translation>與 %1 配對</translation>
+    </message>
+    <message>
+        <source>Address of the other computer</source>
+        <translation>另一台電腦的位址</translation>
+    </message>
+</context>
+<context>
+    <name>ComputerPairing</name>
+    <message>
+        <source>Waiting for the other computer</source>
+        <translation>正在等待另一台電腦</translation>
+    </message>
+    <message>
+        <source>Calling the other computer</source>
+        <translation>正在呼叫另一台電腦</translation>
+    </message>
+    <message>
+        <source>Now confirm the code on the other computer</source>
+        <translation>現在請在另一台電腦上確認代碼</translation>
+    </message>
+    <message>
+        <source>Does %1 show the same code?</source>
+        <translation>%1 顯示的代碼相同嗎?</translation>
+    </message>
+    <message>
+        <source>Does the other computer show the same code?</source>
+        <translation>另一台電腦顯示的代碼相同嗎?</translation>
+    </message>
+    <message>
+        <source>Choose this computer there, or type its address: %1</source>
+        <translation>在那裡選擇這台電腦,或輸入它的位址:%1</translation>
+    </message>
+    <message>
+        <source>If the codes differ, somebody else is in between: answer no.</source>
+        <translation>如果代碼不同,表示有人介入其中:請回答否。</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>否</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Yes, pair</source>
+        <translation>是,配對</translation>
+    </message>
+</context>
+<context>
+    <name>AddressLine</name>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsNotice</name>
+    <message>
+        <source>Close</source>
+        <translation>關閉</translation>
+    </message>
+</context>
+<context>
+    <name>LocationPage</name>
+    <message>
+        <source>Location service of the system</source>
+        <translation>系統的定位服務</translation>
+    </message>
+    <message>
+        <source>GeoClue is asked for your city, and no closer. To find it, it may send which networks are around you to a service on the Internet. Without an answer the city of the time zone is used.</source>
+        <translation>只向 GeoClue 詢問您所在的城市。為此它可能會把您周圍有哪些網路傳送給網際網路上的服務。沒有回應時使用時區的城市。</translation>
+    </message>
+    <message>
+        <source>City of the time zone</source>
+        <translation>時區的城市</translation>
+    </message>
+    <message>
+        <source>%1. Nobody is asked.</source>
+        <translation>%1。不詢問任何人。</translation>
+    </message>
+    <message>
+        <source>Your time zone has no city.</source>
+        <translation>您的時區沒有城市。</translation>
+    </message>
+    <message>
+        <source>A place that I choose</source>
+        <translation>我選擇的地點</translation>
+    </message>
+    <message>
+        <source>Nobody is asked.</source>
+        <translation>不詢問任何人。</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>關閉</translation>
+    </message>
+    <message>
+        <source>Nothing follows the sun. Times that you set yourself still work.</source>
+        <translation>不跟隨太陽。您自己設定的時間仍然有效。</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>Functions that follow sunrise and sunset need to know roughly where you are. Nothing else uses it.</source>
+        <translation>跟隨日出和日落的功能需要大致知道您在哪裡。其他功能不使用它。</translation>
+    </message>
+    <message>
+        <source>Position in use</source>
+        <translation>使用中的位置</translation>
+    </message>
+    <message>
+        <source>It is sent, rounded to hundredths of a degree, to %1 for the times of sunrise and sunset.</source>
+        <translation>為取得日出和日落時間,它會四捨五入到百分之一度後傳送給 %1。</translation>
+    </message>
+    <message>
+        <source>The times of sunrise and sunset are computed on this computer. The position is sent to nobody.</source>
+        <translation>日出和日落時間在這台電腦上計算。位置不會傳送給任何人。</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>無</translation>
+    </message>
+</context>
+<context>
+    <name>PlaceChoice</name>
+    <message>
+        <source>Chosen place: %1</source>
+        <translation>選擇的地點:%1</translation>
+    </message>
+    <message>
+        <source>Chosen place</source>
+        <translation>選擇的地點</translation>
+    </message>
+    <message>
+        <source>City</source>
+        <translation>城市</translation>
+    </message>
+    <message>
+        <source>Of the cities that name a time zone. They are known here: nothing is sent.</source>
+        <translation>來自為時區命名的城市。它們在本機已知:不傳送任何內容。</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>搜尋</translation>
+    </message>
+    <message>
+        <source>Latitude</source>
+        <translation>緯度</translation>
+    </message>
+    <message>
+        <source>Degrees, north of the equator. South is negative.</source>
+        <translation>赤道以北的度數。南為負。</translation>
+    </message>
+    <message>
+        <source>Longitude</source>
+        <translation>經度</translation>
+    </message>
+    <message>
+        <source>Degrees, east of Greenwich. West is negative.</source>
+        <translation>格林威治以東的度數。西為負。</translation>
+    </message>
+    <message>
+        <source>A latitude is a number from -90 to 90, a longitude one from -180 to 180.</source>
+        <translation>緯度是 -90 到 90 的數,經度是 -180 到 180 的數。</translation>
+    </message>
+</context>
+<context>
+    <name>LuComputers</name>
+    <message>
+        <source>The connection could not be switched on: %1.</source>
+        <translation>無法開啟連線:%1。</translation>
+    </message>
+    <message>
+        <source>This is neither an address, such as 192.168.1.7, nor the name of a computer.</source>
+        <translation>這既不是位址(如 192.168.1.7),也不是電腦名稱。</translation>
+    </message>
+    <message>
+        <source>Only a computer of your local network can be paired.</source>
+        <translation>只能配對區域網路中的電腦。</translation>
+    </message>
+    <message>
+        <source>No other computer has called within two minutes.</source>
+        <translation>兩分鐘內沒有其他電腦呼叫。</translation>
+    </message>
+    <message>
+        <source>The code was not confirmed on both computers within two minutes.</source>
+        <translation>兩分鐘內未在兩台電腦上確認代碼。</translation>
+    </message>
+    <message>
+        <source>No Lumen Desk answers there. Are both computers on the same network, is the connection switched on there, and does a firewall let it through?</source>
+        <translation>那裡沒有 Lumen Desk 回應。兩台電腦是否在同一網路、那裡的連線是否已開啟、防火牆是否放行?</translation>
+    </message>
+    <message>
+        <source>The other computer is not waiting. Choose "Wait for the other computer" there first.</source>
+        <translation>另一台電腦沒有在等待。請先在那裡選擇「等待另一台電腦」。</translation>
+    </message>
+    <message>
+        <source>The other computer did not confirm the code.</source>
+        <translation>另一台電腦沒有確認代碼。</translation>
+    </message>
+    <message>
+        <source>What has called does not keep to the rules. Nothing was paired.</source>
+        <translation>呼叫方不遵守規則。沒有配對。</translation>
+    </message>
+    <message>
+        <source>No computer of this name was found.</source>
+        <translation>找不到此名稱的電腦。</translation>
+    </message>
+</context>
+<context>
+    <name>LuPlace</name>
+    <message>
+        <source>%1° S</source>
+        <translation>南緯 %1°</translation>
+    </message>
+    <message>
+        <source>%1° N</source>
+        <translation>北緯 %1°</translation>
+    </message>
+    <message>
+        <source>%1° W</source>
+        <translation>西經 %1°</translation>
+    </message>
+    <message>
+        <source>%1° E</source>
+        <translation>東經 %1°</translation>
     </message>
 </context>
 </TS>

@@ -2,9 +2,7 @@
 #include "services/kvm/KvmChannel.h"
 
 #include <QDebug>
-#include <QDir>
-#include <QJsonDocument>
-#include <QSaveFile>
+#include <QSysInfo>
 
 #include <algorithm>
 
@@ -12,41 +10,25 @@ namespace services {
 
 namespace {
 
-constexpr int PairingMs = 120'000;
 constexpr int LongestDialMs = 30'000;
 /// Strangers at one time: a stranger costs a handshake.
 constexpr int MostStrangers = 8;
-
-bool isLocal(const QHostAddress& address)
-{
-    static const QList<QPair<QHostAddress, int>> networks = {
-        QHostAddress::parseSubnet(QStringLiteral("127.0.0.0/8")),
-        QHostAddress::parseSubnet(QStringLiteral("10.0.0.0/8")),
-        QHostAddress::parseSubnet(QStringLiteral("172.16.0.0/12")),
-        QHostAddress::parseSubnet(QStringLiteral("192.168.0.0/16")),
-        QHostAddress::parseSubnet(QStringLiteral("169.254.0.0/16")),
-        QHostAddress::parseSubnet(QStringLiteral("::1/128")),
-        QHostAddress::parseSubnet(QStringLiteral("fc00::/7")),
-        QHostAddress::parseSubnet(QStringLiteral("fe80::/10")),
-    };
-    bool mapped = false;
-    const QHostAddress four(address.toIPv4Address(&mapped)); // "::ffff:192.168.0.2" too
-    const QHostAddress plain = mapped ? four : address;
-    return std::any_of(networks.begin(), networks.end(), [&](const auto& network) {
-        return plain.protocol() == network.first.protocol() && plain.isInSubnet(network);
-    });
-}
 
 } // namespace
 
 KvmChannel::KvmChannel(const KvmChannelOptions& options, QObject* parent)
     : QTcpServer(parent), m_options(options)
 {
+    if (m_options.name.isEmpty())
+        m_options.name = shownName(QSysInfo::machineHostName());
     m_pairingTimer.setSingleShot(true);
-    connect(&m_pairingTimer, &QTimer::timeout, this,
-            [this] { failPairing(QStringLiteral("nobody has confirmed within two minutes")); });
+    connect(&m_pairingTimer, &QTimer::timeout, this, [this] {
+        failPairing(m_pairing ? KvmFailure::NotConfirmed : KvmFailure::NobodyCame,
+                    QStringLiteral("nobody has confirmed within two minutes"));
+    });
     m_dialTimer.setSingleShot(true);
     connect(&m_dialTimer, &QTimer::timeout, this, &KvmChannel::dial);
+    m_peer = KvmPeer::load(m_options.folder);
 }
 
 KvmChannel::~KvmChannel()
@@ -58,23 +40,28 @@ KvmChannel::~KvmChannel()
 
 bool KvmChannel::setEnabled(bool enabled)
 {
-    if (enabled == isEnabled())
+    if (enabled == isEnabled() && m_error.isEmpty())
         return true;
     if (enabled) {
         if (!m_identity)
             m_identity = KvmIdentity::load(m_options.folder);
         if (!m_identity) {
             m_error = QStringLiteral("no identity can be made in ") + m_options.folder;
+            Q_EMIT changed();
             return false;
         }
-        loadPeer();
+        m_peer = KvmPeer::load(m_options.folder);
         if (!listen(m_options.address, m_options.port)) {
             m_error = errorString();
             qWarning().noquote() << "[LuKvm] cannot listen:" << m_error;
+            Q_EMIT changed();
             return false;
         }
+        m_error.clear();
         m_dialMs = 0;
+        m_nextAddress = 0;
         dialLater();
+        Q_EMIT changed();
         return true;
     }
     QTcpServer::close();
@@ -87,6 +74,9 @@ bool KvmChannel::setEnabled(bool enabled)
         session->close(QStringLiteral("switched off"));
         Q_EMIT connectedChanged();
     }
+    m_error.clear();
+    m_failure = KvmFailure::None;
+    Q_EMIT changed();
     return true;
 }
 
@@ -95,52 +85,77 @@ bool KvmChannel::hasPrecedence() const
     return m_identity && m_identity->fingerprint() < m_peer.fingerprint;
 }
 
-void KvmChannel::loadPeer()
+void KvmChannel::savePeer()
 {
-    m_peer = {};
-    QFile file(m_options.folder + QStringLiteral("/peer.json"));
-    if (!file.open(QIODevice::ReadOnly))
-        return;
-    const QJsonObject peer = QJsonDocument::fromJson(file.read(64 * 1024)).object();
-    const QByteArray fingerprint = QByteArray::fromHex(peer[u"fingerprint"].toString().toLatin1());
-    if (fingerprint.size() != 32) {
-        qWarning().noquote() << "[LuKvm] no paired computer can be read from" << file.fileName();
-        return;
-    }
-    m_peer = {fingerprint, QHostAddress(peer[u"address"].toString()), quint16(peer[u"port"].toInt())};
-}
-
-bool KvmChannel::savePeer()
-{
-    const QJsonObject peer{{QStringLiteral("fingerprint"), QString::fromLatin1(m_peer.fingerprint.toHex())},
-                           {QStringLiteral("address"), m_peer.address.toString()},
-                           {QStringLiteral("port"), m_peer.port}};
-    QSaveFile file(m_options.folder + QStringLiteral("/peer.json"));
-    return file.open(QIODevice::WriteOnly) &&
-           file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner) &&
-           file.write(QJsonDocument(peer).toJson()) > 0 && file.commit();
+    if (!m_peer.save(m_options.folder))
+        qWarning() << "[LuKvm] the pairing lasts until the program ends: it cannot be written";
+    Q_EMIT changed();
 }
 
 void KvmChannel::dialLater()
 {
     if (!isEnabled() || !isPaired() || m_session || m_dialTimer.isActive())
         return;
-    m_dialMs = m_dialMs == 0 ? m_options.firstDialMs : std::min(2 * m_dialMs, LongestDialMs);
+    // Every known address has its turn before the pause grows.
+    if (m_dialMs == 0)
+        m_dialMs = m_options.firstDialMs;
+    else if (m_nextAddress == 0)
+        m_dialMs = std::min(2 * m_dialMs, LongestDialMs);
     // The one with precedence goes first, so that the two seldom call each other at once.
     m_dialTimer.start(hasPrecedence() ? m_dialMs : 2 * m_dialMs);
 }
 
 void KvmChannel::dial()
 {
-    if (m_session || m_peer.address.isNull() || !isLocal(m_peer.address))
+    if (m_session)
         return;
-    take(new KvmLink(*m_identity, m_peer.address, m_peer.port, this));
+    const qsizetype places = m_peer.addresses.size() + 1;
+    if (m_nextAddress == 0 && m_hint.isNull())
+        m_nextAddress = 1;
+    if (m_nextAddress >= places) {
+        m_nextAddress = 0;
+        return;
+    }
+    const bool isHint = m_nextAddress == 0;
+    const QHostAddress address = isHint ? m_hint : m_peer.addresses[m_nextAddress - 1];
+    m_nextAddress = (m_nextAddress + 1) % places;
+    if (isLocalAddress(address))
+        take(new KvmLink(*m_identity, address, isHint ? m_hintPort : m_peer.port, this));
+    else
+        dialLater();
+}
+
+void KvmChannel::tryAddress(const QHostAddress& address, quint16 port)
+{
+    if (!isEnabled() || !isPaired() || m_session || !isLocalAddress(address) || port == 0)
+        return;
+    m_hint = address;
+    m_hintPort = port;
+    m_dialTimer.stop();
+    m_dialMs = 0;
+    m_nextAddress = 0;
+    dial();
+}
+
+bool KvmChannel::setPeerAddress(const QHostAddress& address, quint16 port)
+{
+    if (!isPaired() || !isLocalAddress(address) || port == 0)
+        return false;
+    m_peer.remember(address);
+    m_peer.port = port;
+    savePeer();
+    if (KvmLink* const session = std::exchange(m_session, nullptr)) {
+        session->close(QStringLiteral("the address was changed"));
+        Q_EMIT connectedChanged();
+    }
+    tryAddress(address, port);
+    return true;
 }
 
 void KvmChannel::incomingConnection(qintptr descriptor)
 {
     auto* const link = new KvmLink(*m_identity, descriptor, this);
-    if (!isLocal(link->peerAddress()) || m_strangers.size() >= MostStrangers) {
+    if (!isLocalAddress(link->peerAddress()) || m_strangers.size() >= MostStrangers) {
         connect(link, &KvmLink::closed, link, &QObject::deleteLater);
         link->close(QStringLiteral("refused"));
         return;
@@ -163,9 +178,69 @@ void KvmChannel::judge(KvmLink* link)
     if (link == m_pairingLink || (isPairing() && !m_pairingLink && fingerprint != m_peer.fingerprint))
         beginPairing(link);
     else if (isPaired() && fingerprint == m_peer.fingerprint)
-        beginSession(link);
+        greet(link);
     else
         link->close(QStringLiteral("not the paired computer"));
+}
+
+QJsonObject KvmChannel::introduction(const QString& type) const
+{
+    // Where this computer listens: the other one knows only where the call came from.
+    QJsonObject message{{QStringLiteral("t"), type},
+                        {QStringLiteral("port"), serverPort()},
+                        {QStringLiteral("name"), m_options.name}};
+    if (m_options.address != QHostAddress::Any)
+        message[QStringLiteral("address")] = m_options.address.toString();
+    return message;
+}
+
+QHostAddress KvmChannel::listeningAddress(const KvmLink* link, const QJsonObject& introduction)
+{
+    const QHostAddress told(introduction[u"address"].toString());
+    return isLocalAddress(told) ? told : link->peerAddress();
+}
+
+// Each side has to say that it knows the other one. A computer that has forgotten this one ends the call
+// instead.
+void KvmChannel::greet(KvmLink* link)
+{
+    m_strangers.append(link);
+    connect(link, &KvmLink::received, this,
+            [this, link](const QJsonObject& message) { takeGreeting(link, message); });
+    link->send(introduction(HelloWord));
+}
+
+void KvmChannel::takeGreeting(KvmLink* link, const QJsonObject& message)
+{
+    if (!m_strangers.contains(link))
+        return;
+    m_strangers.removeOne(link);
+    disconnect(link, &KvmLink::received, this, nullptr);
+    if (message[u"t"].toString() == HelloWord) {
+        m_isForgottenThere = false;
+        const bool moved = m_peer.remember(listeningAddress(link, message));
+        takeHello(message);
+        if (moved)
+            savePeer();
+        beginSession(link);
+    } else if (isPairing() && !m_pairingLink) {
+        // It has forgotten this computer and wants to be paired anew.
+        beginPairing(link);
+        takePairingMessage(message);
+    } else {
+        link->close(QStringLiteral("neither known nor waited for"));
+    }
+}
+
+void KvmChannel::takeHello(const QJsonObject& message)
+{
+    const int port = message[u"port"].toInt();
+    const QString name = shownName(message[u"name"].toString());
+    if (port <= 0 || port > 65535 || (port == m_peer.port && name == m_peer.name))
+        return;
+    m_peer.port = quint16(port);
+    m_peer.name = name;
+    savePeer();
 }
 
 void KvmChannel::beginSession(KvmLink* link)
@@ -186,123 +261,45 @@ void KvmChannel::beginSession(KvmLink* link)
             Q_EMIT received(message);
     });
     Q_EMIT connectedChanged();
+    Q_EMIT changed();
 }
 
 void KvmChannel::onClosed(KvmLink* link, const QString& reason)
 {
     link->deleteLater();
-    m_strangers.removeOne(link);
+    // It took this computer's certificate and ended the call without a word of its own.
+    const bool greeted = m_strangers.removeOne(link) && link->isReady() && link->isDialer();
+    if (greeted && isEnabled() && !m_session)
+        m_isForgottenThere = true;
     if (link == m_pairingLink) {
         m_pairingLink = nullptr;
-        failPairing(reason);
+        const bool compared = m_pairing && !m_pairing->code().isEmpty();
+        failPairing(!link->isReady()   ? KvmFailure::NotReached
+                    : compared         ? KvmFailure::Refused
+                    : link->isDialer() ? KvmFailure::NotWaiting
+                                       : KvmFailure::Broken,
+                    reason);
     }
     if (link == m_session) {
         m_session = nullptr;
         Q_EMIT connectedChanged();
     }
     dialLater();
-}
-
-bool KvmChannel::startPairing(const QHostAddress& address, quint16 port)
-{
-    if (!isEnabled() || (!address.isNull() && !isLocal(address)))
-        return false;
-    cancelPairing();
-    m_pairingTimer.start(PairingMs);
-    if (!address.isNull()) {
-        m_pairingPort = port;
-        m_pairingLink = new KvmLink(*m_identity, address, port, this);
-        take(m_pairingLink);
-    }
-    return true;
-}
-
-void KvmChannel::beginPairing(KvmLink* link)
-{
-    m_pairingLink = link;
-    m_pairing =
-        std::make_unique<KvmPairing>(link->isDialer(), m_identity->fingerprint(), link->peerFingerprint());
-    connect(link, &KvmLink::received, this, [this, link](const QJsonObject& message) {
-        if (link == m_pairingLink)
-            takePairingMessage(message);
-    });
-    // Where this computer listens: the other one knows only the port of the call.
-    link->send({{QStringLiteral("t"), QStringLiteral("port")}, {QStringLiteral("port"), serverPort()}});
-    sendPairing(m_pairing->start());
-}
-
-void KvmChannel::takePairingMessage(const QJsonObject& message)
-{
-    if (message[u"t"].toString() == QLatin1String("port")) {
-        m_pairingPort = quint16(message[u"port"].toInt());
-        return;
-    }
-    const bool hadCode = !m_pairing->code().isEmpty();
-    sendPairing(m_pairing->take(message));
-    if (!hadCode && !m_pairing->code().isEmpty())
-        Q_EMIT codeKnown(m_pairing->code());
-    checkPairing();
-}
-
-void KvmChannel::sendPairing(const QList<QJsonObject>& messages)
-{
-    for (const QJsonObject& message : messages)
-        m_pairingLink->send(message);
-}
-
-void KvmChannel::confirmPairing()
-{
-    if (!m_pairing)
-        return;
-    sendPairing(m_pairing->confirm());
-    checkPairing();
-}
-
-void KvmChannel::checkPairing()
-{
-    if (m_pairing->hasFailed())
-        return failPairing(QStringLiteral("the other computer does not keep to the rules"));
-    if (!m_pairing->isDone())
-        return;
-    KvmLink* const link = std::exchange(m_pairingLink, nullptr);
-    m_pairing.reset();
-    m_pairingTimer.stop();
-    if (KvmLink* const before = std::exchange(m_session, nullptr))
-        before->close(QStringLiteral("another computer is paired"));
-    m_peer = {link->peerFingerprint(), link->peerAddress(), m_pairingPort};
-    if (!savePeer())
-        qWarning() << "[LuKvm] the pairing lasts until the program ends: it cannot be written";
-    disconnect(link, &KvmLink::received, this, nullptr);
-    Q_EMIT paired();
-    beginSession(link);
-}
-
-void KvmChannel::failPairing(const QString& reason)
-{
-    if (!isPairing())
-        return;
-    // One try a start: who guesses gets no second one.
-    cancelPairing();
-    Q_EMIT pairingFailed(reason);
-}
-
-void KvmChannel::cancelPairing()
-{
-    m_pairingTimer.stop();
-    m_pairing.reset();
-    if (KvmLink* const link = std::exchange(m_pairingLink, nullptr))
-        link->close(QStringLiteral("no pairing"));
+    Q_EMIT changed();
 }
 
 void KvmChannel::forget()
 {
     m_peer = {};
+    m_hint.clear();
+    m_isForgottenThere = false;
     m_dialTimer.stop();
-    QFile::remove(m_options.folder + QStringLiteral("/peer.json"));
+    KvmPeer::remove(m_options.folder);
     if (KvmLink* const session = std::exchange(m_session, nullptr)) {
         session->close(QStringLiteral("forgotten"));
         Q_EMIT connectedChanged();
     }
+    Q_EMIT changed();
 }
 
 void KvmChannel::send(const QJsonObject& message)

@@ -4,6 +4,7 @@
 #include "services/kvm/KvmIdentity.h"
 #include "services/kvm/KvmLink.h"
 #include "services/kvm/KvmPairing.h"
+#include "services/kvm/KvmPeer.h"
 
 #include <QHostAddress>
 #include <QJsonObject>
@@ -20,8 +21,21 @@ struct KvmChannelOptions
 {
     QString folder;
     QHostAddress address = QHostAddress::Any;
-    quint16 port = 47823;
+    static constexpr quint16 UsualPort = 47823;
+    quint16 port = UsualPort;
     int firstDialMs = 1000; ///< Pause before the first call; it doubles up to half a minute.
+    QString name;           ///< What this computer calls itself; empty: the name that the system has.
+};
+
+/// Why a pairing came to nothing.
+enum class KvmFailure {
+    None,
+    NobodyCame,   ///< Nobody has called within the time.
+    NotConfirmed, ///< The codes were shown, and not confirmed within the time.
+    NotReached,   ///< Nothing answers at the address, or it is no Lumen Desk.
+    NotWaiting,   ///< A Lumen Desk answers that waits for no other computer.
+    Refused,      ///< The other person did not find the codes equal, or gave up.
+    Broken,       ///< The other side does not keep to the rules.
 };
 
 /// The connection to the one other computer that this one is paired with, over the local network.
@@ -42,10 +56,22 @@ public:
     bool setEnabled(bool enabled);
     bool isEnabled() const { return isListening(); }
     QString errorText() const { return m_error; }
+    QString name() const { return m_options.name; }
+    /// SHA-256 of this computer's certificate; empty while the channel has never been on.
+    QByteArray fingerprint() const { return m_identity ? m_identity->fingerprint() : QByteArray(); }
 
-    bool isPaired() const { return !m_peer.fingerprint.isEmpty(); }
+    bool isPaired() const { return m_peer.isPaired(); }
+    const KvmPeer& peer() const { return m_peer; }
     /// The paired computer has proved itself and answers.
     bool isConnected() const { return m_session != nullptr; }
+    /// The paired computer was reached last time, and knows this one no more.
+    bool isForgottenThere() const { return m_isForgottenThere; }
+
+    /// The paired computer may be at another place now, as the network says: it is called there at once, and
+    /// later on in turn with the addresses where it was met. Nothing while it is connected.
+    void tryAddress(const QHostAddress& address, quint16 port);
+    /// The same, as the person says: the address is kept. False if it is not of a local network.
+    bool setPeerAddress(const QHostAddress& address, quint16 port);
     /// Whether this computer's word holds where both speak at once: true on exactly one of the two.
     bool hasPrecedence() const;
 
@@ -58,6 +84,14 @@ public:
     void cancelPairing();
     bool isPairing() const { return m_pairingTimer.isActive(); }
     QString pairingCode() const { return m_pairing ? m_pairing->code() : QString(); }
+    /// It was this computer that called.
+    bool isCalling() const { return isPairing() && m_pairingLink && m_pairingLink->isDialer(); }
+    /// The person here has confirmed; the other one may not have.
+    bool isConfirmedHere() const { return m_pairing && m_pairing->isConfirmedHere(); }
+    /// What the computer that is being paired with calls itself.
+    QString pairingName() const { return m_pairingName; }
+    /// Of the last pairing; none while one is under way.
+    KvmFailure failure() const { return m_failure; }
 
     /// The paired computer is one no more.
     void forget();
@@ -67,6 +101,8 @@ public:
 
 Q_SIGNALS:
     void connectedChanged();
+    /// Something that is shown has changed: on and off, pairing, peer and its addresses.
+    void changed();
     void received(const QJsonObject& message);
     void codeKnown(const QString& code);
     void paired();
@@ -76,16 +112,18 @@ protected:
     void incomingConnection(qintptr descriptor) override;
 
 private:
-    struct Peer
-    {
-        QByteArray fingerprint;
-        QHostAddress address;
-        quint16 port = 0;
-    };
+    /// First word to the paired computer.
+    static inline const QString HelloWord = QStringLiteral("hello");
 
-    void loadPeer();
-    bool savePeer();
+    void savePeer();
     void dial();
+    void greet(KvmLink* link);
+    void takeGreeting(KvmLink* link, const QJsonObject& message);
+    void takeHello(const QJsonObject& message);
+    QJsonObject introduction(const QString& type) const;
+    /// Where the other side can be called: a computer that listens on one address says so, another one is
+    /// where its call came from.
+    static QHostAddress listeningAddress(const KvmLink* link, const QJsonObject& introduction);
     void dialLater();
     void take(KvmLink* link);
     void judge(KvmLink* link);
@@ -94,18 +132,25 @@ private:
     void takePairingMessage(const QJsonObject& message);
     void sendPairing(const QList<QJsonObject>& messages);
     void checkPairing();
-    void failPairing(const QString& reason);
+    void failPairing(KvmFailure failure, const QString& reason);
     void onClosed(KvmLink* link, const QString& reason);
 
     KvmChannelOptions m_options;
     QString m_error;
     std::optional<KvmIdentity> m_identity;
-    Peer m_peer;
+    KvmPeer m_peer;
     QList<KvmLink*> m_strangers; ///< Links that nobody has judged yet.
     KvmLink* m_session = nullptr;
     KvmLink* m_pairingLink = nullptr;
     std::unique_ptr<KvmPairing> m_pairing;
     quint16 m_pairingPort = 0; ///< Of the computer that is being paired with, where it listens.
+    QString m_pairingName;
+    QHostAddress m_pairingAddress;
+    KvmFailure m_failure = KvmFailure::None;
+    bool m_isForgottenThere = false;
+    QHostAddress m_hint; ///< Where the network says that the paired computer is.
+    quint16 m_hintPort = 0;
+    qsizetype m_nextAddress = 0; ///< To be called next: 0 is the hint.
     QTimer m_pairingTimer;
     QTimer m_dialTimer;
     int m_dialMs = 0;

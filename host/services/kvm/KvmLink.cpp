@@ -48,6 +48,7 @@ void KvmLink::setUp(const KvmIdentity& identity)
         if (m_closed)
             return;
         m_ready = true;
+        m_peerAddress = m_socket->peerAddress();
         m_timer.start(PulseMs);
         Q_EMIT ready();
         read();

@@ -26,8 +26,13 @@ public:
     KvmLink(const KvmIdentity& identity, qintptr descriptor, QObject* parent);
 
     bool isDialer() const { return m_dialer; }
+    /// The handshake was made.
+    bool isReady() const { return m_ready; }
     QByteArray peerFingerprint() const;
-    QHostAddress peerAddress() const { return m_socket->peerAddress(); }
+    QHostAddress peerAddress() const
+    {
+        return m_peerAddress.isNull() ? m_socket->peerAddress() : m_peerAddress;
+    }
 
     void send(const QJsonObject& message);
 
@@ -46,6 +51,7 @@ private:
 
     QSslSocket* m_socket;
     const bool m_dialer;
+    QHostAddress m_peerAddress; ///< Still known when the connection is gone.
     bool m_ready = false;
     bool m_closed = false;
     bool m_heard = true;

@@ -28,6 +28,7 @@ public:
 
     /// Six digits; empty while the numbers are not both known.
     QString code() const { return m_code; }
+    bool isConfirmedHere() const { return m_confirmedHere; }
     bool hasFailed() const { return m_failed; }
     /// Both people have confirmed.
     bool isDone() const { return !m_failed && m_confirmedHere && m_confirmedThere; }

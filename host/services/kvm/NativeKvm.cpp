@@ -38,10 +38,13 @@ bool isNumber(double value)
 
 } // namespace
 
-NativeKvm::NativeKvm(std::shared_ptr<PointerService> pointer, const KvmChannelOptions& options)
-    : m_pointer(std::move(pointer)), m_channel(options)
+NativeKvm::NativeKvm(std::shared_ptr<PointerService> pointer, const KvmChannelOptions& options,
+                     const QDBusConnection& systemBus)
+    : m_pointer(std::move(pointer)), m_channel(options), m_neighbours(systemBus)
 {
     m_clock.start();
+    connect(&m_channel, &KvmChannel::changed, this, &NativeKvm::onChannelChanged);
+    connect(&m_neighbours, &KvmNeighbours::changed, this, &NativeKvm::onNeighboursChanged);
     connect(&m_channel, &KvmChannel::connectedChanged, this, &NativeKvm::onConnected);
     connect(&m_channel, &KvmChannel::received, this, &NativeKvm::onMessage);
     applySetting();
@@ -56,6 +59,49 @@ NativeKvm::~NativeKvm()
 void NativeKvm::applySetting()
 {
     m_channel.setEnabled(LuSettings::instance().value(QStringLiteral("kvm/network"), false).toBool());
+}
+
+void NativeKvm::onChannelChanged()
+{
+    if (m_channel.isEnabled())
+        m_neighbours.start(m_channel.name(), m_channel.serverPort(), m_channel.fingerprint());
+    else
+        m_neighbours.stop();
+    const bool isSetUp = m_channel.isEnabled() && m_channel.isPaired();
+    if (m_isSetUp.exchange(isSetUp) != isSetUp && m_type == LuKvm::SmartKvm)
+        Q_EMIT LuKvm::instance()->kvmChanged();
+    Q_EMIT networkChanged();
+}
+
+// The paired computer's address has changed, or it was switched on.
+void NativeKvm::onNeighboursChanged()
+{
+    const QString peer = KvmNeighbours::idOf(m_channel.peer().fingerprint);
+    const QList<KvmNeighbour> found = m_neighbours.list();
+    for (const KvmNeighbour& each : found) {
+        if (each.id == peer)
+            m_channel.tryAddress(each.address, each.port);
+    }
+    Q_EMIT networkChanged();
+}
+
+bool NativeKvm::isDriverInstalled() const
+{
+    return m_pointer != nullptr && (m_type != LuKvm::SmartKvm || m_isSetUp);
+}
+
+void NativeKvm::installDriver()
+{
+    ZrDispatch::main()->post(this, [this] { Q_EMIT setUpRequested(); });
+}
+
+void NativeKvm::setType(int type)
+{
+    const bool before = isDriverInstalled();
+    m_type = type;
+    // Who asked before the type was known is told of the answer that holds now.
+    if (type == LuKvm::SmartKvm && isDriverInstalled() != before)
+        ZrDispatch::main()->post(this, [] { Q_EMIT LuKvm::instance()->kvmChanged(); });
 }
 
 // The other computer's picture lies on the other side of the monitor.

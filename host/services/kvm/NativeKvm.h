@@ -5,6 +5,7 @@
 #include "services/api/PointerService.h"
 #include "services/kvm/EdgeWatch.h"
 #include "services/kvm/KvmChannel.h"
+#include "services/kvm/KvmNeighbours.h"
 #include "services/kvm/PointerTurn.h"
 
 #include <QElapsedTimer>
@@ -26,29 +27,42 @@ class NativeKvm : public QObject, public KvmService
     Q_OBJECT
 
 public:
-    /// @p pointer may be null: there is no watch then.
-    NativeKvm(std::shared_ptr<PointerService> pointer, const KvmChannelOptions& options);
+    /// @p pointer may be null: there is no watch then. @p systemBus is where computers of the network are
+    /// looked for.
+    NativeKvm(std::shared_ptr<PointerService> pointer, const KvmChannelOptions& options,
+              const QDBusConnection& systemBus = QDBusConnection(QString()));
     ~NativeKvm() override;
 
-    /// No more than the pointer is needed.
-    bool isDriverInstalled() const override { return m_pointer != nullptr; }
+    /// What the full variant calls its driver is the channel: it has to be on, and paired. The basic one
+    /// needs no more than the pointer.
+    bool isDriverInstalled() const override;
     bool isConnected() const override { return m_connected; }
-    void installDriver() override {}
+    /// Asks the person to set the channel up: setUpRequested().
+    void installDriver() override;
     void activate() override;
     void deactivate() override;
     void setScreenRect(const QRect& rect) override;
-    void setType(int type) override { m_type = type; }
+    void setType(int type) override;
     int deviceLocation() const override { return m_location; }
     void setDeviceLocation(int location) override;
 
     /// GUI thread.
     KvmChannel& channel() { return m_channel; }
+    const KvmNeighbours& neighbours() const { return m_neighbours; }
     bool isPointerHere() const { return m_turn.isHere(); }
 
     /// Switches the channel as the setting says. GUI thread.
     void applySetting();
 
+Q_SIGNALS:
+    /// Neighbours or anything of the channel have changed.
+    void networkChanged();
+    /// The person wants the channel, which is off or not paired.
+    void setUpRequested();
+
 private:
+    void onChannelChanged();
+    void onNeighboursChanged();
     Side side() const;
     void watch();
     void onMove(QPoint position, QPointF motion);
@@ -62,6 +76,7 @@ private:
     std::atomic<int> m_type = 0;
     std::atomic<int> m_location = 0;
     std::atomic<bool> m_connected = false;
+    std::atomic<bool> m_isSetUp = false; ///< The channel is on and paired.
     // GUI thread only from here on.
     bool m_active = false;
     QRect m_screen;
@@ -70,6 +85,7 @@ private:
     PointerTurn m_turn;
     QElapsedTimer m_clock;
     KvmChannel m_channel;
+    KvmNeighbours m_neighbours;
 };
 
 } // namespace services

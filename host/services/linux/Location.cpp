@@ -18,6 +18,13 @@ namespace services {
 
 namespace {
 
+// Values of the setting "location/source".
+const QString Service = QStringLiteral("service");
+const QString Zone = QStringLiteral("zone");
+const QString Place = QStringLiteral("place");
+const QString Off = QStringLiteral("off");
+const QStringList Sources = {Service, Zone, Place, Off};
+
 double rounded(double degrees)
 {
     return std::round(degrees * 100) / 100;
@@ -46,6 +53,8 @@ private Q_SLOTS:
 private:
     void askService();
     void serviceIsOver();
+    void dropService();
+    QString source() const;
     Location find();
     void reportLater();
 
@@ -106,33 +115,53 @@ void LinuxLocation::serviceIsOver()
     update();
 }
 
+QString LinuxLocation::source() const
+{
+    const LuSettings& settings = LuSettings::instance();
+    const QString source = settings.value(QStringLiteral("location/source")).toString();
+    if (Sources.contains(source))
+        return source;
+    // Settings that were written by hand name no source: what they hold tells it.
+    if (settingAngle(QStringLiteral("location/latitude"), 90) &&
+        settingAngle(QStringLiteral("location/longitude"), 180))
+        return Place;
+    return settings.value(QStringLiteral("location/service"), true).toBool() ? Service : Zone;
+}
+
+void LinuxLocation::dropService()
+{
+    m_service.reset();
+    m_servicePosition.reset();
+    m_serviceWait.stop();
+    m_serviceOver = false;
+}
+
 LocationService::Location LinuxLocation::find()
 {
     const auto known = [](double latitude, double longitude) {
         return Location{rounded(latitude), rounded(longitude), LuServerLocation::Known};
     };
-    const auto latitude = settingAngle(QStringLiteral("location/latitude"), 90);
-    const auto longitude = settingAngle(QStringLiteral("location/longitude"), 180);
-    if (latitude && longitude) {
-        // Who says where they are is not looked for.
-        m_service.reset();
-        m_servicePosition.reset();
-        m_serviceWait.stop();
-        m_serviceOver = false;
-        return known(*latitude, *longitude);
+    constexpr Location Failed{0, 0, LuServerLocation::Failed};
+    const QString wanted = source();
+    // Who says where they are, or that nobody is to know, is not looked for.
+    if (wanted != Service)
+        dropService();
+    if (wanted == Off)
+        return Failed;
+    if (wanted == Place) {
+        const auto latitude = settingAngle(QStringLiteral("location/latitude"), 90);
+        const auto longitude = settingAngle(QStringLiteral("location/longitude"), 180);
+        return latitude && longitude ? known(*latitude, *longitude) : Failed;
     }
-    if (LuSettings::instance().value(QStringLiteral("location/service"), true).toBool()) {
+    if (wanted == Service) {
         askService();
         if (m_servicePosition)
             return known(m_servicePosition->latitude, m_servicePosition->longitude);
         if (!m_serviceOver)
             return {};
-    } else {
-        m_service.reset();
-        m_servicePosition.reset();
     }
     const auto city = zoneCity(QTimeZone::systemTimeZoneId(), m_sources.zoneFolder);
-    return city ? known(city->latitude, city->longitude) : Location{0, 0, LuServerLocation::Failed};
+    return city ? known(city->latitude, city->longitude) : Failed;
 }
 
 void LinuxLocation::update()

@@ -2,7 +2,10 @@
 #include "services/linux/ZoneCity.h"
 
 #include <QFile>
+#include <QLocale>
+#include <QSet>
 
+#include <algorithm>
 #include <cmath>
 
 namespace services {
@@ -105,6 +108,36 @@ std::optional<GeoPosition> zoneCity(const QByteArray& zone, const QString& folde
         return position;
     const QByteArray target = linkTarget(zone, folder + QStringLiteral("/tzdata.zi"));
     return target.isEmpty() ? std::nullopt : find(target);
+}
+
+QString zoneCityName(const QByteArray& zone)
+{
+    return QString::fromLatin1(zone.mid(zone.lastIndexOf('/') + 1)).replace(u'_', u' ');
+}
+
+QList<ZonePlace> zonePlaces(const QString& folder)
+{
+    QList<ZonePlace> places;
+    QSet<QByteArray> met;
+    for (const QString& table : {QStringLiteral("/zone.tab"), QStringLiteral("/zone1970.tab")}) {
+        forEachLine(folder + table, [&](const QByteArray& line) {
+            const QList<QByteArray> columns = line.split('\t');
+            const auto position = columns.size() < 3 ? std::nullopt : parsePosition(columns[1]);
+            if (!position || met.contains(columns[2]))
+                return false;
+            met.insert(columns[2]);
+            // Of a zone of several countries the first one is that of the city.
+            const auto territory = QLocale::codeToTerritory(QString::fromLatin1(columns[0].left(2)));
+            places.append(
+                {zoneCityName(columns[2]),
+                 territory == QLocale::AnyTerritory ? QString() : QLocale::territoryToString(territory),
+                 *position});
+            return false;
+        });
+    }
+    std::sort(places.begin(), places.end(),
+              [](const ZonePlace& a, const ZonePlace& b) { return a.name < b.name; });
+    return places;
 }
 
 } // namespace services

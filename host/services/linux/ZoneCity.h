@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QList>
 #include <QString>
 
 #include <optional>
@@ -21,6 +22,20 @@ struct GeoPosition
 /// without a city, such as "Etc/UTC", and for unreadable tables. Any thread.
 std::optional<GeoPosition> zoneCity(const QByteArray& zone,
                                     const QString& folder = QStringLiteral("/usr/share/zoneinfo"));
+
+/// A city that names a time zone.
+struct ZonePlace
+{
+    QString name;    ///< In English, such as "New York".
+    QString country; ///< In English; empty if it is not known.
+    GeoPosition position;
+};
+
+/// Every city of the tables, by name. Blocks for some milliseconds.
+QList<ZonePlace> zonePlaces(const QString& folder = QStringLiteral("/usr/share/zoneinfo"));
+
+/// "New York" of "America/New_York".
+QString zoneCityName(const QByteArray& zone);
 
 /// Reads an ISO 6709 position as the tables have it, such as "+5230+01322" or "-690022+0393524".
 std::optional<GeoPosition> parsePosition(const QByteArray& text);

@@ -39,7 +39,7 @@ services::ServiceSet services::nativeServices()
         const int port = LuSettings::instance().value(QStringLiteral("kvm/port"), channel.port).toInt();
         if (port > 0 && port <= 65535)
             channel.port = quint16(port);
-        set.kvm = std::make_shared<NativeKvm>(set.pointer, channel);
+        set.kvm = std::make_shared<NativeKvm>(set.pointer, channel, QDBusConnection::systemBus());
     }
     return set;
 }

@@ -30,6 +30,8 @@ public:
     ~Programs() override;
 
     bool isListReady() const override;
+    /// The list is being read, for the first time or again. GUI thread.
+    bool isReading() const { return m_reading; }
     QString appId(unsigned long pid) const override;
     QString appId(const QUrl& url) const override;
     QString displayName(const QString& appId) const override;

@@ -27,6 +27,14 @@
         <source>Current Device Location</source>
         <translation>Umístění tohoto zařízení</translation>
     </message>
+    <message>
+        <source>Connected to the other computer</source>
+        <translation>Připojeno k druhému počítači</translation>
+    </message>
+    <message>
+        <source>Connect the other computer</source>
+        <translation>Připojit druhý počítač</translation>
+    </message>
 </context>
 <context>
     <name>KvmPorts</name>
@@ -235,6 +243,10 @@
     <message>
         <source>Weather data provided by</source>
         <translation>Údaje o počasí poskytuje</translation>
+    </message>
+    <message>
+        <source>Set your location</source>
+        <translation>Nastavit polohu</translation>
     </message>
 </context>
 <context>

@@ -27,6 +27,14 @@
         <source>Current Device Location</source>
         <translation>Standort dieses Geräts</translation>
     </message>
+    <message>
+        <source>Connected to the other computer</source>
+        <translation>Mit dem anderen Computer verbunden</translation>
+    </message>
+    <message>
+        <source>Connect the other computer</source>
+        <translation>Anderen Computer verbinden</translation>
+    </message>
 </context>
 <context>
     <name>KvmPorts</name>
@@ -235,6 +243,10 @@
     <message>
         <source>Weather data provided by</source>
         <translation>Wetterdaten von</translation>
+    </message>
+    <message>
+        <source>Set your location</source>
+        <translation>Standort festlegen</translation>
     </message>
 </context>
 <context>

@@ -27,6 +27,14 @@
         <source>Current Device Location</source>
         <translation>Current Device Location</translation>
     </message>
+    <message>
+        <source>Connected to the other computer</source>
+        <translation>Connected to the other computer</translation>
+    </message>
+    <message>
+        <source>Connect the other computer</source>
+        <translation>Connect the other computer</translation>
+    </message>
 </context>
 <context>
     <name>KvmPorts</name>
@@ -235,6 +243,10 @@
     <message>
         <source>Weather data provided by</source>
         <translation>Weather data provided by</translation>
+    </message>
+    <message>
+        <source>Set your location</source>
+        <translation>Set your location</translation>
     </message>
 </context>
 <context>

@@ -27,6 +27,14 @@
         <source>Current Device Location</source>
         <translation>Ubicación de este dispositivo</translation>
     </message>
+    <message>
+        <source>Connected to the other computer</source>
+        <translation>Conectado con el otro ordenador</translation>
+    </message>
+    <message>
+        <source>Connect the other computer</source>
+        <translation>Conectar el otro ordenador</translation>
+    </message>
 </context>
 <context>
     <name>KvmPorts</name>
@@ -235,6 +243,10 @@
     <message>
         <source>Weather data provided by</source>
         <translation>Datos meteorológicos de</translation>
+    </message>
+    <message>
+        <source>Set your location</source>
+        <translation>Fijar su ubicación</translation>
     </message>
 </context>
 <context>

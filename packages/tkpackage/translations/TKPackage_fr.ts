@@ -27,6 +27,14 @@
         <source>Current Device Location</source>
         <translation>Emplacement de cet appareil</translation>
     </message>
+    <message>
+        <source>Connected to the other computer</source>
+        <translation>Connecté à l'autre ordinateur</translation>
+    </message>
+    <message>
+        <source>Connect the other computer</source>
+        <translation>Connecter l'autre ordinateur</translation>
+    </message>
 </context>
 <context>
     <name>KvmPorts</name>
@@ -235,6 +243,10 @@
     <message>
         <source>Weather data provided by</source>
         <translation>Données météo fournies par</translation>
+    </message>
+    <message>
+        <source>Set your location</source>
+        <translation>Définir votre position</translation>
     </message>
 </context>
 <context>

@@ -27,6 +27,14 @@
         <source>Current Device Location</source>
         <translation>Položaj ovog uređaja</translation>
     </message>
+    <message>
+        <source>Connected to the other computer</source>
+        <translation>Povezano s drugim računalom</translation>
+    </message>
+    <message>
+        <source>Connect the other computer</source>
+        <translation>Poveži drugo računalo</translation>
+    </message>
 </context>
 <context>
     <name>KvmPorts</name>
@@ -235,6 +243,10 @@
     <message>
         <source>Weather data provided by</source>
         <translation>Vremenske podatke pruža</translation>
+    </message>
+    <message>
+        <source>Set your location</source>
+        <translation>Postavi lokaciju</translation>
     </message>
 </context>
 <context>

@@ -27,6 +27,14 @@
         <source>Current Device Location</source>
         <translation>Az eszköz helye</translation>
     </message>
+    <message>
+        <source>Connected to the other computer</source>
+        <translation>Kapcsolódva a másik számítógéphez</translation>
+    </message>
+    <message>
+        <source>Connect the other computer</source>
+        <translation>A másik számítógép kapcsolása</translation>
+    </message>
 </context>
 <context>
     <name>KvmPorts</name>
@@ -235,6 +243,10 @@
     <message>
         <source>Weather data provided by</source>
         <translation>Időjárási adatok:</translation>
+    </message>
+    <message>
+        <source>Set your location</source>
+        <translation>Hely beállítása</translation>
     </message>
 </context>
 <context>

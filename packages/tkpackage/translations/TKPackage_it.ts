@@ -27,6 +27,14 @@
         <source>Current Device Location</source>
         <translation>Posizione di questo dispositivo</translation>
     </message>
+    <message>
+        <source>Connected to the other computer</source>
+        <translation>Connesso all'altro computer</translation>
+    </message>
+    <message>
+        <source>Connect the other computer</source>
+        <translation>Collega l'altro computer</translation>
+    </message>
 </context>
 <context>
     <name>KvmPorts</name>
@@ -235,6 +243,10 @@
     <message>
         <source>Weather data provided by</source>
         <translation>Dati meteo forniti da</translation>
+    </message>
+    <message>
+        <source>Set your location</source>
+        <translation>Imposta la tua posizione</translation>
     </message>
 </context>
 <context>

@@ -27,6 +27,14 @@
         <source>Current Device Location</source>
         <translation>このデバイスの位置</translation>
     </message>
+    <message>
+        <source>Connected to the other computer</source>
+        <translation>もう一方のコンピューターに接続済み</translation>
+    </message>
+    <message>
+        <source>Connect the other computer</source>
+        <translation>もう一方のコンピューターを接続</translation>
+    </message>
 </context>
 <context>
     <name>KvmPorts</name>
@@ -235,6 +243,10 @@
     <message>
         <source>Weather data provided by</source>
         <translation>気象データ提供</translation>
+    </message>
+    <message>
+        <source>Set your location</source>
+        <translation>位置を設定</translation>
     </message>
 </context>
 <context>

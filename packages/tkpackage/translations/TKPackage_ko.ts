@@ -27,6 +27,14 @@
         <source>Current Device Location</source>
         <translation>현재 기기 위치</translation>
     </message>
+    <message>
+        <source>Connected to the other computer</source>
+        <translation>다른 컴퓨터에 연결됨</translation>
+    </message>
+    <message>
+        <source>Connect the other computer</source>
+        <translation>다른 컴퓨터 연결</translation>
+    </message>
 </context>
 <context>
     <name>KvmPorts</name>
@@ -235,6 +243,10 @@
     <message>
         <source>Weather data provided by</source>
         <translation>날씨 데이터 제공</translation>
+    </message>
+    <message>
+        <source>Set your location</source>
+        <translation>위치 설정</translation>
     </message>
 </context>
 <context>

@@ -27,6 +27,14 @@
         <source>Current Device Location</source>
         <translation>Plaats van dit apparaat</translation>
     </message>
+    <message>
+        <source>Connected to the other computer</source>
+        <translation>Verbonden met de andere computer</translation>
+    </message>
+    <message>
+        <source>Connect the other computer</source>
+        <translation>De andere computer verbinden</translation>
+    </message>
 </context>
 <context>
     <name>KvmPorts</name>
@@ -235,6 +243,10 @@
     <message>
         <source>Weather data provided by</source>
         <translation>Weergegevens van</translation>
+    </message>
+    <message>
+        <source>Set your location</source>
+        <translation>Uw locatie instellen</translation>
     </message>
 </context>
 <context>

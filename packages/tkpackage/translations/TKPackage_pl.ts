@@ -27,6 +27,14 @@
         <source>Current Device Location</source>
         <translation>Położenie tego urządzenia</translation>
     </message>
+    <message>
+        <source>Connected to the other computer</source>
+        <translation>Połączono z drugim komputerem</translation>
+    </message>
+    <message>
+        <source>Connect the other computer</source>
+        <translation>Połącz drugi komputer</translation>
+    </message>
 </context>
 <context>
     <name>KvmPorts</name>
@@ -235,6 +243,10 @@
     <message>
         <source>Weather data provided by</source>
         <translation>Dane pogodowe dostarcza</translation>
+    </message>
+    <message>
+        <source>Set your location</source>
+        <translation>Ustaw położenie</translation>
     </message>
 </context>
 <context>

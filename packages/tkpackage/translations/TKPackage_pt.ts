@@ -27,6 +27,14 @@
         <source>Current Device Location</source>
         <translation>Localização deste dispositivo</translation>
     </message>
+    <message>
+        <source>Connected to the other computer</source>
+        <translation>Ligado ao outro computador</translation>
+    </message>
+    <message>
+        <source>Connect the other computer</source>
+        <translation>Ligar o outro computador</translation>
+    </message>
 </context>
 <context>
     <name>KvmPorts</name>
@@ -235,6 +243,10 @@
     <message>
         <source>Weather data provided by</source>
         <translation>Dados meteorológicos de</translation>
+    </message>
+    <message>
+        <source>Set your location</source>
+        <translation>Definir a sua localização</translation>
     </message>
 </context>
 <context>

@@ -27,6 +27,14 @@
         <source>Current Device Location</source>
         <translation>Poziția acestui dispozitiv</translation>
     </message>
+    <message>
+        <source>Connected to the other computer</source>
+        <translation>Conectat la celălalt calculator</translation>
+    </message>
+    <message>
+        <source>Connect the other computer</source>
+        <translation>Conectează celălalt calculator</translation>
+    </message>
 </context>
 <context>
     <name>KvmPorts</name>
@@ -235,6 +243,10 @@
     <message>
         <source>Weather data provided by</source>
         <translation>Date meteo furnizate de</translation>
+    </message>
+    <message>
+        <source>Set your location</source>
+        <translation>Setați locația</translation>
     </message>
 </context>
 <context>

@@ -27,6 +27,14 @@
         <source>Current Device Location</source>
         <translation>Расположение этого устройства</translation>
     </message>
+    <message>
+        <source>Connected to the other computer</source>
+        <translation>Подключён к другому компьютеру</translation>
+    </message>
+    <message>
+        <source>Connect the other computer</source>
+        <translation>Подключить другой компьютер</translation>
+    </message>
 </context>
 <context>
     <name>KvmPorts</name>
@@ -235,6 +243,10 @@
     <message>
         <source>Weather data provided by</source>
         <translation>Данные о погоде</translation>
+    </message>
+    <message>
+        <source>Set your location</source>
+        <translation>Указать местоположение</translation>
     </message>
 </context>
 <context>

@@ -27,6 +27,14 @@
         <source>Current Device Location</source>
         <translation>Den här enhetens plats</translation>
     </message>
+    <message>
+        <source>Connected to the other computer</source>
+        <translation>Ansluten till den andra datorn</translation>
+    </message>
+    <message>
+        <source>Connect the other computer</source>
+        <translation>Anslut den andra datorn</translation>
+    </message>
 </context>
 <context>
     <name>KvmPorts</name>
@@ -235,6 +243,10 @@
     <message>
         <source>Weather data provided by</source>
         <translation>Väderdata från</translation>
+    </message>
+    <message>
+        <source>Set your location</source>
+        <translation>Ange din plats</translation>
     </message>
 </context>
 <context>

@@ -27,6 +27,14 @@
         <source>Current Device Location</source>
         <translation>当前设备位置</translation>
     </message>
+    <message>
+        <source>Connected to the other computer</source>
+        <translation>已连接到另一台计算机</translation>
+    </message>
+    <message>
+        <source>Connect the other computer</source>
+        <translation>连接另一台计算机</translation>
+    </message>
 </context>
 <context>
     <name>KvmPorts</name>
@@ -235,6 +243,10 @@
     <message>
         <source>Weather data provided by</source>
         <translation>天气数据提供方</translation>
+    </message>
+    <message>
+        <source>Set your location</source>
+        <translation>设置您的位置</translation>
     </message>
 </context>
 <context>

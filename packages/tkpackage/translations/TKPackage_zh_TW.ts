@@ -27,6 +27,14 @@
         <source>Current Device Location</source>
         <translation>目前裝置位置</translation>
     </message>
+    <message>
+        <source>Connected to the other computer</source>
+        <translation>已連線到另一台電腦</translation>
+    </message>
+    <message>
+        <source>Connect the other computer</source>
+        <translation>連線另一台電腦</translation>
+    </message>
 </context>
 <context>
     <name>KvmPorts</name>
@@ -235,6 +243,10 @@
     <message>
         <source>Weather data provided by</source>
         <translation>天氣資料提供者</translation>
+    </message>
+    <message>
+        <source>Set your location</source>
+        <translation>設定您的位置</translation>
     </message>
 </context>
 <context>

@@ -20,7 +20,7 @@ public:
         port = server.serverPort();
     }
 
-    bool begin()
+    bool begin(bool withWindow = false)
     {
         QDir().mkpath(filePath(u"config/lumen-desk"_s));
         QFile settings(filePath(u"config/lumen-desk/lumen-desk.ini"_s));
@@ -30,7 +30,20 @@ public:
             settings.write(u"[kvm]\nport=%1\naddress=%2\n"_s.arg(port).arg(address).toUtf8());
             settings.close();
         }
-        return start(usualOptions() + QStringList{u"--services"_s, u"native"_s});
+        QStringList options = usualOptions() + QStringList{u"--services"_s, u"native"_s};
+        if (withWindow)
+            options.removeAll(u"--headless"_s);
+        return start(options);
+    }
+    bool press(const QString& name, const QString& role)
+    {
+        return client().call(u"ui.press"_s, {{u"name"_s, name}, {u"role"_s, role}}).ok();
+    }
+    /// What the windows show, in one text.
+    QString shown()
+    {
+        const QJsonValue tree = client().call(u"ui.tree"_s).result;
+        return QString::fromUtf8(QJsonDocument(QJsonArray{tree}).toJson());
     }
     QJsonObject status() { return client().call(u"kvm.status"_s).result.toObject(); }
     bool isConnected() { return status()[u"connected"].toBool(); }
@@ -50,6 +63,7 @@ class tst_desk_kvm : public QObject
 private Q_SLOTS:
     void simulatedSessionHasNoChannel();
     void twoComputersArePaired();
+    void twoPeoplePairThemInTheWindow();
 };
 
 void tst_desk_kvm::simulatedSessionHasNoChannel()
@@ -95,6 +109,59 @@ void tst_desk_kvm::twoComputersArePaired()
     QTRY_VERIFY_WITH_TIMEOUT(one.isConnected() && two.isConnected(), 60'000);
     QCOMPARE(two.client().call(u"kvm.forget"_s).code, 0);
     QTRY_VERIFY_WITH_TIMEOUT(!one.isConnected(), 30'000);
+}
+
+void tst_desk_kvm::twoPeoplePairThemInTheWindow()
+{
+    Computer one(u"127.0.0.1"_s, 47903);
+    Computer two(u"127.0.0.2"_s, 47904);
+    for (Computer* computer : {&one, &two}) {
+        QVERIFY2(computer->begin(true), qPrintable(computer->errors()));
+        // The panel of the monitor leads to the page.
+        QVERIFY(computer->client().call(u"ui.open"_s, {{u"widget"_s, u"LuSmartKvmBasicWidget"_s}}).ok());
+        QVERIFY(computer->press(u"Connect the other computer"_s, u"link"_s));
+        QTRY_VERIFY(computer->shown().contains(u"Two computers that share a monitor"_s));
+        QVERIFY(!computer->shown().contains(u"Pair a computer"_s));
+        QVERIFY(computer->press(u"Connection to a second computer"_s, u"switch"_s));
+        QTRY_VERIFY(computer->status()[u"network"].toBool());
+        QTRY_VERIFY(computer->shown().contains(u"%1:%2"_s.arg(computer->address).arg(computer->port)));
+    }
+    // Nobody waits yet.
+    const QString field = u"Address of the other computer"_s;
+    const auto call = [&](const QString& address) {
+        return two.client().call(u"ui.setValue"_s, {{u"name"_s, field}, {u"value"_s, address}}).ok() &&
+               two.press(u"Pair"_s, u"button"_s);
+    };
+    const QString address = u"%1:%2"_s.arg(one.address).arg(one.port);
+    QVERIFY(call(address));
+    QTRY_VERIFY_WITH_TIMEOUT(two.shown().contains(u"The other computer is not waiting"_s), 30'000);
+    QVERIFY(call(u"my desk"_s));
+    QTRY_VERIFY(two.shown().contains(u"This is neither an address"_s));
+    QVERIFY(call(u"198.51.100.1"_s));
+    QTRY_VERIFY(two.shown().contains(u"Only a computer of your local network"_s));
+
+    QVERIFY(one.press(u"Wait for the other computer"_s, u"button"_s));
+    QTRY_VERIFY(one.shown().contains(u"Waiting for the other computer"_s));
+    QVERIFY(call(address));
+    QTRY_COMPARE_WITH_TIMEOUT(one.code().size(), 6, 30'000);
+    QTRY_COMPARE(two.code(), one.code());
+    const QString code = one.code().first(3) + u' ' + one.code().last(3);
+    QTRY_VERIFY(one.shown().contains(code) && two.shown().contains(code));
+    QVERIFY(one.press(u"Yes, pair"_s, u"button"_s));
+    QTRY_VERIFY(one.shown().contains(u"Now confirm the code on the other computer"_s));
+    QVERIFY(two.press(u"Yes, pair"_s, u"button"_s));
+    QTRY_VERIFY_WITH_TIMEOUT(one.isConnected() && two.isConnected(), 30'000);
+    QTRY_VERIFY(one.shown().contains(u"Paired computer"_s) && one.shown().contains(u"Connected"_s));
+
+    // One forgets; the other one says so.
+    QVERIFY(one.press(u"Forget"_s, u"button"_s));
+    QVERIFY(QTest::qWaitFor([&] { return one.press(u"Forget"_s, u"button"_s); }, 30'000));
+    QTRY_VERIFY(!one.status()[u"paired"].toBool());
+    QTRY_VERIFY_WITH_TIMEOUT(two.shown().contains(u"Not paired there"_s), 60'000);
+    for (Computer* computer : {&one, &two}) {
+        QCOMPARE(computer->client().call(u"ui.warnings"_s).result.toArray(), QJsonArray());
+        QCOMPARE(computer->stop(), 0);
+    }
 }
 
 QTEST_GUILESS_MAIN(tst_desk_kvm)

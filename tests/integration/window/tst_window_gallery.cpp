@@ -176,7 +176,7 @@ QList<Part> TestGallery::parts()
         if (row[u"shown"_s].toBool() && !row[u"popup"_s].toBool())
             list.append({row[u"widget"_s].toString(), true});
     }
-    for (const char* page : {"arrange", "general", "widgets", "about", "diagnostics"})
+    for (const char* page : {"arrange", "general", "widgets", "location", "computers", "about", "diagnostics"})
         list.append({QString::fromLatin1(page), false});
     const QStringList sections = QDir(QStringLiteral(SECTION_FOLDER)).entryList({u"Section*.qml"_s});
     for (const QString& file : sections)

@@ -66,6 +66,10 @@ private Q_SLOTS:
     void absentServiceLeavesTheZonesCity();
     void serviceThatEndsLeavesTheZonesCity();
     void serviceMayBeForbidden();
+    void sourceIsAsTheSettingSays_data();
+    void sourceIsAsTheSettingSays();
+    void sourceMayChangeToAndFro();
+    void everyCityIsListed();
     void zoneWithoutACityFails();
     void whoListensLateIsToldToo();
     void whoListensOnAnotherThreadIsToldToo();
@@ -116,7 +120,8 @@ void tst_location::cleanup()
     services::Registry::install({});
     m_geoClue.reset();
     QTRY_VERIFY(!QDBusConnection::systemBus().interface()->isServiceRegistered(GeoClueName));
-    for (const QString& key : {u"location/latitude"_s, u"location/longitude"_s, u"location/service"_s})
+    for (const QString& key :
+         {u"location/latitude"_s, u"location/longitude"_s, u"location/service"_s, u"location/source"_s})
         LuSettings::instance().remove(key);
     QVERIFY(LuSettings::instance().flush());
 }
@@ -338,6 +343,70 @@ void tst_location::serviceMayBeForbidden()
     LuSettings::instance().setValue(u"location/service"_s, false);
     locate();
     COMPARE_PLACE(52.5, 13.37);
+}
+
+void tst_location::sourceIsAsTheSettingSays_data()
+{
+    QTest::addColumn<QString>("source");
+    QTest::addColumn<bool>("numbers"); // a chosen place is there
+    QTest::addColumn<int>("status");
+    QTest::addColumn<double>("latitude");
+    QTest::newRow("off") << u"off"_s << true << int(LuServerLocation::Failed) << 0.0;
+    QTest::newRow("place") << u"place"_s << true << int(LuServerLocation::Known) << 1.5;
+    QTest::newRow("place without numbers") << u"place"_s << false << int(LuServerLocation::Failed) << 0.0;
+    QTest::newRow("zone") << u"zone"_s << true << int(LuServerLocation::Known) << 52.5;
+    QTest::newRow("service") << u"service"_s << true << int(LuServerLocation::Known) << 48.14;
+    QTest::newRow("an unknown word, with numbers")
+        << u"moon"_s << true << int(LuServerLocation::Known) << 1.5;
+    QTest::newRow("an unknown word") << u"moon"_s << false << int(LuServerLocation::Known) << 48.14;
+}
+
+void tst_location::sourceIsAsTheSettingSays()
+{
+    QFETCH(QString, source);
+    QFETCH(bool, numbers);
+    QFETCH(int, status);
+    QCOMPARE(startService(), QString());
+    LuSettings::instance().setValue(u"location/source"_s, source);
+    if (numbers) {
+        LuSettings::instance().setValue(u"location/latitude"_s, 1.5);
+        LuSettings::instance().setValue(u"location/longitude"_s, 2.5);
+    }
+    locate();
+    QTRY_COMPARE_WITH_TIMEOUT(place().status(), status, 30'000);
+    QTEST(place().latitude(), "latitude");
+}
+
+void tst_location::sourceMayChangeToAndFro()
+{
+    QCOMPARE(startService(), QString());
+    const auto choose = [](const QString& source) {
+        LuSettings::instance().setValue(u"location/source"_s, source);
+        return LuSettings::instance().flush();
+    };
+    QVERIFY(choose(u"zone"_s));
+    locate();
+    COMPARE_PLACE(52.5, 13.37);
+    QVERIFY(choose(u"off"_s));
+    QTRY_COMPARE_WITH_TIMEOUT(place().status(), int(LuServerLocation::Failed), 30'000);
+    QVERIFY(choose(u"service"_s));
+    COMPARE_PLACE(48.14, 11.58);
+    QVERIFY(choose(u"zone"_s));
+    COMPARE_PLACE(52.5, 13.37);
+    QVERIFY(choose(u"service"_s));
+    COMPARE_PLACE(48.14, 11.58);
+}
+
+void tst_location::everyCityIsListed()
+{
+    const QList<services::ZonePlace> places = services::zonePlaces();
+    QVERIFY2(places.size() > 300, qPrintable(QString::number(places.size())));
+    const auto found = std::find_if(places.begin(), places.end(),
+                                    [](const auto& each) { return each.name == "New York"_L1; });
+    QVERIFY(found != places.end());
+    QCOMPARE(found->country, u"United States"_s);
+    QVERIFY(qAbs(found->position.latitude - 40.7142) < 0.01);
+    QVERIFY(services::zonePlaces(m_folder.filePath(u"nowhere"_s)).isEmpty());
 }
 
 void tst_location::zoneWithoutACityFails()

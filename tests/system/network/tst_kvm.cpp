@@ -11,6 +11,7 @@
 #include <QTest>
 
 #include <memory>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 using namespace services;
@@ -67,12 +68,16 @@ struct Computer
         options.address = address;
         options.port = port;
         options.firstDialMs = 20;
+        options.name = name();
         kvm = std::make_unique<NativeKvm>(pointer, options);
         port = kvm->channel().serverPort(); // the same at the next start
         kvm->setScreenRect(Screen);
     }
 
+    QString name() const { return u"Computer at "_s + address.toString() + nameSuffix; }
+
     QHostAddress address;
+    QString nameSuffix;
     quint16 port = 0;
     QTemporaryDir folder;
     std::shared_ptr<Pointer> pointer;
@@ -129,6 +134,20 @@ private Q_SLOTS:
     void imposterOnThePairedAddressIsDropped();
     void damagedLinesEndTheLink_data();
     void damagedLinesEndTheLink();
+
+    void failuresAreToldApart_data();
+    void failuresAreToldApart();
+    void computersTellTheirNames();
+    void namesAreShownSafely_data();
+    void namesAreShownSafely();
+    void forgottenComputerIsTold();
+    void forgottenComputerPairsAnew();
+    void movedComputerIsMetAgain();
+    void movedComputerIsMetByItsNewAddress();
+    void addressOfTheInternetIsNoPeers();
+    void knownAddressesAreKept();
+    void pairingOutlivesTheSwitch();
+    void driverOfTheFullVariantIsTheChannel();
 
     void crossingSwitchesWithoutAChannel();
     void crossingIsNotCountedTwice();
@@ -381,6 +400,218 @@ void tst_kvm::damagedLinesEndTheLink()
     stranger.write(line);
     QTRY_COMPARE(failed.count(), 1);
     QTRY_COMPARE(stranger.state(), QAbstractSocket::UnconnectedState);
+}
+
+void tst_kvm::failuresAreToldApart_data()
+{
+    QTest::addColumn<QString>("what");
+    QTest::addColumn<int>("failure");
+    QTest::newRow("nothing listens there") << u"nothing"_s << int(KvmFailure::NotReached);
+    QTest::newRow("something else listens there") << u"else"_s << int(KvmFailure::NotReached);
+    QTest::newRow("it waits for nobody") << u"idle"_s << int(KvmFailure::NotWaiting);
+    QTest::newRow("the other person says no") << u"no"_s << int(KvmFailure::Refused);
+    QTest::newRow("no rules") << u"rules"_s << int(KvmFailure::Broken);
+}
+
+void tst_kvm::failuresAreToldApart()
+{
+    QFETCH(QString, what);
+    KvmChannel& one = m_one->kvm->channel();
+    KvmChannel& two = m_two->kvm->channel();
+    QSignalSpy failed(&one, &KvmChannel::pairingFailed);
+    QTcpServer other;
+    std::optional<Stranger> stranger;
+    if (what == "nothing"_L1) {
+        const quint16 port = m_two->port;
+        m_two.reset();
+        QVERIFY(one.startPairing(QHostAddress(u"127.0.0.2"_s), port));
+    } else if (what == "else"_L1) {
+        QVERIFY(other.listen(QHostAddress(u"127.0.0.4"_s)));
+        connect(&other, &QTcpServer::newConnection, &other,
+                [&] { other.nextPendingConnection()->write("220 this is no Lumen Desk\r\n"); });
+        QVERIFY(one.startPairing(other.serverAddress(), other.serverPort()));
+    } else if (what == "rules"_L1) {
+        QVERIFY(one.startPairing({}, 0));
+        stranger.emplace(*m_one);
+        stranger->write("{\"t\":\"reveal\"}\n");
+    } else {
+        QVERIFY(what != "no"_L1 || two.startPairing({}, 0));
+        QVERIFY(one.startPairing(m_two->address, m_two->port));
+        if (what == "no"_L1) {
+            QTRY_VERIFY(!one.pairingCode().isEmpty() && !two.pairingCode().isEmpty());
+            two.cancelPairing();
+        }
+    }
+    QTRY_COMPARE_WITH_TIMEOUT(failed.count(), 1, 60'000);
+    QTEST(int(one.failure()), "failure");
+    QVERIFY(one.startPairing({}, 0));
+    QCOMPARE(one.failure(), KvmFailure::None);
+}
+
+void tst_kvm::computersTellTheirNames()
+{
+    QVERIFY(m_two->kvm->channel().startPairing({}, 0));
+    QVERIFY(m_one->kvm->channel().startPairing(m_two->address, m_two->port));
+    QTRY_COMPARE(m_one->kvm->channel().pairingName(), m_two->name());
+    QTRY_COMPARE(m_two->kvm->channel().pairingName(), m_one->name());
+    m_one->kvm->channel().cancelPairing();
+    QTRY_VERIFY(!m_two->kvm->channel().isPairing());
+    pair();
+    QCOMPARE(m_one->kvm->channel().peer().name, m_two->name());
+    // A new name is learnt as they meet.
+    m_two->nameSuffix = u" (new)"_s;
+    m_two->start();
+    QTRY_VERIFY(m_one->kvm->isConnected());
+    QTRY_COMPARE(m_one->kvm->channel().peer().name, m_two->name());
+    m_one->start();
+    QCOMPARE(m_one->kvm->channel().peer().name, m_two->name());
+}
+
+void tst_kvm::namesAreShownSafely_data()
+{
+    QTest::addColumn<QString>("told");
+    QTest::addColumn<QString>("shown");
+    QTest::newRow("plain") << u"Martha's laptop"_s << u"Martha's laptop"_s;
+    QTest::newRow("lines") << u"a\nb\tc"_s << u"abc"_s;
+    QTest::newRow("blanks") << u"  a   b "_s << u"a b"_s;
+    QTest::newRow("turned round") << u"a\u202Eb"_s << u"ab"_s;
+    QTest::newRow("endless") << QString(100'000, u'x') << QString(64, u'x');
+    QTest::newRow("nothing") << QString() << QString();
+}
+
+void tst_kvm::namesAreShownSafely()
+{
+    QFETCH(QString, told);
+    QTEST(shownName(told), "shown");
+}
+
+void tst_kvm::forgottenComputerIsTold()
+{
+    pair();
+    QVERIFY(!m_two->kvm->channel().isForgottenThere());
+    m_one->kvm->channel().forget();
+    QSignalSpy connected(&m_two->kvm->channel(), &KvmChannel::connectedChanged);
+    QTRY_VERIFY(m_two->kvm->channel().isForgottenThere());
+    // It is no connection that comes and goes.
+    QVERIFY(connected.count() <= 1);
+    QVERIFY(!m_two->kvm->isConnected());
+    m_two->kvm->channel().forget();
+    QVERIFY(!m_two->kvm->channel().isForgottenThere());
+}
+
+// Whichever of the two calls, and whichever has forgotten.
+void tst_kvm::forgottenComputerPairsAnew()
+{
+    pair();
+    m_one->kvm->channel().forget();
+    QTRY_VERIFY(!m_two->kvm->isConnected());
+    pair();
+    m_two->kvm->channel().forget();
+    QTRY_VERIFY(!m_one->kvm->isConnected());
+    pair();
+    QVERIFY(!m_one->kvm->channel().isForgottenThere() && !m_two->kvm->channel().isForgottenThere());
+}
+
+void tst_kvm::movedComputerIsMetAgain()
+{
+    pair();
+    // It is at another address, and calls from there.
+    m_two->address = QHostAddress(u"127.0.0.5"_s);
+    m_two->port = 0;
+    m_two->start();
+    QTRY_VERIFY(m_one->kvm->isConnected() && m_two->kvm->isConnected());
+    QTRY_COMPARE(m_one->kvm->channel().peer().port, m_two->port);
+    QCOMPARE(m_one->kvm->channel().peer().addresses.first(), m_two->address);
+    // The first one finds it there by itself.
+    m_one->start();
+    QTRY_VERIFY(m_one->kvm->isConnected() && m_two->kvm->isConnected());
+}
+
+void tst_kvm::movedComputerIsMetByItsNewAddress()
+{
+    pair();
+    m_two->kvm.reset();
+    QTRY_VERIFY(!m_one->kvm->isConnected());
+    // Both have moved: neither knows where the other one is.
+    m_one->address = QHostAddress(u"127.0.0.6"_s);
+    m_one->port = 0;
+    m_one->start();
+    m_two->address = QHostAddress(u"127.0.0.7"_s);
+    m_two->port = 0;
+    m_two->start();
+    QVERIFY(!m_one->kvm->isConnected());
+    m_one->kvm->channel().tryAddress(m_two->address, m_two->port);
+    QTRY_VERIFY(m_one->kvm->isConnected() && m_two->kvm->isConnected());
+    QCOMPARE(m_one->kvm->channel().peer().addresses.first(), m_two->address);
+    // Kept: they meet again after a restart, too.
+    m_one->start();
+    QTRY_VERIFY(m_one->kvm->isConnected() && m_two->kvm->isConnected());
+}
+
+void tst_kvm::addressOfTheInternetIsNoPeers()
+{
+    QVERIFY(!m_one->kvm->channel().setPeerAddress(m_two->address, m_two->port)); // not paired
+    pair();
+    const QList<QHostAddress> before = m_one->kvm->channel().peer().addresses;
+    QVERIFY(!m_one->kvm->channel().setPeerAddress(QHostAddress(u"198.51.100.7"_s), 47823));
+    QVERIFY(!m_one->kvm->channel().setPeerAddress(m_two->address, 0));
+    QCOMPARE(m_one->kvm->channel().peer().addresses, before);
+    QVERIFY(m_one->kvm->isConnected());
+}
+
+void tst_kvm::knownAddressesAreKept()
+{
+    QTemporaryDir folder;
+    KvmPeer peer;
+    peer.fingerprint = QByteArray(32, 'f');
+    peer.name = u"Desk"_s;
+    peer.port = 4711;
+    for (int i = 1; i <= 6; ++i)
+        QVERIFY(peer.remember(QHostAddress(u"192.168.1.%1"_s.arg(i))));
+    QVERIFY(!peer.remember(QHostAddress(u"::ffff:192.168.1.6"_s)));
+    QVERIFY(peer.remember(QHostAddress(u"192.168.1.4"_s)));
+    QVERIFY(peer.save(folder.path()));
+    const KvmPeer read = KvmPeer::load(folder.path());
+    QCOMPARE(read.addresses, (QList{QHostAddress(u"192.168.1.4"_s), QHostAddress(u"192.168.1.6"_s),
+                                    QHostAddress(u"192.168.1.5"_s), QHostAddress(u"192.168.1.3"_s)}));
+    QCOMPARE(read.name, u"Desk"_s);
+    QCOMPARE(read.port, 4711);
+    QCOMPARE(QFile::permissions(folder.filePath(u"peer.json"_s)) & (QFile::ReadGroup | QFile::ReadOther),
+             QFile::Permissions());
+    KvmPeer::remove(folder.path());
+    QVERIFY(!KvmPeer::load(folder.path()).isPaired());
+}
+
+void tst_kvm::pairingOutlivesTheSwitch()
+{
+    pair();
+    LuSettings::instance().setValue(u"kvm/network"_s, false);
+    m_one->kvm->applySetting();
+    QTRY_VERIFY(!m_two->kvm->isConnected());
+    QVERIFY(m_one->kvm->channel().isPaired());
+    m_one->start();
+    // Switched off, it still says whom it is paired with, and may forget.
+    QVERIFY(!m_one->kvm->channel().isEnabled() && m_one->kvm->channel().isPaired());
+    m_one->kvm->channel().forget();
+    m_one->start();
+    QVERIFY(!m_one->kvm->channel().isPaired());
+}
+
+void tst_kvm::driverOfTheFullVariantIsTheChannel()
+{
+    QVERIFY(m_one->kvm->isDriverInstalled());
+    QSignalSpy changed(LuKvm::instance(), &LuKvm::kvmChanged);
+    m_one->kvm->setType(LuKvm::SmartKvm);
+    QVERIFY(!m_one->kvm->isDriverInstalled());
+    QTRY_COMPARE(changed.count(), 1);
+    QSignalSpy wanted(m_one->kvm.get(), &NativeKvm::setUpRequested);
+    m_one->kvm->installDriver();
+    QTRY_COMPARE(wanted.count(), 1);
+    pair();
+    QVERIFY(m_one->kvm->isDriverInstalled());
+    QCOMPARE(changed.count(), 3); // set up, connected
+    m_one->kvm->channel().forget();
+    QVERIFY(!m_one->kvm->isDriverInstalled());
 }
 
 void tst_kvm::crossingSwitchesWithoutAChannel()

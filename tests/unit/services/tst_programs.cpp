@@ -65,7 +65,7 @@ private Q_SLOTS:
     void oneInstallationIsReadOnce();
 
 private:
-    /// Whether the folders' change has been seen; then lets the quiet pass.
+    /// Whether the folders' change has been seen; then lets the quiet pass, and the list be read.
     bool changeIsRead();
     QString write(const QString& name, const QByteArray& content, bool executable = false);
     QString path(const QString& name) const { return m_folder.filePath(name); }
@@ -364,7 +364,7 @@ bool TestPrograms::changeIsRead()
     const bool seen = QTest::qWaitFor(
         [this] { return ZrDispatch::main()->has(m_programs.get(), u"readApplications"_s); }, 30'000);
     ZrClock::instance().advance(Programs::QuietMs);
-    return seen;
+    return seen && QTest::qWaitFor([this] { return !m_programs->isReading(); }, 30'000);
 }
 
 void TestPrograms::installationsAreFollowed()

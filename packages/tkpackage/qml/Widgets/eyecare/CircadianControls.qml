@@ -163,6 +163,14 @@ Column {
         wrapMode: Text.WordWrap
         text: qsTr("Due to an unstable internet connection or other issues, the system failed to receive the sunset and sunrise times. Please switch to manual mode.")
     }
+    LuButton {
+        objectName: "circadianLocation"
+        visible: controls.failed && !LuPlace.present
+        kind: LuButton.Link
+        leftPadding: 0
+        text: qsTr("Set your location")
+        onClicked: LuContext.openSettings("location")
+    }
     Item {
         width: parent.width
         height: Math.max(_provider.implicitHeight, _logo.height)

@@ -106,4 +106,12 @@ LuPage {
         lineHeight: 1.2
         text: page.explanation
     }
+    LuButton {
+        objectName: "secondComputer"
+        visible: LuComputers.available
+        kind: LuButton.Link
+        leftPadding: 0
+        text: LuComputers.connected ? qsTr("Connected to the other computer") : qsTr("Connect the other computer")
+        onClicked: LuContext.openSettings("computers")
+    }
 }
