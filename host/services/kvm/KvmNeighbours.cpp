@@ -23,6 +23,8 @@ const QString GroupInterface = QStringLiteral("org.freedesktop.Avahi.EntryGroup"
 const QString BrowserInterface = QStringLiteral("org.freedesktop.Avahi.ServiceBrowser");
 const QString ServiceType = QStringLiteral("_lumen-desk-kvm._tcp");
 
+const QString CollisionError = QStringLiteral("org.freedesktop.Avahi.CollisionError");
+
 constexpr int AnyInterface = -1;
 constexpr int AnyProtocol = -1;
 constexpr int Collision = 3; ///< State of an entry group: another one has the name.
@@ -129,16 +131,16 @@ void KvmNeighbours::stop()
     avahiIsGone();
 }
 
-void KvmNeighbours::call(const QDBusMessage& message, Next next)
+void KvmNeighbours::call(const QDBusMessage& message, Next next, bool takesErrors)
 {
     auto* watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(message), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this,
-            [this, next = std::move(next), watcher, round = m_round, method = message.member()] {
+            [this, next = std::move(next), takesErrors, watcher, round = m_round, method = message.member()] {
                 watcher->deleteLater();
                 const QDBusMessage reply = watcher->reply();
                 if (round != m_round || !m_isOn)
                     return;
-                if (reply.type() == QDBusMessage::ErrorMessage) {
+                if (reply.type() == QDBusMessage::ErrorMessage && !takesErrors) {
                     qInfo().noquote()
                         << "[LuKvm] the network's list of services refuses" << method << reply.errorMessage();
                     return;
@@ -175,10 +177,21 @@ void KvmNeighbours::publish(const QString& name)
         const QList<QByteArray> texts{"v=1", "id=" + m_id.toLatin1(), "name=" + m_name.toUtf8().left(200)};
         add << AnyInterface << AnyProtocol << 0u << m_publishedName << ServiceType << QString() << QString()
             << QVariant::fromValue(ushort(m_port)) << QVariant::fromValue(texts);
-        call(add, [this](const QDBusMessage&) {
-            call(QDBusMessage::createMethodCall(Avahi, m_group, GroupInterface, QStringLiteral("Commit")),
-                 [](const QDBusMessage&) {});
-        });
+        call(
+            add,
+            [this](const QDBusMessage& added) {
+                // Of another person's Lumen Desk on this computer.
+                if (added.errorName() == CollisionError)
+                    return publishOtherName();
+                if (added.type() == QDBusMessage::ErrorMessage) {
+                    qInfo().noquote() << "[LuKvm] this computer is not in the network's list of services:"
+                                      << added.errorMessage();
+                    return;
+                }
+                call(QDBusMessage::createMethodCall(Avahi, m_group, GroupInterface, QStringLiteral("Commit")),
+                     [](const QDBusMessage&) {});
+            },
+            true);
     });
 }
 

@@ -62,7 +62,8 @@ private Q_SLOTS:
 private:
     using Next = std::function<void(const QDBusMessage& reply)>;
 
-    void call(const QDBusMessage& message, Next next);
+    /// @param next takes the answer, an error only where @p takesErrors; other errors go to the log.
+    void call(const QDBusMessage& message, Next next, bool takesErrors = false);
     void avahiIsHere();
     void avahiIsGone();
     void publish(const QString& name);

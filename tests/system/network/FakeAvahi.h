@@ -23,7 +23,7 @@ struct FakeService
 class FakeAvahi;
 
 /// An entry group of the fake: what one program publishes.
-class FakeGroup : public QObject
+class FakeGroup : public QObject, protected QDBusContext
 {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Avahi.EntryGroup")
@@ -74,6 +74,9 @@ public:
 
     /// Where the computers of this network are, by the names that they publish.
     QHash<QString, QString> addresses;
+    /// Names are refused at once, as where another program of the same computer has them.
+    bool isOneComputer = false;
+    bool isNameTakenHere(const QString& name) const { return isOneComputer && names().contains(name); }
     /// Services of other computers.
     QList<FakeService> foreign;
 
@@ -180,6 +183,10 @@ private:
 inline void FakeGroup::AddService(int, int, uint, const QString& name, const QString&, const QString&,
                                   const QString&, ushort port, const QList<QByteArray>& texts)
 {
+    if (m_avahi->isNameTakenHere(name)) {
+        sendErrorReply(QStringLiteral("org.freedesktop.Avahi.CollisionError"), QStringLiteral("taken"));
+        return;
+    }
     service = {name, QString(), port, texts};
 }
 

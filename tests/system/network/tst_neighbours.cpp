@@ -44,6 +44,7 @@ private Q_SLOTS:
     void idDoesNotTellTheCertificate();
     void twoFindEachOther();
     void whoLeavesIsGone();
+    void takenNameGetsANumber_data();
     void takenNameGetsANumber();
     void listMayComeAndGo();
     void withoutTheListThereIsNobody();
@@ -127,8 +128,17 @@ void tst_neighbours::whoLeavesIsGone()
     QTRY_COMPARE(m_avahi->names(), QStringList{u"Two"_s});
 }
 
+void tst_neighbours::takenNameGetsANumber_data()
+{
+    QTest::addColumn<bool>("here");
+    QTest::newRow("by another computer") << false;
+    QTest::newRow("by another person of this computer") << true;
+}
+
 void tst_neighbours::takenNameGetsANumber()
 {
+    QFETCH(bool, here);
+    m_avahi->isOneComputer = here;
     QVERIFY(m_avahi->appear());
     m_one->start(u"Desk"_s, 4711, OneKey);
     QTRY_COMPARE(m_avahi->names(), QStringList{u"Desk"_s});

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
 import LumenDesk.Controls
-import LumenDesk.Style
 
 // With which computer to pair: one that waits is chosen on the other, from those nearby or by its address.
 SettingsCard {

@@ -8,10 +8,13 @@ import LumenDesk.Style
 Item {
     id: note
 
-    // Names of LuContext.absences. The first one that is missing is told.
+    // Names of LuContext.absences. Reasons that are the same are told once.
     property var needs: []
-    readonly property string absent: needs.find(need => LuContext.absences[need]) ?? ""
-    readonly property string text: absent ? LuContext.absences[absent] : ""
+    readonly property string text: {
+        const absences = LuContext.absences
+        const reasons = needs.map(need => absences[need] ?? "").filter(reason => reason)
+        return reasons.filter((reason, index) => reasons.indexOf(reason) === index).join("\n")
+    }
 
     width: parent ? parent.width : implicitWidth
     implicitHeight: Math.max(sign.height, words.implicitHeight)

@@ -149,8 +149,7 @@ LuBasicWidget {
                 }
             }
 
-            LuAbsenceNote { needs: ["globalShortcuts"] }
-            LuAbsenceNote { needs: ["copyPasteKeys"] }
+            LuAbsenceNote { needs: ["globalShortcuts", "copyPasteKeys"] }
             LuPageGroup {
                 enabled: _self.active
                 spacing: LuStyle.spaceLarge
