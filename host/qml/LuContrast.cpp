@@ -29,23 +29,31 @@ QColor blended(const QColor& ink, double opacity, const QColor& ground)
                             part(ink.blueF(), ground.blueF()));
 }
 
-/// The commonest colour: glyphs cover less of their place than what is behind them, and their edges are of
-/// many colours.
-QRgb commonest(const QImage& image, const QRect& place)
+/// The commonest colour: glyphs mostly cover less of their place than what is behind them, and their edges
+/// are of many colours. Where heavy glyphs cover more, the next one that takes a good part.
+QRgb groundOf(const QImage& image, const QRect& place, const QColor& ink)
 {
+    constexpr double GoodPart = 0.1;
     QHash<QRgb, int> counts;
-    QRgb best = 0;
-    int most = 0;
     for (int y = place.top(); y <= place.bottom(); ++y) {
-        for (int x = place.left(); x <= place.right(); ++x) {
-            const QRgb pixel = image.pixel(x, y) | 0xFF000000;
-            if (int& count = counts[pixel]; ++count > most) {
-                most = count;
-                best = pixel;
-            }
-        }
+        for (int x = place.left(); x <= place.right(); ++x)
+            ++counts[image.pixel(x, y) | 0xFF000000];
     }
-    return best;
+    const auto commonest = [&counts](QRgb butNot) {
+        auto best = counts.cend();
+        for (auto it = counts.cbegin(); it != counts.cend(); ++it) {
+            if (it.key() != butNot && (best == counts.cend() || it.value() > best.value()))
+                best = it;
+        }
+        return best;
+    };
+    const auto first = commonest(0);
+    if (first.key() != ink.rgb())
+        return first.key();
+    const auto second = commonest(first.key());
+    const bool isGround =
+        second != counts.cend() && second.value() > GoodPart * place.width() * place.height();
+    return isGround ? second.key() : first.key();
 }
 
 /// Whether any pixel goes a third of the way from the ground to the ink.
@@ -82,7 +90,7 @@ std::optional<LuContrast::Seen> LuContrast::measure(const QImage& image, const Q
     if (area.isEmpty() || color.alpha() == 0)
         return std::nullopt;
     Seen seen;
-    seen.ground = QColor::fromRgb(commonest(image, area));
+    seen.ground = QColor::fromRgb(groundOf(image, area, color));
     seen.ink = blended(color, opacity, seen.ground);
     seen.ratio = ratio(seen.ink, seen.ground);
     if (seen.ratio >= Distinct && !isDrawn(image, area, seen.ink, seen.ground))

@@ -11,7 +11,7 @@ run_packages=(
   libxcb-randr0-dev libxcb-record0-dev libxcb-res0-dev libxcb-xinput-dev libxcb-xtest0-dev libxkbcommon-x11-dev
   qml6-module-qtqml qml6-module-qtqml-workerscript qml6-module-qtquick qml6-module-qtquick-window
   qml6-module-qtquick-templates
-  fonts-inter fonts-noto-core
+  fonts-inter fonts-noto-core fonts-wqy-microhei
 )
 
 # To run every test.
