@@ -5,6 +5,7 @@
 #include <ZrCore/ZrDispatch.h>
 
 #include "services/wayland/KWinScript.h"
+#include "services/wayland/OutputControl.h"
 
 #include <QCoreApplication>
 #include <QDBusConnectionInterface>
@@ -149,6 +150,7 @@ void KWinEvents::start()
     m_active = 0;
     m_tries = MostTries;
     watch();
+    dropForgottenKeys();
 }
 
 void KWinEvents::watch()
@@ -238,6 +240,26 @@ void KWinEvents::setActionKeys(const QSet<QKeyCombination>& keys)
             registerKey(it.key(), it->toCombined());
     }
     m_keys = wanted;
+}
+
+// The desktop keeps the keys of a run that was killed from every other program.
+void KWinEvents::dropForgottenKeys()
+{
+    QDBusMessage message = accelerators(QStringLiteral("allActionsForComponent"));
+    message << QStringList{Component, QString(), QString(), QString()};
+    // An error says that there is no such component.
+    sendLater(this, m_bus, message, [this](const QDBusMessage& reply) {
+        if (reply.signature() != QLatin1String("aas"))
+            return;
+        const auto actions = qdbus_cast<QList<QStringList>>(reply.arguments().value(0));
+        for (const QStringList& action : actions) {
+            if (action.size() < 2 || m_keys.contains(action[1]))
+                continue;
+            QDBusMessage drop = accelerators(QStringLiteral("unregister"));
+            drop << Component << action[1];
+            m_bus.send(drop);
+        }
+    });
 }
 
 void KWinEvents::registerKey(const QString& name, int key)

@@ -56,6 +56,7 @@ private:
     void call(const QDBusMessage& message, Next next);
     void runScript(const QString& name, const QString& text);
     QString fileOf(const QString& script) const;
+    void dropForgottenKeys();
     void registerKey(const QString& name, int key);
     void listenToShortcuts();
 

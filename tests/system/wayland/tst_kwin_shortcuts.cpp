@@ -1,0 +1,229 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "DeskProcess.h"
+#include "FakeInput.h"
+#include "PlasmaSession.h"
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusReply>
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QTest>
+
+#include <linux/input-event-codes.h>
+
+using namespace Qt::StringLiterals;
+
+/// The whole program in a Plasma session, with another program in the foreground: real keys pass through KWin
+/// and its KGlobalAccel.
+class tst_kwin_shortcuts : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void cleanupTestCase();
+    void pressReachesTheMonitorAndNotTheProgram();
+    void otherKeysAreTheProgramsOwn();
+    void ownKeysAreFreeWhileKeysAreChosen();
+    void newKeysAreTyped();
+    void endedProgramLeavesItsKeysToOthers();
+    void killedProgramLeavesNothingBehind();
+
+private:
+    ControlClient& client() { return m_desk.client(); }
+    bool idle() { return client().call(u"idle"_s, {}, Patience).ok(); }
+    bool start();
+    void chord(const QList<unsigned>& held, unsigned key)
+    {
+        for (const unsigned each : held)
+            m_input.key(each, true);
+        m_input.tap(key);
+        for (const unsigned each : held)
+            m_input.key(each, false);
+    }
+    /// Gives a process's window the focus.
+    bool focus(qint64 pid);
+    /// What the desktop says of a combination.
+    static bool isTaken(QKeyCombination keys)
+    {
+        QDBusMessage question =
+            QDBusMessage::createMethodCall(u"org.kde.kglobalaccel"_s, u"/kglobalaccel"_s,
+                                           u"org.kde.KGlobalAccel"_s, u"isGlobalShortcutAvailable"_s);
+        question << keys.toCombined() << u"test"_s;
+        const QDBusReply<bool> free = QDBusConnection::sessionBus().call(question);
+        return free.isValid() && !free.value();
+    }
+    QJsonValue brightness() { return client().get(u"brightness.displayBrightness"_s); }
+
+    PlasmaSession m_session;
+    FakeInput m_input;
+    WindowProgram m_typist;
+    DeskProcess m_desk;
+};
+
+constexpr QKeyCombination Brighter(Qt::CTRL | Qt::SHIFT, Qt::Key_F5);
+constexpr QKeyCombination Chosen(Qt::CTRL | Qt::ALT, Qt::Key_J);
+
+bool tst_kwin_shortcuts::start()
+{
+    return m_desk.start(
+               {u"--simulate"_s, u"TK30Z"_s, u"--ddc-timing"_s, u"fast"_s, u"--services"_s, u"native"_s},
+               Patience) &&
+           idle() && client().set(u"shortcuts.active"_s, true).ok() &&
+           QTest::qWaitFor([] { return isTaken(Brighter); }, Patience);
+}
+
+void tst_kwin_shortcuts::initTestCase()
+{
+    QString problem = m_session.startBus();
+    QVERIFY2(problem.isEmpty(), qPrintable(problem));
+    problem = m_session.startKWin();
+    QVERIFY2(problem.isEmpty(), qPrintable(problem));
+    problem = m_input.open(m_session.socket());
+    QVERIFY2(problem.isEmpty(), qPrintable(problem));
+    qputenv("WAYLAND_DISPLAY", KWinServer::display().toLocal8Bit());
+    qputenv("QT_QPA_PLATFORM", "wayland");
+    qputenv("QT_QUICK_BACKEND", "software");
+    QVERIFY2(start(), qPrintable(m_desk.errors()));
+    QCOMPARE(m_typist.start(), QString());
+    QVERIFY(focus(m_typist.pid()));
+    // The program listens some time after the desktop has given it the keys.
+    QVERIFY(client().set(u"brightness.displayBrightness"_s, 50).ok());
+    QTRY_VERIFY_WITH_TIMEOUT((chord({KEY_LEFTCTRL, KEY_LEFTSHIFT}, KEY_F5),
+                              QTest::qWaitFor([this] { return brightness().toInt() > 50; }, 2000)),
+                             Patience);
+}
+
+void tst_kwin_shortcuts::cleanupTestCase()
+{
+    m_desk.stop();
+    m_typist.stop();
+    m_session.stop();
+}
+
+bool tst_kwin_shortcuts::focus(qint64 pid)
+{
+    const QString script = uR"(    for (var i = 0; i < windows.length; ++i) {
+        if (windows[i].pid != %1)
+            continue;
+        if (workspace.activeWindow === undefined)
+            workspace.activeClient = windows[i];
+        else
+            workspace.activeWindow = windows[i];
+    }
+    var active = workspace.activeWindow || workspace.activeClient;
+    answer(active ? active.pid : 0);)"_s.arg(pid);
+    return QTest::qWaitFor([&] { return m_session.ask(script) == QString::number(pid); }, Patience);
+}
+
+void tst_kwin_shortcuts::pressReachesTheMonitorAndNotTheProgram()
+{
+    QVERIFY(client().set(u"brightness.displayBrightness"_s, 72).ok());
+    QVERIFY(idle());
+    chord({KEY_LEFTCTRL, KEY_LEFTSHIFT}, KEY_F5);
+    QTRY_COMPARE_WITH_TIMEOUT(brightness(), QJsonValue(75), Patience);
+    chord({KEY_LEFTCTRL, KEY_LEFTALT}, KEY_5);
+    QTRY_COMPARE_WITH_TIMEOUT(client().get(u"colorMode"_s), QJsonValue(u"Cinema"_s), Patience);
+    // KWin gives each new window the focus, the feedback on the monitor too.
+    QVERIFY(focus(m_typist.pid()));
+    // The other program gets its own keys in order: what comes before this one has come.
+    m_input.tap(KEY_S);
+    QTRY_VERIFY_WITH_TIMEOUT(m_typist.lines(u"key "_s).contains(u"S"_s), Patience);
+    QVERIFY(!m_typist.lines(u"key "_s).contains(u"Ctrl+Shift+F5"_s));
+    QVERIFY(!m_typist.lines(u"key "_s).contains(u"Ctrl+Alt+5"_s));
+}
+
+void tst_kwin_shortcuts::otherKeysAreTheProgramsOwn()
+{
+    QVERIFY(client().set(u"brightness.displayBrightness"_s, 40).ok());
+    chord({KEY_LEFTCTRL, KEY_LEFTSHIFT}, KEY_F9);
+    QTRY_VERIFY_WITH_TIMEOUT(m_typist.lines(u"key "_s).contains(u"Ctrl+Shift+F9"_s), Patience);
+    QCOMPARE(client().get(u"shortcuts.pressKeyName"_s), QJsonValue(QString()));
+    QCOMPARE(brightness(), QJsonValue(40));
+}
+
+void tst_kwin_shortcuts::ownKeysAreFreeWhileKeysAreChosen()
+{
+    QVERIFY(client().set(u"brightness.displayBrightness"_s, 30).ok());
+    QVERIFY(focus(m_desk.process().processId()));
+    const auto choose = [this] {
+        return client()
+            .call(u"call"_s,
+                  {{u"path"_s, u"shortcuts.registerShortcuts"_s}, {u"args"_s, QJsonArray{13, 40, true}}})
+            .ok();
+    };
+    QVERIFY(choose());
+    QTRY_VERIFY_WITH_TIMEOUT(!isTaken(Brighter), Patience);
+    // What is typed shows as it comes.
+    m_input.key(KEY_LEFTCTRL, true);
+    QTRY_COMPARE_WITH_TIMEOUT(client().get(u"shortcuts.pressKeyName"_s), QJsonValue(u"Ctrl"_s), Patience);
+    m_input.key(KEY_LEFTSHIFT, true);
+    QTRY_COMPARE_WITH_TIMEOUT(client().get(u"shortcuts.pressKeyName"_s), QJsonValue(u"Ctrl+Shift"_s),
+                              Patience);
+    // Keys of another action are refused, and do nothing else.
+    m_input.tap(KEY_F5);
+    QTRY_COMPARE_WITH_TIMEOUT(client().get(u"shortcuts.repeatShortcuts"_s), QJsonValue(true), Patience);
+    m_input.key(KEY_LEFTSHIFT, false);
+    m_input.key(KEY_LEFTCTRL, false);
+    QCOMPARE(client().get(u"shortcuts.modifyShortcuts"_s), QJsonValue(false));
+    QCOMPARE(brightness(), QJsonValue(30));
+    QTRY_VERIFY_WITH_TIMEOUT(isTaken(Brighter), Patience);
+}
+
+void tst_kwin_shortcuts::newKeysAreTyped()
+{
+    QVERIFY(focus(m_desk.process().processId()));
+    // Of the action that makes the monitor brighter.
+    QVERIFY(client()
+                .call(u"call"_s,
+                      {{u"path"_s, u"shortcuts.registerShortcuts"_s}, {u"args"_s, QJsonArray{3, 16, true}}})
+                .ok());
+    QTRY_VERIFY_WITH_TIMEOUT(!isTaken(Brighter), Patience);
+    chord({KEY_LEFTCTRL, KEY_LEFTALT}, KEY_J);
+    QTRY_COMPARE_WITH_TIMEOUT(client().get(u"shortcuts.modifyShortcuts"_s), QJsonValue(false), Patience);
+    QTRY_VERIFY_WITH_TIMEOUT(isTaken(Chosen), Patience);
+    QVERIFY(!isTaken(Brighter));
+    QVERIFY(focus(m_typist.pid()));
+    QVERIFY(client().set(u"brightness.displayBrightness"_s, 50).ok());
+    chord({KEY_LEFTCTRL, KEY_LEFTALT}, KEY_J);
+    QTRY_COMPARE_WITH_TIMEOUT(brightness(), QJsonValue(55), Patience);
+    // The old ones are the other program's.
+    QVERIFY(focus(m_typist.pid()));
+    chord({KEY_LEFTCTRL, KEY_LEFTSHIFT}, KEY_F5);
+    QTRY_VERIFY_WITH_TIMEOUT(m_typist.lines(u"key "_s).contains(u"Ctrl+Shift+F5"_s), Patience);
+    QVERIFY(!m_typist.lines(u"key "_s).contains(u"Ctrl+Alt+J"_s));
+    QCOMPARE(brightness(), QJsonValue(55));
+}
+
+void tst_kwin_shortcuts::endedProgramLeavesItsKeysToOthers()
+{
+    QCOMPARE(m_desk.stop(), 0);
+    QVERIFY(focus(m_typist.pid()));
+    QTRY_VERIFY_WITH_TIMEOUT(!isTaken(Chosen), Patience);
+    chord({KEY_LEFTCTRL, KEY_LEFTALT}, KEY_J);
+    QTRY_VERIFY_WITH_TIMEOUT(m_typist.lines(u"key "_s).contains(u"Ctrl+Alt+J"_s), Patience);
+}
+
+void tst_kwin_shortcuts::killedProgramLeavesNothingBehind()
+{
+    QVERIFY2(m_desk.start(
+                 {u"--simulate"_s, u"TK30Z"_s, u"--ddc-timing"_s, u"fast"_s, u"--services"_s, u"native"_s},
+                 Patience),
+             qPrintable(m_desk.errors()));
+    QTRY_VERIFY_WITH_TIMEOUT(isTaken(Chosen), Patience);
+    m_desk.process().kill();
+    QVERIFY(m_desk.waitForEnd(Patience));
+    QVERIFY(isTaken(Chosen));
+    // Another run, which has no shortcuts.
+    DeskProcess other;
+    QVERIFY2(
+        other.start({u"--simulate"_s, u"TK30Z"_s, u"--ddc-timing"_s, u"fast"_s, u"--services"_s, u"native"_s},
+                    Patience),
+        qPrintable(other.errors()));
+    QTRY_VERIFY_WITH_TIMEOUT(!isTaken(Chosen), Patience);
+    QCOMPARE(other.client().get(u"shortcuts.active"_s), QJsonValue(false));
+}
+
+QTEST_GUILESS_MAIN(tst_kwin_shortcuts)
+#include "tst_kwin_shortcuts.moc"
