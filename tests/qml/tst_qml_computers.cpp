@@ -7,6 +7,7 @@
 #include <QQuickItem>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTranslator>
 
 #include <optional>
 
@@ -71,6 +72,8 @@ private Q_SLOTS:
     void thePeersAddressIsChanged();
     void aServiceThatGoesLeavesNothingBehind();
     void everyControlHasANameAndARole();
+    void noTextIsCutInAnyLanguage_data();
+    void noTextIsCutInAnyLanguage();
     void thePageIsDrawn_data();
     void thePageIsDrawn();
 
@@ -400,6 +403,65 @@ void TestComputers::everyControlHasANameAndARole()
     QVERIFY(text.contains(u"Address of the other computer"_s));
     QVERIFY(text.contains(u"Pair with Laptop"_s));
     QCOMPARE(m_shell->bridge->problems().value.toArray(), QJsonArray());
+}
+
+void TestComputers::noTextIsCutInAnyLanguage_data()
+{
+    QTest::addColumn<QString>("language");
+    for (const char* language : {"cs", "de", "en", "es", "fr", "hr", "hu", "it", "ja", "ko", "nl", "pl", "pt",
+                                 "ro", "ru", "sv", "zh", "zh_TW"})
+        QTest::newRow(language) << QString::fromLatin1(language);
+}
+
+void TestComputers::noTextIsCutInAnyLanguage()
+{
+    QFETCH(QString, language);
+    QTranslator translator;
+    QVERIFY(translator.load(u":/lumendesk/translations/lumen-desk_%1.qm"_s.arg(language)));
+    QCoreApplication::installTranslator(&translator);
+    const auto remove = qScopeGuard([&] { QCoreApplication::removeTranslator(&translator); });
+    m_shell->engine.retranslate();
+    m_computers->is.findsOthers = true;
+    m_computers->is.nearby = {{u"Laptop"_s, u"192.168.1.7"_s}};
+    m_computers->is.peerName = u"Laptop"_s;
+    m_computers->is.otherName = u"Laptop"_s;
+    m_computers->is.peerAddress = u"192.168.1.7:47824"_s;
+    m_computers->tell();
+    QVERIFY(open());
+    const auto check = [this](const char* state) {
+        m_computers->tell();
+        QCoreApplication::processEvents();
+        const QJsonArray problems = m_shell->bridge->problems().value.toArray();
+        if (!problems.isEmpty())
+            qWarning().noquote() << state << QJsonDocument(problems).toJson();
+        return problems.isEmpty();
+    };
+    QVERIFY(check("choice"));
+    for (const Phase phase : {Phase::Waiting, Phase::Calling, Phase::Comparing, Phase::Confirmed}) {
+        m_computers->is.phase = phase;
+        m_computers->is.code =
+            phase == Phase::Comparing || phase == Phase::Confirmed ? u"012345"_s : QString();
+        QVERIFY(check("pairing"));
+    }
+    m_computers->is.phase = Phase::Idle;
+    m_computers->is.code.clear();
+    for (const Failure failure :
+         {Failure::NobodyCame, Failure::NotConfirmed, Failure::NotReached, Failure::NotWaiting,
+          Failure::Refused, Failure::Broken, Failure::UnknownName}) {
+        m_computers->is.failure = failure;
+        QVERIFY(check("failure"));
+    }
+    m_computers->is.failure = Failure::None;
+    m_computers->is.paired = true;
+    QVERIFY(check("searching"));
+    m_computers->is.forgottenThere = true;
+    QVERIFY(check("forgotten"));
+    QVERIFY(press("movePeer"));
+    QVERIFY(check("another address"));
+    QVERIFY(QMetaObject::invokeMethod(item("moveLine"), "canceled"));
+    QVERIFY(press("forgetPeer"));
+    QVERIFY(check("forgetting"));
+    QCOMPARE(Shell::takeWarnings(), QStringList());
 }
 
 void TestComputers::thePageIsDrawn_data()
