@@ -23,8 +23,12 @@ HardwareBrightness::~HardwareBrightness() = default;
 std::optional<HardwareBrightness::Answer> HardwareBrightness::ask()
 {
     Answer answer{};
-    if (!m_link.getVCP(Code, answer.value, &answer.maximum) || answer.maximum <= 0)
+    if (!m_link.getVCP(Code, answer.value, &answer.maximum) || answer.maximum <= 0) {
+        if (!m_link.isSilent()) // who says nothing at all may have one
+            ++m_vain;
         return std::nullopt;
+    }
+    m_vain = 0;
     return answer;
 }
 

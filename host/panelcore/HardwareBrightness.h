@@ -23,7 +23,8 @@ public:
     /// Somebody wants to be told of changes at the monitor's own menu: whoever runs the rounds of reading
     /// calls refresh() in them. Any thread.
     void watch() { m_watched = true; }
-    bool isWatched() const { return m_watched; }
+    /// False also of a monitor that answers but has told no brightness in several tries: it has none.
+    bool isWatched() const { return m_watched && m_vain < VainQuestions; }
     /// Asks the monitor; true where its value is another than was read or written last. What was written
     /// reads back as it was asked for, whatever the steps of the monitor made of it. An answer that a newer
     /// write has outrun counts for nothing. Blocks. Any thread but the GUI's.
@@ -46,8 +47,11 @@ private:
     double take(const Answer& answer);
     bool transfer(double fraction);
 
+    static constexpr int VainQuestions = 5;
+
     MonitorLink& m_link;
     std::atomic<bool> m_watched{false};
+    std::atomic<int> m_vain{0}; ///< Answers without a brightness since the last with one.
     std::atomic<int> m_maximum{0};   ///< 0: not read yet.
     std::atomic<int> m_value{-1};    ///< On the wire; negative: not known, or a write of it failed.
     std::atomic<double> m_known{-1}; ///< Negative: not known.

@@ -11,6 +11,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <algorithm>
 #include <optional>
 
 using namespace Qt::StringLiterals;
@@ -220,6 +221,15 @@ void TestDiagnostics::thePageShowsMonitorsAndTroubles()
     for (const QString& part : {u"Desk of Martha (TK30Z)"_s, u"Connection"_s, u"card0-DP-1 on i2c-4"_s,
                                 u"bad checksum: 1, no reply: 2"_s, m_facts.shownTroubles.first()})
         QVERIFY2(shown.contains(part), qPrintable(part + u" not in "_s + shown.join(u'|')));
+    m_facts.monitors.first().screen = LuReport::doubtfulScreen();
+    LuDiagnostics::instance()->refresh();
+    QTRY_VERIFY(texts().contains(u"not told from an equal monitor's"_s));
+    const QVariantList lines =
+        LuDiagnostics::instance()->monitors().first().toMap().value(u"lines"_s).toList();
+    const auto line = std::find_if(lines.begin(), lines.end(), [](const QVariant& each) {
+        return each.toMap().value(u"name"_s) == u"Screen"_s;
+    });
+    QVERIFY(line != lines.end() && line->toMap().value(u"bad"_s).toBool());
     m_facts.monitors.clear();
     m_facts.shownTroubles.clear();
     LuDiagnostics::instance()->refresh();
@@ -268,6 +278,7 @@ void TestDiagnostics::exportThatFailsSaysWhy()
 
 void TestDiagnostics::thePageIsDrawn()
 {
+    m_facts.monitors.first().screen = LuReport::doubtfulScreen();
     QVERIFY(open());
     const QDir folder(qEnvironmentVariable("LUMEN_PICTURES", QDir::tempPath()));
     for (const QString& theme : {u"light"_s, u"dark"_s}) {

@@ -232,6 +232,26 @@ private Q_SLOTS:
         QCOMPARE(device->gets.load(), 0);
     }
 
+    void whoHasNoBrightnessIsAskedNoMore()
+    {
+        HardwareBrightness& brightness = MonitorLink::of(*monitor).brightness();
+        brightness.watch();
+        device->answers = false;
+        for (int i = 0; i < 50; ++i)
+            QVERIFY(!refresh());
+        QVERIFY(brightness.isWatched()); // it may come back
+        device->answers = true;
+        device->maximum = 0;
+        int asked = 0;
+        while (brightness.isWatched() && ++asked < 50)
+            QVERIFY(!refresh());
+        QVERIFY2(asked >= 2 && asked <= 5, qPrintable(QString::number(asked)));
+        // A person's choice asks anew.
+        device->maximum = 100;
+        set(0.5);
+        QVERIFY(brightness.isWatched());
+    }
+
     void aMonitorThatTellsNothingIsNotWritten_data()
     {
         QTest::addColumn<bool>("answers");
