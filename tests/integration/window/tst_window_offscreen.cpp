@@ -24,6 +24,17 @@ QJsonObject widgetRow(ControlClient& client, const QString& widget)
     return {};
 }
 
+QStringList namesIn(const QJsonValue& node, const QString& role)
+{
+    QStringList names;
+    if (node[u"role"_s].toString() == role)
+        names << node[u"name"_s].toString();
+    const QJsonArray children = node[u"children"_s].toArray();
+    for (const QJsonValue& child : children)
+        names << namesIn(child, role);
+    return names;
+}
+
 QStringList wire(ControlClient& client, const QString& op)
 {
     QStringList result;
@@ -58,10 +69,15 @@ private Q_SLOTS:
     void monitorComesAndGoes();
     void picturesAreTaken();
     void aPictureHoldsMoreThanTheScreen();
+    void aSubPageComesAndGoes();
+    void thePageOfWhatIsFocusedIsShown();
     void theWindowStaysSmoothWhileTheMonitorHangs();
 
 private:
     ControlClient& client() { return m_desk->client(); }
+    /// The title of the page that is open.
+    QStringList page() { return namesIn(client().call(u"ui.tree"_s).result, u"page"_s); }
+    bool canGoBack() { return namesIn(client().call(u"ui.tree"_s).result, u"button"_s).contains(u"Back"_s); }
     void startWith(const QString& models);
 
     std::unique_ptr<DeskProcess> m_desk;
@@ -240,6 +256,50 @@ void TestWindowOffscreen::aPictureHoldsMoreThanTheScreen()
         QCOMPARE(picture("2", options), 2 * plain);
         QCOMPARE(picture("3", options), 3 * plain);
     }
+}
+
+void TestWindowOffscreen::aSubPageComesAndGoes()
+{
+    const QJsonObject widget{{u"widget"_s, u"LuBackLightWidget"_s}};
+    QVERIFY(client().call(u"ui.open"_s, widget).ok());
+    QTRY_COMPARE(page(), QStringList{u"BackGlow"_s});
+    QVERIFY(!canGoBack());
+    QVERIFY(client().call(u"ui.press"_s, {{u"name"_s, u"More"_s}}).ok());
+    QTRY_COMPARE(page(), QStringList{u"More"_s});
+    QTRY_VERIFY(canGoBack());
+    QVERIFY(client().call(u"ui.press"_s, {{u"name"_s, u"Back"_s}}).ok());
+    QTRY_COMPARE(page(), QStringList{u"BackGlow"_s});
+    QTRY_VERIFY(!canGoBack());
+    // Escape leaves the sub-page first, and the page after that.
+    QVERIFY(client().call(u"ui.press"_s, {{u"name"_s, u"More"_s}}).ok());
+    QTRY_COMPARE(page(), QStringList{u"More"_s});
+    QVERIFY(client().call(u"ui.key"_s, {{u"key"_s, u"Escape"_s}}).ok());
+    QTRY_COMPARE(page(), QStringList{u"BackGlow"_s});
+    QVERIFY(client().call(u"ui.key"_s, {{u"key"_s, u"Escape"_s}}).ok());
+    QTRY_COMPARE(page(), QStringList());
+    // It opens with its first page again.
+    QVERIFY(client().call(u"ui.open"_s, widget).ok());
+    QTRY_COMPARE(page(), QStringList{u"BackGlow"_s});
+}
+
+void TestWindowOffscreen::thePageOfWhatIsFocusedIsShown()
+{
+    QVERIFY(client().call(u"ui.open"_s, {{u"widget"_s, u"LuBackLightWidget"_s}}).ok());
+    QTRY_COMPARE(page(), QStringList{u"BackGlow"_s});
+    // A key goes to a control that has the focus, and what has the focus is seen.
+    QVERIFY(client()
+                .call(u"ui.key"_s,
+                      {{u"name"_s, u"Non-stop Mode"_s}, {u"role"_s, u"switch"_s}, {u"key"_s, u"Space"_s}})
+                .ok());
+    QVERIFY(client().call(u"idle"_s).ok());
+    QCOMPARE(client().get(u"backLight.nonStopMode"_s), QJsonValue(true));
+    QTRY_COMPARE(page(), QStringList{u"More"_s});
+    QVERIFY(client()
+                .call(u"ui.key"_s, {{u"name"_s, u"On"_s}, {u"role"_s, u"radio"_s}, {u"key"_s, u"Space"_s}})
+                .ok());
+    QVERIFY(client().call(u"idle"_s).ok());
+    QCOMPARE(client().get(u"backLight.state"_s), QJsonValue(32));
+    QTRY_COMPARE(page(), QStringList{u"BackGlow"_s});
 }
 
 void TestWindowOffscreen::theWindowStaysSmoothWhileTheMonitorHangs()
