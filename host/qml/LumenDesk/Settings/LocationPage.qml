@@ -77,6 +77,7 @@ LuPage {
                     spacing: 2
                     LuRadio {
                         id: choice
+                        anchors.left: parent.left
                         objectName: "source." + row.modelData.source
                         text: row.modelData.text
                         Accessible.description: row.modelData.description

@@ -38,7 +38,9 @@ Column {
     }
 
     LuLabel {
+        width: parent.width
         kind: LuLabel.Strong
+        wrapMode: Text.WordWrap
         text: choice.place.placeName ? qsTr("Chosen place: %1").arg(choice.place.placeName) : qsTr("Chosen place")
     }
     SettingsCard {
