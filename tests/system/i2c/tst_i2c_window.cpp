@@ -10,6 +10,7 @@
 #include <linux/capability.h>
 #include <sys/prctl.h>
 
+#include <algorithm>
 #include <memory>
 
 using namespace Qt::StringLiterals;
@@ -218,8 +219,18 @@ void TestWindow::withoutAMonitorADemonstrationIsOffered()
     QVERIFY(!m_demonstration->call(u"ui.windows"_s).result.toArray().isEmpty());
     QCOMPARE(m_demonstration->call(u"ui.warnings"_s).result.toArray(), QJsonArray());
     QCOMPARE(monitors(), QJsonArray());
-    // A second press brings no second one: the first goes on.
+    // A second press brings no second one: it shows the window of the first and ends.
+    const auto isShown = [this] {
+        const QJsonArray windows = m_demonstration->call(u"ui.windows"_s).result.toArray();
+        return std::any_of(windows.begin(), windows.end(), [](const QJsonValue& window) {
+            return window[u"name"_s] == u"mainWindow"_s && window[u"visible"_s].toBool();
+        });
+    };
+    QVERIFY(isShown());
+    QVERIFY(m_demonstration->call(u"ui.hide"_s).ok());
+    QVERIFY(!isShown());
     QVERIFY(press(u"Try it with a simulated monitor"_s));
+    QTRY_VERIFY_WITH_TIMEOUT(isShown(), LimitMs);
     QCOMPARE(m_demonstration->call(u"sim.get"_s, {{u"code"_s, 0x10}}).result[u"value"_s], QJsonValue(30));
     QVERIFY(m_demonstration->call(u"quit"_s).ok());
     QTRY_VERIFY_WITH_TIMEOUT(!m_demonstration->isConnected(), LimitMs);
