@@ -8,6 +8,8 @@
 #include <QNetworkInterface>
 #include <QRegularExpression>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -185,14 +187,15 @@ LuComputersBackend::Answer SecondComputer::find(const QString& text,
             if (info.lookupId() != m_lookup)
                 return;
             m_lookup = -1;
-            for (const QHostAddress& each : info.addresses()) {
-                if (services::isLocalAddress(each)) {
-                    found(each, port);
-                    Q_EMIT changed();
-                    return;
-                }
-            }
-            m_isNameUnknown = true;
+            QList<QHostAddress> local = info.addresses();
+            local.removeIf([](const QHostAddress& each) { return !services::isLocalAddress(each); });
+            // Every computer has IPv4 at home.
+            std::stable_partition(local.begin(), local.end(), [](const QHostAddress& each) {
+                return each.protocol() == QAbstractSocket::IPv4Protocol;
+            });
+            m_isNameUnknown = local.isEmpty();
+            if (!local.isEmpty())
+                found(local.first(), port);
             Q_EMIT changed();
         });
     return Answer::Taken;
