@@ -19,7 +19,7 @@ test_packages=(
   python3 libxml2-utils appstream desktop-file-utils dpkg-dev file libbenchmark-dev xvfb xauth xdotool binutils
   umockdev libumockdev-dev ddcutil i2c-tools
   mutter kwin-wayland libkf5screen-bin libkf6screen-bin libkscreen-bin qtwayland5 qt6-wayland
-  plasma-wayland-protocols libwayland-dev libwayland-bin
+  plasma-wayland-protocols libwayland-dev libwayland-bin xdg-desktop-portal xdg-desktop-portal-kde
   dbus python3-dbusmock pulseaudio pulseaudio-utils pipewire pipewire-pulse wireplumber
   xserver-xorg-core xserver-xorg-video-dummy xserver-xorg-dev x11-xserver-utils x11-xkb-utils x11-utils
   libxcb-shape0-dev openbox xfwm4 kwin-x11 xcompmgr
