@@ -76,22 +76,28 @@ bool Placement::isCovering() const
     return false;
 }
 
-// A frame that a maximised window lacks comes after the state has gone, and makes the window larger.
+// A frame that a maximised window lacks comes after the state has gone, and makes the window larger. One that
+// goes is that of a window which a person makes full-screen meanwhile.
 void Placement::follow(xcb_atom_t property)
 {
     const Connection& connection = m_windows.connection();
-    if (m_sent ? property == connection.atom(NetFrameExtents)
-               : property == connection.atom(NetWmState) && !isCovering())
-        send();
+    if (m_sent == 0) {
+        if (property == connection.atom(NetWmState) && !isCovering())
+            send();
+    } else if (property == connection.atom(NetFrameExtents)) {
+        const QMargins frame = m_windows.extentsOf(m_window, NetFrameExtents);
+        if (frame != m_frame && !frame.isNull() && !isCovering())
+            send();
+    }
 }
 
 void Placement::send()
 {
     ++m_sent;
     m_patience.start(CheckMs);
-    const QMargins frame = m_windows.extentsOf(m_window, NetFrameExtents);
+    m_frame = m_windows.extentsOf(m_window, NetFrameExtents);
     const QRect outer = outerRect();
-    const QRect inner = outer.marginsRemoved(frame);
+    const QRect inner = outer.marginsRemoved(m_frame);
     const Connection& requests = m_windows.connection();
     requests.tellWindowManager(m_window, NetMoveResizeWindow,
                                {GravityNorthWest | AllGiven | AskedByPager, std::uint32_t(outer.x()),

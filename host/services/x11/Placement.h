@@ -4,6 +4,7 @@
 #include "EventSource.h"
 #include "WindowList.h"
 
+#include <QMargins>
 #include <QRect>
 #include <QTimer>
 
@@ -37,7 +38,8 @@ private:
                        ///< elsewhere.
     xcb_window_t m_window = XCB_WINDOW_NONE;
     QRect m_rect;
-    int m_sent = 0; ///< How often the window manager was told.
+    QMargins m_frame; ///< As the window manager was told last.
+    int m_sent = 0;   ///< How often the window manager was told.
 };
 
 } // namespace services::x11
