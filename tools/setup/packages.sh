@@ -23,7 +23,7 @@ test_packages=(
   dbus python3-dbusmock pulseaudio pulseaudio-utils pipewire pipewire-pulse wireplumber
   xserver-xorg-core xserver-xorg-video-dummy xserver-xorg-dev x11-xserver-utils x11-xkb-utils x11-utils
   libxcb-shape0-dev openbox xfwm4 kwin-x11 xcompmgr
-  xfce4-settings gsettings-desktop-schemas libglib2.0-bin libglib2.0-dev-bin
+  xdg-utils xfce4-settings gsettings-desktop-schemas libglib2.0-bin libglib2.0-dev-bin
 )
 
 # To run the fuzzers.
