@@ -13,6 +13,14 @@ function tell(method, text) {
 function place(window) {
     return window.pid + " " + workspace.cursorPos.x + " " + workspace.cursorPos.y + " " + window.internalId;
 }
+// A mouse moves up to 1,000 times a second.
+var moving = null;
+var soon = new QTimer();
+soon.singleShot = true;
+soon.interval = 16;
+soon.timeout.connect(function() {
+    tell("dragged", place(moving));
+});
 function follow(window) {
     var dragging = false;
     var step = window.interactiveMoveResizeStepped || window.clientStepUserMovedResized;
@@ -20,12 +28,15 @@ function follow(window) {
     if (!step || !end)
         return;
     step.connect(function() {
-        if (window.move) {
-            dragging = true;
-            tell("dragged", place(window));
-        }
+        if (!window.move)
+            return;
+        dragging = true;
+        moving = window;
+        if (!soon.active)
+            soon.start();
     });
     end.connect(function() {
+        soon.stop();
         if (dragging)
             tell("released", place(window));
         dragging = false;

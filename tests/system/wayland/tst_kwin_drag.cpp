@@ -171,12 +171,14 @@ void tst_kwin_drag::draggedWindowIsToldAndPlaced()
         const QPointF done = each[1].toPointF() - from;
         QVERIFY(qAbs(done.x() * way.y() - done.y() * way.x()) <= qAbs(way.x()) + qAbs(way.y()));
     }
+    const qsizetype told = m_dragged->count();
     m_input.button(BTN_LEFT, false);
     if (meta)
         m_input.key(KEY_LEFTMETA, false);
     QTRY_COMPARE_WITH_TIMEOUT(m_released->count(), 1, Patience);
     QCOMPARE(pidIn(m_released->first()), program.processId());
     QCOMPARE(m_released->first()[1].toPointF(), QPointF(to));
+    QCOMPARE(m_dragged->count(), told);
     QCOMPARE(m_session.placeOf(program.pid()), textOf(before.translated(way)));
     // As a zone does with what falls on it.
     const QRect zone(1100, 40, 500, 360);
