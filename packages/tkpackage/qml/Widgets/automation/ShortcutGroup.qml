@@ -19,11 +19,12 @@ Column {
     Accessible.name: topic.text
 
     function isCaptured(row: var): bool {
-        return revision >= 0 && shortcuts.modifyShortcuts && shortcuts.checkModifyShortcuts(row.title, row.name)
+        return revision >= 0 && shortcuts?.modifyShortcuts && shortcuts.checkModifyShortcuts(row.title, row.name)
     }
 
     function keysOf(row: var): var {
-        const keys = revision >= 0 ? shortcuts.shortcutCombo(row.title, row.name) : ""
+        // The monitor may go while its page is open.
+        const keys = revision >= 0 && shortcuts ? shortcuts.shortcutCombo(row.title, row.name) : ""
         if (!keys)
             return ["–"]
         return shortcuts.displayKeyList(shortcuts.isShortcutDuplicated(row.title, row.name) ? keys + "+ ! " : keys)
