@@ -67,6 +67,7 @@ private Q_SLOTS:
     void modelWithoutTheFeatureHasNoTile();
     void unsupportedMonitorHasAWindow();
     void monitorComesAndGoes();
+    void monitorGoesWhileAPageOfItIsOpen();
     void picturesAreTaken();
     void aPictureHoldsMoreThanTheScreen();
     void aSubPageComesAndGoes();
@@ -216,6 +217,39 @@ void TestWindowOffscreen::monitorComesAndGoes()
     QVERIFY(client().call(u"sim.plug"_s, {{u"monitor"_s, last}}).ok());
     QTRY_COMPARE(client().call(u"monitors"_s).result.toArray().size(), 1);
     QTRY_VERIFY(widgetRow(client(), u"LuAiContrastWidget"_s).value(u"shown"_s).toBool());
+}
+
+void TestWindowOffscreen::monitorGoesWhileAPageOfItIsOpen()
+{
+    const QString id =
+        client().call(u"monitors"_s).result.toArray().first().toObject().value(u"id"_s).toString();
+    const auto isShown = [this](const QString& widget) {
+        return widgetRow(client(), widget).value(u"shown"_s).toBool();
+    };
+    QStringList opened;
+    const QJsonArray rows = client().call(u"ui.widgets"_s).result.toArray();
+    for (const QJsonValue& row : rows) {
+        const QString widget = row.toObject().value(u"widget"_s).toString();
+        if (!row.toObject().value(u"shown"_s).toBool() ||
+            !client().call(u"ui.open"_s, {{u"widget"_s, widget}}).ok())
+            continue;
+        opened.append(widget);
+        QVERIFY(client().call(u"idle"_s).ok());
+        QVERIFY(client().call(u"sim.unplug"_s, {{u"monitor"_s, id}}).ok());
+        QTRY_VERIFY_WITH_TIMEOUT(client().call(u"monitors"_s).result.toArray().isEmpty(), 20'000);
+        QVERIFY(client().call(u"sim.plug"_s, {{u"monitor"_s, id}}).ok());
+        QTRY_VERIFY_WITH_TIMEOUT(isShown(widget), 20'000);
+        const QJsonArray warnings = client().call(u"ui.warnings"_s).result.toArray();
+        QVERIFY2(warnings.isEmpty(),
+                 qPrintable(widget + u": "_s +
+                            QString::fromUtf8(QJsonDocument(warnings).toJson(QJsonDocument::Compact))));
+    }
+    QVERIFY2(opened.size() >= 8, qPrintable(opened.join(u' ')));
+    // The end of the program is one more way to go.
+    QVERIFY(client().call(u"ui.open"_s, {{u"widget"_s, opened.last()}}).ok());
+    QVERIFY(client().call(u"idle"_s).ok());
+    QCOMPARE(m_desk->stop(), 0);
+    QVERIFY2(!m_desk->errors().contains(u"qrc:/"_s), qPrintable(m_desk->errors()));
 }
 
 void TestWindowOffscreen::picturesAreTaken()

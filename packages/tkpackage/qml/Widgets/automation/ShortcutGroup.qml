@@ -19,7 +19,7 @@ Column {
     Accessible.name: topic.text
 
     function isCaptured(row: var): bool {
-        return revision >= 0 && shortcuts?.modifyShortcuts && shortcuts.checkModifyShortcuts(row.title, row.name)
+        return revision >= 0 && !!shortcuts?.modifyShortcuts && shortcuts.checkModifyShortcuts(row.title, row.name)
     }
 
     function keysOf(row: var): var {
