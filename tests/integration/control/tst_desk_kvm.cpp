@@ -113,8 +113,8 @@ void tst_desk_kvm::twoComputersArePaired()
 
 void tst_desk_kvm::twoPeoplePairThemInTheWindow()
 {
-    Computer one(u"127.0.0.1"_s, 47903);
-    Computer two(u"127.0.0.2"_s, 47904);
+    Computer one(u"127.0.0.1"_s);
+    Computer two(u"127.0.0.2"_s);
     for (Computer* computer : {&one, &two}) {
         QVERIFY2(computer->begin(true), qPrintable(computer->errors()));
         // The panel of the monitor leads to the page.
