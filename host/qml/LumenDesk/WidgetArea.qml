@@ -21,7 +21,7 @@ Column {
     // The widgets in the order in which they stand, and the names that were hidden when this was last looked at.
     property var placed: []
     property var hiddenBefore: []
-    signal pageRequested(Item widget)
+    signal pageRequested(var widget)
     signal widgetsGoing()
 
     spacing: LuStyle.space
@@ -30,7 +30,7 @@ Column {
         return list.filter(widget => widget?.functionSupported && !hidden.includes(widget.widgetName)).length
     }
 
-    function byName(name: string): Item {
+    function byName(name: string): var {
         return widgets.find(widget => widget.widgetName === name) ?? null
     }
 
