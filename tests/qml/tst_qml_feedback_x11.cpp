@@ -82,7 +82,7 @@ int main(int argc, char** argv)
     // The server and the window manager stand before the application object asks for them.
     QProcess server;
     server.start(u"Xvfb"_s, {u"-noreset"_s, u"-displayfd"_s, u"1"_s, u"-screen"_s, u"0"_s, u"1280x900x24"_s,
-                             u"-nolisten"_s, u"tcp"_s});
+                             u"-nolisten"_s, u"tcp"_s, u"-noreset"_s});
     QByteArray number;
     while (!number.endsWith('\n')) {
         if (!server.waitForReadyRead(20000)) {

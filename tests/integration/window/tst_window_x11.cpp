@@ -21,7 +21,7 @@ public:
     bool start()
     {
         m_process.start(u"Xvfb"_s, {u"-noreset"_s, u"-displayfd"_s, u"1"_s, u"-screen"_s, u"0"_s,
-                                    u"1280x900x24"_s, u"-nolisten"_s, u"tcp"_s});
+                                    u"1280x900x24"_s, u"-nolisten"_s, u"tcp"_s, u"-noreset"_s});
         QByteArray number;
         while (!number.endsWith('\n')) {
             if (!m_process.waitForReadyRead(20000))
