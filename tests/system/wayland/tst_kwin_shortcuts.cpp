@@ -88,10 +88,10 @@ void tst_kwin_shortcuts::initTestCase()
     QVERIFY2(start(), qPrintable(m_desk.errors()));
     QCOMPARE(m_typist.start(), QString());
     QVERIFY(focus(m_typist.pid()));
-    // The program listens some time after the desktop has given it the keys.
-    QVERIFY(client().set(u"brightness.displayBrightness"_s, 50).ok());
-    QTRY_VERIFY_WITH_TIMEOUT((chord({KEY_LEFTCTRL, KEY_LEFTSHIFT}, KEY_F5),
-                              QTest::qWaitFor([this] { return brightness().toInt() > 50; }, 2000)),
+    // The program listens some time after the desktop has given it the keys. A press that comes late changes
+    // nothing again.
+    const auto isCinema = [this] { return client().get(u"colorMode"_s) == QJsonValue(u"Cinema"_s); };
+    QTRY_VERIFY_WITH_TIMEOUT((chord({KEY_LEFTCTRL, KEY_LEFTALT}, KEY_5), QTest::qWaitFor(isCinema, 2000)),
                              Patience);
 }
 
@@ -123,15 +123,12 @@ void tst_kwin_shortcuts::pressReachesTheMonitorAndNotTheProgram()
     QVERIFY(idle());
     chord({KEY_LEFTCTRL, KEY_LEFTSHIFT}, KEY_F5);
     QTRY_COMPARE_WITH_TIMEOUT(brightness(), QJsonValue(75), Patience);
-    chord({KEY_LEFTCTRL, KEY_LEFTALT}, KEY_5);
-    QTRY_COMPARE_WITH_TIMEOUT(client().get(u"colorMode"_s), QJsonValue(u"Cinema"_s), Patience);
     // KWin gives each new window the focus, the feedback on the monitor too.
     QVERIFY(focus(m_typist.pid()));
     // The other program gets its own keys in order: what comes before this one has come.
     m_input.tap(KEY_S);
     QTRY_VERIFY_WITH_TIMEOUT(m_typist.lines(u"key "_s).contains(u"S"_s), Patience);
     QVERIFY(!m_typist.lines(u"key "_s).contains(u"Ctrl+Shift+F5"_s));
-    QVERIFY(!m_typist.lines(u"key "_s).contains(u"Ctrl+Alt+5"_s));
 }
 
 void tst_kwin_shortcuts::otherKeysAreTheProgramsOwn()
