@@ -393,6 +393,9 @@ void TestDesktopWindows::ownWindowsAreNotFollowed()
     own.setGeometry(1000, 500, 300, 200);
     own.show();
     QVERIFY(QTest::qWaitForWindowExposed(&own, PatienceMs));
+    // Its title bar has come, too.
+    const QString id = QString::number(own.winId());
+    QTRY_VERIFY(outerRect(quint32(own.winId())).top() < rectOf(id).top());
     const QRect before = outerRect(quint32(own.winId()));
     const QPoint start = before.topLeft() + QPoint(before.width() / 2, 8);
     QVERIFY(pull(quint32(own.winId()), start, QPoint(5, 3)));
