@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <LuShared/LuPlatformNotifications.h>
 
+#include "LogCount.h"
 #include "MockService.h"
 #include "PrivateBus.h"
 #include "services/wayland/PortalKeys.h"
@@ -39,32 +40,6 @@ void press(const QString& shortcut)
     QDBusInterface mock(Portal, u"/org/freedesktop/portal/desktop"_s, u"org.freedesktop.DBus.Mock"_s, bus());
     mock.call(u"Press"_s, shortcut);
 }
-
-/// Counts lines of the log, which it takes out of the test's output.
-class LogCount
-{
-public:
-    explicit LogCount(const QString& text)
-    {
-        s_text = text;
-        s_count = 0;
-        s_before = qInstallMessageHandler(
-            [](QtMsgType type, const QMessageLogContext& context, const QString& line) {
-                if (line == s_text)
-                    ++s_count;
-                else
-                    s_before(type, context, line);
-            });
-    }
-    ~LogCount() { qInstallMessageHandler(s_before); }
-    Q_DISABLE_COPY_MOVE(LogCount)
-    int count() const { return s_count; }
-
-private:
-    static inline QString s_text;
-    static inline int s_count = 0;
-    static inline QtMessageHandler s_before = nullptr;
-};
 
 } // namespace
 

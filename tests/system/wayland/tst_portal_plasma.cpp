@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "LogCount.h"
 #include "PlasmaSession.h"
 #include "services/wayland/PortalKeys.h"
 
@@ -7,7 +8,6 @@
 #include <QDir>
 #include <QFile>
 #include <QRegularExpression>
-#include <QScopeGuard>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -83,15 +83,7 @@ void tst_portal_plasma::cleanupTestCase()
 
 void tst_portal_plasma::portalTakesTheCombinations()
 {
-    static int refusals;
-    refusals = 0;
-    static QtMessageHandler before;
-    before =
-        qInstallMessageHandler([](QtMsgType type, const QMessageLogContext& context, const QString& text) {
-            refusals += text.startsWith(u"[LuPlatform]"_s);
-            before(type, context, text);
-        });
-    const auto restore = qScopeGuard([] { qInstallMessageHandler(before); });
+    const LogCount refusals(u"[LuPlatform]"_s);
     PortalKeys keys(QDBusConnection::sessionBus());
     keys.start();
     keys.setActionKeys({Qt::CTRL | Qt::ALT | Qt::Key_B});
@@ -103,7 +95,7 @@ void tst_portal_plasma::portalTakesTheCombinations()
     keys.setActionKeys({Qt::CTRL | Qt::ALT | Qt::SHIFT | Qt::Key_F2});
     const QRegularExpression second(u"shortcuts:.*\"CTRL\\+ALT\\+SHIFT\\+F2\""_s);
     QTRY_VERIFY_WITH_TIMEOUT(m_backend.output().contains(second), Patience);
-    QCOMPARE(refusals, 0);
+    QCOMPARE(refusals.count(), 0);
     keys.stop();
 }
 
