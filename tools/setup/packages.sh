@@ -9,6 +9,7 @@ run_packages=(
   qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libqt6svg6 qt6-svg-plugins qt6-shader-baker
   libgl-dev libvulkan-dev libxkbcommon-dev libegl-dev libxcb1-dev libudev-dev libpulse-dev libssl-dev
   libxcb-randr0-dev libxcb-record0-dev libxcb-res0-dev libxcb-xinput-dev libxcb-xtest0-dev libxkbcommon-x11-dev
+  plasma-wayland-protocols libwayland-dev libwayland-bin
   qml6-module-qtqml qml6-module-qtqml-workerscript qml6-module-qtquick qml6-module-qtquick-window
   qml6-module-qtquick-templates
   fonts-inter fonts-noto-core fonts-wqy-microhei
@@ -19,7 +20,7 @@ test_packages=(
   python3 libxml2-utils appstream desktop-file-utils dpkg-dev file libbenchmark-dev xvfb xauth xdotool binutils
   umockdev libumockdev-dev ddcutil i2c-tools
   mutter kwin-wayland libkf5screen-bin libkf6screen-bin libkscreen-bin qtwayland5 qt6-wayland
-  plasma-wayland-protocols libwayland-dev libwayland-bin xdg-desktop-portal xdg-desktop-portal-kde
+  xdg-desktop-portal xdg-desktop-portal-kde
   dbus python3-dbusmock pulseaudio pulseaudio-utils pipewire pipewire-pulse wireplumber
   xserver-xorg-core xserver-xorg-video-dummy xserver-xorg-dev x11-xserver-utils x11-xkb-utils x11-utils
   libxcb-shape0-dev openbox xfwm4 kwin-x11 xcompmgr

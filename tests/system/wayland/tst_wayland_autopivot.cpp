@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "DeskProcess.h"
+#include "MutterServer.h"
 #include "OutputWitness.h"
 #include "PlasmaSession.h"
 
-#include <QDBusConnection>
-#include <QDBusConnectionInterface>
 #include <QElapsedTimer>
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QScopeGuard>
@@ -66,7 +64,7 @@ private:
     int degrees(int output) { return m_witness.output(output).degrees; }
 
     PlasmaSession m_session;
-    ServerProcess m_mutter;
+    MutterServer m_mutter;
     OutputWitness m_witness;
     DeskProcess m_desk;
 };
@@ -80,17 +78,7 @@ QString tst_wayland_autopivot::startSession()
         problem = m_session.startKWin();
         return problem.isEmpty() ? m_session.startKScreen() : problem;
     }
-    m_mutter.environment = QProcessEnvironment::systemEnvironment();
-    return m_mutter.start(
-        u"mutter"_s,
-        {u"--headless"_s, u"--wayland"_s, u"--no-x11"_s, u"--wayland-display"_s, KWinServer::display(),
-         u"--virtual-monitor"_s, u"1920x1080"_s, u"--virtual-monitor"_s, u"1280x1024"_s},
-        [this] {
-            return QFile::exists(m_session.socket()) &&
-                   QDBusConnection::sessionBus().interface()->isServiceRegistered(
-                       u"org.gnome.Mutter.DisplayConfig"_s);
-        },
-        2 * Patience);
+    return m_mutter.startOn(m_session.socket());
 }
 
 void tst_wayland_autopivot::initTestCase()
