@@ -43,6 +43,7 @@
 #include <qml/LuWindowBridge.h>
 #include <services/api/DesktopEvents.h>
 #include <services/api/ProgramService.h>
+#include <services/api/WindowService.h>
 #include <services/kvm/NativeKvm.h>
 #include <services/linux/DesktopLook.h>
 #include <services/native/NativeServices.h>
@@ -210,6 +211,10 @@ void Application::installServices()
     LuContext* context = LuContext::instance();
     context->setAbsenceSource(&services::absentAbilities,
                               simulated || wayland || session == QLatin1String("x11"), wayland);
+    context->setFeedbackPlacer([](QQuickWindow* window, const QPoint& position) {
+        const auto windows = services::Registry::current().windows;
+        return windows && windows->placeFeedback(window, position);
+    });
     connect(LuMediaDevices::instance(), &QMediaDevices::audioOutputsChanged, context,
             &LuContext::touchAbsences);
     // A compositor may tell its displays only some time after it was asked.

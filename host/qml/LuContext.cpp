@@ -264,6 +264,16 @@ bool LuContext::canPlaceWindows() const
     return !QGuiApplication::platformName().startsWith("wayland"_L1);
 }
 
+bool LuContext::placeFeedback(QQuickWindow* window, const QPointF& position) const
+{
+    return window && m_feedbackPlacer && m_feedbackPlacer(window, position.toPoint());
+}
+
+void LuContext::setFeedbackPlacer(std::function<bool(QQuickWindow*, const QPoint&)> placer)
+{
+    m_feedbackPlacer = std::move(placer);
+}
+
 void LuContext::setTranslucentWindows(bool on)
 {
     if (on == m_translucentWindows)

@@ -112,6 +112,11 @@ public:
     bool windowsLayout() const { return !isMacOS(); }
     /// False where a client may not position its own windows (Wayland).
     bool canPlaceWindows() const;
+    /// For where canPlaceWindows is false: has the session show feedback at @p position of the desktop, above
+    /// all windows and never with the focus, once it becomes visible. False where it cannot: @p window is not
+    /// to be shown.
+    Q_INVOKABLE bool placeFeedback(QQuickWindow* window, const QPointF& position) const;
+    void setFeedbackPlacer(std::function<bool(QQuickWindow* window, const QPoint& position)> placer);
     /// Whether a window may have see-through corners: not where nothing composes the desktop.
     bool translucentWindows() const { return m_translucentWindows; }
     void setTranslucentWindows(bool on);
@@ -246,6 +251,7 @@ private:
     std::function<QScreen*(QObject*)> m_screenSource;
     std::function<QString(QObject*)> m_connectionSource;
     std::function<QStringList()> m_absent;
+    std::function<bool(QQuickWindow*, const QPoint&)> m_feedbackPlacer;
     bool m_hasDesktop = true;
     bool m_isWayland = false;
     int m_factsStamp = 0;

@@ -37,7 +37,7 @@ constexpr std::array Rows = {
     Row{"pointerEdge",           [](const ServiceSet& set) { return set.kvm != nullptr; }},
     Row{"soundOutputs",          [](const ServiceSet& set) { return set.audio && !set.audio->outputs().isEmpty(); }},
     Row{"translucentWindows",    [](const ServiceSet& set) { return !set.windows || set.windows->blends(); }},
-    Row{"overlayOnTop",          [](const ServiceSet& set) { return set.windows != nullptr; }},
+    Row{"overlayOnTop",          [](const ServiceSet& set) { return set.windows && set.windows->keepsAbove(); }},
 };
 // clang-format on
 

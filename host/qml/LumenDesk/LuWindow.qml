@@ -7,7 +7,8 @@ import LumenDesk.Style
 // A free window for on-screen feedback: above all others, without frame, never taking the focus nor a click.
 //
 // It stands on the screen of `monitor`, in the middle across and at `verticalShare` of the room above it; a screen that
-// is no larger than the window has it at its corner.
+// is no larger than the window has it at its corner. A session that would give it the focus (Wayland without Plasma's
+// shell) does not get to see it: it closes as it is opened.
 Window {
     id: window
 
@@ -32,19 +33,26 @@ Window {
 
     // Shows it, or lets it stay for its time anew.
     function open(): void {
-        place()
+        if (!place()) {
+            closed()
+            return
+        }
         shown = true
         visible = true
         if (timeout > 0)
             away.restart()
     }
 
-    function place(): void {
-        if (!LuContext.canPlaceWindows)
-            return
+    // False where the session would give it the focus.
+    function place(): bool {
         const screen = LuContext.screenGeometry(monitor)
-        x = screen.x + Math.max(0, Math.round((screen.width - width) / 2))
-        y = screen.y + Math.max(0, Math.round((screen.height - height) * verticalShare))
+        const left = screen.x + Math.max(0, Math.round((screen.width - width) / 2))
+        const top = screen.y + Math.max(0, Math.round((screen.height - height) * verticalShare))
+        if (!LuContext.canPlaceWindows)
+            return LuContext.placeFeedback(window, Qt.point(left, top))
+        x = left
+        y = top
+        return true
     }
 
     onWidthChanged: if (shown) place()

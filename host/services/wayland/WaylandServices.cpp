@@ -4,6 +4,7 @@
 #include "services/wayland/Display.h"
 #include "services/wayland/KWinEvents.h"
 #include "services/wayland/PortalKeys.h"
+#include "services/wayland/Windows.h"
 
 #include <QDebug>
 
@@ -16,6 +17,7 @@ std::shared_ptr<services::ApplicationWindows> services::wayland::addServices(Ser
     set->display = makeDisplay(control);
     if (!set->display)
         qInfo() << "[Services] this compositor does not let programs change displays";
+    set->windows = std::make_shared<Windows>();
     const auto events = KWinEvents::make(bus);
     set->events = events;
     if (events)

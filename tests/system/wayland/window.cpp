@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// An application with one window, or two, which it tells the sizes and the keys of. Its upper part is a title
-// bar of its own.
+// An application with one window, or two, which it tells the sizes, the keys and the lost focus of. Its upper
+// part is a title bar of its own.
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -33,6 +33,11 @@ protected:
     {
         const QKeySequence keys(event->keyCombination());
         std::printf("key %s\n", keys.toString(QKeySequence::PortableText).toUtf8().constData());
+        std::fflush(stdout);
+    }
+    void focusOutEvent(QFocusEvent*) override
+    {
+        std::printf("focus lost\n");
         std::fflush(stdout);
     }
 };

@@ -55,8 +55,10 @@ public:
     void setLayer(QQuickWindow*, int) override {}
     void setJoinActiveSpaces(QQuickWindow*, bool) override {}
     bool blends() const override { return blending; }
+    bool keepsAbove() const override { return keeping; }
 
     bool blending = true;
+    bool keeping = true;
 };
 
 class SessionKeys : public services::ClipboardKeysService
@@ -307,6 +309,10 @@ void TestAbsentServices::whatTheServicesLackHasAName_data()
     plain->blending = false;
     set.windows = plain;
     QTest::newRow("windows that do not blend") << set << rest + audio + Names{u"translucentWindows"_s};
+    const auto below = std::make_shared<SessionWindows>();
+    below->keeping = false;
+    set.windows = below;
+    QTest::newRow("windows that cannot be kept above") << set << rest + audio + Names{u"overlayOnTop"_s};
     set.windows = windows;
 
     const auto programs = std::make_shared<LoadingPrograms>();
