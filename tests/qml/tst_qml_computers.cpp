@@ -78,14 +78,18 @@ private Q_SLOTS:
     void thePageIsDrawn();
 
 private:
-    bool open();
+    bool open()
+    {
+        m_window = m_shell->openSettings(u"computers"_s);
+        return m_window != nullptr;
+    }
     QQuickItem* item(const char* name) const { return m_shell->item(QLatin1String(name)); }
     QString text(const char* name) const
     {
         const QQuickItem* found = item(name);
         return found && found->isVisible() ? found->property("text").toString() : QString();
     }
-    bool shows(const QString& part) const;
+    bool shows(const QString& part) const { return Shell::shows(m_window, part); }
     bool press(const char* name)
     {
         return item(name) && QMetaObject::invokeMethod(item(name), "assistivePress");
@@ -113,28 +117,6 @@ void TestComputers::cleanup()
     LuComputers::instance()->setBackend(nullptr);
     m_computers.reset();
     QCOMPARE(Shell::takeWarnings(), QStringList());
-}
-
-bool TestComputers::open()
-{
-    if (!m_shell->bridge->show().ok() || !m_shell->bridge->openSection(u"computers"_s).ok())
-        return false;
-    m_window = m_shell->window()->property("settingsWindow").value<QQuickWindow*>();
-    return m_window && QTest::qWaitForWindowExposed(m_window);
-}
-
-bool TestComputers::shows(const QString& part) const
-{
-    QList<QQuickItem*> items{m_window->contentItem()};
-    while (!items.isEmpty()) {
-        const QQuickItem* each = items.takeFirst();
-        if (!each->isVisible())
-            continue;
-        if (each->property("text").toString().contains(part))
-            return true;
-        items.append(each->childItems());
-    }
-    return false;
 }
 
 void TestComputers::aSessionWithoutTheServiceSaysSo()

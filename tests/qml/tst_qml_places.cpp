@@ -37,9 +37,13 @@ private Q_SLOTS:
     void thePageIsDrawn();
 
 private:
-    bool open();
+    bool open()
+    {
+        m_window = m_shell->openSettings(u"location"_s);
+        return m_window != nullptr;
+    }
     QQuickItem* item(const char* name) const { return m_shell->item(QLatin1String(name)); }
-    bool shows(const QString& part) const;
+    bool shows(const QString& part) const { return Shell::shows(m_window, part); }
     bool type(const char* field, const QString& text)
     {
         bool done = false;
@@ -89,28 +93,6 @@ void TestPlaces::cleanup()
     LuPlace::instance()->setPresent({});
     LuPlace::instance()->setCities({}, {});
     QCOMPARE(Shell::takeWarnings(), QStringList());
-}
-
-bool TestPlaces::open()
-{
-    if (!m_shell->bridge->show().ok() || !m_shell->bridge->openSection(u"location"_s).ok())
-        return false;
-    m_window = m_shell->window()->property("settingsWindow").value<QQuickWindow*>();
-    return m_window && QTest::qWaitForWindowExposed(m_window);
-}
-
-bool TestPlaces::shows(const QString& part) const
-{
-    QList<QQuickItem*> items{m_window->contentItem()};
-    while (!items.isEmpty()) {
-        const QQuickItem* each = items.takeFirst();
-        if (!each->isVisible())
-            continue;
-        if (each->property("text").toString().contains(part))
-            return true;
-        items.append(each->childItems());
-    }
-    return false;
 }
 
 void TestPlaces::theSourceIsThatOfTheSettings_data()

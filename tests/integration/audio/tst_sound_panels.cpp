@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "AccessibleTree.h"
 #include "SoundDesk.h"
 
 #include <QtTest>
@@ -8,22 +9,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString Widget = u"LuVolumeWidget"_s;
-
-QJsonObject findIn(const QJsonValue& tree, const QString& role, const QString& name)
-{
-    if (tree.isArray()) {
-        const QJsonArray list = tree.toArray();
-        for (const QJsonValue& each : list) {
-            if (const QJsonObject found = findIn(each, role, name); !found.isEmpty())
-                return found;
-        }
-        return {};
-    }
-    const QJsonObject object = tree.toObject();
-    if (object.value(u"role"_s).toString() == role && object.value(u"name"_s).toString() == name)
-        return object;
-    return findIn(object.value(u"children"_s), role, name);
-}
 
 } // namespace
 
@@ -55,7 +40,7 @@ private:
     }
     QJsonObject find(const QString& role, const QString& name, const QString& widget = {})
     {
-        return findIn(
+        return findInTree(
             client()
                 .call(u"ui.tree"_s, widget.isEmpty() ? QJsonObject() : QJsonObject{{u"widget"_s, widget}})
                 .result,

@@ -1,29 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "AccessibleTree.h"
 #include "PictureDesk.h"
 
 #include <QtTest>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-QJsonObject findIn(const QJsonValue& tree, const QString& role, const QString& name)
-{
-    if (tree.isArray()) {
-        const QJsonArray list = tree.toArray();
-        for (const QJsonValue& each : list) {
-            if (const QJsonObject found = findIn(each, role, name); !found.isEmpty())
-                return found;
-        }
-        return {};
-    }
-    const QJsonObject object = tree.toObject();
-    if (object.value(u"role"_s).toString() == role && object.value(u"name"_s).toString() == name)
-        return object;
-    return findIn(object.value(u"children"_s), role, name);
-}
-
-} // namespace
 
 /// The panels of eye care and ambient light, pressed and read through the accessible tree.
 class TestEyeCarePanels : public QObject
@@ -78,7 +59,7 @@ private:
     }
     QJsonObject find(const QString& role, const QString& name)
     {
-        return findIn(client().call(u"ui.tree"_s, {{u"widget"_s, m_page}}).result, role, name);
+        return findInTree(client().call(u"ui.tree"_s, {{u"widget"_s, m_page}}).result, role, name);
     }
     QJsonObject row(const QString& widget)
     {
@@ -195,7 +176,7 @@ void TestEyeCarePanels::theHintExplainsTheOptimizer()
     };
     QTRY_VERIFY(hint());
     const QJsonValue tree = client().call(u"ui.tree"_s).result;
-    QVERIFY(!findIn(tree, u"label"_s, u"About Visual Optimizer"_s).isEmpty());
+    QVERIFY(!findInTree(tree, u"label"_s, u"About Visual Optimizer"_s).isEmpty());
     QVERIFY(press(u"Help"_s, u"button"_s));
     QTRY_VERIFY(!hint());
 }

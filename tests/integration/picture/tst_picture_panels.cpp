@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "AccessibleTree.h"
 #include "PictureDesk.h"
 
 #include <QDir>
@@ -90,27 +91,12 @@ ControlClient::Answer TestPicturePanels::press(const QString& name, const QStrin
     return answer;
 }
 
-QJsonObject findIn(const QJsonValue& tree, const QString& role, const QString& name)
-{
-    if (tree.isArray()) {
-        for (const QJsonValue& each : tree.toArray()) {
-            if (const QJsonObject found = findIn(each, role, name); !found.isEmpty())
-                return found;
-        }
-        return {};
-    }
-    const QJsonObject object = tree.toObject();
-    if (object.value(u"role"_s).toString() == role && object.value(u"name"_s).toString() == name)
-        return object;
-    return findIn(object.value(u"children"_s), role, name);
-}
-
 QJsonObject TestPicturePanels::find(const QString& role, const QString& name, const QString& widget)
 {
     QJsonObject parameters;
     if (!widget.isEmpty())
         parameters.insert(u"widget"_s, widget);
-    return findIn(client().call(u"ui.tree"_s, parameters).result, role, name);
+    return findInTree(client().call(u"ui.tree"_s, parameters).result, role, name);
 }
 
 QJsonObject TestPicturePanels::row(const QString& widget)

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "AccessibleTree.h"
 #include "ShortcutsDesk.h"
 
 #include <QtTest>
@@ -8,21 +9,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString Widget = u"LuShortcutsWidget"_s;
-
-QJsonObject findIn(const QJsonValue& tree, const QString& role, const QString& name)
-{
-    if (tree.isArray()) {
-        for (const QJsonValue& each : tree.toArray()) {
-            if (const QJsonObject found = findIn(each, role, name); !found.isEmpty())
-                return found;
-        }
-        return {};
-    }
-    const QJsonObject object = tree.toObject();
-    if (object.value(u"role"_s).toString() == role && object.value(u"name"_s).toString() == name)
-        return object;
-    return findIn(object.value(u"children"_s), role, name);
-}
 
 /// Names of all texts and buttons below an object, in their order.
 QStringList wordsIn(const QJsonValue& tree)
@@ -66,7 +52,7 @@ private:
     QJsonObject find(const QString& role, const QString& name, bool onPage = true)
     {
         const QJsonObject page = onPage ? QJsonObject{{u"widget"_s, Widget}} : QJsonObject();
-        return findIn(m_desk->call(u"ui.tree"_s, page).result, role, name);
+        return findInTree(m_desk->call(u"ui.tree"_s, page).result, role, name);
     }
     bool press(const QString& name)
     {

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "AccessibleTree.h"
 #include "DeskProcess.h"
 
 #include <QFileInfo>
@@ -22,17 +23,6 @@ QJsonObject widgetRow(ControlClient& client, const QString& widget)
             return row.toObject();
     }
     return {};
-}
-
-QStringList namesIn(const QJsonValue& node, const QString& role)
-{
-    QStringList names;
-    if (node[u"role"_s].toString() == role)
-        names << node[u"name"_s].toString();
-    const QJsonArray children = node[u"children"_s].toArray();
-    for (const QJsonValue& child : children)
-        names << namesIn(child, role);
-    return names;
 }
 
 QStringList wire(ControlClient& client, const QString& op)
@@ -77,8 +67,11 @@ private Q_SLOTS:
 private:
     ControlClient& client() { return m_desk->client(); }
     /// The title of the page that is open.
-    QStringList page() { return namesIn(client().call(u"ui.tree"_s).result, u"page"_s); }
-    bool canGoBack() { return namesIn(client().call(u"ui.tree"_s).result, u"button"_s).contains(u"Back"_s); }
+    QStringList page() { return namesInTree(client().call(u"ui.tree"_s).result, u"page"_s); }
+    bool canGoBack()
+    {
+        return namesInTree(client().call(u"ui.tree"_s).result, u"button"_s).contains(u"Back"_s);
+    }
     void startWith(const QString& models);
 
     std::unique_ptr<DeskProcess> m_desk;

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "AccessibleTree.h"
 #include "DeskProcess.h"
 
 #include <QtTest>
@@ -42,23 +43,6 @@ private:
     QProcess m_process;
     QString m_display;
 };
-
-/// The first object of a role and a name in an accessible tree; empty if there is none.
-QJsonObject findInTree(const QJsonValue& tree, const QString& role, const QString& name)
-{
-    if (tree.isArray()) {
-        for (const QJsonValue& each : tree.toArray()) {
-            const QJsonObject found = findInTree(each, role, name);
-            if (!found.isEmpty())
-                return found;
-        }
-        return {};
-    }
-    const QJsonObject object = tree.toObject();
-    if (object.value(u"role"_s).toString() == role && object.value(u"name"_s).toString() == name)
-        return object;
-    return findInTree(object.value(u"children"_s), role, name);
-}
 
 } // namespace
 

@@ -6,6 +6,7 @@
 #include <QGuiApplication>
 #include <QMutex>
 #include <QQuickItem>
+#include <QTest>
 #include <QtQml/qqmlmoduleregistration.h>
 #include <QtQml>
 
@@ -118,6 +119,28 @@ QQuickItem* Shell::item(const QString& objectName) const
             return found;
     }
     return nullptr;
+}
+
+QQuickWindow* Shell::openSettings(const QString& section)
+{
+    if (!bridge->show().ok() || !bridge->openSection(section).ok())
+        return nullptr;
+    auto* settings = window()->property("settingsWindow").value<QQuickWindow*>();
+    return settings && QTest::qWaitForWindowExposed(settings, PatienceMs) ? settings : nullptr;
+}
+
+bool Shell::shows(const QQuickWindow* window, const QString& part)
+{
+    QList<QQuickItem*> items{window->contentItem()};
+    while (!items.isEmpty()) {
+        const QQuickItem* each = items.takeFirst();
+        if (!each->isVisible())
+            continue;
+        if (each->property("text").toString().contains(part))
+            return true;
+        items.append(each->childItems());
+    }
+    return false;
 }
 
 QStringList Shell::takeWarnings()

@@ -27,6 +27,10 @@ public:
     QQuickItem* widget(const char* name) const;
     /// A visible item of that object name in any window, or null.
     QQuickItem* item(const QString& objectName) const;
+    /// Opens a page of the settings; null if it does not come. @return the settings' window.
+    QQuickWindow* openSettings(const QString& section);
+    /// Whether a visible item of a window has a text with this part.
+    static bool shows(const QQuickWindow* window, const QString& part);
     /// All warnings so far, of the engine and of the message log, and forgets them.
     static QStringList takeWarnings();
     /// Takes part of the widgets that the package lists.

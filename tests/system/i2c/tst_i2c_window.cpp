@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "AccessibleTree.h"
 #include "DeskProcess.h"
 #include "MockBed.h"
 
@@ -34,17 +35,6 @@ void dropFileRights()
         ::prctl(PR_CAPBSET_DROP, right);
 }
 
-QStringList namesIn(const QJsonValue& node, const QString& role)
-{
-    QStringList names;
-    if (node[u"role"_s].toString() == role)
-        names << node[u"name"_s].toString();
-    const QJsonArray children = node[u"children"_s].toArray();
-    for (const QJsonValue& child : children)
-        names << namesIn(child, role);
-    return names;
-}
-
 } // namespace
 
 /// What a new user meets on a computer with monitors and on one without: the introduction and the
@@ -72,7 +62,7 @@ private:
         return line.match(m_server.output()).captured(1).toLatin1();
     }
     ControlClient& client() { return m_desk->client(); }
-    QStringList names(const QString& role) { return namesIn(client().call(u"ui.tree"_s).result, role); }
+    QStringList names(const QString& role) { return namesInTree(client().call(u"ui.tree"_s).result, role); }
     bool isIntroduced();
     bool press(const QString& name)
     {
