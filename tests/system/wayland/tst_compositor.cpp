@@ -9,6 +9,7 @@
 #include "panelcore/MonitorLink.h"
 #include "services/api/DesktopEvents.h"
 #include "services/api/DisplayService.h"
+#include "services/api/WindowService.h"
 #include "services/wayland/WaylandServices.h"
 
 #include <QDBusConnection>
@@ -222,7 +223,8 @@ void tst_compositor::unknownModeIsRefused()
 void tst_compositor::whatWaylandKeepsIsAbsent()
 {
     const services::ServiceSet set = services::Registry::current();
-    QVERIFY(!set.windows && !set.clipboardKeys && !set.pointer && !set.kvm);
+    QVERIFY(!set.clipboardKeys && !set.pointer && !set.kvm);
+    QVERIFY(set.windows && !set.windows->keepsAbove());
     QVERIFY(set.events && !set.events->hearsEveryKey());
     QCOMPARE(set.events->takesActionKeys(), useKWin); // there is no portal
     QCOMPARE(set.events->seesWindows(), useKWin);
