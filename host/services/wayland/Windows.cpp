@@ -4,6 +4,7 @@
 #include <QEvent>
 #include <QGuiApplication>
 #include <QQuickWindow>
+#include <QScreen>
 
 #include <algorithm>
 #include <cstdint>
@@ -59,7 +60,7 @@ Windows::~Windows()
     // Once the application object is gone, so is the connection with all that it had.
     if (!qGuiApp || !m_registry)
         return;
-    const QList<QObject*> all = m_feedback.keys();
+    const QList<QObject*> all = m_displays.keys();
     for (QObject* const each : all)
         letGo(each);
     if (m_shell)
@@ -67,27 +68,37 @@ Windows::~Windows()
     wl_registry_destroy(m_registry);
 }
 
+void Windows::setLayer(QQuickWindow* window, int layer)
+{
+    if (layer > 0 || m_displays.contains(window))
+        watch(window).wanted = layer > 0;
+}
+
 bool Windows::placeFeedback(QQuickWindow* window, const QPoint& position)
 {
     if (!m_shell)
         return false;
-    if (!m_feedback.contains(window)) {
-        window->installEventFilter(this);
-        // The window still has its surface then, as the compositor wants it.
-        connect(window, &QWindow::visibleChanged, this, [this, window](bool visible) {
-            if (!visible)
-                letGo(window);
-        });
-        connect(window, &QObject::destroyed, this, [this](QObject* gone) {
-            letGo(gone);
-            m_feedback.remove(gone);
-        });
-    }
-    Feedback& feedback = m_feedback[window];
-    feedback.position = position;
-    if (feedback.surface)
-        org_kde_plasma_surface_set_position(feedback.surface, position.x(), position.y());
+    watch(window).position = position;
+    place(window);
     return true;
+}
+
+Windows::Display& Windows::watch(QQuickWindow* window)
+{
+    if (m_displays.contains(window))
+        return m_displays[window];
+    window->installEventFilter(this);
+    // The window still has its surface then, as the compositor wants it.
+    connect(window, &QWindow::visibleChanged, this, [this, window](bool visible) {
+        if (!visible)
+            letGo(window);
+    });
+    connect(window, &QWindow::screenChanged, this, [this, window] { place(window); });
+    connect(window, &QObject::destroyed, this, [this](QObject* gone) {
+        letGo(gone);
+        m_displays.remove(gone);
+    });
+    return m_displays[window];
 }
 
 bool Windows::eventFilter(QObject* object, QEvent* event)
@@ -100,28 +111,37 @@ bool Windows::eventFilter(QObject* object, QEvent* event)
 
 void Windows::show(QWindow* window)
 {
-    const auto feedback = m_feedback.find(window);
-    if (feedback == m_feedback.end() || feedback->surface || !m_shell)
+    const auto display = m_displays.find(window);
+    if (display == m_displays.end() || !display->wanted || display->surface || !m_shell)
         return;
     auto* const surface = static_cast<wl_surface*>(
         QGuiApplication::platformNativeInterface()->nativeResourceForWindow("surface", window));
     if (!surface)
         return;
-    feedback->surface = org_kde_plasma_shell_get_surface(m_shell, surface);
-    org_kde_plasma_surface_set_role(feedback->surface, ORG_KDE_PLASMA_SURFACE_ROLE_ONSCREENDISPLAY);
-    org_kde_plasma_surface_set_position(feedback->surface, feedback->position.x(), feedback->position.y());
-    const std::uint32_t version = org_kde_plasma_surface_get_version(feedback->surface);
+    display->surface = org_kde_plasma_shell_get_surface(m_shell, surface);
+    org_kde_plasma_surface_set_role(display->surface, ORG_KDE_PLASMA_SURFACE_ROLE_ONSCREENDISPLAY);
+    place(window);
+    const std::uint32_t version = org_kde_plasma_surface_get_version(display->surface);
     if (version >= ORG_KDE_PLASMA_SURFACE_SET_SKIP_TASKBAR_SINCE_VERSION)
-        org_kde_plasma_surface_set_skip_taskbar(feedback->surface, 1);
+        org_kde_plasma_surface_set_skip_taskbar(display->surface, 1);
     if (version >= ORG_KDE_PLASMA_SURFACE_SET_SKIP_SWITCHER_SINCE_VERSION)
-        org_kde_plasma_surface_set_skip_switcher(feedback->surface, 1);
+        org_kde_plasma_surface_set_skip_switcher(display->surface, 1);
+}
+
+void Windows::place(QWindow* window)
+{
+    const auto display = m_displays.constFind(window);
+    if (display == m_displays.constEnd() || !display->surface || !window->screen())
+        return;
+    const QPoint position = display->position.value_or(window->screen()->geometry().topLeft());
+    org_kde_plasma_surface_set_position(display->surface, position.x(), position.y());
 }
 
 void Windows::letGo(QObject* window)
 {
-    const auto feedback = m_feedback.find(window);
-    if (feedback != m_feedback.end() && feedback->surface)
-        org_kde_plasma_surface_destroy(std::exchange(feedback->surface, nullptr));
+    const auto display = m_displays.find(window);
+    if (display != m_displays.end() && display->surface)
+        org_kde_plasma_surface_destroy(std::exchange(display->surface, nullptr));
 }
 
 } // namespace services::wayland

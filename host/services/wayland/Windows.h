@@ -7,6 +7,8 @@
 #include <QObject>
 #include <QPoint>
 
+#include <optional>
+
 class QWindow;
 struct org_kde_plasma_shell;
 struct org_kde_plasma_surface;
@@ -14,8 +16,9 @@ struct wl_registry;
 
 namespace services::wayland {
 
-/// Feedback above all windows that never takes the focus, under compositors with Plasma's shell interface.
-/// Layers and virtual desktops of the program's own windows are what Wayland keeps from programs.
+/// Windows above all others that never take the focus, under compositors with Plasma's shell interface:
+/// feedback, and every window of a layer above the normal one. Both are on-screen displays, which show on
+/// every virtual desktop.
 ///
 /// Nobody waits for the compositor: until it has told that it has the interface, it counts as without.
 class Windows : public QObject, public WindowService
@@ -24,9 +27,9 @@ public:
     Windows();
     ~Windows() override;
 
-    void setLayer(QQuickWindow*, int) override {}
+    void setLayer(QQuickWindow* window, int layer) override;
     void setJoinActiveSpaces(QQuickWindow*, bool) override {}
-    bool keepsAbove() const override { return false; }
+    bool keepsAbove() const override { return m_shell != nullptr; }
     bool placeFeedback(QQuickWindow* window, const QPoint& position) override;
 
     /// The compositor gives a window the focus with its first picture: it learns of the role before that,
@@ -34,21 +37,24 @@ public:
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
-    struct Feedback
+    struct Display
     {
-        QPoint position;
+        bool wanted = true;
+        std::optional<QPoint> position;            ///< Without one it stands at its screen's corner.
         org_kde_plasma_surface* surface = nullptr; ///< Of a window that is shown.
     };
 
     friend struct WindowsEvents;
 
+    Display& watch(QQuickWindow* window);
     void show(QWindow* window);
+    void place(QWindow* window);
     void letGo(QObject* window);
 
     wl_registry* m_registry = nullptr;
     org_kde_plasma_shell* m_shell = nullptr;
     unsigned m_shellName = 0;
-    QHash<QObject*, Feedback> m_feedback;
+    QHash<QObject*, Display> m_displays;
 };
 
 } // namespace services::wayland

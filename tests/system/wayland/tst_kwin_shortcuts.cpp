@@ -26,6 +26,7 @@ private Q_SLOTS:
     void pressReachesTheMonitorAndNotTheProgram();
     void feedbackLeavesTheFocus_data();
     void feedbackLeavesTheFocus();
+    void overlayLeavesTheFocus();
     void otherKeysAreTheProgramsOwn();
     void ownKeysAreFreeWhileKeysAreChosen();
     void newKeysAreTyped();
@@ -176,6 +177,37 @@ void tst_kwin_shortcuts::feedbackLeavesTheFocus()
     // Nor does its end take or give it.
     QTRY_COMPARE_WITH_TIMEOUT(feedback(), QString(), Patience);
     QCOMPARE(m_typist.lines(u"focus lost"_s).size(), lost);
+}
+
+void tst_kwin_shortcuts::overlayLeavesTheFocus()
+{
+    // The other of the program's windows: the main window is smaller, and feedback has gone.
+    const QString overlay = uR"(    for (var i = 0; i < windows.length; ++i) {
+        var window = windows[i];
+        var g = window.frameGeometry;
+        if (window.pid == %1 && g.width > 1000)
+            return answer(g.x + "," + g.y + " " + g.width + "x" + g.height +
+                          (window.onScreenDisplay ? " on-screen display" : " window"));
+    }
+    answer("");)"_s.arg(m_desk.process().processId());
+    const QJsonObject absent =
+        client().call(u"get"_s, {{u"path"_s, u"context.absences"_s}}).result[u"value"].toObject();
+    QVERIFY(absent.contains(u"pointerEdge"_s));
+    QVERIFY(!absent.contains(u"overlayOnTop"_s));
+    QTRY_COMPARE_WITH_TIMEOUT(feedback(), QString(), Patience);
+    QVERIFY(focus(m_typist.pid()));
+    QVERIFY(client().set(u"brightness.softwareDimming.state"_s, true).ok());
+    for (int round = 0; round < 2; ++round) {
+        const qsizetype lost = m_typist.lines(u"focus lost"_s).size();
+        QVERIFY(client().set(u"brightness.displayBrightness"_s, 5).ok());
+        QTRY_COMPARE_WITH_TIMEOUT(m_session.ask(overlay), u"0,0 1024x768 on-screen display"_s, Patience);
+        m_input.tap(KEY_Q);
+        QTRY_COMPARE_WITH_TIMEOUT(m_typist.lines(u"key Q"_s).size(), round + 1, Patience);
+        QVERIFY(client().set(u"brightness.displayBrightness"_s, 60).ok());
+        QTRY_COMPARE_WITH_TIMEOUT(m_session.ask(overlay), QString(), Patience);
+        QCOMPARE(m_typist.lines(u"focus lost"_s).size(), lost);
+    }
+    QVERIFY(client().set(u"brightness.softwareDimming.state"_s, false).ok());
 }
 
 void tst_kwin_shortcuts::otherKeysAreTheProgramsOwn()
