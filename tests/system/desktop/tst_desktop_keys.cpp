@@ -348,8 +348,12 @@ void TestDesktopKeys::nothingIsHeardOutsideOfStartAndStop()
     m_set.events->start();
     QTRY_VERIFY_WITH_TIMEOUT((m_server.tap(KeyN), m_heard.contains(u"N"_s)), 30'000);
     QVERIFY(!m_heard.contains(u"A"_s));
-    m_set.events->start(); // once is enough
-    QTRY_COMPARE(m_client.keys().filter(u"press %1 "_s.arg(KeyN)).size(), m_heard.count(u"N"_s));
+    // Started twice, still heard once: what came of the first key is there when the second one's has come.
+    m_set.events->start();
+    m_server.tap(KeyB);
+    m_server.tap(KeyC);
+    QTRY_VERIFY(m_heard.contains(u"C"_s));
+    QCOMPARE(m_heard.count(u"B"_s), 1);
 }
 
 void TestDesktopKeys::withoutRecordTheActionKeysStillCome()

@@ -10,6 +10,8 @@ const notices = [
     { "name": "libudev", "library": "libudev", "licence": "LGPL-2.1-or-later", "address": "https://systemd.io" },
     { "name": "XCB", "library": "libxcb", "licence": "MIT", "address": "https://xcb.freedesktop.org" },
     { "name": "libxkbcommon", "library": "libxkbcommon", "licence": "MIT", "address": "https://xkbcommon.org" },
+    { "name": "Wayland, client library", "library": "libwayland-client", "licence": "MIT", "address": "https://wayland.freedesktop.org" },
+    { "name": "Plasma's Wayland protocols, made into the program", "library": "", "licence": "LGPL-2.1-or-later", "address": "https://invent.kde.org/libraries/plasma-wayland-protocols" },
     { "name": "PulseAudio, client library", "library": "libpulse", "licence": "LGPL-2.1-or-later", "address": "https://www.freedesktop.org/wiki/Software/PulseAudio" },
     { "name": "OpenSSL", "library": "libcrypto,libssl", "licence": "Apache-2.0", "address": "https://www.openssl.org" },
     { "name": "Inter, the typeface, where it is installed", "library": "", "licence": "OFL-1.1", "address": "https://rsms.me/inter" }
