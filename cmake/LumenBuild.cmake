@@ -51,6 +51,8 @@ if(LUMEN_SANITIZE STREQUAL "address")
   target_compile_options(lumen_flags INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=undefined
                                                -fno-omit-frame-pointer)
   target_link_options(lumen_flags INTERFACE -fsanitize=address,undefined)
+  set(keep_libraries ${PROJECT_SOURCE_DIR}/tests/support/keep_libraries.cpp)
+  target_sources(lumen_flags INTERFACE $<$<STREQUAL:$<TARGET_PROPERTY:TYPE>,EXECUTABLE>:${keep_libraries}>)
 elseif(LUMEN_SANITIZE STREQUAL "thread")
   target_compile_options(lumen_flags INTERFACE -fsanitize=thread -fno-omit-frame-pointer)
   target_link_options(lumen_flags INTERFACE -fsanitize=thread)

@@ -58,7 +58,7 @@ Windows::Windows()
 Windows::~Windows()
 {
     // Once the application object is gone, so is the connection with all that it had.
-    if (!qGuiApp || !m_registry)
+    if (!m_registry || !QCoreApplication::instance())
         return;
     const QList<QObject*> all = m_displays.keys();
     for (QObject* const each : all)

@@ -131,6 +131,7 @@ class TestAudioPanel : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void cleanupTestCase() { lumenQmlRelease(); }
     void initTestCase() { QmlWarnings::watch(); }
     void cleanup() { QCOMPARE(QmlWarnings::take(), QStringList()); }
     void theRowShowsWhereTheFeatureIs_data();
