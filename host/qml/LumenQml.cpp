@@ -117,6 +117,8 @@ void lumenQmlInit(QQmlEngine* engine, const QStringList& packages)
 
 void lumenQmlRelease()
 {
+    // Items on their way out still hold their pictures.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QQuickWindow last;
     last.resize(1, 1);
     last.releaseResources();
