@@ -93,6 +93,7 @@ private Q_SLOTS:
     void aCrossingWhileOffIsIgnored();
     void crossingsThatWaitAreOne();
     void switchingOffDropsACrossing();
+    void switchingOffDuringASwitchFreesTheHub();
     void closingTheLayoutSwitchesOff();
     void leavingTheFamilySwitchesOff();
     void theMonitorsMenuSwitchesOff();
@@ -356,6 +357,28 @@ void TestSmartKvm::switchingOffDropsACrossing()
     QVERIFY(!kvm().value("active"_L1).toBool());
     QTRY_COMPARE(int(*bed.monitor().value(UpstreamCode)), Automatic);
     QCOMPARE(bed.get("LuKvmSwitch", "kvmSwitch").toInt(), Automatic);
+}
+
+void TestSmartKvm::switchingOffDuringASwitchFreesTheHub()
+{
+    SimulatedBed bed(u"TK30Z"_s, SimulatedBed::Timing::Real);
+    bed.launch();
+    QVERIFY(bed.idle());
+    QVERIFY(show(bed, 2, 19, 17));
+    bed.set(Module, "basicState", true);
+    QVERIFY(bed.idle());
+    const quint64 before = bed.monitor().traffic().last().seq;
+    cross();
+    // The monitor has it, and its second of rest lies before the module hears of it.
+    QTRY_COMPARE(bed.monitor().traffic(before).size(), 1);
+    QCOMPARE(int(*bed.monitor().value(UpstreamCode)), TypeB);
+    QCOMPARE(bed.get("LuKvmSwitch", "kvmSwitch").toInt(), Automatic);
+    bed.set(Module, "basicState", false);
+    QVERIFY(bed.idle());
+    QVERIFY(!kvm().value("active"_L1).toBool());
+    QCOMPARE(int(*bed.monitor().value(UpstreamCode)), Automatic);
+    QCOMPARE(bed.get("LuKvmSwitch", "kvmSwitch").toInt(), Automatic);
+    QCOMPARE(bed.setting(u"LuKvmSwitch/KvmSwitch"_s).toInt(), Automatic);
 }
 
 void TestSmartKvm::closingTheLayoutSwitchesOff()

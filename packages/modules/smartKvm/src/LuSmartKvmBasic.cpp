@@ -257,8 +257,13 @@ void LuSmartKvmBasic::switchHub()
         m_kvmSwitch->writeKvmSwitch(m_targetKvmUsb);
         m_kvmSwitch->syncKvmSwitch();
         updateScreenRect();
-        // While another crossing waits, or the feature went off meanwhile, the service stays as it is.
-        if (isOn() && !dispatch()->has(this, SwitchJob))
+        if (!isOn()) {
+            // Whoever switched it off met a hub that was not switched yet, and had nothing to free.
+            m_kvmSwitch->setKvmSwitch(LuKvmSwitch::Auto, true);
+            return;
+        }
+        // While another crossing waits the service rests.
+        if (!dispatch()->has(this, SwitchJob))
             m_kvm->activate();
     });
 }
