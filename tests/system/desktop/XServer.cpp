@@ -137,6 +137,9 @@ bool XServer::start(const Options& options)
     unsetenv("XAUTHORITY");
     if (!connectDevice("keyboard", &m_keyboard) || !connectDevice("pointer", &m_pointer))
         return fail("its input devices do not answer");
+    // A key that a busy computer releases late must not count twice.
+    if (std::system("xset r off") != 0)
+        return fail("xset cannot switch off the repetition of keys");
     return resetScreens() || fail("xrandr cannot place its screens");
 }
 

@@ -114,7 +114,6 @@ void TestDesktopKeys::install(services::ServiceSet* set)
 void TestDesktopKeys::initTestCase()
 {
     QVERIFY(use(u"us"_s));
-    QCOMPARE(std::system("xset r rate 200 25"), 0);
     QVERIFY(m_client.start(u"typist"_s, QRect(100, 100, 300, 200)));
     // Without a window manager nobody else gives the focus.
     QCOMPARE(std::system(qPrintable(u"xdotool windowfocus --sync %1"_s.arg(m_client.window()))), 0);
@@ -190,6 +189,7 @@ void TestDesktopKeys::modifiersAlone()
 
 void TestDesktopKeys::heldKeysRepeat()
 {
+    QCOMPARE(std::system("xset r on r rate 200 25"), 0);
     m_server.key(Ctrl, true);
     m_server.key(KeyB, true);
     QTRY_VERIFY(m_heard.size() >= 5);
@@ -202,6 +202,7 @@ void TestDesktopKeys::heldKeysRepeat()
     for (qsizetype i = 2; i < m_heard.size() - 1; ++i)
         QCOMPARE(m_heard.at(i), u"Ctrl+B*"_s);
     // Pressed again it begins anew.
+    QCOMPARE(std::system("xset r off"), 0);
     m_heard.clear();
     m_server.tap(KeyB);
     QTRY_COMPARE(m_heard, QStringList{u"B"_s});
