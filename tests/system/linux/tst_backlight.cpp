@@ -122,6 +122,7 @@ QList<uint> tst_backlight::asked()
         if (arguments.size() == 3 && arguments[0] == u"backlight"_s && arguments[1] == u"intel_backlight"_s)
             steps.append(arguments[2].toUInt());
     }
+    calls.endArray();
     return steps;
 }
 

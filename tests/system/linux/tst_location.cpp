@@ -217,6 +217,7 @@ void tst_location::settingComesFirst()
     const auto list = calls.arguments().first().value<QDBusArgument>();
     list.beginArray();
     QVERIFY(list.atEnd());
+    list.endArray();
 }
 
 void tst_location::halfASettingIsNone_data()
