@@ -137,6 +137,7 @@ void RealMonitors::start()
                              << text(m_watcher.problem());
     }
     m_pollTimer.start();
+    m_registry.setSearching(true);
     scan(true);
 }
 
@@ -209,6 +210,7 @@ void RealMonitors::finishScan(const ddci2c::Enumeration& found, bool askAgain)
         ask(open);
     if (!m_discovered && open.empty()) {
         m_discovered = true;
+        m_registry.setSearching(false);
         Q_EMIT discovered();
     }
 }
@@ -299,6 +301,11 @@ void RealMonitors::plug(const IdentifiedMonitor& monitor)
                                             : QStringLiteral("built in"));
     if (!monitor.note.empty())
         qWarning().noquote() << "[RealMonitors]" << id + QLatin1Char(':') << text(monitor.note);
+    if (monitor.found.connectorIsGuessed)
+        qWarning().noquote() << "[RealMonitors]" << id + QLatin1Char(':')
+                             << "the driver does not tell which bus leads to which connector; an equal monitor"
+                                " may be at"
+                             << text(monitor.found.connector) << "in its place";
     m_plugged.insert(id, plugged);
     m_registry.addMonitor(plugged.info);
 }
@@ -362,7 +369,7 @@ void RealMonitors::assignScreens()
     QList<MonitorFacts> facts;
     for (const IdentifiedMonitor& monitor : m_present)
         facts.append({text(monitor.found.connector), text(monitor.model), text(monitor.serial),
-                      monitor.found.connectorId});
+                      monitor.found.connectorId, monitor.found.connectorIsGuessed});
     const QList<ScreenFacts> screens = screenFacts();
     const QStringList names = screensFor(facts, screens);
     const QList<bool> doubtful = doubtfulScreens(facts, screens, names);

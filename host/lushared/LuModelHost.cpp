@@ -17,7 +17,7 @@
 void LuModelHost::launch(LuMonitorModel* model)
 {
     LuMonitorModelPrivate& host = LuMonitorModelPrivate::of(model);
-    if (!host.isRestoring())
+    if (!host.restoring)
         return;
     const ZrAsker::Scope asker(ZrAsker::Program);
     // Registered before the job, so that nothing changes the choice of modules in between.
@@ -121,10 +121,9 @@ QString LuModelHost::moduleSection(const LuModelModuleInterface* module)
     return module->settingSection();
 }
 
-void LuModelHost::forgetFirstConnection(const LuMonitorModel* model)
+void LuModelHost::forgetFirstConnection(LuMonitorModel* model)
 {
-    LuSettings::instance().remove(
-        LuMonitorModelPrivate::of(model).sectionKey(QStringLiteral("connectedVersions")));
+    LuMonitorModelPrivate::of(model).forgetMeeting();
 }
 
 bool LuModelHost::handleKey(LuMonitorModel* model, Qt::KeyboardModifiers modifiers, Qt::Key key,

@@ -61,7 +61,7 @@ public:
     static QString moduleSection(const LuModelModuleInterface* module);
 
     /// The next launch meets the monitor for the first time; its settings stay.
-    static void forgetFirstConnection(const LuMonitorModel* model);
+    static void forgetFirstConnection(LuMonitorModel* model);
 
     /// Lets the model take a press: the shortcut actions with these keys are asked in their order. True if
     /// one took it.

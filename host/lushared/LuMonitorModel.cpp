@@ -21,8 +21,6 @@
 
 namespace {
 
-const QString VersionsKey = QStringLiteral("connectedVersions");
-
 /// Modules whose change comes from another function, on this thread; nested scopes stand behind each other.
 thread_local std::vector<const LuModelModuleInterface*> otherFunctionModules;
 
@@ -430,26 +428,23 @@ bool LuMonitorModel::autoSyncEnabled() const
 
 void LuMonitorModel::checkFirstConnected(const QString& version)
 {
-    LuSettings& settings = LuSettings::instance();
-    QStringList versions = settings.value(d->sectionKey(VersionsKey)).toStringList();
-    d->metBefore = versions.contains(version);
+    // Booked when it has been read: what was never read must not be restored at the next launch.
+    d->metBefore = d->isMetBefore(version);
+    d->restoring = d->mustRestore();
+    d->metVersion = version;
     d->firstTime = !d->metBefore;
-    if (d->firstTime) {
-        versions.append(version);
-        settings.setValue(d->sectionKey(VersionsKey), versions);
-    }
 }
 
 void LuMonitorModel::initialSync()
 {
     // A monitor whose values are restored is read after them: see LuModelHost::launch().
-    if (!d->isRestoring())
+    if (!d->restoring)
         d->runInitialSync();
 }
 
 void LuMonitorModel::syncMonitorPeriodically()
 {
-    if (!d->isRestoring())
+    if (!d->restoring)
         d->engine.start();
 }
 

@@ -18,6 +18,7 @@
 namespace {
 
 constexpr int ColorModeCode = 0xDC;
+const QString VersionsKey = QStringLiteral("connectedVersions");
 const QString SkipKey = QStringLiteral("skippedAtLaunch");
 
 /// The part of the id behind the model name, as one component of a settings key.
@@ -112,7 +113,9 @@ void LuMonitorModelPrivate::learnColorMode()
         return;
     if (!link().probedColorMode())
         link().probeColorMode();
-    takeNode(nodeOfCode(link().probedColorMode().value_or(-1)));
+    const int code = link().probedColorMode().value_or(-1);
+    hasToldColorMode = code >= 0;
+    takeNode(nodeOfCode(code));
 }
 
 bool LuMonitorModelPrivate::syncColorMode()
@@ -120,6 +123,7 @@ bool LuMonitorModelPrivate::syncColorMode()
     int code = 0;
     if (!supported || !q->getVCP(ColorModeCode, code))
         return false;
+    hasToldColorMode = true;
     makeCurrent(nodeOfCode(code));
     return true;
 }
@@ -174,12 +178,33 @@ void LuMonitorModelPrivate::refreshDuplicates()
     }
 }
 
-bool LuMonitorModelPrivate::isRestoring() const
+bool LuMonitorModelPrivate::mustRestore() const
 {
     const LuHostOptions& options = LuHostOptions::instance();
-    return metBefore && options.launching &&
+    return metBefore && options.launching && (!supported || hasToldColorMode) &&
            options.restore.value_or(
                LuSettings::instance().value(QStringLiteral("restoreAtStart"), true).toBool());
+}
+
+bool LuMonitorModelPrivate::isMetBefore(const QString& version) const
+{
+    return LuSettings::instance().value(sectionKey(VersionsKey)).toStringList().contains(version);
+}
+
+void LuMonitorModelPrivate::noteMet()
+{
+    const QString version = metVersion.exchange({});
+    if (version.isEmpty() || isMetBefore(version))
+        return;
+    LuSettings& settings = LuSettings::instance();
+    settings.setValue(sectionKey(VersionsKey),
+                      settings.value(sectionKey(VersionsKey)).toStringList() << version);
+}
+
+void LuMonitorModelPrivate::forgetMeeting()
+{
+    metVersion = QString();
+    LuSettings::instance().remove(sectionKey(VersionsKey));
 }
 
 void LuMonitorModelPrivate::runInitialSync()

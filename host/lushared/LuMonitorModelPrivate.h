@@ -39,8 +39,14 @@ public:
     bool takeNode(LuVCPNode* node);
     QList<LuShortcutAction*> actionsWithKey(QKeyCombination keys) const;
     void refreshDuplicates();
-    /// The stored values are to be applied before anything is read.
-    bool isRestoring() const;
+    /// Whether the stored values are to be applied before anything is read. Never to a monitor that has not
+    /// told its colour mode, since nobody knows which values are its own then.
+    bool mustRestore() const;
+    bool isMetBefore(const QString& version) const;
+    /// The next launch meets the monitor for the first time.
+    void forgetMeeting();
+    /// The monitor has been read: the next launch meets it again. Any thread.
+    void noteMet();
     void runInitialSync();
     QString sectionKey(const QString& key) const { return section + QLatin1Char('/') + key; }
     QStringList skippedModules() const;
@@ -63,6 +69,9 @@ public:
     bool current = false;
     bool firstTime = false;
     bool metBefore = false;
+    bool restoring = false; ///< mustRestore() at the construction; an answer that comes later changes nothing.
+    ZrShared<QString> metVersion; ///< What noteMet() books; empty: nothing.
+    ZrShared<bool> hasToldColorMode{false};
     ZrShared<bool> syncCurrentColorMode{false};
     ZrShared<bool> ecoLockingPaused{false};
 

@@ -33,7 +33,24 @@ struct LuMonitorRegistry::Private
         QSharedPointer<MonitorInfo> info;
         QSharedPointer<ZrDispatch> probe;
         LuMonitorModel* model = nullptr;
-        bool asleep = false; ///< Said before there was a model.
+        bool asleep = false;   ///< Said before there was a model.
+        bool atLaunch = false; ///< It was there when the program started.
+    };
+
+    /// Lets a model that is made belong to the program's launch or not.
+    class LaunchScope
+    {
+    public:
+        explicit LaunchScope(bool atLaunch) : m_before(LuHostOptions::instance().launching)
+        {
+            LuHostOptions::instance().launching = atLaunch;
+        }
+        ~LaunchScope() { LuHostOptions::instance().launching = m_before; }
+        LaunchScope(const LaunchScope&) = delete;
+        LaunchScope& operator=(const LaunchScope&) = delete;
+
+    private:
+        const bool m_before;
     };
 
     LuMonitorRegistry* q;
@@ -41,6 +58,7 @@ struct LuMonitorRegistry::Private
     std::vector<Entry> entries;
     LuMonitorModel* current = nullptr;
     bool chosen = false; ///< The user made a choice; appearing monitors do not change it.
+    bool searching = false;
     LuRetirement retirement;
 
     auto entryOf(const QString& id)
@@ -65,14 +83,18 @@ struct LuMonitorRegistry::Private
             return;
         entry->probe.reset();
         LuPackagesInterface* package = packageOf(entry->info->modelName());
-        entry->model = package ? package->modelConstructor()(q, entry->info) : nullptr;
+        {
+            const LaunchScope scope(entry->atLaunch);
+            entry->model = package ? package->modelConstructor()(q, entry->info) : nullptr;
+            if (entry->model)
+                LuModelHost::launch(entry->model);
+        }
         if (!entry->model) {
             qWarning().noquote() << "[LuMonitorRegistry] no package makes a model for" << id;
             entries.erase(entry);
         } else {
             qInfo().noquote() << "[LuMonitorRegistry] monitor" << id
                               << (entry->model->isModelSupported() ? "is supported" : "is not supported");
-            LuModelHost::launch(entry->model);
             LuModelHost::setAsleep(entry->model, entry->asleep);
             Q_EMIT q->monitorAdded(entry->model);
             Q_EMIT q->monitorsChanged();
@@ -85,7 +107,8 @@ struct LuMonitorRegistry::Private
     {
         if (q->isBusy())
             return;
-        LuHostOptions::instance().launching = false;
+        if (!searching)
+            LuHostOptions::instance().launching = false;
         Q_EMIT q->settled();
     }
 
@@ -119,7 +142,7 @@ struct LuMonitorRegistry::Private
 };
 
 LuMonitorRegistry::LuMonitorRegistry(QObject* parent)
-    : QObject(parent), d(new Private{this, {}, {}, nullptr, false, {}})
+    : QObject(parent), d(new Private{this, {}, {}, nullptr, false, false, {}})
 {
 }
 
@@ -150,6 +173,13 @@ LuPackagesInterface* LuMonitorRegistry::packageFor(const LuMonitorModel* model) 
     return d->packageOf(model->modelName());
 }
 
+void LuMonitorRegistry::setSearching(bool searching)
+{
+    d->searching = searching;
+    if (!searching)
+        LuHostOptions::instance().launching = false;
+}
+
 void LuMonitorRegistry::addMonitor(const QSharedPointer<MonitorInfo>& info)
 {
     const QString id = info->id();
@@ -158,7 +188,7 @@ void LuMonitorRegistry::addMonitor(const QSharedPointer<MonitorInfo>& info)
         return;
     }
     LuStatisticsStore::instance().attach(info);
-    d->entries.push_back({info, {}, nullptr});
+    d->entries.push_back({info, {}, nullptr, false, LuHostOptions::instance().launching});
     if (!LuHostOptions::instance().autoSync) {
         ZrDispatch::main()->post(this, [this, id] { d->construct(id); });
         return;

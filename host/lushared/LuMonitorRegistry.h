@@ -29,6 +29,11 @@ public:
     /// The package that serves a model; the first package for one that none serves; null without packages.
     LuPackagesInterface* packageFor(const LuMonitorModel* model) const;
 
+    /// The search for the monitors that are there at the program's start goes on, or is over. What is added
+    /// meanwhile belongs to the launch, what comes later does not, and is only read. Without a search the
+    /// launch ends when the first monitors have their models.
+    void setSearching(bool searching);
+
     /// Learns the monitor's colour mode without blocking, then constructs and launches its model.
     void addMonitor(const QSharedPointer<MonitorInfo>& info);
     /// Takes the monitor out: its transfers are cancelled, what waits for it is dropped, and its model is

@@ -71,9 +71,26 @@ void LuSyncEngine::postBrightness(LuModelModuleInterface* module, Reason reason)
 void LuSyncEngine::start()
 {
     m_started = true;
+    postWholeRound();
+    if (m_model.supported && !m_model.hasToldColorMode)
+        lookAgain();
+}
+
+void LuSyncEngine::postWholeRound()
+{
     for (LuModelModuleInterface* module : std::as_const(m_model.modules))
         postSteps(module, Reason::FirstRound);
-    post(Reason::FirstRound, [this] { endRound(); });
+    post(Reason::FirstRound, [this] { endWholeRound(); });
+}
+
+void LuSyncEngine::endWholeRound()
+{
+    const bool isRead = !m_model.supported || (m_model.hasToldColorMode && !m_model.link().isSilent());
+    if (isRead && !isAsleep()) {
+        m_readWhole = true;
+        m_model.noteMet();
+    }
+    endRound();
 }
 
 void LuSyncEngine::runRound()
@@ -89,8 +106,10 @@ void LuSyncEngine::runRound()
     const bool withColorMode = m_model.syncCurrentColorMode;
     if (visible.isEmpty() && !withColorMode)
         return; // nobody looks; wake() begins anew
-    if (withColorMode)
-        (void)m_model.syncColorMode();
+    if (withColorMode && m_model.syncColorMode() && !m_readWhole) {
+        postWholeRound();
+        return;
+    }
     if (!m_model.link().isSilent() || !withColorMode) {
         for (LuModelModuleInterface* module : std::as_const(visible))
             postSteps(module, Reason::Periodic);
@@ -145,10 +164,8 @@ void LuSyncEngine::setAsleep(bool asleep)
     m_backOffMs = 0;
     m_model.dispatch->post(m_model.q, [this] {
         (void)m_model.syncColorMode();
-        for (LuModelModuleInterface* module : std::as_const(m_model.modules))
-            postSteps(module, Reason::FirstRound);
         postBrightness(nullptr, Reason::FirstRound);
-        post(Reason::FirstRound, [this] { endRound(); });
+        postWholeRound();
     });
 }
 
@@ -165,7 +182,10 @@ void LuSyncEngine::lookAgainIn(qint64 ms, int triesLeft)
             return;
         if (m_model.syncColorMode()) {
             m_backOffMs = 0;
-            scheduleRound(0);
+            if (m_readWhole)
+                scheduleRound(0);
+            else
+                postWholeRound();
         } else if (triesLeft > 1) {
             lookAgainIn(LookAgainMs, triesLeft - 1);
         }

@@ -26,7 +26,8 @@ public:
     explicit LuSyncEngine(LuMonitorModelPrivate& model) : m_model(model) {}
 
     /// First round: asks every module for its steps now, on the caller's thread, and posts them; periodic
-    /// rounds follow.
+    /// rounds follow. A monitor that has not told its colour mode is asked again for a while: many give no
+    /// answer in the first seconds after they were switched on or plugged in.
     void start();
 
     /// A feature became visible: a round begins at once. Any thread.
@@ -67,6 +68,9 @@ private:
     /// serves. A null module stands for all.
     void postBrightness(LuModelModuleInterface* module, Reason reason);
     void runRound();
+    /// Reads every module, whatever is visible.
+    void postWholeRound();
+    void endWholeRound();
     void endRound();
     void scheduleRound(qint64 ms);
     bool isAsleep() const;
@@ -74,6 +78,7 @@ private:
 
     LuMonitorModelPrivate& m_model;
     ZrShared<bool> m_started{false};
+    ZrShared<bool> m_readWhole{false}; ///< A whole round has found the monitor answering.
     ZrShared<bool> m_roundWaits{false};
     ZrShared<qint64> m_backOffMs{0};
 };

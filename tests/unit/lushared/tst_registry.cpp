@@ -10,6 +10,9 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include <algorithm>
+#include <initializer_list>
+
 namespace {
 
 /// A simulated monitor for the registry, which makes the model itself.
@@ -31,8 +34,34 @@ struct Plug
                                    MonitorLink::Waits::None);
     }
 
+    quint64 lastSeen() const
+    {
+        const auto traffic = monitor->traffic();
+        return traffic.isEmpty() ? 0 : traffic.last().seq;
+    }
+    /// Writes that reached the monitor after @p since.
+    int sets(quint64 since) const
+    {
+        const auto traffic = monitor->traffic(since);
+        return int(std::count_if(traffic.begin(), traffic.end(),
+                                 [](const sim::TrafficEntry& entry) { return entry.op == sim::Op::Set; }));
+    }
+
     std::unique_ptr<sim::Monitor> monitor;
 };
+
+/// A run of the program in which these monitors are met and read.
+void meet(std::initializer_list<Plug*> plugs)
+{
+    LuMonitorRegistry registry;
+    registry.addPackage(TestBed::instance().package());
+    for (Plug* plug : plugs)
+        registry.addMonitor(plug->info());
+    QTRY_VERIFY(!registry.isBusy());
+    QVERIFY(waitForRest());
+    QVERIFY(registry.shutDown());
+    LuHostOptions::instance().launching = true; // the next start
+}
 
 } // namespace
 
@@ -52,6 +81,9 @@ private Q_SLOTS:
     void monitorThatHangsDoesNotDelayAnother();
     void monitorRemovedWhileItIsAskedLeavesNothing();
     void onlyTheLaunchRestores();
+    void whatComesAfterTheSearchIsOnlyRead();
+    void whatTheSearchFindsLateIsRestoredToo();
+    void aMonitorThatIsSlowAtTheLaunchIsStillRestored();
     void widgetsOfThePackageAreKnown();
     void shutDownReportsAndEmpties();
 };
@@ -241,29 +273,75 @@ void TestRegistry::monitorRemovedWhileItIsAskedLeavesNothing()
 void TestRegistry::onlyTheLaunchRestores()
 {
     Plug plug(QStringLiteral("TK30Z"), QStringLiteral("R11"));
-    const auto sets = [&plug](quint64 since) {
-        int count = 0;
-        for (const sim::TrafficEntry& entry : plug.monitor->traffic(since))
-            count += entry.op == sim::Op::Set;
-        return count;
-    };
     for (int run = 0; run < 2; ++run) {
         LuHostOptions::instance().launching = true;
         LuMonitorRegistry registry;
         registry.addPackage(TestBed::instance().package());
-        const quint64 seen = plug.monitor->traffic().isEmpty() ? 0 : plug.monitor->traffic().last().seq;
+        const quint64 seen = plug.lastSeen();
         registry.addMonitor(plug.info());
         QTRY_VERIFY(!registry.isBusy());
         QVERIFY(waitForRest());
-        QCOMPARE(sets(seen) > 0, run == 1);
+        QCOMPARE(plug.sets(seen) > 0, run == 1);
         QVERIFY(registry.removeMonitor(QStringLiteral("TK30Z@R11")));
-        const quint64 unplugged = plug.monitor->traffic().last().seq;
+        const quint64 unplugged = plug.lastSeen();
         registry.addMonitor(plug.info());
         QTRY_VERIFY(!registry.isBusy());
         QVERIFY(waitForRest());
-        QCOMPARE(sets(unplugged), 0);
+        QCOMPARE(plug.sets(unplugged), 0);
         registry.shutDown();
     }
+}
+
+void TestRegistry::whatComesAfterTheSearchIsOnlyRead()
+{
+    Plug plug(QStringLiteral("TK30Z"), QStringLiteral("R14"));
+    meet({&plug});
+    const quint64 seen = plug.lastSeen();
+    LuMonitorRegistry registry;
+    registry.addPackage(TestBed::instance().package());
+    // At the start there was none: it was asleep, or not plugged in.
+    registry.setSearching(true);
+    registry.setSearching(false);
+    registry.addMonitor(plug.info());
+    QTRY_VERIFY(!registry.isBusy());
+    QVERIFY(waitForRest());
+    QVERIFY(plug.lastSeen() > seen);
+    QCOMPARE(plug.sets(seen), 0);
+    registry.shutDown();
+}
+
+void TestRegistry::whatTheSearchFindsLateIsRestoredToo()
+{
+    Plug early(QStringLiteral("TK30Z"), QStringLiteral("R15"));
+    Plug late(QStringLiteral("TK30Z"), QStringLiteral("R16"));
+    meet({&early, &late});
+    const quint64 seen = late.lastSeen();
+    LuMonitorRegistry registry;
+    registry.addPackage(TestBed::instance().package());
+    registry.setSearching(true);
+    registry.addMonitor(early.info());
+    QTRY_VERIFY(!registry.isBusy());
+    registry.addMonitor(late.info());
+    QTRY_VERIFY(!registry.isBusy());
+    QVERIFY(waitForRest());
+    QVERIFY(late.sets(seen) > 0);
+    registry.shutDown();
+}
+
+void TestRegistry::aMonitorThatIsSlowAtTheLaunchIsStillRestored()
+{
+    Plug plug(QStringLiteral("TK30Z"), QStringLiteral("R17"));
+    meet({&plug});
+    const quint64 seen = plug.lastSeen();
+    LuMonitorRegistry registry;
+    registry.addPackage(TestBed::instance().package());
+    registry.setSearching(true);
+    registry.addMonitor(plug.info());
+    registry.setSearching(false); // before its model is made
+    QTRY_VERIFY(!registry.isBusy());
+    QVERIFY(waitForRest());
+    QVERIFY(plug.sets(seen) > 0);
+    registry.shutDown();
 }
 
 void TestRegistry::widgetsOfThePackageAreKnown()

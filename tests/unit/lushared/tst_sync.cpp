@@ -12,6 +12,8 @@
 #include <atomic>
 #include <thread>
 
+Q_DECLARE_METATYPE(sim::FaultKind)
+
 namespace {
 
 constexpr const char* Contrast = "LuAiContrast";
@@ -58,11 +60,16 @@ private Q_SLOTS:
     void listHandsItsStepsOver();
     void requestsToReadAtOnceAreOne();
     void firstRoundGivesASilentMonitorUp();
+    void whatWasNotReadIsNotRestoredLater_data() { faults(); }
+    void whatWasNotReadIsNotRestoredLater();
+    void aMonitorThatTellsNoColorModeIsReadAndNotRestored_data() { faults(); }
+    void aMonitorThatTellsNoColorModeIsReadAndNotRestored();
     void silentMonitorIsAskedMoreAndMoreRarely();
     void userActionTriesASilentMonitorAgain();
     void answeringMonitorIsReadAtTheUsualPaceAgain();
 
 private:
+    static void faults();
     int readsWithin(SimulatedBed& bed, qint64 ms);
 };
 
@@ -235,6 +242,66 @@ void TestSync::firstRoundGivesASilentMonitorUp()
         asked.insert(line.section(QLatin1Char(' '), 0, 1));
     // The colour mode and two more: then it is clear that nobody answers.
     QVERIFY2(answered.size() > 3 && asked.size() <= 3, qPrintable(QStringList(asked.values()).join(QLatin1Char(','))));
+}
+
+void TestSync::faults()
+{
+    QTest::addColumn<sim::FaultKind>("kind");
+    QTest::newRow("NACK") << sim::FaultKind::Nack;
+    QTest::newRow("null replies") << sim::FaultKind::Null;
+    QTest::newRow("damaged replies") << sim::FaultKind::Checksum;
+    QTest::newRow("garbage") << sim::FaultKind::Garbage;
+}
+
+void TestSync::whatWasNotReadIsNotRestoredLater()
+{
+    QFETCH(sim::FaultKind, kind);
+    SimulatedBed bed;
+    sim::Fault fault;
+    fault.kind = kind;
+    bed.monitor().armFault(fault);
+    bed.launch();
+    QVERIFY(bed.idle());
+    bed.destroy();
+    bed.monitor().clearFaults();
+    bed.storeSetting(QStringLiteral("LuAiContrast/state"), true);
+    bed.forget();
+    bed.relaunch();
+    QVERIFY(bed.idle());
+    QCOMPARE(bed.wire().filter(QStringLiteral("set ")), QStringList());
+    QCOMPARE(bed.events().filter(QStringLiteral("LuAutoPivot 6 off 5 ")).size(), 1);
+    // Now it has been read.
+    bed.storeSetting(QStringLiteral("LuAiContrast/state"), true);
+    bed.relaunch();
+    QVERIFY(bed.idle());
+    QVERIFY(bed.wire().contains(QStringLiteral("set 0xF3 1")));
+}
+
+void TestSync::aMonitorThatTellsNoColorModeIsReadAndNotRestored()
+{
+    QFETCH(sim::FaultKind, kind);
+    SimulatedBed bed;
+    bed.launch();
+    QVERIFY(bed.idle());
+    bed.storeSetting(QStringLiteral("LuAiContrast/state"), true);
+    sim::Fault fault;
+    fault.kind = kind;
+    bed.monitor().armFault(fault);
+    bed.forget();
+    LuMonitorModel& model = bed.relaunch();
+    QVERIFY(bed.idle());
+    QVERIFY(!model.colorMode());
+    QCOMPARE(bed.wire().filter(QStringLiteral("set ")), QStringList());
+    // It has woken up: everything is read, also with the window hidden.
+    bed.monitor().clearFaults();
+    ZrClock::instance().advance(1000);
+    QVERIFY(bed.idle());
+    QVERIFY(model.colorMode());
+    const QStringList wire = bed.wire();
+    QVERIFY(wire.contains(QStringLiteral("get 0xF3 0")));
+    QVERIFY(!wire.filter(QStringLiteral("get 0x60")).isEmpty());
+    QCOMPARE(wire.filter(QStringLiteral("set ")), QStringList());
+    QCOMPARE(bed.get(Contrast, "state"), QVariant(false));
 }
 
 void TestSync::silentMonitorIsAskedMoreAndMoreRarely()
