@@ -47,15 +47,16 @@ endif()
 target_compile_definitions(lumen_flags INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_FOREACH
                                                  QT_NO_KEYWORDS_CONFLICT QT_MESSAGELOGCONTEXT)
 target_include_directories(lumen_flags INTERFACE ${PROJECT_SOURCE_DIR}/packages/shared)
+# gcc links only what is used, but not with a sanitizer: then all that Qt names would be linked.
 if(LUMEN_SANITIZE STREQUAL "address")
   target_compile_options(lumen_flags INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=undefined
                                                -fno-omit-frame-pointer)
-  target_link_options(lumen_flags INTERFACE -fsanitize=address,undefined)
+  target_link_options(lumen_flags INTERFACE -fsanitize=address,undefined -Wl,--as-needed)
   set(keep_libraries ${PROJECT_SOURCE_DIR}/tests/support/keep_libraries.cpp)
   target_sources(lumen_flags INTERFACE $<$<STREQUAL:$<TARGET_PROPERTY:TYPE>,EXECUTABLE>:${keep_libraries}>)
 elseif(LUMEN_SANITIZE STREQUAL "thread")
   target_compile_options(lumen_flags INTERFACE -fsanitize=thread -fno-omit-frame-pointer)
-  target_link_options(lumen_flags INTERFACE -fsanitize=thread)
+  target_link_options(lumen_flags INTERFACE -fsanitize=thread -Wl,--as-needed)
 elseif(LUMEN_SANITIZE)
   message(FATAL_ERROR "LUMEN_SANITIZE is address, thread or empty, not ${LUMEN_SANITIZE}")
 endif()
