@@ -6,8 +6,8 @@
 #include "LuSettings.h"
 
 #include <LuShared/LuUtils.h>
-#include <panelcore/MonitorLink.h>
 #include <ZrCore/ZrQueueGate.h>
+#include <panelcore/MonitorLink.h>
 
 #include <QDebug>
 #include <QRegularExpression>
@@ -197,8 +197,8 @@ void LuMonitorModelPrivate::noteMet()
     if (version.isEmpty() || isMetBefore(version))
         return;
     LuSettings& settings = LuSettings::instance();
-    settings.setValue(sectionKey(VersionsKey),
-                      settings.value(sectionKey(VersionsKey)).toStringList() << version);
+    settings.setValue(sectionKey(VersionsKey), settings.value(sectionKey(VersionsKey)).toStringList()
+                                                   << version);
 }
 
 void LuMonitorModelPrivate::forgetMeeting()

@@ -69,7 +69,8 @@ public:
     bool current = false;
     bool firstTime = false;
     bool metBefore = false;
-    bool restoring = false; ///< mustRestore() at the construction; an answer that comes later changes nothing.
+    bool restoring =
+        false; ///< mustRestore() at the construction; an answer that comes later changes nothing.
     ZrShared<QString> metVersion; ///< What noteMet() books; empty: nothing.
     ZrShared<bool> hasToldColorMode{false};
     ZrShared<bool> syncCurrentColorMode{false};

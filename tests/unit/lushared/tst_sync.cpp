@@ -190,7 +190,8 @@ void TestSync::subTasksOfAModulesStepRunInPlace()
     QVERIFY(bed.idle());
     LuModelHost::sync(&bed.model(), module, [] {});
     QVERIFY(bed.idle());
-    QCOMPARE(module->order.get(), (QStringList{QStringLiteral("step"), QStringLiteral("sub"), QStringLiteral("after")}));
+    QCOMPARE(module->order.get(),
+             (QStringList{QStringLiteral("step"), QStringLiteral("sub"), QStringLiteral("after")}));
 }
 
 void TestSync::listHandsItsStepsOver()
@@ -241,7 +242,8 @@ void TestSync::firstRoundGivesASilentMonitorUp()
     for (const QString& line : bed.wire())
         asked.insert(line.section(QLatin1Char(' '), 0, 1));
     // The colour mode and two more: then it is clear that nobody answers.
-    QVERIFY2(answered.size() > 3 && asked.size() <= 3, qPrintable(QStringList(asked.values()).join(QLatin1Char(','))));
+    QVERIFY2(answered.size() > 3 && asked.size() <= 3,
+             qPrintable(QStringList(asked.values()).join(QLatin1Char(','))));
 }
 
 void TestSync::faults()
