@@ -31,6 +31,8 @@ constexpr int PollMs = 2000;
 constexpr int LongestLostPause = 30;
 constexpr std::chrono::milliseconds RestAfterWrite(50);
 constexpr QLatin1String TwinsKey("monitors/twins");
+/// So long the start waits for buses that have to be asked who is there.
+constexpr int FirstSearchLimitMs = 5000;
 /// Nobody who awaits the rest of a monitor awaits the search for others.
 const QString SearchGroup = QStringLiteral("search");
 
@@ -92,7 +94,6 @@ struct RealMonitors::Mailbox
 RealMonitors::RealMonitors(LuMonitorRegistry& registry, const std::filesystem::path& root)
     : m_registry(registry), m_enumerator(root), m_book(keptTwins()),
       m_scanQueue(std::make_unique<ZrDispatch>(QStringLiteral("monitors"), SearchGroup)),
-      m_askQueue(std::make_unique<ZrDispatch>(QStringLiteral("monitor buses"), SearchGroup)),
       m_mailbox(std::make_shared<Mailbox>())
 {
     m_mailbox->owner = this;
@@ -108,7 +109,8 @@ RealMonitors::RealMonitors(LuMonitorRegistry& registry, const std::filesystem::p
 RealMonitors::~RealMonitors()
 {
     m_scanQueue->close();
-    m_askQueue->close();
+    for (const auto& [name, queue] : m_askQueues)
+        queue->close();
     // Whoever uses the monitors next, such as the next start of this program, does not know what was sent.
     std::this_thread::sleep_until(ddci2c::I2cBus::lastWrite() + RestAfterWrite);
     const std::lock_guard lock(m_mailbox->mutex);
@@ -120,11 +122,15 @@ bool RealMonitors::end(qint64 limitMs)
     m_pollTimer.stop();
     m_settleTimer.stop();
     m_scanQueue->retire();
-    m_askQueue->retire();
+    for (const auto& [name, queue] : m_askQueues)
+        queue->retire();
     QElapsedTimer elapsed;
     elapsed.start();
-    return m_scanQueue->waitForEnd(limitMs) &&
-           m_askQueue->waitForEnd(std::max<qint64>(0, limitMs - elapsed.elapsed()));
+    const auto ends = [&elapsed, limitMs](const ZrDispatch& queue) {
+        return queue.waitForEnd(std::max<qint64>(0, limitMs - elapsed.elapsed()));
+    };
+    return ends(*m_scanQueue) && std::all_of(m_askQueues.begin(), m_askQueues.end(),
+                                             [&ends](const auto& each) { return ends(*each.second); });
 }
 
 void RealMonitors::start()
@@ -138,6 +144,7 @@ void RealMonitors::start()
     }
     m_pollTimer.start();
     m_registry.setSearching(true);
+    QTimer::singleShot(FirstSearchLimitMs, this, &RealMonitors::endFirstSearch);
     scan(true);
 }
 
@@ -197,36 +204,56 @@ void RealMonitors::finishScan(const ddci2c::Enumeration& found, bool askAgain)
         tell({}, ddci2c::missingModuleAdvice());
     else
         endTrouble({});
-    std::vector<ddci2c::BusQuestion> open;
-    for (const ddci2c::BusQuestion& question : found.questions) {
-        const auto answer = m_answers.find(question.connector);
-        if (askAgain || answer == m_answers.end() || answer->second.question != question)
-            open.push_back(question);
-    }
     m_sleepers = found.sleepers;
     apply(found.monitors);
     noteSkipped(found);
-    if (!open.empty())
-        ask(open);
-    if (!m_discovered && open.empty()) {
-        m_discovered = true;
-        m_registry.setSearching(false);
-        Q_EMIT discovered();
+    for (const ddci2c::BusQuestion& question : found.questions) {
+        const auto answer = m_answers.find(question.connector);
+        if (const auto asking = m_asking.find(question.connector); asking != m_asking.end())
+            asking->second = asking->second || askAgain;
+        else if (askAgain || answer == m_answers.end() || answer->second.question != question)
+            ask(question);
     }
+    if (m_asking.empty())
+        endFirstSearch();
 }
 
-void RealMonitors::ask(const std::vector<ddci2c::BusQuestion>& questions)
+void RealMonitors::ask(const ddci2c::BusQuestion& question)
 {
-    m_askQueue->post(nullptr, [this, questions] {
-        const auto answers = std::make_shared<ddci2c::BusAnswers>();
-        for (const ddci2c::BusQuestion& question : questions)
-            answers->emplace(question.connector, m_enumerator.ask(question));
-        ZrDispatch::main()->post(this, [this, answers] {
-            for (auto& [connector, answer] : *answers)
-                m_answers[connector] = answer;
-            scan(false);
-        });
+    m_asking[question.connector] = false;
+    // Those that look through the same buses take turns.
+    std::unique_ptr<ZrDispatch>& queue = m_askQueues[question.isSearch ? std::string() : question.connector];
+    if (!queue)
+        queue = std::make_unique<ZrDispatch>(QStringLiteral("monitor buses"), SearchGroup);
+    // The destructor closes the queue before anything of this object goes.
+    queue->post(nullptr, [this, question] {
+        const auto answer = std::make_shared<ddci2c::BusAnswer>(m_enumerator.ask(question));
+        ZrDispatch::main()->post(this, [this, answer] { takeAnswer(*answer); });
     });
+}
+
+void RealMonitors::takeAnswer(const ddci2c::BusAnswer& answer)
+{
+    const auto asking = m_asking.find(answer.question.connector);
+    if (asking != m_asking.end() && asking->second) {
+        ask(answer.question);
+        return;
+    }
+    m_asking.erase(answer.question.connector);
+    m_answers[answer.question.connector] = answer;
+    scan(false);
+}
+
+void RealMonitors::endFirstSearch()
+{
+    if (m_discovered)
+        return;
+    for (const auto& [connector, stale] : m_asking)
+        qWarning().noquote() << "[RealMonitors] the buses of" << text(connector)
+                             << "have not answered yet who is there";
+    m_discovered = true;
+    m_registry.setSearching(false);
+    Q_EMIT discovered();
 }
 
 void RealMonitors::apply(const std::vector<ddci2c::FoundMonitor>& found)
@@ -302,10 +329,11 @@ void RealMonitors::plug(const IdentifiedMonitor& monitor)
     if (!monitor.note.empty())
         qWarning().noquote() << "[RealMonitors]" << id + QLatin1Char(':') << text(monitor.note);
     if (monitor.found.connectorIsGuessed)
-        qWarning().noquote() << "[RealMonitors]" << id + QLatin1Char(':')
-                             << "the driver does not tell which bus leads to which connector; an equal monitor"
-                                " may be at"
-                             << text(monitor.found.connector) << "in its place";
+        qWarning().noquote()
+            << "[RealMonitors]" << id + QLatin1Char(':')
+            << "the driver does not tell which bus leads to which connector; an equal monitor"
+               " may be at"
+            << text(monitor.found.connector) << "in its place";
     m_plugged.insert(id, plugged);
     m_registry.addMonitor(plugged.info);
 }

@@ -18,7 +18,9 @@
 #include <QTimer>
 
 #include <filesystem>
+#include <map>
 #include <memory>
+#include <string>
 
 class LuMonitorRegistry;
 class MonitorInfo;
@@ -49,7 +51,8 @@ public:
     /// Looks again, as after an event: for a person who asks for it.
     void refresh();
 
-    /// The first search is over and its monitors are in the registry.
+    /// The first search is over and its monitors are in the registry; of a bus that hangs, those of the
+    /// others.
     bool isDiscovered() const { return m_discovered; }
 
     /// Power management has switched that monitor off, as far as the kernel says; false for an unknown id.
@@ -100,7 +103,9 @@ private:
     void settle();
     void scan(bool askAgain);
     void finishScan(const ddci2c::Enumeration& found, bool askAgain);
-    void ask(const std::vector<ddci2c::BusQuestion>& questions);
+    void ask(const ddci2c::BusQuestion& question);
+    void takeAnswer(const ddci2c::BusAnswer& answer);
+    void endFirstSearch();
     void apply(const std::vector<ddci2c::FoundMonitor>& found);
     void plug(const ddci2c::IdentifiedMonitor& monitor);
     void unplug(const QString& id);
@@ -121,7 +126,7 @@ private:
     QTimer m_settleTimer;
     QTimer m_pollTimer;
     std::unique_ptr<ZrDispatch> m_scanQueue;
-    std::unique_ptr<ZrDispatch> m_askQueue;
+    std::map<std::string, std::unique_ptr<ZrDispatch>> m_askQueues; ///< One hangs without the others.
     const std::shared_ptr<Mailbox> m_mailbox;
 
     std::vector<ddci2c::IdentifiedMonitor> m_present; ///< Of the last search.
@@ -132,8 +137,10 @@ private:
     std::vector<std::filesystem::path>
         m_sleepers; ///< Connectors that are to be asked who is there when they wake.
     ddci2c::BusAnswers m_answers;
-    QHash<QString, int> m_lostPolls;          ///< Polls until a lost monitor is tried again, and
-    QHash<QString, int> m_lostPause;          ///< how many these were the last time.
+    std::map<std::string, bool>
+        m_asking;                    ///< By connector; true: what comes is stale, since something happened.
+    QHash<QString, int> m_lostPolls; ///< Polls until a lost monitor is tried again, and
+    QHash<QString, int> m_lostPause; ///< how many these were the last time.
     QMap<QString, ddci2c::Advice> m_troubles; ///< By monitor; that of the whole system has an empty key.
     bool m_scanning = false;
     bool m_scanAgain = false;

@@ -101,8 +101,13 @@ void pairUp(const QList<MonitorFacts>& monitors, const QList<ScreenFacts>& scree
 
 } // namespace
 
-QStringList screensFor(const QList<MonitorFacts>& monitors, const QList<ScreenFacts>& screens)
+QStringList screensFor(const QList<MonitorFacts>& found, const QList<ScreenFacts>& screens)
 {
+    QList<MonitorFacts> monitors = found;
+    for (MonitorFacts& monitor : monitors) {
+        if (monitor.connectorIsGuessed)
+            monitor = {{}, monitor.model, monitor.serial, {}, true};
+    }
     QStringList names(monitors.size());
     const int first = std::any_of(screens.begin(), screens.end(),
                                   [](const ScreenFacts& screen) {

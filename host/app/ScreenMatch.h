@@ -23,6 +23,7 @@ struct MonitorFacts
     QString model;
     QString serial;                   ///< Empty where the monitor has none.
     std::optional<int> connectorId{}; ///< On its card.
+    bool connectorIsGuessed = false;  ///< An equal monitor may be there in its place.
 };
 
 /// The names of the screens that show on the monitors, in their order; empty where none can be told.
@@ -34,7 +35,7 @@ struct MonitorFacts
 /// or "HDMI1" on X11, "HDMI-A-0" with a driver that counts from 0, "HDMI-1-1" at a second card), unless the
 /// models contradict; and the model alone, where it is the last one left, as behind docks, whose outputs have
 /// names of X11's own.
-QStringList screensFor(const QList<MonitorFacts>& monitors, const QList<ScreenFacts>& screens);
+QStringList screensFor(const QList<MonitorFacts>& found, const QList<ScreenFacts>& screens);
 
 /// For each monitor whether one of the screens that screensFor() has left over may be its own: it may be on
 /// the desktop, but nothing tells it from an equal one.

@@ -108,6 +108,68 @@ struct Enumerator::Buses
     }
 };
 
+/// A search that goes on: what the connectors say, before it is decided who has which bus.
+struct Enumerator::Scan
+{
+    /// A connector whose bus must be asked for.
+    struct Open
+    {
+        FoundMonitor found;
+        BusQuestion question;
+    };
+
+    const Buses& buses;
+    const BusAnswers& answers;
+    Enumeration& result;
+    std::vector<Open> open;
+
+    void skip(const std::string& connector, std::string reason)
+    {
+        result.skipped.push_back({connector, std::move(reason)});
+    }
+    /// Null where the buses have not been asked this.
+    const BusAnswer* answerTo(const BusQuestion& question) const
+    {
+        const auto answer = answers.find(question.connector);
+        return answer != answers.end() && answer->second.question == question ? &answer->second : nullptr;
+    }
+    bool isTaken(int bus) const
+    {
+        return std::any_of(result.monitors.begin(), result.monitors.end(),
+                           [bus](const FoundMonitor& each) { return each.bus == bus; });
+    }
+    /// The kernel shows that monitor at a connector.
+    bool isKnownToKernel(const std::vector<std::uint8_t>& edid) const
+    {
+        return std::any_of(result.monitors.begin(), result.monitors.end(),
+                           [&edid](const FoundMonitor& each) {
+                               return (each.builtIn || !each.connectorEdid.empty()) &&
+                                      sameBase(each.edid, edid);
+                           }) ||
+               std::any_of(open.begin(), open.end(),
+                           [&edid](const Open& each) { return sameBase(each.question.edid, edid); });
+    }
+    /// What of an answer may be this connector's: of a search, what is nobody else's.
+    std::vector<BusAnswer::Sighting> leftFor(const BusQuestion& question, const BusAnswer& answer) const
+    {
+        std::vector<BusAnswer::Sighting> left = answer.sightings;
+        if (question.isSearch)
+            std::erase_if(left, [&](const BusAnswer::Sighting& seen) {
+                return isTaken(seen.bus) || (question.edid.empty() && isKnownToKernel(seen.edid));
+            });
+        return left;
+    }
+    /// Another connector looks for the same on the same buses.
+    bool hasRival(const BusQuestion& question) const
+    {
+        return std::count_if(open.begin(), open.end(), [&question](const Open& each) {
+                   return each.question.isSearch && each.question.buses == question.buses &&
+                          (question.edid.empty() ? each.question.edid.empty()
+                                                 : sameBase(each.question.edid, question.edid));
+               }) > 1;
+    }
+};
+
 Enumerator::Enumerator(fs::path root, std::shared_ptr<DeviceCalls> calls)
     : m_root(std::move(root)), m_calls(std::move(calls))
 {
@@ -141,6 +203,7 @@ Enumeration Enumerator::scan(const BusAnswers& answers) const
                                                                      return busNumber(name).has_value();
                                                                  });
 
+    Scan scan{buses, answers, result, {}};
     std::vector<Card> cards;
     const fs::path drm = below("sys/class/drm");
     for (const std::string& name : entriesOf(drm)) {
@@ -152,20 +215,19 @@ Enumeration Enumerator::scan(const BusAnswers& answers) const
         const fs::path device = drm / name.substr(0, dash) / "device";
         card.device = realPath(device);
         card.sleepIsKnown = realPath(device / "driver").filename() != "nvidia";
-        scanConnector(name, card, buses, answers, result);
+        scanConnector(name, card, scan);
         cards.push_back(std::move(card));
     }
+    resolve(scan);
     scanNakedBuses(buses, cards, answers, result);
     return result;
 }
 
-void Enumerator::scanConnector(const std::string& name, const Card& card, const Buses& buses,
-                               const BusAnswers& answers, Enumeration& result) const
+void Enumerator::scanConnector(const std::string& name, const Card& card, Scan& scan) const
 {
     const fs::path folder = below("sys/class/drm") / name;
     if (readLine(folder / "status") != "connected")
         return;
-    const auto skip = [&](std::string reason) { result.skipped.push_back({name, std::move(reason)}); };
     FoundMonitor found;
     found.connector = name;
     found.connectorPath = folder;
@@ -179,67 +241,90 @@ void Enumerator::scanConnector(const std::string& name, const Card& card, const 
         found.backlight = backlightOf(folder, card);
         if (!readable)
             found.edid.clear();
-        result.monitors.push_back(std::move(found));
+        scan.result.monitors.push_back(std::move(found));
         return;
     }
     const bool known = readable && isSound(found.edid) && !isKernelsOwn(found.edid);
-    const std::vector<int> paths = candidates(folder, card, buses);
-    if (known && paths.size() == 1) {
-        found.bus = paths.front();
+    if (known)
         found.connectorEdid = folder / "edid";
-        result.monitors.push_back(std::move(found));
+    BusQuestion question = candidates(name, card, scan.buses);
+    if (question.buses.empty())
+        return scan.skip(name, known ? "no I2C bus leads to it" : "no EDID and no I2C bus to read it from");
+    if (known && question.buses.size() == 1 && !question.isSearch) {
+        found.bus = question.buses.front();
+        scan.result.monitors.push_back(std::move(found));
         return;
     }
-    if (paths.empty())
-        return skip(known ? "no I2C bus leads to it" : "no EDID and no I2C bus to read it from");
-    const BusQuestion question{name, paths, known ? found.edid : std::vector<std::uint8_t>()};
-    const auto answer = answers.find(name);
-    if (answer != answers.end() && answer->second.question == question && answer->second.bus) {
-        found.bus = answer->second.bus;
-        found.edid = answer->second.edid;
-        if (known)
-            found.connectorEdid = folder / "edid";
-        result.questions.push_back(question);
-        result.monitors.push_back(std::move(found));
-        return;
-    }
-    // A sleeping display is left alone: it is asked when it wakes.
-    if (found.asleep) {
-        result.sleepers.push_back(folder);
-        return skip("it sleeps and has not told yet who it is");
-    }
-    result.questions.push_back(question);
-    if (answer != answers.end() && answer->second.question == question)
-        skip(answer->second.problem);
-    else
-        skip("its buses have not been asked yet");
+    if (known)
+        question.edid = found.edid;
+    scan.open.push_back({std::move(found), std::move(question)});
 }
 
-std::vector<int> Enumerator::candidates(const fs::path& connector, const Card& card, const Buses& buses) const
+/// Gives each of the open connectors a bus of its own from the answers.
+void Enumerator::resolve(Scan& scan) const
 {
-    std::vector<int> numbers;
-    const auto add = [&](const std::string& name) {
-        const auto number = busNumber(name);
+    // Who is known by an EDID chooses before whoever takes what is left.
+    std::stable_partition(scan.open.begin(), scan.open.end(),
+                          [](const Scan::Open& each) { return !each.question.edid.empty(); });
+    for (const Scan::Open& each : scan.open) {
+        const BusQuestion& question = each.question;
+        const BusAnswer* answer = scan.answerTo(question);
+        const std::vector<BusAnswer::Sighting> left =
+            answer ? scan.leftFor(question, *answer) : std::vector<BusAnswer::Sighting>();
+        // A sleeping display is left alone: it is asked when it wakes.
+        if (left.empty() && each.found.asleep) {
+            scan.result.sleepers.push_back(each.found.connectorPath);
+            scan.skip(question.connector, "it sleeps and has not told yet who it is");
+            continue;
+        }
+        scan.result.questions.push_back(question);
+        if (left.empty()) {
+            scan.skip(question.connector, !answer                     ? "its buses have not been asked yet"
+                                          : answer->sightings.empty() ? answer->problem
+                                                                      : "its buses lead to other connectors");
+            continue;
+        }
+        FoundMonitor found = each.found;
+        found.bus = left.front().bus;
+        found.edid = left.front().edid;
+        found.connectorIsGuessed = question.isSearch && (left.size() > 1 || scan.hasRival(question));
+        scan.result.monitors.push_back(std::move(found));
+    }
+    std::sort(
+        scan.result.monitors.begin(), scan.result.monitors.end(),
+        [](const FoundMonitor& a, const FoundMonitor& b) { return naturalLess(a.connector, b.connector); });
+}
+
+/// Where to look for the monitor of a connector.
+BusQuestion Enumerator::candidates(const std::string& name, const Card& card, const Buses& buses) const
+{
+    const fs::path connector = below("sys/class/drm") / name;
+    BusQuestion question;
+    question.connector = name;
+    std::vector<int>& numbers = question.buses;
+    const auto add = [&](const std::string& entry) {
+        const auto number = busNumber(entry);
         if (number && buses.has(*number) &&
             std::find(numbers.begin(), numbers.end(), *number) == numbers.end())
             numbers.push_back(*number);
     };
     // A DisplayPort's own channel, also one behind an MST hub or a dock, is a child of the connector.
-    for (const std::string& name : entriesOf(connector)) {
-        add(name);
-        if (name.starts_with("drm_dp_aux")) {
-            for (const std::string& inner : entriesOf(connector / name))
+    for (const std::string& entry : entriesOf(connector)) {
+        add(entry);
+        if (entry.starts_with("drm_dp_aux")) {
+            for (const std::string& inner : entriesOf(connector / entry))
                 add(inner);
         }
     }
     add(realPath(connector / "ddc").filename().string());
     if (!numbers.empty())
-        return numbers;
+        return question;
     // The driver does not say which bus it is: any of the same card that no connector claims.
+    question.isSearch = true;
     std::set<int> claimed;
     const fs::path drm = below("sys/class/drm");
-    for (const std::string& name : entriesOf(drm)) {
-        if (const auto number = busNumber(realPath(drm / name / "ddc").filename().string()))
+    for (const std::string& other : entriesOf(drm)) {
+        if (const auto number = busNumber(realPath(drm / other / "ddc").filename().string()))
             claimed.insert(*number);
     }
     for (const Buses::Bus& bus : buses.all) {
@@ -247,7 +332,7 @@ std::vector<int> Enumerator::candidates(const fs::path& connector, const Card& c
         if (isBelow(bus.path, card.device) && !ofConnector && !claimed.contains(bus.number))
             numbers.push_back(bus.number);
     }
-    return numbers;
+    return question;
 }
 
 void Enumerator::scanNakedBuses(const Buses& buses, const std::vector<Card>& cards, const BusAnswers& answers,
@@ -263,15 +348,16 @@ void Enumerator::scanNakedBuses(const Buses& buses, const std::vector<Card>& car
         if (!ofGraphics)
             continue;
         const std::string name = "i2c-" + std::to_string(bus.number);
-        const BusQuestion question{name, {bus.number}, {}};
+        const BusQuestion question{name, {bus.number}, {}, false};
         result.questions.push_back(question);
         const auto answer = answers.find(name);
-        if (answer == answers.end() || answer->second.question != question || !answer->second.bus)
+        if (answer == answers.end() || answer->second.question != question ||
+            answer->second.sightings.empty())
             continue;
         FoundMonitor found;
         found.connector = name;
         found.bus = bus.number;
-        found.edid = answer->second.edid;
+        found.edid = answer->second.sightings.front().edid;
         result.monitors.push_back(std::move(found));
     }
 }
@@ -295,10 +381,9 @@ BusAnswer Enumerator::ask(const BusQuestion& question) const
             answer.problem += (answer.problem.empty() ? "" : "; ") + bus.name() + " leads to another monitor";
             continue;
         }
-        answer.bus = number;
-        answer.edid = question.edid.empty() ? std::move(edid) : question.edid;
-        answer.problem.clear();
-        break;
+        answer.sightings.push_back({number, question.edid.empty() ? std::move(edid) : question.edid});
+        if (!question.isSearch)
+            break;
     }
     return answer;
 }

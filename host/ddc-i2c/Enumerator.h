@@ -22,6 +22,8 @@ struct FoundMonitor
     std::filesystem::path connectorEdid; ///< The kernel's file of it; empty where the bus was asked instead.
     std::filesystem::path connectorPath; ///< Folder of the connector; empty where the kernel names none.
     std::optional<int> connectorId;      ///< The kernel's number of it on its card; older kernels tell none.
+    bool connectorIsGuessed = false; ///< Several buses may lead to it, and nothing tells which: the monitor
+                                     ///< on this bus may be at an equal one's connector.
     bool builtIn = false;
     std::filesystem::path backlight; ///< Folder of a built-in panel's back-light; empty if there is none.
     bool asleep = false;             ///< The display is switched off by power management.
@@ -45,6 +47,7 @@ struct BusQuestion
     std::string connector;
     std::vector<int> buses;         ///< Where to look, the likeliest first.
     std::vector<std::uint8_t> edid; ///< What to look for; empty: whatever is there.
+    bool isSearch = false; ///< The buses are not the connector's own: others' monitors are there too.
 
     bool operator==(const BusQuestion&) const = default;
 };
@@ -52,10 +55,18 @@ struct BusQuestion
 /// The answer to a BusQuestion.
 struct BusAnswer
 {
+    /// A monitor that fits.
+    struct Sighting
+    {
+        int bus = 0;
+        std::vector<std::uint8_t> edid;
+
+        bool operator==(const Sighting&) const = default;
+    };
+
     BusQuestion question;
-    std::optional<int> bus; ///< Nothing: no bus gave a sound EDID that fits.
-    std::vector<std::uint8_t> edid;
-    std::string problem; ///< Why there is no bus.
+    std::vector<Sighting> sightings; ///< In the order of the buses; of a search all, else the first.
+    std::string problem;             ///< What there was instead on the other buses.
 
     bool operator==(const BusAnswer&) const = default;
 };
@@ -97,14 +108,14 @@ public:
 private:
     struct Card;
     struct Buses;
+    struct Scan;
 
     std::filesystem::path below(const char* path) const { return m_root / path; }
-    void scanConnector(const std::string& name, const Card& card, const Buses& buses,
-                       const BusAnswers& answers, Enumeration& result) const;
+    void scanConnector(const std::string& name, const Card& card, Scan& scan) const;
+    void resolve(Scan& scan) const;
     void scanNakedBuses(const Buses& buses, const std::vector<Card>& cards, const BusAnswers& answers,
                         Enumeration& result) const;
-    std::vector<int> candidates(const std::filesystem::path& connector, const Card& card,
-                                const Buses& buses) const;
+    BusQuestion candidates(const std::string& name, const Card& card, const Buses& buses) const;
     std::filesystem::path backlightOf(const std::filesystem::path& connector, const Card& card) const;
 
     const std::filesystem::path m_root;

@@ -72,6 +72,8 @@ struct MockBed::Port
     std::condition_variable wake;
     std::deque<std::function<void()>> jobs;
     bool ends = false;
+    bool hangs = false;
+    std::condition_variable goesOn;
     std::shared_ptr<ddc::Bus> bus; ///< Null: nobody there.
     int nackErrno = ENXIO;
     int failErrno = 0;
@@ -120,7 +122,10 @@ struct MockBed::Port
     {
         std::shared_ptr<ddc::Bus> target;
         {
-            const std::lock_guard lock(mutex);
+            std::unique_lock lock(mutex);
+            busy = true;
+            goesOn.wait(lock, [this] { return !hangs || ends; });
+            busy = false;
             if (failures > 0) {
                 --failures;
                 return failErrno;
@@ -373,6 +378,7 @@ MockBed::~MockBed()
             const std::lock_guard lock(port->mutex);
             port->ends = true;
             port->wake.notify_one();
+            port->goesOn.notify_all();
         }
         port->adapter.join();
         g_object_unref(port->handler);
@@ -443,6 +449,23 @@ void MockBed::unplug(Port& port)
         port.bus.reset();
     }
     d->setConnector(port.connector, {});
+}
+
+void MockBed::loseOutput(Port& port)
+{
+    d->setConnector(port.connector, {});
+}
+
+void MockBed::hideEdid(Port& port)
+{
+    d->set(d->card + '/' + port.connector, "edid", "");
+}
+
+void MockBed::hang(Port& port, bool on)
+{
+    const std::lock_guard lock(port.mutex);
+    port.hangs = on;
+    port.goesOn.notify_all();
 }
 
 void MockBed::setPower(Port& port, const char* dpms)

@@ -30,6 +30,12 @@ public:
     /// Plugs a monitor into an output, without an event. The monitor must outlive the bed.
     void plug(Port& port, sim::Monitor& monitor);
     void unplug(Port& port);
+    /// The output says that nobody is there, while its bus does what it did: a driver that hangs.
+    void loseOutput(Port& port);
+    /// The kernel could not read the EDID of what is plugged in.
+    void hideEdid(Port& port);
+    /// Lets every transfer of a bus hang until it is let go.
+    void hang(Port& port, bool on);
     /// "On", "Off" ... as power management sets it; no event, as with real drivers.
     void setPower(Port& port, const char* dpms);
     /// The kernel's event that something changed at the outputs.

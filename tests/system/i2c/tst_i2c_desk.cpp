@@ -334,6 +334,29 @@ private Q_SLOTS:
         QCOMPARE(other->value(Brightness).value_or(999), std::uint16_t(8));
     }
 
+    void aDisplayThatWakesAfterTheStartIsOnlyRead()
+    {
+        bed->plug(*first, *series);
+        QVERIFY(start());
+        QVERIFY(idle());
+        QVERIFY(set(Series, u"aiContrast.state"_s, true));
+        QVERIFY(idle());
+        QCOMPARE(desk->stop(), 0);
+        QVERIFY(series->setByMenu(AiContrast, 0));
+        const auto seen = series->traffic().last().seq;
+        bed->setPower(*first, "Off");
+        QVERIFY(start());
+        QCOMPARE(ids(), QStringList());
+        bed->setPower(*first, "On");
+        QTRY_COMPARE_WITH_TIMEOUT(ids(), QStringList{Series}, LimitMs);
+        QVERIFY(idle());
+        const auto traffic = series->traffic(seen);
+        QVERIFY(!traffic.empty());
+        QVERIFY(std::none_of(traffic.begin(), traffic.end(),
+                             [](const sim::TrafficEntry& entry) { return entry.op == sim::Op::Set; }));
+        QCOMPARE(get(Series, u"aiContrast.state"_s), QJsonValue(false));
+    }
+
     void aDisplayThatFallsAsleepIsReadNoMore()
     {
         const QString awake = u"TK30Z@AWAKE"_s;
@@ -502,6 +525,29 @@ private Q_SLOTS:
         // All that while the first one hung.
         QVERIFY(bed->isTransferring(*first));
         series->unplug(); // nobody waits for the two minutes to end
+    }
+
+    void aMonitorWhoseBusHangsGoesAtOnce()
+    {
+        plugBoth();
+        QVERIFY(start());
+        QVERIFY(idle());
+        sim::Fault fault;
+        fault.kind = sim::FaultKind::Timeout;
+        fault.blocks = std::chrono::minutes(5);
+        series->armFault(fault);
+        QVERIFY(set(Series, u"aiContrast.state"_s, true));
+        QTRY_VERIFY_WITH_TIMEOUT(bed->isTransferring(*first), LimitMs);
+        bed->loseOutput(*first);
+        bed->sendEvent();
+        QTRY_COMPARE_WITH_TIMEOUT(ids(), QStringList{Other}, LimitMs);
+        QVERIFY(setBrightness(Other, 17));
+        QVERIFY(idle());
+        QCOMPARE(other->value(Brightness).value_or(999), std::uint16_t(17));
+        // The call into the kernel has not come back even now: nobody has waited for it.
+        QVERIFY(bed->isTransferring(*first));
+        series->unplug();
+        QTRY_VERIFY_WITH_TIMEOUT(!bed->isTransferring(*first), LimitMs);
     }
 
     void anUnplugInsideATransferLosesNothing()

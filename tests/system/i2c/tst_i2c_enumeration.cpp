@@ -158,7 +158,90 @@ private Q_SLOTS:
         QCOMPARE(found.monitors.size(), std::size_t(2));
         QVERIFY(found.monitors[0].bus == 6);
         QVERIFY(found.monitors[1].bus == 5);
+        QVERIFY(!found.monitors[0].connectorIsGuessed);
         QCOMPARE(node(0).opens, 0);
+    }
+
+    void twinsOnADriverThatNamesNoBusGetOneEach()
+    {
+        FakeCalls::Monitor first;
+        FakeCalls::Monitor second;
+        first.edid = second.edid = alpha;
+        for (const int bus : {4, 5, 6})
+            sysfs->addBus(bus);
+        node(4).monitor = nullptr;
+        node(5).monitor = &first;
+        node(6).monitor = &second;
+        sysfs->plug("card0-DP-1", alpha);
+        sysfs->plug("card0-DP-2", alpha);
+        const Enumeration found = scanAndAsk();
+        QCOMPARE(found.monitors.size(), std::size_t(2));
+        QVERIFY(found.monitors[0].bus == 5);
+        QVERIFY(found.monitors[1].bus == 6);
+        // Which of them is which nobody can tell, and that is known.
+        QVERIFY(found.monitors[0].connectorIsGuessed);
+        QVERIFY(found.monitors[1].connectorIsGuessed);
+    }
+
+    void oneBusIsNotGivenToTwoTwins()
+    {
+        FakeCalls::Monitor monitor;
+        monitor.edid = alpha;
+        for (const int bus : {4, 5})
+            sysfs->addBus(bus);
+        node(4).monitor = nullptr;
+        node(5).monitor = &monitor;
+        sysfs->plug("card0-DP-1", alpha);
+        sysfs->plug("card0-DP-2", alpha);
+        const Enumeration found = scanAndAsk();
+        QCOMPARE(found.monitors.size(), std::size_t(1));
+        QVERIFY(found.monitors[0].connectorIsGuessed);
+        QCOMPARE(found.skipped.size(), std::size_t(1));
+        QCOMPARE(found.skipped[0].connector, std::string("card0-DP-2"));
+        QCOMPARE(found.skipped[0].reason, std::string("its buses lead to other connectors"));
+    }
+
+    void aConnectorWithoutAnEdidGetsNobodyElsesMonitor()
+    {
+        FakeCalls::Monitor first;
+        FakeCalls::Monitor second;
+        first.edid = alpha;
+        second.edid = beta;
+        for (const int bus : {4, 5})
+            sysfs->addBus(bus);
+        node(4).monitor = &first;
+        node(5).monitor = nullptr;
+        sysfs->plug("card0-DP-1", {}); // the kernel could not read it
+        sysfs->plug("card0-DP-2", alpha);
+        const Enumeration alone = scanAndAsk();
+        QCOMPARE(alone.monitors.size(), std::size_t(1));
+        QCOMPARE(alone.monitors[0].connector, std::string("card0-DP-2"));
+        QVERIFY(!alone.monitors[0].connectorIsGuessed);
+        node(5).monitor = &second;
+        const Enumeration both = scanAndAsk();
+        QCOMPARE(both.monitors.size(), std::size_t(2));
+        QVERIFY(both.monitors[0].bus == 5);
+        QVERIFY(both.monitors[0].edid == beta);
+        QVERIFY(both.monitors[1].bus == 4);
+        QVERIFY(!both.monitors[0].connectorIsGuessed);
+    }
+
+    void twinsOfWhichTheKernelKnowsNothingGetOneEach()
+    {
+        FakeCalls::Monitor first;
+        FakeCalls::Monitor second;
+        first.edid = second.edid = alpha;
+        for (const int bus : {4, 5})
+            sysfs->addBus(bus);
+        node(4).monitor = &first;
+        node(5).monitor = &second;
+        sysfs->plug("card0-DP-1", {});
+        sysfs->plug("card0-DP-2", {});
+        const Enumeration found = scanAndAsk();
+        QCOMPARE(found.monitors.size(), std::size_t(2));
+        QVERIFY(found.monitors[0].bus == 4);
+        QVERIFY(found.monitors[1].bus == 5);
+        QVERIFY(found.monitors[1].connectorIsGuessed);
     }
 
     void anEdidThatTheKernelLacksIsReadFromTheBus_data()

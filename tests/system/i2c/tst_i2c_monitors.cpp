@@ -257,6 +257,21 @@ private Q_SLOTS:
         QTRY_COMPARE_WITH_TIMEOUT(ids().size(), 2, LimitMs);
     }
 
+    void aBusThatHangsWhenItIsAskedWhoIsThereHoldsUpNoOther()
+    {
+        bed->plug(*first, *alpha);
+        bed->plug(*second, *beta);
+        for (MockBed::Port* port : {first, second})
+            bed->hideEdid(*port);
+        bed->hang(*first, true);
+        start();
+        QVERIFY(bed->isTransferring(*first));
+        QTRY_COMPARE_WITH_TIMEOUT(ids(), QStringList{QStringLiteral("Beta32U@SN-B")}, LimitMs);
+        QVERIFY(write("Beta32U@SN-B", 7));
+        bed->hang(*first, false);
+        QTRY_COMPARE_WITH_TIMEOUT(ids().size(), 2, LimitMs);
+    }
+
     void aScreenIsFoundByWhatItTellsOrItsName_data()
     {
         QTest::addColumn<QString>("connector");
@@ -338,6 +353,10 @@ private Q_SLOTS:
         row("off-screen", "card0-DP-5/A/ card0-DP-6/A/", "offscreen//", "- -");
         row("twins behind a dock with serials", "card0-DP-5/A/1 card0-DP-6/A/2", "DP-2-8/A/2 DP-2-1/A/1",
             "DP-2-1 DP-2-8");
+        row("twins whose connectors are a guess", "card0-DP-1/A//108/guess card0-DP-2/A//117/guess",
+            "DP-1/A//108 DP-2/A//117", "? ?");
+        row("a guess with serials", "card0-DP-1/A/1//guess card0-DP-2/A/2//guess", "DP-1/A/2 DP-2/A/1",
+            "DP-2 DP-1");
         row("one of two is dark", "card0-DP-1/A/ card0-DP-2/A/", "DP-2/A/", "- DP-2");
         row("panel beside a twin of the other card", "card1-eDP-1/P/ card0-DP-1/A/", "eDP-1/P/ DP-1/A/",
             "eDP-1 DP-1");
@@ -356,7 +375,7 @@ private Q_SLOTS:
         QList<ScreenFacts> screenFacts;
         for (const QString& each : std::as_const(found)) {
             const QStringList parts = each.split(QLatin1Char('/'));
-            monitorFacts.append({parts.at(0), parts.at(1), parts.at(2), numberOf(parts)});
+            monitorFacts.append({parts.at(0), parts.at(1), parts.at(2), numberOf(parts), parts.size() > 4});
         }
         for (const QString& each : std::as_const(screens)) {
             const QStringList parts = each.split(QLatin1Char('/'));
