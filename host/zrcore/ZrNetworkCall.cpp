@@ -71,6 +71,7 @@ public:
     void send(QNetworkRequest request);
     void followRedirect(const QUrl& target);
     void fail(Error code, const QString& text);
+    void conclude(int code, const QString& text, const QJsonObject& reply);
     void readReply();
     void judgeReply();
     void finish(int code, QString text, QJsonObject reply);
@@ -154,7 +155,14 @@ void ZrNetworkCall::Private::readReply()
 
 void ZrNetworkCall::Private::fail(Error code, const QString& text)
 {
-    finish(code, text, QJsonObject());
+    conclude(code, text, QJsonObject());
+}
+
+// The callback may destroy the call, and with it the reply: not while a signal of the reply is being told.
+void ZrNetworkCall::Private::conclude(int code, const QString& text, const QJsonObject& object)
+{
+    stop();
+    finishLater(code, text, object);
 }
 
 void ZrNetworkCall::Private::followRedirect(const QUrl& target)
@@ -167,12 +175,13 @@ void ZrNetworkCall::Private::followRedirect(const QUrl& target)
         return fail(BadRedirect, QStringLiteral("redirect to a less safe address refused"));
     if (++redirects > MaxRedirects)
         return fail(BadRedirect, QStringLiteral("more than %1 redirects").arg(MaxRedirects));
-    const bool otherHost = target.host() != reply->url().host();
+    const QUrl from = reply->url();
+    const bool otherServer = target.host() != from.host() || target.port() != from.port();
     QNetworkRequest request = reply->request();
     reply->disconnect(q);
     reply->deleteLater();
     reply = nullptr;
-    if (otherHost) {
+    if (otherServer) {
         request.setRawHeader("Authorization", QByteArray());
         request.setRawHeader("Cookie", QByteArray());
     }
@@ -182,12 +191,11 @@ void ZrNetworkCall::Private::followRedirect(const QUrl& target)
 
 void ZrNetworkCall::Private::judgeReply()
 {
-    const QPointer<QNetworkReply> current = reply;
     const QVariant redirect = reply->attribute(QNetworkRequest::RedirectionTargetAttribute);
     if (redirect.isValid())
         return followRedirect(reply->url().resolved(redirect.toUrl()));
     readReply();
-    if (!reply || reply != current)
+    if (!reply)
         return; // too large
     const int status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
     // A status of 400 and above is an error to Qt, but its body is the server's answer all the same.
@@ -197,7 +205,7 @@ void ZrNetworkCall::Private::judgeReply()
     QJsonParseError parseError;
     const QJsonDocument document = QJsonDocument::fromJson(body, &parseError);
     if (document.isObject())
-        return finish(NoError, QString(), document.object());
+        return conclude(NoError, QString(), document.object());
     if (status >= 400)
         return fail(HttpError, QStringLiteral("HTTP status %1").arg(status));
     fail(NotJson, parseError.error == QJsonParseError::NoError ? QStringLiteral("the reply is no JSON object")
@@ -206,7 +214,6 @@ void ZrNetworkCall::Private::judgeReply()
 
 void ZrNetworkCall::Private::finish(int code, QString text, QJsonObject object)
 {
-    stop();
     running = false;
     q->onJsonResponse(code, text, object);
     const Callback done = std::exchange(callback, nullptr);

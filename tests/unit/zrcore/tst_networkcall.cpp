@@ -3,6 +3,7 @@
 
 #include <QElapsedTimer>
 #include <QHostAddress>
+#include <QNetworkReply>
 #include <QNetworkRequest>
 #include <QSslCertificate>
 #include <QSslConfiguration>
@@ -187,6 +188,7 @@ private Q_SLOTS:
     void stalledServerTimesOut();
     void redirectsAreFollowedUpToFive_data();
     void redirectsAreFollowedUpToFive();
+    void credentialsStayWithTheirServer();
     void redirectToAnotherSchemeIsRefused_data();
     void redirectToAnotherSchemeIsRefused();
     void unreachableServerIsAnError();
@@ -194,6 +196,7 @@ private Q_SLOTS:
     void badAddressIsAnError();
     void callbackComesLaterAndOnce();
     void noCallbackAfterDestruction();
+    void callbackMayDestroyTheCall_data();
     void callbackMayDestroyTheCall();
     void secondExecuteIsBusy();
     void callMayBeRepeated();
@@ -370,6 +373,37 @@ void tst_networkcall::redirectsAreFollowedUpToFive()
     QVERIFY(server.requests.last().startsWith("GET /next" + QByteArray::number(qMin(redirects, 5) - 1)));
 }
 
+void tst_networkcall::credentialsStayWithTheirServer()
+{
+    class WithSecret : public Call
+    {
+    public:
+        using Call::Call;
+
+    protected:
+        bool onNetworkRequest(QNetworkRequest& request) override
+        {
+            request.setRawHeader("Authorization", "Bearer secret");
+            return Call::onNetworkRequest(request);
+        }
+    };
+    Server first;
+    Server second;
+    first.replies = {Server::reply("302 Found", "", "Location: /moved\r\n"),
+                     Server::reply("302 Found", "", "Location: " + second.url().toEncoded() + "\r\n")};
+    second.replies = {Server::reply("200 OK", "{}")};
+    WithSecret call(first.url());
+    call.execute(keep());
+    QTRY_VERIFY(m_result);
+    QCOMPARE(m_result->code, 0);
+    QCOMPARE(first.requests.size(), 2);
+    QVERIFY(first.requests[1].contains("Bearer secret"));
+    // The same computer, another port.
+    QCOMPARE(second.requests.size(), 1);
+    QVERIFY(!second.requests[0].contains("secret"));
+    QVERIFY(second.requests[0].contains("X-Test: yes"));
+}
+
 void tst_networkcall::redirectToAnotherSchemeIsRefused_data()
 {
     QTest::addColumn<QByteArray>("target");
@@ -461,17 +495,39 @@ void tst_networkcall::noCallbackAfterDestruction()
     QVERIFY(!m_result);
 }
 
+void tst_networkcall::callbackMayDestroyTheCall_data()
+{
+    QTest::addColumn<QByteArray>("reply");
+    QTest::addColumn<int>("code");
+    QTest::newRow("JSON") << Server::reply("200 OK", R"({"a": 1})") << int(ZrNetworkCall::NoError);
+    QTest::newRow("no JSON") << Server::reply("200 OK", "<html>") << int(ZrNetworkCall::NotJson);
+    QTest::newRow("too large") << Server::reply("200 OK", QByteArray(2 * 1024 * 1024, ' '))
+                               << int(ZrNetworkCall::TooLarge);
+    QTest::newRow("endless without length")
+        << "HTTP/1.1 200 OK\r\nConnection: close\r\n\r\n" + QByteArray(2 * 1024 * 1024, ' ')
+        << int(ZrNetworkCall::TooLarge);
+    QTest::newRow("no HTTP") << QByteArray("garbage\r\n\r\n") << int(ZrNetworkCall::ConnectionError);
+    QTest::newRow("bad redirect") << Server::reply("302 Found", "", "Location: file:///etc/passwd\r\n")
+                                  << int(ZrNetworkCall::BadRedirect);
+}
+
 void tst_networkcall::callbackMayDestroyTheCall()
 {
+    QFETCH(QByteArray, reply);
     Server server;
-    server.replies = {Server::reply("200 OK", R"({"a": 1})")};
+    server.replies = {reply};
+    server.closeAfterReply = true;
     auto* call = new Call(server.url());
-    call->execute([&](int code, const QString& text, const QJsonObject& reply) {
+    bool duringASignal = true;
+    call->execute([&](int code, const QString& text, const QJsonObject& object) {
+        // A reply that is gone tells nothing any more.
+        duringASignal = call->findChild<QNetworkReply*>() != nullptr;
         delete call;
-        m_result = Result{code, text, reply};
+        m_result = Result{code, text, object};
     });
     QTRY_VERIFY(m_result);
-    QCOMPARE(m_result->reply.value(u"a"_s).toInt(), 1);
+    QTEST(m_result->code, "code");
+    QVERIFY(!duringASignal);
 }
 
 void tst_networkcall::secondExecuteIsBusy()
