@@ -136,6 +136,9 @@ QString KWinEvents::fileOf(const QString& script) const
 
 void KWinEvents::ended(const QString& script)
 {
+    // Everybody on the bus can call this.
+    if (!m_placing.remove(script))
+        return;
     QDBusMessage unload = scripting(QStringLiteral("unloadScript"));
     unload << script;
     call(unload, {});
@@ -216,6 +219,7 @@ void KWinEvents::setGeometry(unsigned long pid, const QRectF& geometry)
         // A name that no run before has left behind.
         const QString name =
             QStringLiteral("lumen-desk-place-%1-%2").arg(QCoreApplication::applicationPid()).arg(++m_scripts);
+        m_placing.insert(name);
         runScript(name,
                   placeScript({m_bus.baseService(), OwnPath, OwnInterface}, name, pid, window, geometry));
     });
@@ -268,6 +272,9 @@ void KWinEvents::registerKey(const QString& name, int key)
     QDBusMessage message = accelerators(QStringLiteral("doRegister"));
     message << action;
     call(message, [this, action, key](const QDBusMessage&) {
+        // Taken back meanwhile.
+        if (!m_keys.contains(action[1]))
+            return;
         QDBusMessage set = accelerators(QStringLiteral("setShortcut"));
         set << action << QVariant::fromValue(QList<int>{key}) << SetNow;
         call(set, [this, action, key](const QDBusMessage& reply) {
@@ -288,10 +295,13 @@ void KWinEvents::listenToShortcuts()
     m_listening = true;
     QDBusMessage message = accelerators(QStringLiteral("getComponent"));
     message << Component;
-    call(message, [this](const QDBusMessage& reply) {
-        m_bus.connect(Accelerators, reply.arguments().value(0).value<QDBusObjectPath>().path(),
-                      ComponentInterface, QStringLiteral("globalShortcutPressed"), this,
-                      SLOT(onShortcut(QString, QString, qlonglong)));
+    sendLater(this, m_bus, message, [this](const QDBusMessage& reply) {
+        const QString path = reply.arguments().value(0).value<QDBusObjectPath>().path();
+        // The component goes with its last key, and comes back with the next one.
+        m_listening = !path.isEmpty();
+        if (m_listening)
+            m_bus.connect(Accelerators, path, ComponentInterface, QStringLiteral("globalShortcutPressed"),
+                          this, SLOT(onShortcut(QString, QString, qlonglong)));
     });
 }
 

@@ -8,6 +8,7 @@
 #include <QDBusMessage>
 #include <QHash>
 #include <QObject>
+#include <QSet>
 #include <QTemporaryDir>
 
 #include <functional>
@@ -44,7 +45,7 @@ public Q_SLOTS:
     Q_SCRIPTABLE void activated(const QString& text);
     Q_SCRIPTABLE void dragged(const QString& text);
     Q_SCRIPTABLE void released(const QString& text);
-    /// Called by a script that has done all it does.
+    /// Called by a script of setGeometry() that has done all it does; of any other name nothing happens.
     Q_SCRIPTABLE void ended(const QString& script);
 
 private Q_SLOTS:
@@ -66,6 +67,7 @@ private:
     bool m_started = false;
     bool m_listening = false;
     int m_scripts = 0;
+    QSet<QString> m_placing; ///< Scripts of setGeometry() that have not ended.
     int m_tries = 0;
     unsigned long m_active = 0; ///< In the foreground, this program too; 0 before the first was told.
     unsigned long m_draggedPid = 0;

@@ -8,6 +8,7 @@
 #include <QDBusArgument>
 #include <QDBusConnectionInterface>
 #include <QDBusMetaType>
+#include <QDBusServiceWatcher>
 #include <QDebug>
 #include <QKeySequence>
 
@@ -119,6 +120,10 @@ PortalKeys::PortalKeys(const QDBusConnection& sessionBus) : m_bus(sessionBus)
     qDBusRegisterMetaType<QList<PortalShortcut>>();
     m_bus.connect(Portal, PortalPath, ShortcutsInterface, QStringLiteral("Activated"), this,
                   SLOT(onActivated(QDBusObjectPath, QString, qulonglong, QVariantMap)));
+    auto* const watcher =
+        new QDBusServiceWatcher(Portal, m_bus, QDBusServiceWatcher::WatchForOwnerChange, this);
+    connect(watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
+            [this](const QString&, const QString&, const QString& owner) { meet(owner); });
     ask();
 }
 
@@ -137,18 +142,28 @@ void PortalKeys::ask()
         Portal, PortalPath, QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
     question << ShortcutsInterface << QStringLiteral("version");
     // A portal that the question starts takes its time.
+    m_asking = true;
     sendLater(this, m_bus, question, [this](const QDBusMessage& answer) {
+        m_asking = false;
         const QVariant version = answer.arguments().value(0).value<QDBusVariant>().variant();
         if (answer.type() != QDBusMessage::ReplyMessage || version.toUInt() < 1) {
             qInfo() << "[LuPlatform] the desktop portal has no global keys";
             return;
         }
-        m_offered = true;
+        const bool isNews = !std::exchange(m_offered, true);
         if (m_started)
             renew();
-        if (m_listener)
+        if (isNews && m_listener)
             m_listener();
     });
+}
+
+void PortalKeys::meet(const QString& owner)
+{
+    m_session.clear();
+    forgetRequests();
+    if (!owner.isEmpty() && !m_asking)
+        ask();
 }
 
 void PortalKeys::start()
@@ -224,11 +239,16 @@ void PortalKeys::onResponse(uint code, const QVariantMap& results, const QDBusMe
         qWarning() << "[LuPlatform] the desktop gave the program no global keys";
 }
 
-void PortalKeys::closeSession()
+void PortalKeys::forgetRequests()
 {
     const QStringList waiting = m_requests.keys();
     for (const QString& path : waiting)
         forget(path);
+}
+
+void PortalKeys::closeSession()
+{
+    forgetRequests();
     if (m_session.isEmpty())
         return;
     m_bus.send(QDBusMessage::createMethodCall(Portal, m_session, SessionInterface, QStringLiteral("Close")));

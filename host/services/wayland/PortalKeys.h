@@ -51,17 +51,21 @@ private:
     using Next = std::function<void(const QVariantMap& results)>;
 
     void ask();
+    /// The portal has come, been replaced or gone: what it knew of this program went with it.
+    void meet(const QString& owner);
     QString request(Next next);
     void send(const QDBusMessage& message, const QString& path);
     void forget(const QString& path);
     void renew();
     void bind();
     void closeSession();
+    void forgetRequests();
 
     QDBusConnection m_bus;
     KeyHandler m_handler;
     bool m_started = false;
     bool m_offered = false;
+    bool m_asking = false;
     std::function<void()> m_listener;
     int m_tokens = 0;
     QHash<QString, Next> m_requests;          ///< By the path of the portal's request object.

@@ -7,6 +7,7 @@
 #include <QDBusInterface>
 #include <QDBusObjectPath>
 #include <QDBusReply>
+#include <QFileInfo>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -28,6 +29,7 @@ private Q_SLOTS:
     void foregroundIsTold();
     void nothingIsToldAfterTheEnd();
     void windowIsPlaced();
+    void scriptOfAnotherNameEndsNothing();
     void maximisedWindowIsPlaced();
     void tiledWindowIsPlaced();
     void ownKeysArePressed();
@@ -109,6 +111,18 @@ void tst_kwin::windowIsPlaced()
                                  Patience);
     }
     QCOMPARE(m_session.placeOf(application.pid()), u"1124,50 320x240"_s);
+}
+
+void tst_kwin::scriptOfAnotherNameEndsNothing()
+{
+    QTemporaryDir folder;
+    const QString name = folder.filePath(u"somebodys.js"_s);
+    QFile file(name);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.close();
+    // From the folder of the scripts, which lies beside this one.
+    m_events->ended(u"../"_s + QFileInfo(folder.path()).fileName() + u"/somebodys"_s);
+    QVERIFY(QFile::exists(name));
 }
 
 void tst_kwin::maximisedWindowIsPlaced()

@@ -60,6 +60,7 @@ private Q_SLOTS:
     void keysAreBoundOnceStarted();
     void pressReachesTheHandlerAndTheSignal();
     void otherKeysReplaceTheSession();
+    void portalThatStartsAnewGetsTheKeysAgain();
     void nothingComesAfterTheEnd();
     void refusalIsToldAndHarmless();
 
@@ -203,6 +204,24 @@ void tst_portal::otherKeysReplaceTheSession()
     QTRY_COMPARE_WITH_TIMEOUT(bound(), QStringList{u"Ctrl+F2 CTRL+F2"_s}, Patience);
     keys->setActionKeys({});
     QTRY_COMPARE_WITH_TIMEOUT(bound(), QStringList(), Patience);
+}
+
+void tst_portal::portalThatStartsAnewGetsTheKeysAgain()
+{
+    serve();
+    PortalKeys keys(bus());
+    int told = 0;
+    keys.setAbilityListener([&] { ++told; });
+    keys.setActionKeys({Qt::CTRL | Qt::ALT | Qt::Key_B});
+    keys.start();
+    QTRY_COMPARE_WITH_TIMEOUT(bound(), QStringList{u"Ctrl+Alt+B CTRL+ALT+b"_s}, Patience);
+    cleanup();
+    serve();
+    QTRY_COMPARE_WITH_TIMEOUT(bound(), QStringList{u"Ctrl+Alt+B CTRL+ALT+b"_s}, Patience);
+    QSignalSpy pressed(LuPlatformNotifications::instance(), &LuPlatformNotifications::activeKeyEvent);
+    press(u"Ctrl+Alt+B"_s);
+    QTRY_COMPARE_WITH_TIMEOUT(pressed.count(), 1, Patience);
+    QCOMPARE(told, 1);
 }
 
 void tst_portal::nothingComesAfterTheEnd()
