@@ -94,7 +94,7 @@ void KvmChannel::savePeer()
 
 void KvmChannel::dialLater()
 {
-    if (!isEnabled() || !isPaired() || m_session || m_dialTimer.isActive())
+    if (!isEnabled() || !isPaired() || isPairing() || m_session || m_dialTimer.isActive())
         return;
     // Every known address has its turn before the pause grows.
     if (m_dialMs == 0)
@@ -105,9 +105,18 @@ void KvmChannel::dialLater()
     m_dialTimer.start(hasPrecedence() ? m_dialMs : 2 * m_dialMs);
 }
 
+KvmLink* KvmChannel::call() const
+{
+    const auto found = std::find_if(m_strangers.begin(), m_strangers.end(), [this](const KvmLink* link) {
+        return link->isDialer() && link != m_pairingLink;
+    });
+    return found == m_strangers.end() ? nullptr : *found;
+}
+
 void KvmChannel::dial()
 {
-    if (m_session)
+    // The end of a call, and of a pairing, is followed by the next one.
+    if (m_session || isPairing() || call())
         return;
     const qsizetype places = m_peer.addresses.size() + 1;
     if (m_nextAddress == 0 && m_hint.isNull())
@@ -117,10 +126,11 @@ void KvmChannel::dial()
         return;
     }
     const bool isHint = m_nextAddress == 0;
-    const QHostAddress address = isHint ? m_hint : m_peer.addresses[m_nextAddress - 1];
+    m_calledAddress = isHint ? m_hint : m_peer.addresses[m_nextAddress - 1];
+    m_calledPort = isHint ? m_hintPort : m_peer.port;
     m_nextAddress = (m_nextAddress + 1) % places;
-    if (isLocalAddress(address))
-        take(new KvmLink(*m_identity, address, isHint ? m_hintPort : m_peer.port, this));
+    if (isLocalAddress(m_calledAddress))
+        take(new KvmLink(*m_identity, m_calledAddress, m_calledPort, m_options.pulseMs, this));
     else
         dialLater();
 }
@@ -131,6 +141,13 @@ void KvmChannel::tryAddress(const QHostAddress& address, quint16 port)
         return;
     m_hint = address;
     m_hintPort = port;
+    if (KvmLink* const under = call()) {
+        // Whoever shouts on the network can neither stop a call that has been answered nor add to the calls.
+        if (under->isReady() || (m_calledAddress == address && m_calledPort == port))
+            return;
+        m_strangers.removeOne(under);
+        under->close(QStringLiteral("called at another address"));
+    }
     m_dialTimer.stop();
     m_dialMs = 0;
     m_nextAddress = 0;
@@ -154,7 +171,7 @@ bool KvmChannel::setPeerAddress(const QHostAddress& address, quint16 port)
 
 void KvmChannel::incomingConnection(qintptr descriptor)
 {
-    auto* const link = new KvmLink(*m_identity, descriptor, this);
+    auto* const link = new KvmLink(*m_identity, descriptor, m_options.pulseMs, this);
     if (!isLocalAddress(link->peerAddress()) || m_strangers.size() >= MostStrangers) {
         connect(link, &KvmLink::closed, link, &QObject::deleteLater);
         link->close(QStringLiteral("refused"));
@@ -175,8 +192,12 @@ void KvmChannel::judge(KvmLink* link)
 {
     m_strangers.removeOne(link);
     const QByteArray fingerprint = link->peerFingerprint();
-    if (link == m_pairingLink || (isPairing() && !m_pairingLink && fingerprint != m_peer.fingerprint))
+    if (fingerprint.isEmpty())
+        link->close(QStringLiteral("no certificate"));
+    else if (link == m_pairingLink)
         beginPairing(link);
+    else if (isWaitingForPair() && !link->isDialer() && fingerprint != m_peer.fingerprint)
+        addCandidate(link);
     else if (isPaired() && fingerprint == m_peer.fingerprint)
         greet(link);
     else
@@ -223,7 +244,7 @@ void KvmChannel::takeGreeting(KvmLink* link, const QJsonObject& message)
         if (moved)
             savePeer();
         beginSession(link);
-    } else if (isPairing() && !m_pairingLink) {
+    } else if (isWaitingForPair()) {
         // It has forgotten this computer and wants to be paired anew.
         beginPairing(link);
         takePairingMessage(message);
@@ -267,6 +288,7 @@ void KvmChannel::beginSession(KvmLink* link)
 void KvmChannel::onClosed(KvmLink* link, const QString& reason)
 {
     link->deleteLater();
+    m_candidates.removeOne(link);
     // It took this computer's certificate and ended the call without a word of its own.
     const bool greeted = m_strangers.removeOne(link) && link->isReady() && link->isDialer();
     if (greeted && isEnabled() && !m_session)
@@ -294,7 +316,10 @@ void KvmChannel::forget()
     m_hint.clear();
     m_isForgottenThere = false;
     m_dialTimer.stop();
-    KvmPeer::remove(m_options.folder);
+    if (!KvmPeer::remove(m_options.folder))
+        qWarning().noquote()
+            << "[LuKvm] the pairing cannot be removed and comes back at the next start: delete"
+            << KvmPeer::fileIn(m_options.folder);
     if (KvmLink* const session = std::exchange(m_session, nullptr)) {
         session->close(QStringLiteral("forgotten"));
         Q_EMIT connectedChanged();

@@ -24,7 +24,8 @@ struct KvmChannelOptions
     static constexpr quint16 UsualPort = 47823;
     quint16 port = UsualPort;
     int firstDialMs = 1000; ///< Pause before the first call; it doubles up to half a minute.
-    QString name;           ///< What this computer calls itself; empty: the name that the system has.
+    int pulseMs = KvmLink::UsualPulseMs;
+    QString name; ///< What this computer calls itself; empty: the name that the system has.
 };
 
 /// Why a pairing came to nothing.
@@ -77,7 +78,7 @@ public:
 
     /// For two minutes one unknown computer may come to be compared: the one at @p address, which is dialed,
     /// or with a null address the first one that dials. False if the channel is off, or the address is not of
-    /// a local network.
+    /// a local network. Meanwhile it does not call the computer that it is paired with.
     bool startPairing(const QHostAddress& address, quint16 port);
     /// The person has found the codes equal.
     void confirmPairing();
@@ -117,8 +118,14 @@ private:
 
     void savePeer();
     void dial();
+    /// The call of the paired computer that nobody has judged yet, or null. There is never more than one.
+    KvmLink* call() const;
     void greet(KvmLink* link);
     void takeGreeting(KvmLink* link, const QJsonObject& message);
+    bool isWaitingForPair() const { return isPairing() && !m_pairingLink; }
+    void addCandidate(KvmLink* link);
+    void takeCandidate(KvmLink* link, const QJsonObject& message);
+    void closeCandidates();
     void takeHello(const QJsonObject& message);
     QJsonObject introduction(const QString& type) const;
     /// Where the other side can be called: a computer that listens on one address says so, another one is
@@ -140,6 +147,9 @@ private:
     std::optional<KvmIdentity> m_identity;
     KvmPeer m_peer;
     QList<KvmLink*> m_strangers; ///< Links that nobody has judged yet.
+    /// Unknown computers that have called while this one waits for one to be paired with, and have said
+    /// nothing yet: a call alone is no try to pair.
+    QList<KvmLink*> m_candidates;
     KvmLink* m_session = nullptr;
     KvmLink* m_pairingLink = nullptr;
     std::unique_ptr<KvmPairing> m_pairing;
@@ -150,6 +160,8 @@ private:
     bool m_isForgottenThere = false;
     QHostAddress m_hint; ///< Where the network says that the paired computer is.
     quint16 m_hintPort = 0;
+    QHostAddress m_calledAddress; ///< Of the last call.
+    quint16 m_calledPort = 0;
     qsizetype m_nextAddress = 0; ///< To be called next: 0 is the hint.
     QTimer m_pairingTimer;
     QTimer m_dialTimer;

@@ -96,7 +96,12 @@ std::optional<KvmIdentity> KvmIdentity::load(const QString& folder)
 {
     const QString name = folder + QStringLiteral("/identity.pem");
     QFile file(name);
-    if (file.open(QIODevice::ReadOnly)) {
+    if (file.exists()) {
+        // What cannot be read may be in order: the pairing hangs on it.
+        if (!file.open(QIODevice::ReadOnly)) {
+            qWarning().noquote() << "[LuKvm] cannot read" << name << file.errorString();
+            return std::nullopt;
+        }
         if (const auto identity = parse(file.read(64 * 1024)))
             return identity;
         qWarning().noquote() << "[LuKvm] a damaged identity is replaced; pair the computers again:" << name;

@@ -10,20 +10,21 @@ namespace {
 
 constexpr int LongestLine = 4096;
 constexpr int HandshakeMs = 10'000;
-/// A line goes out at least this often; three times of silence end the link.
-constexpr int PulseMs = 10'000;
+/// So many pulses without an answer, and the other computer is gone: asleep, off, or out of the network.
+constexpr int MostUnheard = 3;
 
 } // namespace
 
-KvmLink::KvmLink(const KvmIdentity& identity, const QHostAddress& address, quint16 port, QObject* parent)
-    : QObject(parent), m_socket(new QSslSocket(this)), m_dialer(true)
+KvmLink::KvmLink(const KvmIdentity& identity, const QHostAddress& address, quint16 port, int pulseMs,
+                 QObject* parent)
+    : QObject(parent), m_socket(new QSslSocket(this)), m_dialer(true), m_pulseMs(pulseMs)
 {
     setUp(identity);
     m_socket->connectToHostEncrypted(address.toString(), port);
 }
 
-KvmLink::KvmLink(const KvmIdentity& identity, qintptr descriptor, QObject* parent)
-    : QObject(parent), m_socket(new QSslSocket(this)), m_dialer(false)
+KvmLink::KvmLink(const KvmIdentity& identity, qintptr descriptor, int pulseMs, QObject* parent)
+    : QObject(parent), m_socket(new QSslSocket(this)), m_dialer(false), m_pulseMs(pulseMs)
 {
     setUp(identity);
     if (m_socket->setSocketDescriptor(descriptor))
@@ -49,7 +50,7 @@ void KvmLink::setUp(const KvmIdentity& identity)
             return;
         m_ready = true;
         m_peerAddress = m_socket->peerAddress();
-        m_timer.start(PulseMs);
+        m_timer.start(m_pulseMs);
         Q_EMIT ready();
         read();
     });
@@ -57,7 +58,7 @@ void KvmLink::setUp(const KvmIdentity& identity)
     connect(m_socket, &QAbstractSocket::errorOccurred, this, [this] { close(m_socket->errorString()); });
     connect(m_socket, &QAbstractSocket::disconnected, this,
             [this] { close(QStringLiteral("the other side ended")); });
-    connect(&m_timer, &QTimer::timeout, this, &KvmLink::watchSilence);
+    connect(&m_timer, &QTimer::timeout, this, &KvmLink::pulse);
     m_timer.start(HandshakeMs);
 }
 
@@ -66,14 +67,13 @@ QByteArray KvmLink::peerFingerprint() const
     return KvmIdentity::fingerprintOf(m_socket->peerCertificate());
 }
 
-void KvmLink::watchSilence()
+void KvmLink::pulse()
 {
     if (!m_ready)
         return close(QStringLiteral("no handshake"));
-    if (!m_heard)
+    if (m_unheard == MostUnheard)
         return close(QStringLiteral("silence"));
-    m_heard = false;
-    m_timer.start(3 * PulseMs);
+    ++m_unheard;
     send({{QStringLiteral("t"), QStringLiteral("ping")}});
 }
 
@@ -97,7 +97,7 @@ void KvmLink::read()
         const QJsonDocument document = QJsonDocument::fromJson(std::exchange(m_line, QByteArray()));
         if (!document.isObject())
             return close(QStringLiteral("no message"));
-        m_heard = true;
+        m_unheard = 0;
         const QJsonObject message = document.object();
         const QString type = message[u"t"].toString();
         if (type == QLatin1String("ping"))

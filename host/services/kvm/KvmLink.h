@@ -20,10 +20,14 @@ class KvmLink : public QObject
     Q_OBJECT
 
 public:
+    /// Between two lines of a link that has nothing to say.
+    static constexpr int UsualPulseMs = 10'000;
+
     /// Dials.
-    KvmLink(const KvmIdentity& identity, const QHostAddress& address, quint16 port, QObject* parent);
+    KvmLink(const KvmIdentity& identity, const QHostAddress& address, quint16 port, int pulseMs,
+            QObject* parent);
     /// Answers a call.
-    KvmLink(const KvmIdentity& identity, qintptr descriptor, QObject* parent);
+    KvmLink(const KvmIdentity& identity, qintptr descriptor, int pulseMs, QObject* parent);
 
     bool isDialer() const { return m_dialer; }
     /// The handshake was made.
@@ -47,14 +51,15 @@ Q_SIGNALS:
 private:
     void setUp(const KvmIdentity& identity);
     void read();
-    void watchSilence();
+    void pulse();
 
     QSslSocket* m_socket;
     const bool m_dialer;
+    const int m_pulseMs;
     QHostAddress m_peerAddress; ///< Still known when the connection is gone.
     bool m_ready = false;
     bool m_closed = false;
-    bool m_heard = true;
+    int m_unheard = 0; ///< Pulses since the other side was heard.
     QByteArray m_line;
     QTimer m_timer;
 };

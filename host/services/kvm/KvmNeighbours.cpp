@@ -262,7 +262,7 @@ void KvmNeighbours::resolved(const QString& key, const QDBusMessage& reply)
     if (neighbour.name.isEmpty())
         neighbour.name = shownName(values[2].toString());
     if (neighbour.id.isEmpty() || neighbour.id == m_id || neighbour.port == 0 ||
-        !isLocalAddress(neighbour.address) || m_found.size() >= MostNeighbours)
+        !isLocalAddress(neighbour.address) || (m_found.size() >= MostNeighbours && !m_found.contains(key)))
         return;
     m_found.insert(key, neighbour);
     Q_EMIT changed();

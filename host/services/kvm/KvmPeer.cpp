@@ -16,12 +16,12 @@ namespace {
 
 constexpr qsizetype LongestName = 64;
 
-QString fileIn(const QString& folder)
+} // namespace
+
+QString KvmPeer::fileIn(const QString& folder)
 {
     return folder + QStringLiteral("/peer.json");
 }
-
-} // namespace
 
 bool KvmPeer::remember(const QHostAddress& met)
 {
@@ -69,9 +69,10 @@ bool KvmPeer::save(const QString& folder) const
            file.write(QJsonDocument(object).toJson()) > 0 && file.commit();
 }
 
-void KvmPeer::remove(const QString& folder)
+bool KvmPeer::remove(const QString& folder)
 {
-    QFile::remove(fileIn(folder));
+    QFile file(fileIn(folder));
+    return !file.exists() || file.remove();
 }
 
 QHostAddress plainAddress(const QHostAddress& address)

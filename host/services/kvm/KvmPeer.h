@@ -27,7 +27,9 @@ struct KvmPeer
     /// What a folder holds: a peer without a pairing, with a line in the log where there is a damaged one.
     static KvmPeer load(const QString& folder);
     bool save(const QString& folder) const;
-    static void remove(const QString& folder);
+    /// False if the file is still there.
+    static bool remove(const QString& folder);
+    static QString fileIn(const QString& folder);
 };
 
 /// An IPv4 address that comes as one of IPv6 ("::ffff:192.168.0.2") as what it is.

@@ -11,8 +11,11 @@ namespace services {
 
 namespace {
 
+// Who has the pointer: the one who is told, as it enters; the one who tells; and, as the two meet, once more
+// the one who is told, whose word of it was lost on the way or with a restart.
 const QString Take = QStringLiteral("take");
 const QString Mine = QStringLiteral("mine");
+const QString Yours = QStringLiteral("yours");
 const QString LocationType = QStringLiteral("location");
 
 /// The place of the other computer, of LuKvm::KvmDeviceLocation.
@@ -205,9 +208,8 @@ void NativeKvm::onConnected()
     qInfo() << "[LuKvm]" << (connected ? "connected to the other computer" : "the other computer is gone");
     if (connected) {
         m_turn.setPrecedence(m_channel.hasPrecedence());
+        sendTurn(m_turn.isHere() ? Mine : Yours);
         sendLocation();
-        if (m_turn.isHere())
-            sendTurn(Mine);
     }
     // The monitor's hub follows the pointer alone; the signal would switch it.
     if (m_type == LuKvm::SmartKvm)
@@ -219,13 +221,13 @@ void NativeKvm::onMessage(const QJsonObject& message)
     const QString type = message[u"t"].toString();
     if (type == LocationType)
         return adoptLocation(message[u"location"].toInt(-1), message[u"number"].toDouble(-1));
-    if (type != Take && type != Mine)
+    if (type != Take && type != Mine && type != Yours)
         return;
     const double turn = message[u"turn"].toDouble(-1);
     if (!isNumber(turn))
         return;
-    const bool here = type == Take;
-    if (!m_turn.told(here, quint32(turn)) || !here || !m_pointer || !m_active || m_screen.isEmpty())
+    if (!m_turn.told(type != Mine, quint32(turn)) || type != Take || !m_pointer || !m_active ||
+        m_screen.isEmpty())
         return;
     // Where it left the other screen it enters this one, and is away from the side that it came through.
     EdgeWatch entering;

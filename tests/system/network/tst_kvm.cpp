@@ -5,6 +5,7 @@
 #include "lushared/LuSettings.h"
 #include "services/kvm/NativeKvm.h"
 
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QSslConfiguration>
 #include <QTemporaryDir>
@@ -69,6 +70,7 @@ struct Computer
         options.port = port;
         options.firstDialMs = 20;
         options.name = name();
+        options.pulseMs = pulseMs;
         kvm = std::make_unique<NativeKvm>(pointer, options);
         port = kvm->channel().serverPort(); // the same at the next start
         kvm->setScreenRect(Screen);
@@ -79,21 +81,22 @@ struct Computer
     QHostAddress address;
     QString nameSuffix;
     quint16 port = 0;
+    int pulseMs = KvmLink::UsualPulseMs;
     QTemporaryDir folder;
     std::shared_ptr<Pointer> pointer;
     std::unique_ptr<NativeKvm> kvm;
 };
 
-/// A TLS client that shows a certificate and says what it likes.
+/// A TLS client that shows a certificate, its own or that of a folder, and says what it likes.
 class Stranger : public QSslSocket
 {
 public:
-    explicit Stranger(const Computer& computer, bool withCertificate = true)
+    explicit Stranger(const Computer& computer, bool withCertificate = true, const QString& folder = {})
     {
         QSslConfiguration configuration;
         configuration.setPeerVerifyMode(QSslSocket::QueryPeer);
         if (withCertificate) {
-            const auto identity = KvmIdentity::load(m_folder.path());
+            const auto identity = KvmIdentity::load(folder.isEmpty() ? m_folder.path() : folder);
             configuration.setLocalCertificate(identity->certificate);
             configuration.setPrivateKey(identity->key);
         }
@@ -128,6 +131,8 @@ private Q_SLOTS:
     void pairingShowsOneCodeAndNeedsBoth();
     void refusedCodeLeavesBothUnpaired();
     void pairingTakesOneTryAStart();
+    void waitingOutlivesWhoIsNoPair_data();
+    void waitingOutlivesWhoIsNoPair();
     void pairingWithAnAddressOfTheInternetIsRefused();
     void pairedComputersMeetAgainAfterARestart();
     void forgottenComputerIsDropped();
@@ -145,7 +150,11 @@ private Q_SLOTS:
     void movedComputerIsMetAgain();
     void movedComputerIsMetByItsNewAddress();
     void addressOfTheInternetIsNoPeers();
+    void shoutingNetworkMakesOneCall_data();
+    void shoutingNetworkMakesOneCall();
+    void silentComputerIsGone();
     void knownAddressesAreKept();
+    void pairingThatCannotBeRemovedIsTold();
     void pairingOutlivesTheSwitch();
     void driverOfTheFullVariantIsTheChannel();
 
@@ -154,6 +163,8 @@ private Q_SLOTS:
     void inactiveWatchSeesNothing();
     void pointerEntersWhereItLeft();
     void pointerComesBack();
+    void pointerIsFoundAgainAfterARestart();
+    void crossingThatWasNotHeardCounts();
     void sidesAreAgreed();
     void sideChosenOnOneIsTheOthersOpposite();
     void connectionIsToldToTheFullVariantOnly();
@@ -336,6 +347,52 @@ void tst_kvm::pairingTakesOneTryAStart()
     QTRY_COMPARE(again.state(), QAbstractSocket::UnconnectedState);
 }
 
+void tst_kvm::waitingOutlivesWhoIsNoPair_data()
+{
+    QTest::addColumn<QString>("who");
+    QTest::newRow("it shows no certificate") << u"nobody"_s;
+    QTest::newRow("it says nothing") << u"silent"_s;
+    QTest::newRow("they were a pair, forgotten here") << u"forgotten"_s;
+    QTest::newRow("they were a pair, installed anew here") << u"anew"_s;
+}
+
+void tst_kvm::waitingOutlivesWhoIsNoPair()
+{
+    QFETCH(QString, who);
+    if (who == "forgotten"_L1 || who == "anew"_L1) {
+        pair();
+        m_two->kvm->channel().forget();
+    }
+    if (who == "anew"_L1) {
+        QVERIFY(QFile::remove(m_two->folder.filePath(u"identity.pem"_s)));
+        m_two->start();
+    }
+    KvmChannel& one = m_one->kvm->channel();
+    KvmChannel& two = m_two->kvm->channel();
+    QSignalSpy failed(&two, &KvmChannel::pairingFailed);
+    QVERIFY(two.startPairing({}, 0));
+    if (one.isPaired()) {
+        // The first one still calls: the end of each of its calls is told.
+        QSignalSpy changed(&one, &KvmChannel::changed);
+        QTRY_VERIFY(changed.count() >= 3);
+    } else {
+        Stranger stranger(*m_two, who != "nobody"_L1);
+        QSignalSpy encrypted(&stranger, &QSslSocket::encrypted);
+        if (who == "nobody"_L1)
+            stranger.write("{\"t\":\"port\",\"port\":4711}\n{\"t\":\"reveal\"}\n");
+        QTRY_COMPARE(encrypted.count(), 1);
+        if (who == "silent"_L1)
+            stranger.disconnectFromHost();
+        QTRY_COMPARE(stranger.state(), QAbstractSocket::UnconnectedState);
+    }
+    QVERIFY(two.isPairing() && failed.isEmpty());
+    QVERIFY(one.startPairing(m_two->address, m_two->port));
+    QTRY_VERIFY(!one.pairingCode().isEmpty() && !two.pairingCode().isEmpty());
+    one.confirmPairing();
+    two.confirmPairing();
+    QTRY_VERIFY(m_one->kvm->isConnected() && m_two->kvm->isConnected());
+}
+
 void tst_kvm::pairingWithAnAddressOfTheInternetIsRefused()
 {
     QVERIFY(!m_one->kvm->channel().startPairing(QHostAddress(u"198.51.100.7"_s), 47823));
@@ -397,6 +454,7 @@ void tst_kvm::damagedLinesEndTheLink()
     QSignalSpy failed(&m_two->kvm->channel(), &KvmChannel::pairingFailed);
     QVERIFY(m_two->kvm->channel().startPairing({}, 0));
     Stranger stranger(*m_two);
+    stranger.write("{\"t\":\"port\",\"port\":4711}\n");
     stranger.write(line);
     QTRY_COMPARE(failed.count(), 1);
     QTRY_COMPARE(stranger.state(), QAbstractSocket::UnconnectedState);
@@ -411,6 +469,7 @@ void tst_kvm::failuresAreToldApart_data()
     QTest::newRow("it waits for nobody") << u"idle"_s << int(KvmFailure::NotWaiting);
     QTest::newRow("the other person says no") << u"no"_s << int(KvmFailure::Refused);
     QTest::newRow("no rules") << u"rules"_s << int(KvmFailure::Broken);
+    QTest::newRow("no port") << u"port"_s << int(KvmFailure::Broken);
 }
 
 void tst_kvm::failuresAreToldApart()
@@ -430,10 +489,10 @@ void tst_kvm::failuresAreToldApart()
         connect(&other, &QTcpServer::newConnection, &other,
                 [&] { other.nextPendingConnection()->write("220 this is no Lumen Desk\r\n"); });
         QVERIFY(one.startPairing(other.serverAddress(), other.serverPort()));
-    } else if (what == "rules"_L1) {
+    } else if (what == "rules"_L1 || what == "port"_L1) {
         QVERIFY(one.startPairing({}, 0));
         stranger.emplace(*m_one);
-        stranger->write("{\"t\":\"reveal\"}\n");
+        stranger->write(what == "port"_L1 ? "{\"t\":\"port\",\"port\":70000}\n" : "{\"t\":\"reveal\"}\n");
     } else {
         QVERIFY(what != "no"_L1 || two.startPairing({}, 0));
         QVERIFY(one.startPairing(m_two->address, m_two->port));
@@ -559,6 +618,46 @@ void tst_kvm::addressOfTheInternetIsNoPeers()
     QVERIFY(m_one->kvm->isConnected());
 }
 
+void tst_kvm::shoutingNetworkMakesOneCall_data()
+{
+    QTest::addColumn<int>("addresses");
+    QTest::newRow("one address") << 1;
+    QTest::newRow("many addresses") << 30;
+}
+
+void tst_kvm::shoutingNetworkMakesOneCall()
+{
+    QFETCH(int, addresses);
+    pair();
+    m_two->kvm.reset();
+    QTRY_VERIFY(!m_one->kvm->isConnected());
+    // Takes calls and never answers.
+    QTcpServer silent;
+    QVERIFY(silent.listen(QHostAddress::AnyIPv4));
+    for (int i = 0; i < 30; ++i)
+        m_one->kvm->channel().tryAddress(QHostAddress(u"127.0.1.%1"_s.arg(1 + i % addresses)),
+                                         silent.serverPort());
+    // There is room for whoever calls.
+    Stranger caller(*m_one);
+    QSignalSpy encrypted(&caller, &QSslSocket::encrypted);
+    QTRY_COMPARE(caller.state(), QAbstractSocket::UnconnectedState);
+    QCOMPARE(encrypted.count(), 1);
+}
+
+void tst_kvm::silentComputerIsGone()
+{
+    pair();
+    m_two->kvm.reset();
+    m_one->pulseMs = 20;
+    m_one->start();
+    // As the second one says hello, and then falls asleep.
+    Stranger sleeper(*m_one, true, m_two->folder.path());
+    sleeper.write("{\"t\":\"hello\",\"port\":4711}\n");
+    QSignalSpy connected(&m_one->kvm->channel(), &KvmChannel::connectedChanged);
+    QTRY_COMPARE(connected.count(), 2);
+    QVERIFY(!m_one->kvm->isConnected());
+}
+
 void tst_kvm::knownAddressesAreKept()
 {
     QTemporaryDir folder;
@@ -578,8 +677,20 @@ void tst_kvm::knownAddressesAreKept()
     QCOMPARE(read.port, 4711);
     QCOMPARE(QFile::permissions(folder.filePath(u"peer.json"_s)) & (QFile::ReadGroup | QFile::ReadOther),
              QFile::Permissions());
-    KvmPeer::remove(folder.path());
+    QVERIFY(KvmPeer::remove(folder.path()));
     QVERIFY(!KvmPeer::load(folder.path()).isPaired());
+    QVERIFY(KvmPeer::remove(folder.path()));
+}
+
+void tst_kvm::pairingThatCannotBeRemovedIsTold()
+{
+    pair();
+    const QString file = KvmPeer::fileIn(m_one->folder.path());
+    QVERIFY(QFile::remove(file));
+    QVERIFY(QDir().mkpath(file + u"/something"_s)); // no file any more, which not even root removes
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"the pairing cannot be removed"_s));
+    m_one->kvm->channel().forget();
+    QVERIFY(!m_one->kvm->channel().isPaired());
 }
 
 void tst_kvm::pairingOutlivesTheSwitch()
@@ -671,6 +782,38 @@ void tst_kvm::pointerComesBack()
     QTRY_COMPARE(m_one->pointer->at, QPoint(999 - EdgeWatch::Retreat, 0));
     QTRY_COMPARE(changed.count(), 1);
     QVERIFY(m_one->kvm->isPointerHere());
+    QVERIFY(!m_two->kvm->isPointerHere());
+}
+
+void tst_kvm::pointerIsFoundAgainAfterARestart()
+{
+    pointerEntersWhereItLeft();
+    m_two->pointer->cross(0, 250);
+    QTRY_VERIFY(m_one->kvm->isPointerHere());
+    m_one->pointer->cross(999, 250);
+    QTRY_VERIFY(m_two->kvm->isPointerHere());
+    // It counts from the start again, and still has the pointer.
+    m_two->start();
+    QTRY_VERIFY(m_one->kvm->isConnected() && m_two->kvm->isConnected());
+    QTRY_COMPARE(m_two->kvm->deviceLocation(), int(LuKvm::RightLocation));
+    m_two->kvm->activate();
+    QTRY_VERIFY(m_two->pointer->isWatched());
+    m_two->pointer->cross(0, 100);
+    QTRY_COMPARE(m_one->pointer->at, QPoint(999 - EdgeWatch::Retreat, 100));
+    QVERIFY(m_one->kvm->isPointerHere());
+}
+
+void tst_kvm::crossingThatWasNotHeardCounts()
+{
+    pointerEntersWhereItLeft();
+    const auto areConnected = [this] { return m_one->kvm->isConnected() && m_two->kvm->isConnected(); };
+    m_one->kvm->channel().setEnabled(false);
+    QTRY_VERIFY(!m_two->kvm->isConnected());
+    m_two->pointer->cross(0, 250);
+    QVERIFY(!m_two->kvm->isPointerHere() && !m_one->kvm->isPointerHere());
+    m_one->kvm->channel().setEnabled(true);
+    QTRY_VERIFY(areConnected());
+    QTRY_VERIFY(m_one->kvm->isPointerHere());
     QVERIFY(!m_two->kvm->isPointerHere());
 }
 
