@@ -63,6 +63,7 @@ private Q_SLOTS:
     void presentValuesWriteNothing();
     void hangingBusHoldsTheSetterForItsLimitAlone();
     void fastChangesLoseNothing();
+    void choicesOfTwoThreadsBothHold();
     void whatDoesNotFitIntoAByteIsRefused_data();
     void whatDoesNotFitIntoAByteIsRefused();
     void nonStopModeIsToldOf_data();
@@ -253,6 +254,23 @@ void TestBackLight::fastChangesLoseNothing()
     QCOMPARE(bed.held(StateCode), packed(Angle360, On + 1));
     QCOMPARE(bed.number("brightness"), 10);
     QCOMPARE(bed.number("colorTemperature"), 7);
+}
+
+// The angle is written by the monitor's queue, the state by whoever sets it, and both share one code.
+void TestBackLight::choicesOfTwoThreadsBothHold()
+{
+    Bed bed;
+    bed.beginAt(On);
+    int angle = Angle270;
+    int state = On;
+    for (int i = 0; i < 100; ++i) {
+        angle = angle == Angle270 ? Angle360 : Angle270;
+        state = state == On ? Off : On;
+        bed.put("angle", angle);
+        bed.put("state", state);
+        QVERIFY(bed.idle());
+        QCOMPARE(bed.held(StateCode), packed(angle, state));
+    }
 }
 
 void TestBackLight::whatDoesNotFitIntoAByteIsRefused_data()

@@ -120,10 +120,20 @@ bool LuBackLight::isKnown(const QString& name, int value, int maximum) const
     return (value >= 1 && value <= maximum) || hasModuleSetting(key(name));
 }
 
+int LuBackLight::packedState() const
+{
+    return packed(m_angle, int(m_state.get()) | (m_nonStopMode ? NonStopOn : NonStopOff));
+}
+
+// The setter of the state writes on its caller's thread, the others on the queue's: who was overtaken by the
+// other's choice writes again, so that the last write holds both.
 void LuBackLight::writeState()
 {
-    const int flag = m_nonStopMode ? NonStopOn : NonStopOff;
-    setVCP(StateCode, packed(m_angle, int(m_state.get()) | flag));
+    int written = 0;
+    do {
+        written = packedState();
+        setVCP(StateCode, written);
+    } while (written != packedState());
 }
 
 void LuBackLight::writeLight()

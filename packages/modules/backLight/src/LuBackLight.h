@@ -96,6 +96,7 @@ private:
     bool isKnown(const QString& name, int value, int maximum) const;
     void writeLight();
     void writeState();
+    int packedState() const;
     template <class T>
     void post(const QString& job, ZrShared<T>& member, T value, const QString& name,
               void (LuBackLight::*write)(), void (LuBackLight::*changed)(), std::function<void()> after = {});
