@@ -140,6 +140,14 @@
         <source>Input</source>
         <translation>Vstup</translation>
     </message>
+    <message>
+        <source>Built-in</source>
+        <translation>Vestavěný</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Neznámý</translation>
+    </message>
 </context>
 <context>
     <name>LuPIPPBPWidget</name>

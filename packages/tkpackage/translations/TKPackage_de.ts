@@ -140,6 +140,14 @@
         <source>Input</source>
         <translation>Eingang</translation>
     </message>
+    <message>
+        <source>Built-in</source>
+        <translation>Eingebaut</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Unbekannt</translation>
+    </message>
 </context>
 <context>
     <name>LuPIPPBPWidget</name>

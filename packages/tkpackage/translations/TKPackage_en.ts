@@ -140,6 +140,14 @@
         <source>Input</source>
         <translation>Input</translation>
     </message>
+    <message>
+        <source>Built-in</source>
+        <translation>Built-in</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Unknown</translation>
+    </message>
 </context>
 <context>
     <name>LuPIPPBPWidget</name>

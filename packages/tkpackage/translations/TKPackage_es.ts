@@ -140,6 +140,14 @@
         <source>Input</source>
         <translation>Entrada</translation>
     </message>
+    <message>
+        <source>Built-in</source>
+        <translation>Integrado</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Desconocida</translation>
+    </message>
 </context>
 <context>
     <name>LuPIPPBPWidget</name>

@@ -140,6 +140,14 @@
         <source>Input</source>
         <translation>Entrée</translation>
     </message>
+    <message>
+        <source>Built-in</source>
+        <translation>Intégré</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Inconnue</translation>
+    </message>
 </context>
 <context>
     <name>LuPIPPBPWidget</name>

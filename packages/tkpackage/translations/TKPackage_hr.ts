@@ -140,6 +140,14 @@
         <source>Input</source>
         <translation>Ulaz</translation>
     </message>
+    <message>
+        <source>Built-in</source>
+        <translation>Ugrađeni</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Nepoznat</translation>
+    </message>
 </context>
 <context>
     <name>LuPIPPBPWidget</name>

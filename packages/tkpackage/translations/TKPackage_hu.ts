@@ -140,6 +140,14 @@
         <source>Input</source>
         <translation>Bemenet</translation>
     </message>
+    <message>
+        <source>Built-in</source>
+        <translation>Beépített</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Ismeretlen</translation>
+    </message>
 </context>
 <context>
     <name>LuPIPPBPWidget</name>

@@ -140,6 +140,14 @@
         <source>Input</source>
         <translation>Ingresso</translation>
     </message>
+    <message>
+        <source>Built-in</source>
+        <translation>Integrato</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Sconosciuto</translation>
+    </message>
 </context>
 <context>
     <name>LuPIPPBPWidget</name>

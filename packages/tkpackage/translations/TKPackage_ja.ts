@@ -140,6 +140,14 @@
         <source>Input</source>
         <translation>入力</translation>
     </message>
+    <message>
+        <source>Built-in</source>
+        <translation>内蔵</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>不明</translation>
+    </message>
 </context>
 <context>
     <name>LuPIPPBPWidget</name>

@@ -140,6 +140,14 @@
         <source>Input</source>
         <translation>입력</translation>
     </message>
+    <message>
+        <source>Built-in</source>
+        <translation>내장</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>알 수 없음</translation>
+    </message>
 </context>
 <context>
     <name>LuPIPPBPWidget</name>

@@ -140,6 +140,14 @@
         <source>Input</source>
         <translation>Ingang</translation>
     </message>
+    <message>
+        <source>Built-in</source>
+        <translation>Ingebouwd</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Onbekend</translation>
+    </message>
 </context>
 <context>
     <name>LuPIPPBPWidget</name>

@@ -140,6 +140,14 @@
         <source>Input</source>
         <translation>Wejście</translation>
     </message>
+    <message>
+        <source>Built-in</source>
+        <translation>Wbudowany</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Nieznane</translation>
+    </message>
 </context>
 <context>
     <name>LuPIPPBPWidget</name>

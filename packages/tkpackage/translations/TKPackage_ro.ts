@@ -140,6 +140,14 @@
         <source>Input</source>
         <translation>Intrare</translation>
     </message>
+    <message>
+        <source>Built-in</source>
+        <translation>Integrat</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Necunoscută</translation>
+    </message>
 </context>
 <context>
     <name>LuPIPPBPWidget</name>

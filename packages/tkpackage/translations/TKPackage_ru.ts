@@ -140,6 +140,14 @@
         <source>Input</source>
         <translation>Вход</translation>
     </message>
+    <message>
+        <source>Built-in</source>
+        <translation>Встроенный</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Неизвестно</translation>
+    </message>
 </context>
 <context>
     <name>LuPIPPBPWidget</name>

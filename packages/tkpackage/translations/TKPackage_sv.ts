@@ -140,6 +140,14 @@
         <source>Input</source>
         <translation>Ingång</translation>
     </message>
+    <message>
+        <source>Built-in</source>
+        <translation>Inbyggd</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Okänd</translation>
+    </message>
 </context>
 <context>
     <name>LuPIPPBPWidget</name>

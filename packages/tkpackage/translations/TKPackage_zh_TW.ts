@@ -140,6 +140,14 @@
         <source>Input</source>
         <translation>輸入</translation>
     </message>
+    <message>
+        <source>Built-in</source>
+        <translation>內建</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>未知</translation>
+    </message>
 </context>
 <context>
     <name>LuPIPPBPWidget</name>

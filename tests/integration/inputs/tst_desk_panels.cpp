@@ -39,6 +39,7 @@ private Q_SLOTS:
     void cleanup();
     void theInputIsChosenInItsRow();
     void anInputThatTheModelLacksShowsNoRow();
+    void aDisplayWithoutAListOfInputsOffersNoChoice();
     void leavingTheOnlyInputIsExplained();
     void nothingIsExplainedWhileTheLayoutIsOpen();
     void theLayoutIsOpenedAndChosen();
@@ -183,6 +184,20 @@ void TestDeskPanels::anInputThatTheModelLacksShowsNoRow()
     QVERIFY(m_desk->menu(0x60, 18));
     QVERIFY(m_desk->sync(u"LuInputSource"_s));
     QTRY_COMPARE(control(u"comboBox"_s, u"Input"_s)[u"value"_s].toString(), QString());
+}
+
+void TestDeskPanels::aDisplayWithoutAListOfInputsOffersNoChoice()
+{
+    QVERIFY2(start(u"builtin"_s), qPrintable(m_desk->errors()));
+    m_within = u"LuInputSourceWidget"_s;
+    const QStringList builtIn{u"Input"_s, u"Built-in"_s};
+    QTRY_COMPARE(names(u"label"_s), builtIn);
+    QCOMPARE(control(u"comboBox"_s, u"Input"_s), QJsonObject());
+    QCOMPARE(m_desk->stop(), 0);
+    QVERIFY2(start(u"Alpha27Q"_s), qPrintable(m_desk->errors()));
+    const QStringList unknown{u"Input"_s, u"Unknown"_s};
+    QTRY_COMPARE(names(u"label"_s), unknown);
+    QCOMPARE(control(u"comboBox"_s, u"Input"_s), QJsonObject());
 }
 
 void TestDeskPanels::leavingTheOnlyInputIsExplained()

@@ -67,7 +67,7 @@ LuWidget {
                 anchors.right: _choice.left
                 anchors.rightMargin: LuStyle.space
                 anchors.verticalCenter: parent.verticalCenter
-                repeatsName: true
+                repeatsName: _choice.visible
                 text: qsTr("Input")
             }
             LuComboBox {
@@ -76,11 +76,20 @@ LuWidget {
                 anchors.right: parent.right
                 anchors.verticalCenter: parent.verticalCenter
                 text: qsTr("Input")
-                enabled: _self.sources.length > 0
+                visible: _self.sources.length > 0
                 model: _self.sources
                 textOf: source => _self.translator.inputSource(source)
                 confirmedIndex: _self.sources.indexOf(_self.current)
                 onActivated: index => _self.choose(_self.sources[index])
+            }
+            // A panel has none, and of a monitor without a schema they are not known: nothing to choose from.
+            LuLabel {
+                objectName: "inputSourceAbsent"
+                anchors.right: parent.right
+                anchors.verticalCenter: parent.verticalCenter
+                visible: !_choice.visible
+                kind: LuLabel.Value
+                text: _self.monitor?.isModelBuiltIn ? qsTr("Built-in") : qsTr("Unknown")
             }
         }
         PictureGoneNote {
