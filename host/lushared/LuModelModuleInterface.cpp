@@ -11,8 +11,6 @@
 #include <QMetaProperty>
 #include <QPointer>
 
-#include <mutex>
-
 struct LuModelModuleInterface::Private
 {
     explicit Private(LuMonitorModel* owner) : model(owner) {}
@@ -25,8 +23,6 @@ struct LuModelModuleInterface::Private
         Yes,
     };
     ZrShared<Mark> mark{Mark::Unknown}; ///< Skipped at the next launch.
-    std::mutex runningMutex;
-    QString runningKey;
     QHash<QString, QVariant> snapshot;
     bool hasSnapshot = false;
 };
@@ -184,23 +180,15 @@ void LuModelModuleInterface::postUniqueAtFront(QObject* context, const QString& 
                                                std::function<void()>&& job)
 {
     LuMonitorModelPrivate& host = LuMonitorModelPrivate::of(d->model);
-    host.dispatch->postUniqueAtFront(context, key, [this, key, work = std::move(job)] {
-        const auto setRunning = [this](const QString& now) {
-            const std::lock_guard lock(d->runningMutex);
-            d->runningKey = now;
-        };
-        setRunning(key);
-        work();
-        setRunning({});
-    });
+    host.dispatch->postUniqueAtFront(context, key, std::move(job));
     host.engine.noteUserAction();
 }
 
 bool LuModelModuleInterface::isChanging(const QString& key)
 {
-    dispatch()->remove(this, key, false);
-    const std::lock_guard lock(d->runningMutex);
-    return d->runningKey == key;
+    const QSharedPointer<ZrDispatch> queue = dispatch();
+    queue->remove(this, key, false);
+    return queue->isRunning(this, key);
 }
 
 QSharedPointer<ZrDispatch> LuModelModuleInterface::dispatch() const

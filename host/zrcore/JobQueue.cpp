@@ -126,6 +126,12 @@ bool JobQueue::has(QObject* context, const QString& key) const
     return it != m_index.end() && it->second->context == context && it->second->key == key;
 }
 
+bool JobQueue::isRunning(QObject* context, const QString& key) const
+{
+    const std::lock_guard lock(m_mutex);
+    return m_running.job && m_running.job->context == context && m_running.job->key == key;
+}
+
 void JobQueue::remove(QObject* context, const QString& key, bool waitForRunning)
 {
     Dropped dropped;

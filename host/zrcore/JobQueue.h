@@ -59,6 +59,7 @@ public:
     /// @p job has its context, key, function, lane, background mark and due time.
     void post(QueuedJob job, bool unique);
     bool has(QObject* context, const QString& key) const;
+    bool isRunning(QObject* context, const QString& key) const;
     void remove(QObject* context, const QString& key, bool waitForRunning);
     void close();
     /// See ZrDispatch::retire(); @p ended is called without locks, on whichever thread ends last.

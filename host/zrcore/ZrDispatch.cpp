@@ -118,6 +118,11 @@ bool ZrDispatch::has(QObject* context, const QString& key) const
     return d->queue->has(context, key);
 }
 
+bool ZrDispatch::isRunning(QObject* context, const QString& key) const
+{
+    return d->queue->isRunning(context, key);
+}
+
 void ZrDispatch::remove(QObject* context, const QString& key, bool waitForRunning)
 {
     d->queue->remove(context, key, waitForRunning);

@@ -165,7 +165,8 @@ protected:
     template <class T>
     bool isSettled(const QString& key, const ZrShared<T>& member, const std::type_identity_t<T>& value)
     {
-        return member == value && !isChanging(key);
+        // In this order: a job that ends between the two has stored what it brings.
+        return !isChanging(key) && member == value;
     }
 
     /// Whether a job of @p key runs at this moment; a job that only waits is dropped.

@@ -68,6 +68,8 @@ public:
 
     /// A job of exactly this context and key waits; one that is running does not count.
     bool has(QObject* context, const QString& key) const;
+    /// A job of exactly this context and key runs at this moment.
+    bool isRunning(QObject* context, const QString& key) const;
     /// Drops the waiting jobs of exactly this context and key. With @p waitForRunning it also returns only
     /// after a running job of that context and key has ended, unless it is called from that job.
     void remove(QObject* context, const QString& key, bool waitForRunning);

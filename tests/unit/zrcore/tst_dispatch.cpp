@@ -205,10 +205,16 @@ void tst_dispatch::runningJobIsNotReplaced()
     });
     QVERIFY(gate.waitUntilReached());
     QVERIFY(!queue->has(nullptr, u"a"_s));
+    QVERIFY(queue->isRunning(nullptr, u"a"_s));
     queue->postUnique(nullptr, u"a"_s, [&] { record.add(u"second"_s); });
+    queue->postUnique(nullptr, u"b"_s, [] {});
     QVERIFY(queue->has(nullptr, u"a"_s));
+    QVERIFY(!queue->isRunning(nullptr, u"b"_s));
+    QObject other;
+    QVERIFY(!queue->isRunning(&other, u"a"_s));
     gate.open();
     QVERIFY(ZrIdle::wait({queue}, 10'000));
+    QVERIFY(!queue->isRunning(nullptr, u"a"_s));
     QCOMPARE(record.joined(), u"first second"_s);
 }
 

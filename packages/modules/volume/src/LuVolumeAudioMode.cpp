@@ -246,7 +246,7 @@ void LuVolume::setGain(Frequency frequency, int gain)
     const QString key = QStringLiteral("setGain") + name;
     if (!m_volumeEnable || !audioModeEnable())
         return;
-    if (m_gains->get(frequency) == gain && !isChanging(key) && !m_resetting)
+    if (!isChanging(key) && !m_resetting && m_gains->get(frequency) == gain)
         return;
     postUniqueAtFront(this, key, [this, frequency, gain] {
         qInfo() << "[LuVolume] setGain:" << frequency << gain;
