@@ -94,6 +94,8 @@ private Q_SLOTS:
     void crossingsThatWaitAreOne();
     void switchingOffDropsACrossing();
     void switchingOffDuringASwitchFreesTheHub();
+    void aHubThatWasNotReadBackIsFreed();
+    void aMonitorThatGoesTakesTheWatchAlong();
     void closingTheLayoutSwitchesOff();
     void leavingTheFamilySwitchesOff();
     void theMonitorsMenuSwitchesOff();
@@ -379,6 +381,50 @@ void TestSmartKvm::switchingOffDuringASwitchFreesTheHub()
     QCOMPARE(int(*bed.monitor().value(UpstreamCode)), Automatic);
     QCOMPARE(bed.get("LuKvmSwitch", "kvmSwitch").toInt(), Automatic);
     QCOMPARE(bed.setting(u"LuKvmSwitch/KvmSwitch"_s).toInt(), Automatic);
+}
+
+void TestSmartKvm::aHubThatWasNotReadBackIsFreed()
+{
+    SimulatedBed bed;
+    QVERIFY(launchAndForget(bed));
+    QVERIFY(show(bed, 2, 19, 17));
+    bed.set(Module, "basicState", true);
+    QVERIFY(bed.idle());
+    sim::Fault fault;
+    fault.code = UpstreamCode;
+    fault.op = sim::Op::Get;
+    bed.monitor().armFault(fault);
+    cross();
+    QVERIFY(bed.idle());
+    QCOMPARE(int(*bed.monitor().value(UpstreamCode)), TypeB);
+    QCOMPARE(bed.get("LuKvmSwitch", "kvmSwitch").toInt(), Automatic);
+    bed.set(Module, "basicState", false);
+    QVERIFY(bed.idle());
+    QCOMPARE(int(*bed.monitor().value(UpstreamCode)), Automatic);
+    bed.monitor().clearFaults();
+    // Freed once, it is not written again.
+    bed.forget();
+    bed.set("LuKvmSwitch", "kvmSwitch", Automatic);
+    QVERIFY(bed.idle());
+    QCOMPARE(bed.wire(), QStringList());
+}
+
+void TestSmartKvm::aMonitorThatGoesTakesTheWatchAlong()
+{
+    SimulatedBed bed;
+    QVERIFY(launchAndForget(bed));
+    QVERIFY(show(bed, 2, 19, 17));
+    bed.set(Module, "basicState", true);
+    QVERIFY(bed.idle());
+    calls();
+    bed.destroy();
+    QCOMPARE(calls(), QStringList{u"deactivate"_s});
+    QVERIFY(!kvm().value("active"_L1).toBool());
+    // It is the user's choice still, when the monitor comes again.
+    bed.hotplug();
+    QVERIFY(bed.idle());
+    QVERIFY(bed.get(Module, "basicState").toBool());
+    QVERIFY(kvm().value("active"_L1).toBool());
 }
 
 void TestSmartKvm::closingTheLayoutSwitchesOff()

@@ -55,18 +55,18 @@ void LuKvmSwitch::applyValues()
     if (!enabled())
         return;
     qInfo() << "[LuKvmSwitch] apply KVM Switch:" << m_kvmSwitch;
-    writeKvmSwitch(m_kvmSwitch);
+    write(m_kvmSwitch);
     Q_EMIT kvmSwitchChanged();
 }
 
 void LuKvmSwitch::setKvmSwitch(KvmSwitch value, bool post)
 {
-    if (!enabled() || isSettled(SetterKey, m_kvmSwitch, value))
+    if (!enabled() || (isSettled(SetterKey, m_kvmSwitch, value) && !m_isUnread))
         return;
     auto job = [this, value] {
         takeAsked(m_kvmSwitch, value, SwitchKey,
                   "[LuKvmSwitch] set switch mode: ", &LuKvmSwitch::kvmSwitchChanged,
-                  [this, value] { writeKvmSwitch(value); });
+                  [this, value] { write(value); });
     };
     if (post) {
         postUniqueAtFront(this, SetterKey, std::move(job));
@@ -78,8 +78,17 @@ void LuKvmSwitch::setKvmSwitch(KvmSwitch value, bool post)
 
 void LuKvmSwitch::writeKvmSwitch(KvmSwitch value)
 {
-    if (enabled())
-        setVCP(UpstreamCode, value);
+    if (!enabled())
+        return;
+    // Before the write: whoever frees the hub meanwhile finds that there is something to free.
+    m_isUnread = true;
+    setVCP(UpstreamCode, value);
+}
+
+void LuKvmSwitch::write(KvmSwitch value)
+{
+    setVCP(UpstreamCode, value);
+    m_isUnread = false;
 }
 
 LuSyncTasks* LuKvmSwitch::syncPeriodically()
@@ -94,9 +103,11 @@ LuSyncTasks* LuKvmSwitch::syncPeriodically()
 void LuKvmSwitch::syncKvmSwitch()
 {
     int value = 0;
-    if (enabled() && getVCP(UpstreamCode, value))
-        takeReported(m_kvmSwitch, KvmSwitch(value), SwitchKey,
-                     "[LuKvmSwitch] sync KVM switch changed:", &LuKvmSwitch::kvmSwitchChanged);
+    if (!enabled() || !getVCP(UpstreamCode, value))
+        return;
+    takeReported(m_kvmSwitch, KvmSwitch(value), SwitchKey,
+                 "[LuKvmSwitch] sync KVM switch changed:", &LuKvmSwitch::kvmSwitchChanged);
+    m_isUnread = false;
 }
 
 void LuKvmSwitch::registerShortcutActions()

@@ -40,7 +40,8 @@ public:
     /// Posts a job that writes the port; with @p post false, on the monitor's queue, runs it at once.
     void setKvmSwitch(KvmSwitch value, bool post = true);
 
-    /// Writes VCP 0xE4 and nothing else. Blocks: on the monitor's queue.
+    /// Writes VCP 0xE4 and nothing else; until syncKvmSwitch() has read it back, what the module holds counts
+    /// as unknown. Blocks: on the monitor's queue.
     void writeKvmSwitch(KvmSwitch value);
 
     /// Reads VCP 0xE4 and takes what it says. Blocks: on the monitor's queue.
@@ -56,8 +57,11 @@ Q_SIGNALS:
     void kvmSwitchChanged();
 
 private:
+    void write(KvmSwitch value);
     bool selectNext();
 
     QList<int> m_kvmSwitchList;
     ZrShared<KvmSwitch> m_kvmSwitch{Auto};
+    /// The monitor was given a port that the member does not hold.
+    ZrShared<bool> m_isUnread{false};
 };

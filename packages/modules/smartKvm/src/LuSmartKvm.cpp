@@ -26,7 +26,11 @@ LuSmartKvm::LuSmartKvm(LuMonitorModel* model, LuPipPbp* pipPbp, LuInputSource* i
 {
 }
 
-LuSmartKvm::~LuSmartKvm() = default;
+LuSmartKvm::~LuSmartKvm()
+{
+    if (m_state)
+        LuKvm::instance()->deactivate();
+}
 
 void LuSmartKvm::readSchema(const QByteArray& schema)
 {

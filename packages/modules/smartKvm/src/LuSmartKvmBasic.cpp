@@ -55,7 +55,12 @@ LuSmartKvmBasic::LuSmartKvmBasic(LuMonitorModel* model, LuPipPbp* pipPbp, LuInpu
     updateScreenRect();
 }
 
-LuSmartKvmBasic::~LuSmartKvmBasic() = default;
+LuSmartKvmBasic::~LuSmartKvmBasic()
+{
+    // The edge of a monitor that is gone is nobody's.
+    if (m_basicState)
+        m_kvm->deactivate();
+}
 
 // Direct: what follows from a change of the layout holds before the next job of the monitor runs.
 void LuSmartKvmBasic::connectModules()
@@ -145,10 +150,10 @@ void LuSmartKvmBasic::applyValues()
 
 void LuSmartKvmBasic::setBasicState(bool state)
 {
-    if (!m_smartKvmBasicEnable || m_basicState == state)
+    // One step: the user's switch and a layout that closes may come at once, on two threads.
+    if (!m_smartKvmBasicEnable || !m_basicState.set(state))
         return;
     qInfo() << "[LuSmartKvmBasic] setBasicState:" << state;
-    m_basicState = state;
     updateKvmActivation();
     if (!state)
         m_kvmSwitch->setKvmSwitch(LuKvmSwitch::Auto, true);
@@ -175,8 +180,16 @@ void LuSmartKvmBasic::updateKvmActivation()
         return;
     }
     updateScreenRect();
-    m_kvm->activate();
+    activate();
     updateTargetKvmUsb();
+}
+
+void LuSmartKvmBasic::activate()
+{
+    m_kvm->activate();
+    // Switched off meanwhile on another thread, the service was perhaps told so before.
+    if (!isOn())
+        m_kvm->deactivate();
 }
 
 void LuSmartKvmBasic::updateScreenRect()
@@ -258,12 +271,12 @@ void LuSmartKvmBasic::switchHub()
         m_kvmSwitch->syncKvmSwitch();
         updateScreenRect();
         if (!isOn()) {
-            // Whoever switched it off met a hub that was not switched yet, and had nothing to free.
+            // Whoever switched it off may have met a hub that was not switched yet, with nothing to free.
             m_kvmSwitch->setKvmSwitch(LuKvmSwitch::Auto, true);
             return;
         }
         // While another crossing waits the service rests.
         if (!dispatch()->has(this, SwitchJob))
-            m_kvm->activate();
+            activate();
     });
 }

@@ -77,6 +77,7 @@ protected:
 
 private:
     void connectModules();
+    void activate();
     void onLayoutChanged();
     void onSwapped();
     void onMainSourceChanged();
