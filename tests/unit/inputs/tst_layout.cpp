@@ -73,6 +73,7 @@ private Q_SLOTS:
     void choosingAModeTellsInOrder();
     void withoutAutoSyncNothingIsReadBack();
     void openingByForceFromPip();
+    void openingByForceDuringAReadBackIsNotLost();
     void theLocksOfEcoArePausedWhileOn();
     void aFailedReadAbandonsTheReadBack();
     void eventsOfTheReadBack_data();
@@ -372,6 +373,31 @@ void TestLayout::openingByForceFromPip()
     QCOMPARE(names.count(u"stateChanged"_s), 1);
     QCOMPARE(layoutWrites(bed), QStringList{u"0x7D 2"_s});
     QCOMPARE(bed.events(), QStringList{u"LuPipPbp 8 on 0 [pbp2,n/a,n/a]"_s});
+}
+
+void TestLayout::openingByForceDuringAReadBackIsNotLost()
+{
+    SimulatedBed bed;
+    QVERIFY(launchAndForget(bed));
+    // The small picture is opened at the monitor, and the read-back that finds it hangs at its window.
+    QVERIFY(bed.monitor().setByMenu(LayoutCode, Pip));
+    sim::Fault fault;
+    fault.kind = sim::FaultKind::Timeout;
+    fault.code = 0x7E;
+    fault.count = 1;
+    bed.monitor().armFault(fault);
+    LuModelModuleInterface* module = bed.module(Module);
+    const quint64 before = bed.monitor().traffic().last().seq;
+    SignalRecorder recorder(module);
+    module->forceSyncHardwareState(false);
+    QTRY_VERIFY(bed.monitor().traffic(before).size() >= 2);
+    QVERIFY(QMetaObject::invokeMethod(module, "forceOpenPbp"));
+    QVERIFY(bed.idle());
+    QCOMPARE(bed.get(Module, "mode").toInt(), Pbp);
+    QVERIFY(bed.get(Module, "state").toBool());
+    QCOMPARE(int(*bed.monitor().value(LayoutCode)), Pbp);
+    // Nobody who needs the divided screen saw it go again.
+    QCOMPARE(recorder.take().count(u"isPbpModeChanged"_s), 1);
 }
 
 void TestLayout::theLocksOfEcoArePausedWhileOn()

@@ -258,6 +258,11 @@ void LuPipPbp::syncMode(LuSyncTasks* tasks, PIPPBPMode reading, Found& found)
     const PIPPBPMode oldMode = m_mode;
     found.modeDiffers = oldMode != reading;
     syncWindows(tasks, reading, found);
+    // While the windows were read, a person has turned a layout on: it comes next and is not to be lost.
+    if (!m_state && dispatch()->has(this, SetState)) {
+        found.modeDiffers = false;
+        return;
+    }
     if (takeReported(m_mode, reading, ModeKey, "[LuPipPbp] sync mode changed:", &LuPipPbp::modeChanged) &&
         isInPbpFamily(oldMode) != isInPbpFamily(reading))
         Q_EMIT isPbpModeChanged();
