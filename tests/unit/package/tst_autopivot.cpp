@@ -1,8 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "SimulatedBed.h"
 
+#include <LuShared/LuSyncTasks.h>
+#include <ZrCore/ZrDispatch.h>
+
 #include <QSignalSpy>
 #include <QTest>
+
+#include <memory>
 
 namespace {
 
@@ -36,6 +41,10 @@ private Q_SLOTS:
     void halfTurnIsUndoneByTheSensor();
     void failedReadOfTheSensorTurnsNothing();
     void offIsNotRead();
+    void switchedOffDuringARoundTheRotationIsTheUsers();
+    void onlyRotationsOfAScreenAreTaken();
+    void rotationNeverChosenIsLeftAlone_data();
+    void rotationNeverChosenIsLeftAlone();
     void applyWithoutTheSensorIsSilent();
     void applyOffRestoresTheRotation();
     void applyOnLeavesTheDesktopAlone();
@@ -245,6 +254,65 @@ void TestAutoPivot::offIsNotRead()
     bed.forget();
     QVERIFY(bed.sync(Module));
     QCOMPARE(bed.wire(), QStringList());
+}
+
+void TestAutoPivot::switchedOffDuringARoundTheRotationIsTheUsers()
+{
+    SimulatedBed bed;
+    bed.launch();
+    QVERIFY(bed.idle());
+    bed.set(Module, "state", true);
+    QVERIFY(bed.sync(Module));
+    // A round asks all modules for their steps first, and comes to this one later.
+    LuSyncTasks* tasks = bed.module(Module)->syncPeriodically();
+    QVERIFY(tasks);
+    const std::unique_ptr<LuSyncTasks> owner(tasks);
+    bed.set(Module, "state", false);
+    bed.set(Module, "currentPivot", 180);
+    const auto steps = tasks->takeTasks();
+    bed.model().dispatch()->post(nullptr, [&steps] { steps.front()(); });
+    QVERIFY(bed.idle());
+    QCOMPARE(bed.get(Module, "currentPivot").toInt(), 180);
+    QCOMPARE(desktop().get(bed.model().id() + QStringLiteral("/pivot")).toInt(), 180);
+}
+
+void TestAutoPivot::onlyRotationsOfAScreenAreTaken()
+{
+    SimulatedBed bed;
+    bed.launch();
+    QVERIFY(bed.idle());
+    bed.forget();
+    bed.set(Module, "currentPivot", 45);
+    QCOMPARE(bed.get(Module, "currentPivot").toInt(), 0);
+    QVERIFY(!bed.setting(QStringLiteral("LuAutoPivot/degree")).isValid());
+    QVERIFY(bed.log().contains(QStringLiteral("[LuAutoPivot] no screen can be rotated by 45 degrees")));
+    bed.storeSetting(QStringLiteral("LuAutoPivot/degree"), 45);
+    bed.relaunch();
+    QCOMPARE(bed.get(Module, "currentPivot").toInt(), 0);
+    QVERIFY(bed.idle());
+}
+
+void TestAutoPivot::rotationNeverChosenIsLeftAlone_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("with the sensor") << QStringLiteral("TK30Z");
+    QTest::newRow("without") << QStringLiteral("TK30");
+}
+
+void TestAutoPivot::rotationNeverChosenIsLeftAlone()
+{
+    QFETCH(QString, name);
+    SimulatedBed bed(name);
+    bed.launch();
+    QVERIFY(bed.idle());
+    // Turned by the desktop's own settings, and met again.
+    QVERIFY(desktop().set(bed.model().id() + QStringLiteral("/pivot"), 90));
+    QVERIFY(bed.idle());
+    const QString id = bed.model().id();
+    bed.relaunch();
+    QVERIFY(bed.idle());
+    QCOMPARE(desktop().get(id + QStringLiteral("/pivot")).toInt(), 90);
+    QCOMPARE(bed.get(Module, "currentPivot").toInt(), 90);
 }
 
 void TestAutoPivot::applyWithoutTheSensorIsSilent()

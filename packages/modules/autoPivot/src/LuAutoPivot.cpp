@@ -19,6 +19,11 @@ constexpr bool isLandscapeAt(int degrees)
     return degrees % 180 == 0;
 }
 
+constexpr bool isRotation(int degrees)
+{
+    return degrees == 0 || degrees == 90 || degrees == 180 || degrees == 270;
+}
+
 constexpr int degreesOf(int sensorValue)
 {
     switch (sensorValue) {
@@ -50,7 +55,8 @@ void LuAutoPivot::loadSettings()
 {
     if (m_autoPivotEnable)
         m_state = moduleSetting(StateKey, m_state.get()).toBool();
-    m_currentPivot = moduleSetting(DegreeKey, m_currentPivot.get()).toInt();
+    if (const int degrees = moduleSetting(DegreeKey, m_currentPivot.get()).toInt(); isRotation(degrees))
+        m_currentPivot = degrees;
     m_isLandscape = isLandscapeAt(m_currentPivot);
 }
 
@@ -58,17 +64,24 @@ void LuAutoPivot::applyValues()
 {
     if (!m_autoPivotEnable) {
         qInfo() << "[LuAutoPivot] apply pivot:" << m_currentPivot;
-        LuPlatform::setMonitorPivot(handler(), m_currentPivot);
+        restorePivot();
         return;
     }
     qInfo() << "[LuAutoPivot] apply state:" << m_state << "pivot:" << m_currentPivot;
     if (!m_state)
-        LuPlatform::setMonitorPivot(handler(), m_currentPivot);
+        restorePivot();
     Q_EMIT currentPivotChanged();
     Q_EMIT isLandscapeChanged();
     Q_EMIT stateChanged();
     fireOnOffEvent(LuDataCollection::ACT_AUTO_PIVOT, m_state, LuDataCollection::SOURCE_LAUNCH,
                    eventParameters());
+}
+
+void LuAutoPivot::restorePivot()
+{
+    // A rotation that was never chosen here is the desktop's own.
+    if (hasModuleSetting(DegreeKey))
+        LuPlatform::setMonitorPivot(handler(), m_currentPivot);
 }
 
 void LuAutoPivot::setState(bool state)
@@ -84,6 +97,10 @@ void LuAutoPivot::setCurrentPivot(int degrees)
 {
     if (m_currentPivot == degrees)
         return;
+    if (!isRotation(degrees)) {
+        qWarning() << "[LuAutoPivot] no screen can be rotated by" << degrees << "degrees";
+        return;
+    }
     qInfo() << "[LuAutoPivot] set current pivot:" << degrees;
     storePivot(degrees);
     LuPlatform::setMonitorPivot(handler(), degrees);
@@ -130,7 +147,8 @@ void LuAutoPivot::syncSensor()
 {
     qInfo() << "[LuAutoPivot] sync:" << model()->modelName();
     int value = 0;
-    if (getVCP(OrientationCode, value))
+    // Switched off since the round began, the rotation is the user's.
+    if (getVCP(OrientationCode, value) && m_state)
         setCurrentPivot(degreesOf(value));
 }
 

@@ -63,6 +63,7 @@ private:
     void syncOrientation();
     void syncSensor();
     void storePivot(int degrees);
+    void restorePivot();
     /// The rotation belongs to an event only while it is the user's.
     QList<QString> eventParameters() const;
 
