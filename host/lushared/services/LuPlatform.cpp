@@ -164,6 +164,11 @@ bool LuPlatform::windowsBlend()
     return !windows || windows->blends();
 }
 
+bool LuPlatform::hasCopyPasteKeys()
+{
+    return Registry::current().clipboardKeys != nullptr;
+}
+
 void LuPlatform::simulateCopy()
 {
     if (const auto keys = Registry::current().clipboardKeys)

@@ -91,4 +91,6 @@ public:
     /// Sends the system's key stroke for copy or paste to the application in the foreground.
     static void simulateCopy();
     static void simulatePaste();
+    /// Whether the session lets them be sent; if not, the two above do nothing. Any thread.
+    static bool hasCopyPasteKeys();
 };

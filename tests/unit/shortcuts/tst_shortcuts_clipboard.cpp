@@ -3,6 +3,7 @@
 #include "ShortcutsBed.h"
 
 #include <ZrCore/ZrClock.h>
+#include <lushared/services/ServiceRegistry.h>
 
 #include <QBuffer>
 #include <QClipboard>
@@ -11,6 +12,7 @@
 #include <QImage>
 #include <QJsonArray>
 #include <QMimeData>
+#include <QScopeGuard>
 #include <QSignalSpy>
 #include <QUrl>
 
@@ -57,6 +59,9 @@ private Q_SLOTS:
     void copyDuringAPasteBringsTheUsersContentBack();
     void anEmptyClipboardIsEmptyAgain();
     void anotherMonitorsClipboardTakesNoOwnChange();
+    void aCopyThatFoundNothingGivesWayToAnotherMonitors();
+    void copyDuringAnotherMonitorsPasteBringsTheUsersContentBack();
+    void withoutTheKeysTheUsersNextCopyIsTheirs();
     void goingBringsTheUsersContentBack();
     void theShortcutsUseIt();
 
@@ -289,6 +294,62 @@ void TestShortcutsClipboard::anotherMonitorsClipboardTakesNoOwnChange()
     pass(1000);
     QCOMPARE(pasted().size(), 1);
     QCOMPARE(get(u"clipboard"_s), text(u"the user's"_s));
+}
+
+void TestShortcutsClipboard::aCopyThatFoundNothingGivesWayToAnotherMonitors()
+{
+    LuClipboard one;
+    LuClipboard two;
+    put(u"selection"_s, text(u"for the second"_s));
+    two.independentCopy();
+    pass(1000);
+    put(u"selection"_s, QJsonValue());
+    two.independentCopy(); // nothing is selected
+    pass(1000);
+    put(u"selection"_s, text(u"for the first"_s));
+    one.independentCopy();
+    pass(1000);
+    QCOMPARE(get(u"clipboard"_s), text(u"the user's"_s));
+    one.independentPaste();
+    pass(1000);
+    two.independentPaste();
+    pass(1000);
+    QCOMPARE(pasted(), (QJsonArray{text(u"for the first"_s), text(u"for the second"_s)}));
+    QCOMPARE(get(u"clipboard"_s), text(u"the user's"_s));
+}
+
+void TestShortcutsClipboard::copyDuringAnotherMonitorsPasteBringsTheUsersContentBack()
+{
+    put(u"selection"_s, text(u"first"_s));
+    LuClipboard one;
+    LuClipboard two;
+    one.independentCopy();
+    pass(1000);
+    put(u"selection"_s, text(u"second"_s));
+    one.independentPaste();
+    pass(350);
+    two.independentCopy();
+    pass(1000);
+    QCOMPARE(get(u"clipboard"_s), text(u"the user's"_s));
+    two.independentPaste();
+    pass(1000);
+    QCOMPARE(pasted(), (QJsonArray{text(u"first"_s), text(u"second"_s)}));
+    QCOMPARE(get(u"clipboard"_s), text(u"the user's"_s));
+}
+
+void TestShortcutsClipboard::withoutTheKeysTheUsersNextCopyIsTheirs()
+{
+    const services::ServiceSet all = services::Registry::current();
+    services::ServiceSet without = all;
+    without.clipboardKeys.reset();
+    services::Registry::install(without);
+    const auto back = qScopeGuard([&all] { services::Registry::install(all); });
+    LuClipboard clipboard;
+    clipboard.independentCopy();
+    pass(1000);
+    put(u"clipboard"_s, text(u"the next"_s));
+    pass(1000);
+    QCOMPARE(get(u"clipboard"_s), text(u"the next"_s));
 }
 
 void TestShortcutsClipboard::goingBringsTheUsersContentBack()

@@ -26,12 +26,23 @@ const QString PasteJob = QStringLiteral("pasteChanged");
 /// The program itself changes the system clipboard, from whichever object.
 bool ownChange = false;
 
+/// The one whose copy came last: what another one still waits for does not come any more.
+LuClipboard* copying = nullptr;
+
+/// Those of all monitors: they share the one system clipboard.
+QList<LuClipboard*>& clipboards()
+{
+    static QList<LuClipboard*> all;
+    return all;
+}
+
 } // namespace
 
 LuClipboard::LuClipboard(QObject* parent, const QString& monitor)
     : QObject(parent), m_clipboard(QGuiApplication::clipboard()),
       m_dispatch(QSharedPointer<ZrDispatch>::create(QStringLiteral("LuClipboard"), monitor))
 {
+    clipboards().append(this);
     connect(m_clipboard, &QClipboard::dataChanged, this, &LuClipboard::takeChange);
     connect(this, &LuClipboard::independentCopyChanged, this, [this] {
         ZrDispatch::main()->postUniqueLater(this, RecoverJob, RecoverMs, [this] { restore(); });
@@ -41,6 +52,9 @@ LuClipboard::LuClipboard(QObject* parent, const QString& monitor)
 LuClipboard::~LuClipboard()
 {
     m_dispatch->close();
+    clipboards().removeAll(this);
+    if (copying == this)
+        copying = nullptr;
     // Gone with the application, or changed while it ends, the clipboard is no more ours to mend.
     if (isAway() && QCoreApplication::instance() && !QCoreApplication::closingDown())
         restore();
@@ -48,16 +62,19 @@ LuClipboard::~LuClipboard()
 
 void LuClipboard::independentCopy()
 {
+    // Without the keys nothing would answer, and the user's next copy of their own would pass for the answer.
+    if (!LuPlatform::hasCopyPasteKeys())
+        return;
     backUp();
-    m_copyPending = true;
+    copying = this;
     ZrDispatch::main()->postUniqueLater(this, KeysJob, KeysUpMs, [] { LuPlatform::simulateCopy(); });
 }
 
 void LuClipboard::takeChange()
 {
-    if (ownChange || !m_copyPending)
+    if (ownChange || copying != this)
         return;
-    m_copyPending = false;
+    copying = nullptr;
     m_independent.reset(LuUtils::copyMimeData(m_clipboard->mimeData()));
     Q_EMIT independentCopyChanged();
 }
@@ -83,8 +100,14 @@ void LuClipboard::independentPaste()
 void LuClipboard::backUp()
 {
     // While the user's content is away, the clipboard holds only what passes through.
-    if (!isAway())
-        m_backup.reset(LuUtils::copyMimeData(m_clipboard->mimeData()));
+    if (isAway())
+        return;
+    const QMimeData* users = m_clipboard->mimeData();
+    for (const LuClipboard* other : std::as_const(clipboards())) {
+        if (other->isAway())
+            users = other->m_backup.get();
+    }
+    m_backup.reset(LuUtils::copyMimeData(users));
 }
 
 bool LuClipboard::isAway() const

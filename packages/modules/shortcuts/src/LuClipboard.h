@@ -46,6 +46,5 @@ private:
     QClipboard* const m_clipboard;
     std::unique_ptr<QMimeData> m_independent;
     std::unique_ptr<QMimeData> m_backup;
-    bool m_copyPending = false; ///< The next change of the clipboard is the application's answer to our copy.
     const QSharedPointer<ZrDispatch> m_dispatch;
 };
