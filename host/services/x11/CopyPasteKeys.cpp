@@ -35,6 +35,7 @@ QList<xcb_keycode_t> CopyPasteKeys::heldModifiers() const
 
 void CopyPasteKeys::stroke(Qt::Key key)
 {
+    const std::lock_guard lock(m_stroking);
     QList<xcb_keycode_t> control;
     const QList<xcb_keycode_t> modifiers = m_keyboard->modifierCodes();
     for (const xcb_keycode_t code : modifiers) {

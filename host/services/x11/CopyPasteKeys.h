@@ -4,6 +4,8 @@
 #include "Keyboard.h"
 #include "services/api/ClipboardKeysService.h"
 
+#include <mutex>
+
 namespace services::x11 {
 
 /// Ctrl+C and Ctrl+V as from the keyboard, through the XTEST extension. Any thread.
@@ -22,6 +24,7 @@ private:
 
     const std::shared_ptr<Connection> m_connection;
     const std::shared_ptr<Keyboard> m_keyboard;
+    std::mutex m_stroking; ///< The keys of two strokes do not mix.
 };
 
 } // namespace services::x11

@@ -20,26 +20,31 @@ KeyGrabs::KeyGrabs(EventSource& events, std::shared_ptr<Keyboard> keyboard)
 
 KeyGrabs::~KeyGrabs()
 {
-    release();
+    set({});
 }
 
 void KeyGrabs::set(const QSet<QKeyCombination>& keys)
 {
-    if (keys == m_keys)
-        return;
-    release();
-    m_keys = keys;
-    renew();
+    if (keys != m_keys)
+        replace(keys);
 }
 
 void KeyGrabs::renew()
 {
-    const QSet<QKeyCombination> keys = m_keys;
-    release();
+    if (!m_keys.isEmpty())
+        replace(QSet<QKeyCombination>(m_keys));
+}
+
+void KeyGrabs::replace(const QSet<QKeyCombination>& keys)
+{
+    const Connection& connection = m_events.connection();
+    if (!m_keys.isEmpty())
+        xcb_ungrab_key(connection, XCB_GRAB_ANY, connection.root(), XCB_MOD_MASK_ANY);
     m_keys = keys;
     for (const QKeyCombination each : keys)
         grab(each);
-    xcb_flush(m_events.connection());
+    // Who is given keys back may type them the next moment.
+    connection.sync();
 }
 
 void KeyGrabs::grab(QKeyCombination keys)
@@ -62,15 +67,6 @@ void KeyGrabs::grab(QKeyCombination keys)
     if (taken)
         qInfo().noquote() << "[X11] another program keeps the shortcut"
                           << QKeySequence(keys).toString(QKeySequence::PortableText) << "for itself, too";
-}
-
-void KeyGrabs::release()
-{
-    if (m_keys.isEmpty())
-        return;
-    m_keys.clear();
-    xcb_ungrab_key(m_events.connection(), XCB_GRAB_ANY, m_events.connection().root(), XCB_MOD_MASK_ANY);
-    xcb_flush(m_events.connection());
 }
 
 } // namespace services::x11

@@ -15,15 +15,16 @@ public:
     KeyGrabs(EventSource& events, std::shared_ptr<Keyboard> keyboard);
     ~KeyGrabs();
 
-    /// Grabs these and no others. A combination that another program has grabbed stays with that program.
+    /// Grabs these and no others; the server has taken it into account on return. A combination that another
+    /// program has grabbed stays with that program.
     void set(const QSet<QKeyCombination>& keys);
 
     /// Grabs them anew, after the keyboard's layout changed.
     void renew();
 
 private:
+    void replace(const QSet<QKeyCombination>& keys);
     void grab(QKeyCombination keys);
-    void release();
 
     EventSource& m_events;
     const std::shared_ptr<Keyboard> m_keyboard;
