@@ -72,7 +72,12 @@ void LuSyncEngine::start()
 {
     m_started = true;
     postWholeRound();
-    if (m_model.supported && !m_model.hasToldColorMode)
+    lookForColorMode();
+}
+
+void LuSyncEngine::lookForColorMode()
+{
+    if (m_model.supported && !m_model.hasToldColorMode && !isAsleep())
         lookAgain();
 }
 
@@ -146,6 +151,8 @@ void LuSyncEngine::noteUserAction()
 {
     if (m_started && m_backOffMs.exchange(0) > 0 && !isAsleep())
         scheduleRound(0);
+    // Without a window no round would ever ask.
+    lookForColorMode();
 }
 
 bool LuSyncEngine::isAsleep() const

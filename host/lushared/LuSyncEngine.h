@@ -67,6 +67,8 @@ private:
     /// Reads what the application itself follows for a module: the brightness of a monitor that no package
     /// serves. A null module stands for all.
     void postBrightness(LuModelModuleInterface* module, Reason reason);
+    /// Asks a monitor that has never told its colour mode once more, for a while.
+    void lookForColorMode();
     void runRound();
     /// Reads every module, whatever is visible.
     void postWholeRound();

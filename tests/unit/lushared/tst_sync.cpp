@@ -64,6 +64,8 @@ private Q_SLOTS:
     void whatWasNotReadIsNotRestoredLater();
     void aMonitorThatTellsNoColorModeIsReadAndNotRestored_data() { faults(); }
     void aMonitorThatTellsNoColorModeIsReadAndNotRestored();
+    void aMonitorThatIsSwitchedOnLaterIsReadWithoutAWindow_data();
+    void aMonitorThatIsSwitchedOnLaterIsReadWithoutAWindow();
     void silentMonitorIsAskedMoreAndMoreRarely();
     void userActionTriesASilentMonitorAgain();
     void answeringMonitorIsReadAtTheUsualPaceAgain();
@@ -304,6 +306,35 @@ void TestSync::aMonitorThatTellsNoColorModeIsReadAndNotRestored()
     QVERIFY(!wire.filter(QStringLiteral("get 0x60")).isEmpty());
     QCOMPARE(wire.filter(QStringLiteral("set ")), QStringList());
     QCOMPARE(bed.get(Contrast, "state"), QVariant(false));
+}
+
+void TestSync::aMonitorThatIsSwitchedOnLaterIsReadWithoutAWindow_data()
+{
+    QTest::addColumn<bool>("byPerson");
+    QTest::newRow("noticed at the outputs") << false;
+    QTest::newRow("somebody uses it") << true;
+}
+
+void TestSync::aMonitorThatIsSwitchedOnLaterIsReadWithoutAWindow()
+{
+    QFETCH(bool, byPerson);
+    SimulatedBed bed;
+    bed.monitor().armFault(sim::Fault());
+    LuMonitorModel& model = bed.launch();
+    QVERIFY(bed.idle());
+    ZrClock::instance().advance(60000);
+    bed.forget();
+    ZrClock::instance().advance(600000);
+    QCOMPARE(bed.wire(), QStringList());
+    bed.monitor().clearFaults();
+    if (byPerson)
+        bed.set(Contrast, "state", true);
+    else
+        LuModelHost::noteDisturbance(&model);
+    ZrClock::instance().advance(1000);
+    QVERIFY(bed.idle());
+    QVERIFY(model.colorMode());
+    QVERIFY(!bed.wire().filter(QStringLiteral("get 0x60")).isEmpty());
 }
 
 void TestSync::silentMonitorIsAskedMoreAndMoreRarely()
