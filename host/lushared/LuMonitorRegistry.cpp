@@ -76,11 +76,14 @@ struct LuMonitorRegistry::Private
         return packages.isEmpty() ? nullptr : packages.first();
     }
 
-    void construct(const QString& id)
+    void construct(const QSharedPointer<MonitorInfo>& info)
     {
-        const auto entry = entryOf(id);
+        // A monitor that was plugged anew while it was asked has another handle with the same id.
+        const auto entry = std::find_if(entries.begin(), entries.end(),
+                                        [&info](const Entry& each) { return each.info == info; });
         if (entry == entries.end())
             return;
+        const QString id = info->id();
         entry->probe.reset();
         LuPackagesInterface* package = packageOf(entry->info->modelName());
         {
@@ -190,15 +193,15 @@ void LuMonitorRegistry::addMonitor(const QSharedPointer<MonitorInfo>& info)
     LuStatisticsStore::instance().attach(info);
     d->entries.push_back({info, {}, nullptr, false, LuHostOptions::instance().launching});
     if (!LuHostOptions::instance().autoSync) {
-        ZrDispatch::main()->post(this, [this, id] { d->construct(id); });
+        ZrDispatch::main()->post(this, [this, info] { d->construct(info); });
         return;
     }
     // The first question to the monitor may take long: a model is made when it is answered or given up.
     const auto probe = QSharedPointer<ZrDispatch>::create(QStringLiteral("probe ") + id, id);
     d->entries.back().probe = probe;
-    probe->post(nullptr, [this, info, id] {
+    probe->post(nullptr, [this, info] {
         MonitorLink::of(*info).probeColorMode();
-        ZrDispatch::main()->post(this, [this, id] { d->construct(id); });
+        ZrDispatch::main()->post(this, [this, info] { d->construct(info); });
     });
 }
 

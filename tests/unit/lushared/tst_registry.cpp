@@ -1,17 +1,20 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "SimulatedBed.h"
 
+#include <ddc/Bus.h>
 #include <lushared/LuHostOptions.h>
 #include <lushared/LuModelHost.h>
 #include <lushared/LuMonitorRegistry.h>
 #include <panelcore/MonitorLink.h>
 
 #include <QElapsedTimer>
+#include <QSemaphore>
 #include <QSignalSpy>
 #include <QTest>
 
 #include <algorithm>
 #include <initializer_list>
+#include <thread>
 
 namespace {
 
@@ -23,15 +26,16 @@ struct Plug
     {
     }
 
-    QSharedPointer<MonitorInfo> info()
+    QSharedPointer<MonitorInfo> info(std::unique_ptr<ddc::Bus> bus = nullptr)
     {
         MonitorDescription description;
         description.id = monitor->model() + QLatin1Char('@') + monitor->serial();
         description.modelName = monitor->model();
         description.serialNumber = monitor->serial();
         description.builtIn = monitor->isBuiltIn();
-        return MonitorLink::create(description, monitor->isBuiltIn() ? nullptr : monitor->makeBus(),
-                                   MonitorLink::Waits::None);
+        if (!bus && !monitor->isBuiltIn())
+            bus = monitor->makeBus();
+        return MonitorLink::create(description, std::move(bus), MonitorLink::Waits::None);
     }
 
     quint64 lastSeen() const
@@ -63,6 +67,31 @@ void meet(std::initializer_list<Plug*> plugs)
     LuHostOptions::instance().launching = true; // the next start
 }
 
+/// A transfer that hangs until the test lets it end in nothing.
+struct Hang
+{
+    QSemaphore begun;
+    QSemaphore end;
+};
+
+class HeldBus : public ddc::Bus
+{
+public:
+    explicit HeldBus(std::shared_ptr<Hang> hang) : m_hang(std::move(hang)) {}
+
+    ddc::BusStatus write(std::uint8_t, std::span<const std::uint8_t>) override
+    {
+        m_hang->begun.release();
+        m_hang->end.acquire();
+        return ddc::BusStatus::Gone;
+    }
+    ddc::BusStatus read(std::uint8_t, std::span<std::uint8_t>) override { return ddc::BusStatus::Gone; }
+    std::string name() const override { return "held"; }
+
+private:
+    const std::shared_ptr<Hang> m_hang;
+};
+
 } // namespace
 
 class TestRegistry : public QObject
@@ -80,6 +109,7 @@ private Q_SLOTS:
     void removedMonitorGivesWayToAnother();
     void monitorThatHangsDoesNotDelayAnother();
     void monitorRemovedWhileItIsAskedLeavesNothing();
+    void monitorPluggedAnewWhileItIsAskedComesOnce();
     void onlyTheLaunchRestores();
     void whatComesAfterTheSearchIsOnlyRead();
     void whatTheSearchFindsLateIsRestoredToo();
@@ -268,6 +298,33 @@ void TestRegistry::monitorRemovedWhileItIsAskedLeavesNothing()
     QVERIFY(waitForRest());
     QVERIFY(registry.monitors().isEmpty());
     QVERIFY(!registry.isBusy());
+}
+
+void TestRegistry::monitorPluggedAnewWhileItIsAskedComesOnce()
+{
+    LuMonitorRegistry registry;
+    registry.addPackage(TestBed::instance().package());
+    QSignalSpy added(&registry, &LuMonitorRegistry::monitorAdded);
+    Plug plug(QStringLiteral("TK10"), QStringLiteral("R14"));
+    const auto hang = std::make_shared<Hang>();
+    QSharedPointer<MonitorInfo> info = plug.info(std::make_unique<HeldBus>(hang));
+    const QWeakPointer<MonitorInfo> gone = info;
+    registry.addMonitor(info);
+    info.reset();
+    hang->begun.acquire();
+    QVERIFY(registry.removeMonitor(QStringLiteral("TK10@R14")));
+    // What the first handle still tells comes when the second one is being asked.
+    registry.addMonitor(plug.info());
+    while (plug.monitor->traffic().isEmpty())
+        std::this_thread::yield();
+    hang->end.release();
+    QTRY_VERIFY(gone.isNull());
+    QTRY_VERIFY(!registry.isBusy());
+    QVERIFY(waitForRest());
+    QCOMPARE(added.count(), 1);
+    QCOMPARE(registry.monitors().size(), 1);
+    QVERIFY(registry.current()->colorMode());
+    registry.shutDown();
 }
 
 void TestRegistry::onlyTheLaunchRestores()
