@@ -37,10 +37,11 @@ function(lumen_test)
     list(APPEND T_ENVIRONMENT QML_DISABLE_DISK_CACHE=1)
   endif()
   add_test(NAME ${T_NAME} COMMAND ${T_NAME} ${T_ARGS})
+  # die_after_fork: QProcess forks with shared memory, which the thread sanitizer takes for a fork of the test itself.
   set(home ${CMAKE_BINARY_DIR}/home/${T_NAME})
   file(MAKE_DIRECTORY ${home})
   set_tests_properties(${T_NAME} PROPERTIES TIMEOUT ${T_TIMEOUT} LABELS "${T_LABELS}"
-    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;HOME=${home};XDG_CONFIG_HOME=${home}/config;XDG_DATA_HOME=${home}/data;XDG_CACHE_HOME=${home}/cache;QT_LOGGING_RULES=qt.qpa.*=false;LC_ALL=C.UTF-8;TSAN_OPTIONS=ignore_noninstrumented_modules=1 history_size=7 exitcode=66 suppressions=${PROJECT_SOURCE_DIR}/tests/support/tsan.supp;ASAN_OPTIONS=detect_stack_use_after_return=1 suppressions=${PROJECT_SOURCE_DIR}/tests/support/asan.supp;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/lsan.supp print_suppressions=0;UBSAN_OPTIONS=print_stacktrace=1;QSG_RENDER_LOOP=basic;${T_ENVIRONMENT}")
+    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;HOME=${home};XDG_CONFIG_HOME=${home}/config;XDG_DATA_HOME=${home}/data;XDG_CACHE_HOME=${home}/cache;QT_LOGGING_RULES=qt.qpa.*=false;LC_ALL=C.UTF-8;TSAN_OPTIONS=ignore_noninstrumented_modules=1 history_size=7 die_after_fork=0 exitcode=66 suppressions=${PROJECT_SOURCE_DIR}/tests/support/tsan.supp;ASAN_OPTIONS=detect_stack_use_after_return=1 suppressions=${PROJECT_SOURCE_DIR}/tests/support/asan.supp;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/lsan.supp print_suppressions=0;UBSAN_OPTIONS=print_stacktrace=1;QSG_RENDER_LOOP=basic;${T_ENVIRONMENT}")
   if(T_RUN_SERIAL)
     set_tests_properties(${T_NAME} PROPERTIES RUN_SERIAL ON)
   endif()
