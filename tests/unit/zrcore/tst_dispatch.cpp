@@ -55,6 +55,7 @@ private Q_SLOTS:
     void removeDropsTheKeyOnly();
     void removeMayWaitForTheRunningJob();
     void removeFromTheJobDoesNotWait();
+    void jobWaitsOrRunsUntilItHasEnded();
     void droppedFunctionsEndOutsideTheLock();
     void closeDropsAndWaits();
     void closeEndsAPause();
@@ -371,6 +372,9 @@ void tst_dispatch::removeMayWaitForTheRunningJob()
         ended = true;
     });
     QVERIFY(gate.waitUntilReached());
+    QVERIFY(queue->isRunning(nullptr, u"a"_s));
+    QVERIFY(!queue->isRunning(nullptr, u"other"_s));
+    QVERIFY(!queue->isRunning(this, u"a"_s));
     queue->remove(nullptr, u"a"_s, false);
     QVERIFY(!ended);
     queue->remove(nullptr, u"other"_s, true);
@@ -383,6 +387,21 @@ void tst_dispatch::removeMayWaitForTheRunningJob()
     gate.open();
     remover.join();
     QVERIFY(endedBefore);
+}
+
+void tst_dispatch::jobWaitsOrRunsUntilItHasEnded()
+{
+    const auto queue = makeQueue();
+    for (int round = 0; round < 200; ++round) {
+        std::atomic<bool> ended = false;
+        queue->postUnique(this, u"a"_s, [&] { ended = true; });
+        while (!ended) {
+            // Asked in the order of its life, so that it cannot slip past.
+            const bool known = queue->has(this, u"a"_s) || queue->isRunning(this, u"a"_s);
+            QVERIFY(known || ended);
+        }
+        QTRY_VERIFY(!queue->isRunning(this, u"a"_s));
+    }
 }
 
 void tst_dispatch::removeFromTheJobDoesNotWait()
