@@ -77,9 +77,8 @@ public:
                    m_manager.output();
         for (const auto& [name, title] :
              {std::pair(u"out_a"_s, u"Alpha"_s), std::pair(u"out_b"_s, u"Beta"_s)}) {
-            if (!runTool(u"pactl"_s, {u"load-module"_s, u"module-null-sink"_s, u"sink_name="_s + name,
-                                      u"sink_properties=device.description="_s + title}))
-                return u"an output cannot be made"_s;
+            if (!addOutput(name, title))
+                return u"an output cannot be made: "_s + m_manager.output();
         }
         return {};
     }
@@ -94,6 +93,29 @@ public:
     }
 
 private:
+    /// An output that can become the default. The session manager may overlook one that comes while it still
+    /// starts; then it is made once more.
+    static bool addOutput(const QString& name, const QString& title)
+    {
+        for (int attempt = 1; attempt <= 5; ++attempt) {
+            QString module;
+            if (!runTool(u"pactl"_s,
+                         {u"load-module"_s, u"module-null-sink"_s, u"sink_name="_s + name,
+                          u"sink_properties=device.description="_s + title},
+                         &module))
+                return false;
+            const auto isDefault = [&name] {
+                QString output;
+                return runTool(u"pactl"_s, {u"set-default-sink"_s, name}) &&
+                       runTool(u"pactl"_s, {u"get-default-sink"_s}, &output) && output.trimmed() == name;
+            };
+            if (QTest::qWaitFor(isDefault, 5000 * attempt))
+                return true;
+            runTool(u"pactl"_s, {u"unload-module"_s, module.trimmed()});
+        }
+        return false;
+    }
+
     ServerProcess m_pipeWire;
     ServerProcess m_pulse;
     ServerProcess m_manager;

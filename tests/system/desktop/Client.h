@@ -22,7 +22,7 @@ public:
                                  QString::number(shadow.left()), QString::number(shadow.right()),
                                  QString::number(shadow.top()), QString::number(shadow.bottom())}))
                 return false;
-            if (QTest::qWaitFor([this] { return window() != 0; }, 3000))
+            if (QTest::qWaitFor([this] { return window() != 0; }, 3000 * (attempt + 1)))
                 return true;
             stop();
         }

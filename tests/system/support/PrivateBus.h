@@ -3,6 +3,7 @@
 
 #include "ServerProcess.h"
 
+#include <QDBusConnection>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -24,7 +25,7 @@ public:
         return m_daemon.start(
             QStringLiteral("dbus-daemon"),
             {QStringLiteral("--nofork"), QStringLiteral("--config-file"), configuration.fileName()},
-            [this] { return QFile::exists(m_folder.filePath(QStringLiteral("bus"))); });
+            [this] { return answers(); });
     }
 
     QString address() const
@@ -35,6 +36,15 @@ public:
     void stop() { m_daemon.stop(); }
 
 private:
+    /// Its socket is there before it listens.
+    bool answers() const
+    {
+        const QString probe = QStringLiteral("lumen-desk-probe");
+        const bool connected = QDBusConnection::connectToBus(address(), probe).isConnected();
+        QDBusConnection::disconnectFromBus(probe);
+        return connected;
+    }
+
     QTemporaryDir m_folder;
     ServerProcess m_daemon;
 };

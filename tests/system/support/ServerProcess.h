@@ -26,12 +26,12 @@ public:
 
     /// Starts a program and waits until it serves. Empty on success, else what went wrong.
     QString start(const QString& program, const QStringList& arguments, const std::function<bool()>& serves,
-                  int milliseconds = 30'000)
+                  int milliseconds = 120'000)
     {
         m_process.setProcessChannelMode(QProcess::MergedChannels);
         m_process.setProcessEnvironment(environment);
         m_process.start(program, arguments);
-        if (!m_process.waitForStarted())
+        if (!m_process.waitForStarted(120'000))
             return program + QStringLiteral(" cannot be started: ") + m_process.errorString();
         const bool up = QTest::qWaitFor([&] { return m_process.state() == QProcess::NotRunning || serves(); },
                                         milliseconds);
@@ -84,7 +84,7 @@ inline bool runTool(const QString& program, const QStringList& arguments, QStrin
     // The event loop goes on, since the tool may speak with the test itself.
     const bool ended = QTest::qWaitFor(
         [&] { return process.state() == QProcess::NotRunning && process.error() != QProcess::Timedout; },
-        30'000);
+        120'000);
     if (output)
         *output = QString::fromLocal8Bit(process.readAll());
     return ended && process.exitStatus() == QProcess::NormalExit &&
