@@ -4,11 +4,8 @@
 #include "DeskProcess.h"
 
 #include <QClipboard>
-#include <QDateTime>
 #include <QElapsedTimer>
 #include <QMimeData>
-
-#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -50,7 +47,7 @@ private Q_SLOTS:
     void contentGoesFromProgramToProgram_data();
     void contentGoesFromProgramToProgram();
     void nothingSelectedKeepsBoth();
-    void pasteTwiceIsOnePaste(); // last: it stops the program's clock
+    void pasteTwiceIsOnePaste();
 
 private:
     ControlClient& client() { return m_desk.client(); }
@@ -74,16 +71,6 @@ private:
         }
         return values;
     }
-    /// Moves the program's clock, which stands still from the first call on.
-    bool pass(int ms)
-    {
-        if (!std::exchange(m_clockStands, true) &&
-            !client()
-                 .call(u"clock.set"_s, {{u"time"_s, QDateTime::currentDateTime().toString(Qt::ISODate)}})
-                 .ok())
-            return false;
-        return client().call(u"clock.advance"_s, {{u"ms"_s, ms}}).ok();
-    }
     int used(const QString& word)
     {
         int count = 0;
@@ -105,14 +92,32 @@ private:
     {
         QElapsedTimer elapsed;
         elapsed.start();
-        while (elapsed.elapsed() < 20'000) {
+        while (elapsed.elapsed() < PatienceMs) {
             const qsizetype before = program.lines(u"pasted "_s).size();
             chord({Ctrl}, KeyV);
             ++m_pastes;
-            if (!QTest::qWaitFor([&] { return program.lines(u"pasted "_s).size() > before; }, 5000))
+            if (!QTest::qWaitFor([&] { return program.lines(u"pasted "_s).size() > before; }, PatienceMs))
                 return false;
             if (program.lines(u"pasted "_s).last() == content)
                 return true;
+        }
+        return false;
+    }
+
+    /// The second clipboard's paste gives that content, once. A program that is too slow to fetch it in its
+    /// time gets something else; then it is tried again.
+    template <class Program>
+    bool pastes(Program& program, const QString& content, const QString& users)
+    {
+        for (int attempt = 0; attempt < 10; ++attempt) {
+            const qsizetype before = program.lines(u"pasted "_s).size();
+            chord({Ctrl, Shift}, KeyV);
+            if (!QTest::qWaitFor([&] { return program.lines(u"pasted "_s).size() > before; }, PatienceMs))
+                return false;
+            if (program.lines(u"pasted "_s).mid(before) == QStringList{content})
+                return true;
+            if (!usersContentIsBack(program, users))
+                return false;
         }
         return false;
     }
@@ -121,7 +126,6 @@ private:
     DeskProcess m_desk;
     Client m_typist;
     int m_pastes = 0; ///< Ordinary ones.
-    bool m_clockStands = false;
 };
 
 /// A program with a selection.
@@ -305,9 +309,7 @@ void TestDesktopShortcuts::contentGoesFromProgramToProgram()
 
     QVERIFY(focus(target.window()));
     QVERIFY(usersContentIsBack(target, describe(own.get())));
-    const qsizetype before = target.lines(u"pasted "_s).size();
-    chord({Ctrl, Shift}, KeyV);
-    QTRY_COMPARE(target.lines(u"pasted "_s).mid(before), QStringList{describe(expected.get())});
+    QVERIFY(pastes(target, describe(expected.get()), describe(own.get())));
     QVERIFY(usersContentIsBack(target, describe(own.get())));
     QCOMPARE((source.lines(u"key "_s) + target.lines(u"key "_s)).join(u' '), QString());
 }
@@ -327,8 +329,7 @@ void TestDesktopShortcuts::nothingSelectedKeepsBoth()
     const int copies = used(u"extra_copy"_s);
     chord({Ctrl, Shift}, KeyC);
     QTRY_COMPARE(used(u"extra_copy"_s), copies + 1);
-    chord({Ctrl, Shift}, KeyV);
-    QTRY_COMPARE(empty.lines(u"pasted "_s), QStringList{u"text=first"_s});
+    QVERIFY(pastes(empty, u"text=first"_s, u"text=mine"_s));
     QVERIFY(usersContentIsBack(empty, u"text=mine"_s));
 }
 
@@ -341,20 +342,23 @@ void TestDesktopShortcuts::pasteTwiceIsOnePaste()
     chord({Ctrl, Shift}, KeyC);
     QTRY_COMPARE(program.lines(u"copied"_s).size(), 1);
     QVERIFY(usersContentIsBack(program, u"text=mine"_s));
-    const qsizetype before = program.lines(u"pasted "_s).size();
-    const int pastes = m_pastes;
-    // However slow this computer is, no time passes between the two.
-    QVERIFY(pass(0));
-    const int presses = used(u"extra_paste"_s);
-    chord({Ctrl, Shift}, KeyV);
-    chord({Ctrl, Shift}, KeyV);
-    QTRY_COMPARE(used(u"extra_paste"_s), presses + 2);
-    QVERIFY(pass(100));
-    QTRY_COMPARE(program.lines(u"pasted "_s).size(), before + 1);
-    QVERIFY(pass(300));
-    QVERIFY(usersContentIsBack(program, u"text=mine"_s));
-    // A second extra paste would have come before it.
-    QCOMPARE(program.lines(u"pasted "_s).size(), before + 1 + m_pastes - pastes);
+    for (bool atOnce = false; !atOnce;) {
+        const qsizetype before = program.lines(u"pasted "_s).size();
+        const int ordinary = m_pastes;
+        const int presses = used(u"extra_paste"_s);
+        QElapsedTimer elapsed;
+        elapsed.start();
+        chord({Ctrl, Shift}, KeyV);
+        chord({Ctrl, Shift}, KeyV);
+        // On a busy computer they may lie further apart than a paste takes.
+        atOnce = elapsed.elapsed() < 100;
+        QTRY_COMPARE(used(u"extra_paste"_s), presses + 2);
+        QTRY_VERIFY(program.lines(u"pasted "_s).size() > before);
+        QVERIFY(usersContentIsBack(program, u"text=mine"_s));
+        // A second extra paste would have come before it.
+        if (atOnce)
+            QCOMPARE(program.lines(u"pasted "_s).size(), before + 1 + m_pastes - ordinary);
+    }
 }
 
 DESKTOP_MAIN(TestDesktopShortcuts)
