@@ -44,6 +44,7 @@ private Q_SLOTS:
     void pressesCountFromWhatWasAskedForLast();
     void aStepEndsAMute();
     void aHeldMuteKeyTogglesOnce();
+    void mutePressedTwiceEndsWhereItBegan();
     void readBackTakesTheMonitorsVolume_data();
     void readBackTakesTheMonitorsVolume();
     void readBackTakesTheMonitorsMute_data();
@@ -445,6 +446,22 @@ void TestAudioVolume::aHeldMuteKeyTogglesOnce()
     QVERIFY(bed.idle());
     QCOMPARE(bed.flag("mute"), false);
     QCOMPARE(bed.told(), QStringList());
+}
+
+void TestAudioVolume::mutePressedTwiceEndsWhereItBegan()
+{
+    AudioBed bed;
+    bed.beginPlaying({{"displayVolume", 25}});
+    for (const int presses : {2, 3, 4}) {
+        const bool before = bed.flag("mute");
+        {
+            const HeldQueue held(bed.model());
+            for (int i = 0; i < presses; ++i)
+                QVERIFY(bed.press(LuShortcutAction::Volume_Mute));
+        }
+        QVERIFY(bed.idle());
+        QCOMPARE(bed.flag("mute"), before != (presses % 2 == 1));
+    }
 }
 
 void TestAudioVolume::readBackTakesTheMonitorsVolume_data()

@@ -4,6 +4,7 @@
 #include "LuFrequencyGainHash.h"
 
 #include <LuShared/LuMonitorModel.h>
+#include <ZrCore/ZrDispatch.h>
 
 #include <QDebug>
 #include <QKeyEvent>
@@ -123,10 +124,16 @@ void LuVolume::setMute(bool mute)
 {
     if (!m_volumeEnable || !model()->isModelSupported() || isSettled(SetMute, m_mute, mute))
         return;
+    m_muteAsked = mute;
     postUniqueAtFront(this, SetMute, [this, mute] {
         takeAsked(m_mute, mute, MuteKey, "[LuVolume] setMute:", &LuVolume::muteChanged,
                   [this, mute] { model()->setMute(mute, 0); });
     });
+}
+
+bool LuVolume::askedMute() const
+{
+    return dispatch()->has(const_cast<LuVolume*>(this), SetMute) ? m_muteAsked : m_mute;
 }
 
 LuSyncTasks* LuVolume::syncPeriodically()
@@ -231,7 +238,8 @@ bool LuVolume::toggleMute(const QKeyEvent& event)
 {
     if (!hasWidget() || event.isAutoRepeat() || !m_isCurrentAudioOutput)
         return false;
-    setMute(!m_mute);
+    // Pressed twice before the monitor has followed, the key ends where it began.
+    setMute(!askedMute());
     return true;
 }
 

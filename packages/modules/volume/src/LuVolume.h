@@ -109,6 +109,7 @@ private:
     // Volume and mute
     void changeVolume(int value, bool triggered, bool byShortcut);
     int askedVolume() const;
+    bool askedMute() const;
     void syncVolume(bool firstConnection);
     void syncMute();
     void fireVolume(LuDataCollection::TriggerSource source, const QString& event = {});
@@ -150,9 +151,10 @@ private:
     ZrShared<bool> m_isCurrentAudioOutput{false};
     /// The system's volume for jobs: the service itself belongs to the GUI thread.
     ZrShared<int> m_systemVolume;
-    ZrShared<int> m_asked{0};      ///< Volume of the latest setter call.
-    ZrShared<int> m_askedCalls{0}; ///< Number of that call.
-    ZrShared<int> m_takenCalls{0}; ///< Number of the call that last reached the monitor.
+    ZrShared<int> m_asked{0};          ///< Volume of the latest setter call.
+    ZrShared<int> m_askedCalls{0};     ///< Number of that call.
+    ZrShared<int> m_takenCalls{0};     ///< Number of the call that last reached the monitor.
+    ZrShared<bool> m_muteAsked{false}; ///< Of the latest mute job.
     /// A volume shortcut runs.
     ZrShared<bool> m_stepping{false};
     /// The next change of the outputs was asked for by the user.
