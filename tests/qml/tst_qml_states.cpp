@@ -26,6 +26,8 @@ private Q_SLOTS:
     void aControlHasANameAndARole_data();
     void aControlHasANameAndARole();
     void aDisabledGroupIsFadedOnce();
+    void whatIsDisabledIsDrawn_data();
+    void whatIsDisabledIsDrawn();
     void nothingIsCutInALargerFont();
     void theTabKeyReachesEveryControl();
 
@@ -77,7 +79,8 @@ QRectF TestStates::place(QQuickItem* item) const
 QImage TestStates::picture(QQuickItem* item) const
 {
     const QImage all = m_window->grabWindow();
-    const qreal ratio = all.devicePixelRatio();
+    // The picture does not always tell its own ratio.
+    const qreal ratio = qreal(all.width()) / m_window->width();
     const QRectF rect = place(item);
     return all.copy(QRectF(rect.topLeft() * ratio, rect.size() * ratio).toAlignedRect());
 }
@@ -248,6 +251,33 @@ void TestStates::aDisabledGroupIsFadedOnce()
     QTRY_COMPARE(opacity(u"grouped"_s), 0.3);
     item(u"group"_s)->setEnabled(true);
     QTRY_COMPARE(opacity(u"grouped"_s), 1.0);
+}
+
+void TestStates::whatIsDisabledIsDrawn_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const char* name : {"switch", "switchOn", "slider", "sliderUp", "button", "combo", "radioOn",
+                             "check", "grouped", "groupedSlider"})
+        QTest::newRow(name) << QString::fromLatin1(name);
+}
+
+void TestStates::whatIsDisabledIsDrawn()
+{
+    QFETCH(QString, name);
+    QQuickItem* control = item(name);
+    QVERIFY(control);
+    if (!name.startsWith(u"grouped"_s))
+        control->setEnabled(false);
+    // A first drawing makes what the second one shows.
+    (void)picture(control);
+    const QImage drawn = picture(control);
+    QImage empty = drawn;
+    empty.fill(m_window->color());
+    QVERIFY(drawn.convertToFormat(QImage::Format_RGB32) != empty.convertToFormat(QImage::Format_RGB32));
+    // Nor does it lie beside its place: its own middle line is not empty.
+    const QImage middle = drawn.copy(0, drawn.height() / 2, drawn.width(), 1);
+    QVERIFY(middle.convertToFormat(QImage::Format_RGB32) !=
+            empty.copy(middle.rect()).convertToFormat(QImage::Format_RGB32));
 }
 
 void TestStates::nothingIsCutInALargerFont()

@@ -36,7 +36,7 @@ T.Slider {
     snapMode: stepSize > 0 ? T.Slider.SnapAlways : T.Slider.NoSnap
     opacity: LuStyle.dim(control)
     // Faded as one picture: the line does not show through the knob.
-    layer.enabled: opacity < 1
+    layer.enabled: opacity < 1 && LuStyle.drawsLayers(GraphicsInfo.api, Screen.devicePixelRatio)
     onPressedChanged: {
         if (pressed) {
             valueBefore = value

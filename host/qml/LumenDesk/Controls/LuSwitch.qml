@@ -17,7 +17,7 @@ T.Switch {
     checked: confirmed ?? false
     hoverEnabled: true
     opacity: LuStyle.dim(control)
-    layer.enabled: opacity < 1
+    layer.enabled: opacity < 1 && LuStyle.drawsLayers(GraphicsInfo.api, Screen.devicePixelRatio)
 
     Accessible.role: Accessible.CheckBox
     Accessible.name: text

@@ -110,6 +110,12 @@ QtObject {
         return Math.round(size * Math.max(1, fontScale))
     }
 
+    // Whether an item can be drawn as one picture where a renderer draws on a screen of that many pixels a point: the
+    // software renderer puts such a picture beside its place on any but the coarsest.
+    function drawsLayers(api: int, ratio: real): bool {
+        return api !== GraphicsInfo.Software || ratio === 1
+    }
+
     // The opacity of an item by itself: full, or faded where it is disabled and nothing that it lies in is faded yet.
     // So a disabled group is faded once, whether the group does it or its items do.
     function dim(item: Item): real {

@@ -12,5 +12,5 @@ Column {
     spacing: LuStyle.spaceWide
     opacity: LuStyle.dim(group) < 1 ? fadedOpacity : 1
     // Faded as one picture: what lies behind a knob does not show through it.
-    layer.enabled: opacity < 1
+    layer.enabled: opacity < 1 && LuStyle.drawsLayers(GraphicsInfo.api, Screen.devicePixelRatio)
 }
