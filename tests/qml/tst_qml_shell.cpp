@@ -27,6 +27,7 @@ private Q_SLOTS:
     void aMissingWidgetFileIsLeftOutQuietly();
     void withoutAMonitorTheWindowSaysWhatToCheck();
     void aMonitorThatIsDeletedLeavesTheWindow();
+    void aMonitorThatGoesIsNotWrittenToAnyMore();
     void theWindowIsNarrowAndStandsAtTheLowerRightCorner();
     void thePageStandsBesideTheWindow();
     void thePageLiesOverTheWindowWhereThereIsNoRoom();
@@ -159,6 +160,20 @@ void TestShell::aMonitorThatIsDeletedLeavesTheWindow()
     m_second.reset();
     QTRY_VERIFY(!m_shell->widget("LuAiContrastWidget"));
     QTRY_VERIFY(m_shell->window()->property("empty").toBool());
+}
+
+void TestShell::aMonitorThatGoesIsNotWrittenToAnyMore()
+{
+    start({&*m_first});
+    m_shell->bridge->show();
+    QTRY_VERIFY(m_first->contrast.syncEnable);
+    // The widgets go with the next turn of the event loop, maybe after the monitor: their bindings go at
+    // once.
+    m_shell->context.setMonitors({});
+    QVERIFY(!m_first->contrast.syncEnable);
+    m_first->setIsCurrentModel(false);
+    m_first->setIsCurrentModel(true);
+    QVERIFY(!m_first->contrast.syncEnable);
 }
 
 void TestShell::theWindowIsNarrowAndStandsAtTheLowerRightCorner()

@@ -55,6 +55,8 @@ Column {
         hiddenBefore = Array.from(LuPreferences.hiddenWidgets)
         for (const widget of old) {
             widget.visible = false
+            // The widget itself goes later, maybe after its monitor: it writes nothing to it any more.
+            widget.bindingHost.release()
             widget.destroy()
         }
         const made = []
