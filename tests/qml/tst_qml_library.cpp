@@ -24,6 +24,8 @@ private Q_SLOTS:
     void aSliderSettlesOnlyOnAnotherValue();
     void anUprightSliderTakesKeysAndGain();
     void aKeyMovesASliderOfStopsByOne();
+    void keysMoveASliderAsFarAsTheySay_data();
+    void keysMoveASliderAsFarAsTheySay();
     void aCombinationIsAButtonWithItsKeys();
     void aRowsTitleOpensWhatARowHas();
     void aComboBoxFollowsTheMonitor();
@@ -31,6 +33,9 @@ private Q_SLOTS:
     void aComboBoxShowsAndTakesTheTextsForPeople();
     void aComboBoxRefusesAForbiddenEntry();
     void aComboBoxShowsNothingOfTheList();
+    void keysChooseInAComboBoxOnlyWhatMayBeChosen();
+    void theOpenListGivesNoForbiddenEntry();
+    void arrowKeysChooseTheNextRadioButton();
     void aSegmentIsChosenByPressAndArrow();
     void aSegmentFallsBackWhenTheMonitorDoesNotFollow();
     void aTimeIsShownOutsideItsRange();
@@ -135,6 +140,35 @@ void TestLibrary::aKeyMovesASliderOfStopsByOne()
     QCOMPARE(log(), (QStringList{u"stop 2.5"_s, u"stop 3.5"_s, u"stop 2.5"_s}));
 }
 
+void TestLibrary::keysMoveASliderAsFarAsTheySay_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<double>("value");
+    QTest::newRow("right") << u"Right"_s << 4.0;
+    QTest::newRow("left") << u"Left"_s << 2.0;
+    QTest::newRow("up") << u"Up"_s << 4.0;
+    QTest::newRow("down") << u"Down"_s << 2.0;
+    QTest::newRow("home") << u"Home"_s << 0.0;
+    QTest::newRow("end") << u"End"_s << 10.0;
+    QTest::newRow("page up") << u"PgUp"_s << 4.0;
+    QTest::newRow("page down") << u"PgDown"_s << 2.0;
+}
+
+void TestLibrary::keysMoveASliderAsFarAsTheySay()
+{
+    QFETCH(QString, key);
+    QFETCH(double, value);
+    QVERIFY(bridge().key(u"Level"_s, key).ok());
+    QCOMPARE(item("slider")->property("value").toDouble(), value);
+    QCOMPARE(log(), (QStringList{u"moved %1"_s.arg(value), u"settled %1"_s.arg(value)}));
+    // A long line has long pages.
+    item("slider")->setProperty("to", 100);
+    m_window->setProperty("held", 50);
+    QTRY_COMPARE(item("slider")->property("value").toDouble(), 50.0);
+    QVERIFY(bridge().key(u"Level"_s, u"PgUp"_s).ok());
+    QCOMPARE(item("slider")->property("value").toDouble(), 60.0);
+}
+
 void TestLibrary::aCombinationIsAButtonWithItsKeys()
 {
     QVERIFY(bridge().press(u"Switch to HDMI"_s, u"button"_s).ok());
@@ -192,6 +226,56 @@ void TestLibrary::aComboBoxShowsNothingOfTheList()
     m_window->setProperty("heldChoice", -1);
     QCOMPARE(item("combo")->property("currentIndex").toInt(), -1);
     QCOMPARE(item("combo")->property("displayText").toString(), QString());
+}
+
+void TestLibrary::keysChooseInAComboBoxOnlyWhatMayBeChosen()
+{
+    // The last entry is forbidden, and the second one is held.
+    for (const QString& key : {u"Down"_s, u"End"_s, u"C"_s, u"X"_s}) {
+        QVERIFY(bridge().key(u"Mode"_s, key).ok());
+        QCOMPARE(item("combo")->property("currentIndex").toInt(), 1);
+    }
+    QCOMPARE(log(), QStringList());
+    QVERIFY(bridge().key(u"Mode"_s, u"Up"_s).ok());
+    QVERIFY(bridge().key(u"Mode"_s, u"B"_s).ok());
+    QVERIFY(bridge().key(u"Mode"_s, u"Home"_s).ok());
+    QVERIFY(bridge().key(u"Mode"_s, u"End"_s).ok());
+    QCOMPARE(log(), (QStringList{u"combo 0"_s, u"combo 1"_s, u"combo 0"_s, u"combo 1"_s}));
+}
+
+void TestLibrary::theOpenListGivesNoForbiddenEntry()
+{
+    QVERIFY(bridge().key(u"Mode"_s, u"Space"_s).ok());
+    QTRY_VERIFY(item("combo")->property("opened").toBool());
+    QVERIFY(bridge().key(u"Mode"_s, u"Down"_s).ok());
+    QCOMPARE(item("combo")->property("highlightedIndex").toInt(), 2);
+    for (const QString& key : {u"Return"_s, u"Space"_s}) {
+        QVERIFY(bridge().key(u"Mode"_s, key).ok());
+        QVERIFY(item("combo")->property("opened").toBool());
+        QCOMPARE(log(), QStringList());
+    }
+    QVERIFY(bridge().key(u"Mode"_s, u"Up"_s).ok());
+    QVERIFY(bridge().key(u"Mode"_s, u"Up"_s).ok());
+    QVERIFY(bridge().key(u"Mode"_s, u"Return"_s).ok());
+    QTRY_VERIFY(!item("combo")->property("opened").toBool());
+    QCOMPARE(log(), QStringList{u"combo 0"_s});
+}
+
+void TestLibrary::arrowKeysChooseTheNextRadioButton()
+{
+    QVERIFY(bridge().key(u"Near"_s, u"Right"_s, u"radio"_s).ok());
+    QCOMPARE(log(), QStringList{u"far"_s});
+    QVERIFY(item("far")->hasActiveFocus() && item("far")->property("checked").toBool());
+    QVERIFY(!item("near")->property("checked").toBool());
+    // The last one has no neighbour.
+    QVERIFY(bridge().key(u"Far"_s, u"Down"_s, u"radio"_s).ok());
+    QVERIFY(item("far")->hasActiveFocus());
+    QVERIFY(bridge().key(u"Far"_s, u"Up"_s, u"radio"_s).ok());
+    QCOMPARE(log(), (QStringList{u"far"_s, u"near"_s}));
+    // Where texts run from the right, the next one stands on the left.
+    m_window->setProperty("mirrored", true);
+    QVERIFY(bridge().key(u"Near"_s, u"Left"_s, u"radio"_s).ok());
+    QCOMPARE(log().last(), u"far"_s);
 }
 
 void TestLibrary::aSegmentIsChosenByPressAndArrow()

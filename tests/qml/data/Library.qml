@@ -16,6 +16,7 @@ Window {
     property int held: 3
     property int heldChoice: 1
     property var monitor: null
+    property bool mirrored: false
 
     function note(what: string): void {
         log = log.concat([what])
@@ -27,6 +28,9 @@ Window {
     height: 900
     color: LuStyle.background
     visible: true
+
+    LayoutMirroring.enabled: mirrored
+    LayoutMirroring.childrenInherit: true
 
     QtObject {
         id: feature
@@ -97,6 +101,23 @@ Window {
             enabledOf: entry => entry.open
             confirmedIndex: window.heldChoice
             onActivated: index => window.note("combo " + index)
+        }
+        Row {
+            LuRadio {
+                objectName: "near"
+                text: "Near"
+                checked: true
+                onToggled: window.note("near")
+            }
+            LuRadio {
+                text: "Middle"
+                enabled: false
+            }
+            LuRadio {
+                objectName: "far"
+                text: "Far"
+                onToggled: window.note("far")
+            }
         }
         LuSegmented {
             objectName: "segmented"

@@ -65,6 +65,11 @@ T.RadioButton {
         visible: control.hovered && !control.down
         text: control.text
     }
+    Keys.forwardTo: [arrows]
+    LuChoiceKeys {
+        id: arrows
+        control: control
+    }
     LuConfirmedState {
         control: control
     }

@@ -62,6 +62,56 @@ T.ComboBox {
         return !allow || allow(entryAt(index)) === true
     }
 
+    function choose(index: int): void {
+        if (index < 0 || index === currentIndex)
+            return
+        currentIndex = index
+        activated(index)
+    }
+
+    // The nearest entry in one direction that may be chosen, or -1; `fits` says which ones are meant.
+    function neighbour(index: int, by: int, fits: var): int {
+        for (let each = index + by; each >= 0 && each < count; each += by) {
+            if (choosable(each) && (!fits || fits(labelAt(each))))
+                return each
+        }
+        return -1
+    }
+
+    // The next entry, round the list, that begins with a letter as it is shown.
+    function withLetter(letter: string): int {
+        const fits = label => label.toLocaleLowerCase().startsWith(letter.toLocaleLowerCase())
+        const after = neighbour(currentIndex, 1, fits)
+        return after >= 0 ? after : neighbour(-1, 1, fits)
+    }
+
+    // Return and space take the entry that is highlighted in the open list.
+    function takesForbidden(event: var): bool {
+        return opened && [Qt.Key_Return, Qt.Key_Enter, Qt.Key_Space].includes(event.key) && !choosable(highlightedIndex)
+    }
+
+    // The template knows nothing of entries that may not be chosen, nor of the texts that are shown.
+    Keys.onPressed: event => {
+        if (opened || event.modifiers & (Qt.ControlModifier | Qt.AltModifier | Qt.MetaModifier)) {
+            event.accepted = takesForbidden(event)
+            return
+        }
+        event.accepted = true
+        if (event.key === Qt.Key_Up)
+            choose(neighbour(currentIndex, -1, null))
+        else if (event.key === Qt.Key_Down)
+            choose(neighbour(currentIndex, 1, null))
+        else if (event.key === Qt.Key_Home)
+            choose(neighbour(-1, 1, null))
+        else if (event.key === Qt.Key_End)
+            choose(neighbour(count, -1, null))
+        else if (event.key > Qt.Key_Space && event.key < Qt.Key_Escape && event.text.length > 0)
+            choose(withLetter(event.text))
+        else
+            event.accepted = false
+    }
+    Keys.onReleased: event => event.accepted = takesForbidden(event)
+
     // Chooses the entry of that text, as a click on it does. False if there is none or it may not be chosen.
     function assistiveSet(wanted: var): bool {
         for (let index = 0; index < count; ++index) {

@@ -92,6 +92,11 @@ T.RadioButton {
         visible: control.hovered && !control.down && !control.showText
         text: control.text
     }
+    Keys.forwardTo: [arrows]
+    LuChoiceKeys {
+        id: arrows
+        control: control
+    }
     LuConfirmedState {
         control: control
     }

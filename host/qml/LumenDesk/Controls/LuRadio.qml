@@ -9,6 +9,8 @@ T.RadioButton {
 
     // What the monitor holds, where that is known: a press shows at once and falls back if the monitor does not follow.
     property var confirmed
+    // What holds the group among which the arrow keys move.
+    property alias group: arrows.group
 
     implicitWidth: contentItem.implicitWidth + leftPadding + rightPadding
     implicitHeight: Math.max(LuStyle.scaled(24), contentItem.implicitHeight)
@@ -74,6 +76,11 @@ T.RadioButton {
         repeatsName: true
         text: control.text
         verticalAlignment: Text.AlignVCenter
+    }
+    Keys.forwardTo: [arrows]
+    LuChoiceKeys {
+        id: arrows
+        control: control
     }
     LuConfirmedState {
         control: control

@@ -104,25 +104,15 @@ Rectangle {
                     color: segment.checked && LuStyle.highContrast ? LuStyle.accentInk : LuStyle.text
                     onImplicitHeightChanged: repeater.highest = Math.max(repeater.highest, implicitHeight + 8)
                 }
-                Keys.onRightPressed: event => control.step(segment, control.rightToLeft ? -1 : 1, event)
-                Keys.onLeftPressed: event => control.step(segment, control.rightToLeft ? 1 : -1, event)
+                Keys.forwardTo: [arrows]
+                LuChoiceKeys {
+                    id: arrows
+                    control: segment
+                }
                 LuConfirmedState {
                     control: segment
                 }
             }
         }
-    }
-
-    readonly property bool rightToLeft: LayoutMirroring.enabled
-
-    // The arrow keys go to the neighbour and choose it, as in any group of radio buttons.
-    function step(from: var, by: int, event: var): void {
-        const next = repeater.itemAt(from.index + by)
-        if (!next) {
-            event.accepted = false
-            return
-        }
-        next.forceActiveFocus(Qt.TabFocusReason)
-        next.assistivePress()
     }
 }

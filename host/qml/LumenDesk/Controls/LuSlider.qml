@@ -106,17 +106,38 @@ T.Slider {
         target: control
         property: "value"
     }
-    // The template knows its own step alone.
-    function stepByKey(by: int, event: var): void {
-        if (keyStep > 0)
-            assistiveStep(by)
-        else
+    // The template knows its own step alone, and the keys along the line.
+    function stepByKey(by: int, along: bool, event: var): void {
+        if (along && keyStep === 0)
             event.accepted = false
+        else
+            assistiveStep(by)
     }
-    Keys.onRightPressed: event => control.stepByKey(control.mirrored ? -1 : 1, event)
-    Keys.onLeftPressed: event => control.stepByKey(control.mirrored ? 1 : -1, event)
-    Keys.onUpPressed: event => control.stepByKey(1, event)
-    Keys.onDownPressed: event => control.stepByKey(-1, event)
+    Keys.onRightPressed: event => control.stepByKey(control.mirrored ? -1 : 1, control.horizontal, event)
+    Keys.onLeftPressed: event => control.stepByKey(control.mirrored ? 1 : -1, control.horizontal, event)
+    Keys.onUpPressed: event => control.stepByKey(1, !control.horizontal, event)
+    Keys.onDownPressed: event => control.stepByKey(-1, !control.horizontal, event)
+    Keys.onPressed: event => {
+        // A page is a tenth of the line.
+        const page = Math.max(1, Math.round((to - from) / 10 / step()))
+        switch (event.key) {
+        case Qt.Key_Home:
+            assistiveSet(from)
+            break
+        case Qt.Key_End:
+            assistiveSet(to)
+            break
+        case Qt.Key_PageUp:
+            assistiveStep(page)
+            break
+        case Qt.Key_PageDown:
+            assistiveStep(-page)
+            break
+        default:
+            return
+        }
+        event.accepted = true
+    }
 
     Timer {
         id: wait

@@ -59,6 +59,7 @@ LuPage {
         }
     }
     SettingsCard {
+        id: choices
         Accessible.role: Accessible.Grouping
         Accessible.name: page.title
         Repeater {
@@ -79,6 +80,7 @@ LuPage {
                         id: choice
                         anchors.left: parent.left
                         objectName: "source." + row.modelData.source
+                        group: choices
                         text: row.modelData.text
                         Accessible.description: row.modelData.description
                         confirmed: page.place.source === row.modelData.source

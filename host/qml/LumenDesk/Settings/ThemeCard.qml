@@ -30,6 +30,11 @@ T.RadioButton {
     function assistivePress(): void {
         clicked()
     }
+    Keys.forwardTo: [arrows]
+    LuChoiceKeys {
+        id: arrows
+        control: card
+    }
     Keys.onReturnPressed: card.assistivePress()
     Keys.onEnterPressed: card.assistivePress()
 
