@@ -12,7 +12,7 @@ LuPage {
 
     objectName: "arrangePage"
     title: qsTr("Arrange")
-    pageWidth: Math.round(300 * Math.max(1, LuStyle.fontScale))
+    pageWidth: 300
 
     LuLabel {
         width: page.width

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
+import LumenDesk
 import LumenDesk.Style
 
 // The details of a widget: a column below a title. The shell draws the title, the surface and the way out.
@@ -21,6 +22,12 @@ Column {
     property var snapshotOf: null
 
     spacing: LuStyle.spaceWide
+
+    // The choices for the left and the right of a screen or desk, in the order of the reading: a page that is mirrored
+    // has them at the same sides as any other.
+    function sides(left: var, right: var): var {
+        return LuContext.rightToLeft ? [right, left] : [left, right]
+    }
 
     Component.onCompleted: {
         snapshotOf = module

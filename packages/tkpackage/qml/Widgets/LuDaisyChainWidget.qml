@@ -35,7 +35,7 @@ LuBasicWidget {
     page: Component {
         LuPage {
             title: _self.text
-            pageWidth: Math.round(270 * Math.max(1, LuStyle.fontScale))
+            pageWidth: 270
             titleControl: Component {
                 LuSwitch {
                     objectName: "daisyChainSwitch"
@@ -61,7 +61,7 @@ LuBasicWidget {
                 kind: LuButton.Link
                 horizontalPadding: 0
                 text: qsTr("About Daisy Chain (MST)")
-                enabled: _self.aboutAddress.length > 0
+                visible: _self.aboutAddress.length > 0
                 onClicked: Qt.openUrlExternally(_self.aboutAddress)
             }
         }

@@ -86,7 +86,7 @@ LuBasicWidget {
             }
 
             title: _self.text
-            pageWidth: LuStyle.scaled(440)
+            pageWidth: 440
             titleControl: Component {
                 LuSwitch {
                     objectName: "shortcutsSwitch"

@@ -93,10 +93,8 @@ LuWidget {
             kvmOn: _self.kvmOn
             kvmTitle: qsTr("Smart KVM Basic")
             switchVisible: !LuContext.isLinux
-            locations: [
-                { "location": _self.leftSide, "name": qsTr("Left") },
-                { "location": _self.rightSide, "name": qsTr("Right") }
-            ]
+            locations: sides({ "location": _self.leftSide, "name": qsTr("Left") },
+                             { "location": _self.rightSide, "name": qsTr("Right") })
             explanation: qsTr("Orvane Smart KVM Basic makes multitasking effortless - use one keyboard and mouse to control two computers. With automatic switching when your cursor crosses the screen edge, you can work seamlessly across systems. Just install Lumen Desk 2 on both devices and enable PBP Mode to get started.")
         }
     }

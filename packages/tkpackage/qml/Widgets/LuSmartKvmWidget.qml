@@ -119,7 +119,7 @@ LuWidget {
             status: _self.status[1]
             // As LuKvm numbers the sides.
             locations: _self.isLandscape
-                       ? [{ "location": 0, "name": qsTr("Left") }, { "location": 1, "name": qsTr("Right") }]
+                       ? sides({ "location": 0, "name": qsTr("Left") }, { "location": 1, "name": qsTr("Right") })
                        : [{ "location": 2, "name": qsTr("Top") }, { "location": 3, "name": qsTr("Bottom") }]
         }
     }

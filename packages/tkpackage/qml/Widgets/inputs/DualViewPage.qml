@@ -24,7 +24,7 @@ LuPage {
     readonly property var current: monitor?.colorMode ?? null
 
     title: widget?.text ?? ""
-    pageWidth: Math.round(377 * Math.max(1, LuStyle.fontScale))
+    pageWidth: 377
     titleControl: Component {
         LuSwitch {
             objectName: "dualViewSwitch"
@@ -52,13 +52,15 @@ LuPage {
 
     LuPageGroup {
         enabled: page.widget?.active ?? false
-        // The names beside the picture, the lists below it: a mode's name needs half the page.
+        // The names beside the picture, the lists below it: a mode's name needs half the page. Each stands at the side
+        // of the screen that it is for, whatever the direction of the texts.
         Item {
             id: parts
             readonly property real side: (width - LuStyle.spaceHalf) / 2
             width: parent.width
             height: 96 + firstChoice.height
             LuLabel {
+                LayoutMirroring.enabled: false
                 anchors.left: parent.left
                 anchors.bottom: firstChoice.top
                 anchors.bottomMargin: LuStyle.spaceHalf
@@ -67,6 +69,7 @@ LuPage {
                 text: page.leftLabel
             }
             LuLabel {
+                LayoutMirroring.enabled: false
                 anchors.right: parent.right
                 anchors.bottom: secondChoice.top
                 anchors.bottomMargin: LuStyle.spaceHalf
@@ -104,7 +107,6 @@ LuPage {
             LuComboBox {
                 id: firstChoice
                 objectName: "dualViewLeft"
-                anchors.left: parent.left
                 anchors.bottom: parent.bottom
                 width: parts.side
                 text: page.leftLabel.replace(/\s*:\s*$/, "")
@@ -117,7 +119,7 @@ LuPage {
             LuComboBox {
                 id: secondChoice
                 objectName: "dualViewRight"
-                anchors.right: parent.right
+                x: parent.width - width
                 anchors.bottom: parent.bottom
                 width: parts.side
                 text: page.rightLabel.replace(/\s*:\s*$/, "")

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
+import LumenDesk
 import LumenDesk.Style
 import "../.."
 
@@ -12,6 +13,8 @@ Grid {
     readonly property real cell: Math.min(202, (width - columnSpacing) / 2)
 
     columns: 2
+    // Each stands where its window does, on a mirrored page too.
+    layoutDirection: LuContext.rightToLeft ? Qt.RightToLeft : Qt.LeftToRight
     columnSpacing: LuStyle.space
     rowSpacing: LuStyle.space
 

@@ -23,7 +23,7 @@ LuPage {
     property string explanation
 
     title: widget?.text ?? ""
-    pageWidth: Math.round(270 * Math.max(1, LuStyle.fontScale))
+    pageWidth: 270
 
     LuPageGroup {
         enabled: page.portsEnabled

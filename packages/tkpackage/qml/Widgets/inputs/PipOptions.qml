@@ -15,6 +15,7 @@ Column {
     spacing: LuStyle.space
 
     LuLabel {
+        anchors.left: parent.left
         kind: LuLabel.Strong
         text: qsTr("Sub size")
     }
@@ -39,11 +40,13 @@ Column {
         }
     }
     LuLabel {
+        anchors.left: parent.left
         topPadding: LuStyle.spaceHalf
         kind: LuLabel.Strong
         text: qsTr("Sub position")
     }
     Row {
+        anchors.left: parent.left
         spacing: LuStyle.spaceLarge
         Accessible.role: Accessible.Grouping
         Accessible.name: qsTr("Sub position")

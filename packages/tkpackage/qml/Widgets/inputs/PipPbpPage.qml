@@ -26,7 +26,7 @@ LuPage {
 
     title: widget?.text ?? ""
     module: widget?.pipPbp ?? null
-    pageWidth: Math.round((mode === LuPipPbp.PBP4 ? 372 : 296) * Math.max(1, LuStyle.fontScale))
+    pageWidth: mode === LuPipPbp.PBP4 ? 372 : 296
     titleControl: Component {
         LuSwitch {
             objectName: "pipPbpSwitch"
@@ -87,22 +87,25 @@ LuPage {
         spacing: LuStyle.space
         visible: page.active && (page.pipPbp?.isPbpMode ?? false) && (page.pipPbp?.pbpAudioSourceEnable ?? false)
         LuLabel {
+            anchors.left: parent.left
             kind: LuLabel.Strong
             text: qsTr("Audio Source")
         }
         Row {
+            anchors.left: parent.left
             spacing: LuStyle.spaceLarge
             Accessible.role: Accessible.Grouping
             Accessible.name: qsTr("Audio Source")
-            LuRadio {
-                text: qsTr("Left")
-                confirmed: page.pipPbp?.pbpAudioSource === LuPipPbp.AudioSourceMainWindow
-                onToggled: page.pipPbp.pbpAudioSource = LuPipPbp.AudioSourceMainWindow
-            }
-            LuRadio {
-                text: qsTr("Right")
-                confirmed: page.pipPbp?.pbpAudioSource === LuPipPbp.AudioSourceSubWindow
-                onToggled: page.pipPbp.pbpAudioSource = LuPipPbp.AudioSourceSubWindow
+            Repeater {
+                model: page.sides({ "window": LuPipPbp.AudioSourceMainWindow, "name": qsTr("Left") },
+                                  { "window": LuPipPbp.AudioSourceSubWindow, "name": qsTr("Right") })
+                LuRadio {
+                    required property var modelData
+
+                    text: modelData.name
+                    confirmed: page.pipPbp?.pbpAudioSource === modelData.window
+                    onToggled: page.pipPbp.pbpAudioSource = modelData.window
+                }
             }
         }
     }
