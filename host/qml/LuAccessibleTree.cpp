@@ -7,6 +7,7 @@
 #include <QQmlProperty>
 #include <QQuickItem>
 #include <QQuickWindow>
+#include <QRectF>
 #include <QUrl>
 
 #include <cmath>
@@ -50,8 +51,7 @@ double opacityOf(const QQuickItem* item)
 
 QJsonObject rectOf(const QQuickItem* item)
 {
-    const QRectF rect = item->mapRectToScene(QRectF(0, 0, item->width(), item->height()));
-    return {{u"x"_s, rect.x()}, {u"y"_s, rect.y()}, {u"width"_s, rect.width()}, {u"height"_s, rect.height()}};
+    return toJson(item->mapRectToScene(QRectF(0, 0, item->width(), item->height())));
 }
 
 void addValue(QJsonObject& node, const QQuickItem* item, const QString& role)
@@ -142,6 +142,11 @@ void visitRoots(QQuickItem* item, const Visit& visit)
 }
 
 } // namespace
+
+QJsonObject toJson(const QRectF& rect)
+{
+    return {{u"x"_s, rect.x()}, {u"y"_s, rect.y()}, {u"width"_s, rect.width()}, {u"height"_s, rect.height()}};
+}
 
 QString roleOf(QAccessibleInterface* interface)
 {

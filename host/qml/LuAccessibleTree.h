@@ -12,6 +12,7 @@ class QAccessibleInterface;
 class QObject;
 class QQuickItem;
 class QQuickWindow;
+class QRectF;
 
 /// Reads what the windows show from Qt's accessibility tree, as assistive software would. GUI thread only.
 namespace LuAccessibleTree {
@@ -23,6 +24,8 @@ struct Node
     QString role;
     QString name;
 };
+
+QJsonObject toJson(const QRectF& rect);
 
 /// The role as the control protocol names it; empty for parts that only hold others together.
 QString roleOf(QAccessibleInterface* interface);

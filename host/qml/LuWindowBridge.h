@@ -80,6 +80,9 @@ public:
     /// @param key as QKeySequence spells it, such as "Space" or "Ctrl+Right". An empty @p name means the
     /// control that has the focus.
     Result key(const QString& name, const QString& key, const QString& role = {}, const QString& within = {});
+    /// What has the keyboard: {"window","role","name","item": its object name,"rect", "marked": whether it shows
+    /// that, "seen": whether all of it, or as much as there is room for, can be seen}.
+    Result focus() const;
 
     Result windows() const;
     /// @param kind "press", "move", "release" or "click" of the left button.
@@ -121,6 +124,8 @@ private:
     static Result noWindow();
     static QString windowName(const QWindow* window);
     QQuickWindow* window() const;
+    /// The one that has the focus of the desktop, else the main window.
+    QQuickWindow* focusedWindow() const;
     QQuickItem* widgetItem(const QString& name) const;
     QQuickItem* openPagePanel() const;
     QList<QObject*> scopes(const QString& within) const;

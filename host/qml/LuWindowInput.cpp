@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "LuWindowBridge.h"
 
+#include "LuAccessibleTree.h"
+
+#include <QAccessible>
 #include <QCoreApplication>
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -10,9 +13,11 @@
 #include <QQuickItem>
 #include <QQuickWindow>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
-// Input that scripts send to the windows.
+// Input that scripts send to the windows, and where it goes.
 
 namespace {
 
@@ -28,7 +33,74 @@ void deliverKey(QQuickItem* item, QKeyEvent* event)
     }
 }
 
+bool isOfType(const QQuickItem* item, const char* type)
+{
+    return QByteArray(item->metaObject()->className()).startsWith(type);
+}
+
+// Whether a ring is drawn around the item, or a cursor stands in it.
+bool showsFocus(const QQuickItem* item)
+{
+    if (item->inherits("QQuickTextInput"))
+        return true;
+    const QList<QQuickItem*> children = item->childItems();
+    return std::any_of(children.cbegin(), children.cend(), [](const QQuickItem* child) {
+        return child->isVisible() && (isOfType(child, "LuFocusRing_QML") || showsFocus(child));
+    });
+}
+
+bool canBeSeen(const QQuickItem* item)
+{
+    constexpr double Slack = 1;
+    const QRectF place = item->mapRectToScene(QRectF(0, 0, item->width(), item->height()));
+    QRectF view(QPointF(), QSizeF(item->window()->size()));
+    for (const QQuickItem* above = item->parentItem(); above; above = above->parentItem()) {
+        if (above->clip() || above->inherits("QQuickFlickable"))
+            view = view.intersected(above->mapRectToScene(QRectF(0, 0, above->width(), above->height())));
+    }
+    const QRectF seen = place.intersected(view);
+    return seen.width() >= std::min(place.width(), view.width()) - Slack &&
+           seen.height() >= std::min(place.height(), view.height()) - Slack;
+}
+
 } // namespace
+
+QQuickWindow* LuWindowBridge::focusedWindow() const
+{
+    auto* focused = qobject_cast<QQuickWindow*>(QGuiApplication::focusWindow());
+    return focused ? focused : window();
+}
+
+LuWindowBridge::Result LuWindowBridge::focus() const
+{
+    QQuickWindow* target = focusedWindow();
+    if (!target)
+        return noWindow();
+    QQuickItem* item = target->activeFocusItem();
+    if (!item)
+        return failure(NoSuchThing, u"nothing has the focus"_s);
+    // A part of a control, such as the text of a number, speaks through the control.
+    QQuickItem* control = item;
+    QAccessibleInterface* interface = nullptr;
+    for (; control; control = control->parentItem()) {
+        interface = QAccessible::queryAccessibleInterface(control);
+        if (interface && !LuAccessibleTree::roleOf(interface).isEmpty() &&
+            !interface->text(QAccessible::Name).isEmpty())
+            break;
+    }
+    if (!control)
+        return failure(NoSuchThing, u"what has the focus has no name"_s);
+    const QRectF rect = control->mapRectToScene(QRectF(0, 0, control->width(), control->height()));
+    return {NoError,
+            {},
+            QJsonObject{{u"window"_s, windowName(target)},
+                        {u"role"_s, LuAccessibleTree::roleOf(interface)},
+                        {u"name"_s, interface->text(QAccessible::Name)},
+                        {u"item"_s, item->objectName()},
+                        {u"rect"_s, LuAccessibleTree::toJson(rect)},
+                        {u"marked"_s, showsFocus(control)},
+                        {u"seen"_s, canBeSeen(control)}}};
+}
 
 LuWindowBridge::Result LuWindowBridge::key(const QString& name, const QString& key, const QString& role,
                                            const QString& within)
@@ -38,8 +110,7 @@ LuWindowBridge::Result LuWindowBridge::key(const QString& name, const QString& k
         return failure(WrongValue, u"no such key: %1"_s.arg(key));
     QQuickItem* item = nullptr;
     if (name.isEmpty()) {
-        auto* focused = qobject_cast<QQuickWindow*>(QGuiApplication::focusWindow());
-        QQuickWindow* target = focused ? focused : window();
+        QQuickWindow* target = focusedWindow();
         if (!target)
             return noWindow();
         item = target->activeFocusItem() ? target->activeFocusItem() : target->contentItem();

@@ -90,7 +90,12 @@ LuWindowBridge::Result LuWindowBridge::openForPicture(const QString& name, Pictu
         panel();
         return {};
     }
-    if (name.startsWith("LuPopup"_L1)) {
+    // What a person has opened, such as a hint.
+    if (QQuickWindow* open = windowOfType(name)) {
+        picture->window = open;
+        return {};
+    }
+    if (name.startsWith("LuPopup"_L1) || name.endsWith("Popup"_L1)) {
         if (const Result result = openPopup(name); !result.ok())
             return result;
         picture->close = [this, name] { close(name); };

@@ -86,6 +86,8 @@ void addViewMethods(Dispatcher& dispatcher, const Bridge& bridge)
                          [bridge](const Request&) { return valueOf(needed(bridge).widgetInfos()); });
     dispatcher.addMethod(u"ui.windows"_s, {},
                          [bridge](const Request&) { return valueOf(needed(bridge).windows()); });
+    dispatcher.addMethod(u"ui.focus"_s, {},
+                         [bridge](const Request&) { return valueOf(needed(bridge).focus()); });
     dispatcher.addMethod(u"ui.frames"_s, {},
                          [bridge](const Request&) { return valueOf(needed(bridge).frames()); });
     dispatcher.addMethod(u"ui.problems"_s, {},

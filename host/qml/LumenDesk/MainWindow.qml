@@ -23,6 +23,9 @@ Window {
     readonly property bool empty: area.empty
     readonly property Window settingsWindow: settings.item as Window
     readonly property Window walkthroughWindow: introduction.item as Window
+    // What had the focus when the page was opened, and why.
+    property Item opener: null
+    property int openerReason: Qt.OtherFocusReason
     property bool movedByUser: false
     property var popupAccess: null
 
@@ -59,6 +62,11 @@ Window {
         if (!visible)
             movedByUser = false
     }
+    // The window has the desktop's focus again.
+    onActiveFocusItemChanged: {
+        if (activeFocusItem && opener && !pageOpen)
+            returnFocus()
+    }
     onHeightChanged: place()
     onWidthChanged: place()
     onFreeChanged: place()
@@ -78,10 +86,25 @@ Window {
     }
 
     function closePage(): void {
-        if (openWidget && visible)
-            openWidget.forceActiveFocus(Qt.OtherFocusReason)
+        const wasBeside = pageWindow?.active ?? false
         openPageComponent = null
         openWidget = null
+        if (!visible || !opener)
+            return
+        // Whoever was at work on the page goes on where it was opened.
+        if (wasBeside)
+            requestActivate()
+        else
+            returnFocus()
+    }
+
+    // The control gets the focus in the way in which it had it, so that its ring is there again.
+    function returnFocus(): void {
+        const control = opener
+        opener = null
+        control?.forceActiveFocus(openerReason)
+        if (control?.focusReason !== undefined)
+            control.focusReason = openerReason
     }
 
     // Opens the settings, at a page or section if one is named; false if there is none of that name.
@@ -143,7 +166,11 @@ Window {
     }
 
     function showPage(widget: Item, page: Component): void {
+        const control = activeFocusItem ?? opener
+        opener = null
         closePage()
+        opener = control
+        openerReason = control?.focusReason ?? Qt.OtherFocusReason
         const room = x - free.x >= LuStyle.pageWidth + 2 * LuStyle.space
         beside.active = Qt.binding(() => window.pageOpen && LuContext.canPlaceWindows && room)
         over.active = Qt.binding(() => window.pageOpen && !(LuContext.canPlaceWindows && room))
@@ -198,6 +225,9 @@ Window {
         clip: interactive
         T.ScrollBar.vertical: LuScrollBar { }
 
+        LuScrollToFocus {
+            view: body
+        }
         TapHandler {
             acceptedButtons: Qt.RightButton
             enabled: !window.empty
@@ -243,6 +273,7 @@ Window {
             mainWindow: window
             free: window.free
             page: window.openPageComponent
+            focusReason: window.openerReason
             onCloseRequested: window.closePage()
         }
     }
@@ -253,6 +284,8 @@ Window {
         sourceComponent: Component {
             PagePanel {
                 page: window.openPageComponent
+                covering: true
+                focusReason: window.openerReason
                 onCloseRequested: window.closePage()
                 Component.onCompleted: focusFirst()
             }

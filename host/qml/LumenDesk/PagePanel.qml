@@ -13,6 +13,10 @@ FocusScope {
 
     property Component page: null
     property real maximumHeight: 600
+    // The panel lies over the window's own controls: the tabulator stays inside.
+    property bool covering: false
+    // How the page was asked for: who came by the keyboard sees where it is.
+    property int focusReason: Qt.OtherFocusReason
     // A page says its title and may say its width.
     readonly property var content: loader.item
     // The sub-page that is shown in place of the page, or null.
@@ -41,9 +45,7 @@ FocusScope {
     // Keyboard users land on the first control of the page.
     function focusFirst(): void {
         forceActiveFocus()
-        const first = nextItemInFocusChain(true)
-        if (first)
-            first.forceActiveFocus(Qt.OtherFocusReason)
+        fence.stops(panel)[0]?.forceActiveFocus(focusReason)
     }
 
     // Leaves the sub-page; false if none is open.
@@ -93,6 +95,12 @@ FocusScope {
             anchors.fill: parent
         }
     }
+    LuFocusFence {
+        id: fence
+        around: panel
+        before: true
+        enabled: panel.covering
+    }
     Item {
         id: head
         width: parent.width
@@ -141,6 +149,8 @@ FocusScope {
 
     // One page, scrolling where the screen is low; while it is not shown it stands aside.
     component View: Flickable {
+        id: scroller
+
         property bool aside: false
         property int asideX: 0
 
@@ -157,6 +167,9 @@ FocusScope {
                 duration: LuStyle.motion
                 easing.type: Easing.OutCubic
             }
+        }
+        LuScrollToFocus {
+            view: scroller
         }
     }
     Item {
@@ -207,5 +220,9 @@ FocusScope {
                 }
             }
         }
+    }
+    LuFocusFence {
+        around: panel
+        enabled: panel.covering
     }
 }

@@ -10,6 +10,7 @@ Window {
 
     required property Window mainWindow
     property alias page: panel.page
+    property alias focusReason: panel.focusReason
     readonly property Item panelItem: panel
     // The room on the screen of the main window.
     required property rect free

@@ -49,6 +49,8 @@ Window {
         page = name
         visible = true
         requestActivate()
+        // The keyboard begins where the page was chosen.
+        nav.focusCurrent()
         return true
     }
 
@@ -94,6 +96,7 @@ Window {
             color: LuStyle.line
         }
         Flickable {
+            id: tabs
             anchors.fill: parent
             anchors.margins: LuStyle.spaceWide
             contentHeight: nav.implicitHeight
@@ -101,15 +104,22 @@ Window {
             interactive: contentHeight > height
             clip: true
             T.ScrollBar.vertical: LuScrollBar { }
+            LuScrollToFocus {
+                view: tabs
+            }
             Column {
                 id: nav
                 width: parent.width
                 spacing: 2
+                function entries(): var {
+                    return Array.from(children).filter(item => item instanceof SettingsTab && item.visible)
+                }
                 function moveFrom(tab: Item, step: int): void {
-                    const tabs = Array.from(children).filter(item => item instanceof SettingsTab && item.visible)
-                    const next = tabs[tabs.indexOf(tab) + step]
-                    if (next)
-                        next.forceActiveFocus(Qt.TabFocusReason)
+                    const all = entries()
+                    all[all.indexOf(tab) + step]?.forceActiveFocus(Qt.TabFocusReason)
+                }
+                function focusCurrent(): void {
+                    entries().find(tab => tab.checked)?.forceActiveFocus(Qt.OtherFocusReason)
                 }
                 Accessible.role: Accessible.List
                 Accessible.name: window.title
@@ -176,6 +186,9 @@ Window {
         interactive: contentHeight > height
         clip: true
         T.ScrollBar.vertical: LuScrollBar { }
+        LuScrollToFocus {
+            view: view
+        }
 
         Column {
             id: sheet

@@ -37,6 +37,19 @@ struct Part
     bool isWidget = false;
 };
 
+/// A window that a button of a page opens.
+struct Dialog
+{
+    const char* widget;
+    const char* button;
+    /// The type of its own window; empty where it lies over the main window.
+    const char* window;
+};
+constexpr Dialog Dialogs[] = {
+    {"LuShortcutsWidget", "Reset All Shortcuts", ""},
+    {"LuABPlusWidget", "Help", "LuHintWindow"},
+};
+
 /// Where a control or text stands in its window.
 struct Place
 {
@@ -45,6 +58,57 @@ struct Place
     double width = 0;
     double windowWidth = 0;
 };
+
+/// What names a side of the screen or the desk, and its opposite: it stays there on a mirrored page.
+struct Sides
+{
+    const char* role;
+    const char* left;
+    const char* right;
+};
+constexpr Sides SidePairs[] = {
+    {"radio", "Left", "Right"},
+    {"comboBox", "Left", "Right"},
+    {"comboBox", "Main", "Sub"},
+    {"comboBox", "Upper left", "Upper right"},
+    {"comboBox", "Lower left", "Lower right"},
+    {"image", "Left", "Right"},
+    {"image", "Main", "Sub"},
+    {"image", "Upper left", "Upper right"},
+    {"image", "Lower left", "Lower right"},
+    {"label", "Left: ", "Right: "},
+    {"label", "Left:", "Right:"},
+    {"label", "Main: ", "Sub: "},
+    {"label", "Main:", "Sub:"},
+};
+
+QString textOf(const char* role, const char* name)
+{
+    return u"%1 \"%2\""_s.arg(QString::fromUtf8(role), QString::fromUtf8(name));
+}
+
+/// Takes the sides out of @p places. @return those that lie the wrong way round.
+QStringList takeSides(QList<Place>& places)
+{
+    QStringList wrong;
+    for (const Sides& pair : SidePairs) {
+        const auto take = [&places](const QString& what) {
+            QList<double> lefts;
+            places.removeIf([&](const Place& place) {
+                if (place.what == what)
+                    lefts << place.left;
+                return place.what == what;
+            });
+            return lefts;
+        };
+        const QList<double> lefts = take(textOf(pair.role, pair.left));
+        const QList<double> rights = take(textOf(pair.role, pair.right));
+        if (lefts.size() != rights.size() ||
+            !std::equal(lefts.cbegin(), lefts.cend(), rights.cbegin(), std::less_equal()))
+            wrong << textOf(pair.role, pair.left);
+    }
+    return wrong;
+}
 
 void addPlaces(const QJsonValue& node, double windowWidth, QList<Place>& places)
 {
@@ -103,6 +167,9 @@ private Q_SLOTS:
     void everyLookIsReadable();
     void everyPageIsMirrored_data();
     void everyPageIsMirrored();
+    void sidesOfTheScreenStayWhereTheyAre_data();
+    void sidesOfTheScreenStayWhereTheyAre();
+    void aPageGrowsWithTheFontOnce();
     void noTextIsCut_data();
     void noTextIsCut();
     void theAuditFindsWhatIsWrong();
@@ -176,7 +243,8 @@ QList<Part> TestGallery::parts()
         if (row[u"shown"_s].toBool() && !row[u"popup"_s].toBool())
             list.append({row[u"widget"_s].toString(), true});
     }
-    for (const char* page : {"arrange", "general", "widgets", "location", "computers", "about", "diagnostics"})
+    for (const char* page :
+         {"arrange", "general", "widgets", "location", "computers", "about", "diagnostics"})
         list.append({QString::fromLatin1(page), false});
     const QStringList sections = QDir(QStringLiteral(SECTION_FOLDER)).entryList({u"Section*.qml"_s});
     for (const QString& file : sections)
@@ -204,7 +272,8 @@ QStringList TestGallery::popups(const QString& model) const
     const QStringList files = QDir(QStringLiteral(POPUP_FOLDER)).entryList({u"LuPopup*.qml"_s});
     for (const QString& file : files)
         names << file.chopped(4);
-    return names;
+    // Those that the program brings for all packages.
+    return names << u"LuNamePopup"_s << u"LuSchedulePopup"_s << u"LuActionSelectionPopup"_s;
 }
 
 void TestGallery::everythingIsDrawn_data()
@@ -262,6 +331,19 @@ void TestGallery::everythingIsDrawn()
             const QImage with = drawn(name);
             const QImage without = drawn(u"window"_s);
             QVERIFY2(with.size() != without.size() || differenceOf(without, with) > 10, qPrintable(name));
+        }
+        for (const Dialog& dialog : Dialogs) {
+            const QString widget = QString::fromUtf8(dialog.widget);
+            const QString button = QString::fromUtf8(dialog.button);
+            if (!client().call(u"ui.open"_s, {{u"widget"_s, widget}}).ok())
+                continue; // not every model has each
+            QVERIFY(client().call(u"ui.press"_s, {{u"name"_s, button}, {u"within"_s, widget}}).ok());
+            QVERIFY2(picture(widget + u"-dialog"_s, QString::fromUtf8(dialog.window)), qPrintable(button));
+            const bool answered =
+                client().call(u"ui.press"_s, {{u"name"_s, u"Cancel"_s}}).ok() ||
+                client().call(u"ui.press"_s, {{u"name"_s, button}, {u"within"_s, widget}}).ok();
+            QVERIFY2(answered, qPrintable(button));
+            QVERIFY(client().call(u"ui.close"_s, {{u"widget"_s, widget}}).ok());
         }
         const QJsonArray widgets = client().call(u"ui.widgets"_s).result.toArray();
         for (const QJsonValue& row : widgets) {
@@ -379,10 +461,14 @@ void TestGallery::compareMirrored(const QString& where, QStringList& found)
 {
     constexpr double Tolerance = 2;
     setLook(Look::Plain);
-    const QList<Place> plain = places();
+    QList<Place> plain = places();
     setLook(Look::Mirrored);
-    const QList<Place> mirrored = places();
+    QList<Place> mirrored = places();
     setLook(Look::Plain);
+    for (QList<Place>* list : {&plain, &mirrored}) {
+        for (const QString& wrong : takeSides(*list))
+            found << u"%1: %2 is not on the left"_s.arg(where, wrong);
+    }
     if (plain.size() != mirrored.size()) {
         found << u"%1: %2 parts became %3"_s.arg(where).arg(plain.size()).arg(mirrored.size());
         return;
@@ -413,6 +499,72 @@ void TestGallery::everyPageIsMirrored()
     openEverything(
         model, [&](const QString& name) { compareMirrored(name, found); }, found);
     found.removeDuplicates();
+    VERIFY_NONE(found);
+}
+
+void TestGallery::sidesOfTheScreenStayWhereTheyAre_data()
+{
+    QTest::addColumn<QString>("model");
+    for (const char* model : {"TK30Z", "TK40X"})
+        QTest::newRow(model) << QString::fromLatin1(model);
+}
+
+void TestGallery::sidesOfTheScreenStayWhereTheyAre()
+{
+    QFETCH(QString, model);
+    start(model);
+    const auto open = [this](const char* widget) {
+        return client().call(u"ui.open"_s, {{u"widget"_s, QString::fromLatin1(widget)}}).ok();
+    };
+    const auto set = [this](const QString& path, const QJsonValue& value) {
+        return client().call(u"set"_s, {{u"path"_s, path}, {u"value"_s, value}}).ok() &&
+               client().call(u"idle"_s).ok();
+    };
+    QStringList found;
+    QVERIFY(set(u"pipPbp.state"_s, true));
+    QVERIFY(open("LuPIPPBPWidget"));
+    int layouts = 0;
+    for (const char* layout : {"Half and half", "Four windows", "16 : 9 and 9 : 5", "Two to one",
+                               "Three to one", "Picture in picture"}) {
+        const QString name = QString::fromUtf8(layout);
+        if (!client().call(u"ui.press"_s, {{u"name"_s, name}, {u"role"_s, u"radio"_s}}).ok())
+            continue; // not every model has each
+        ++layouts;
+        QVERIFY(client().call(u"idle"_s).ok());
+        compareMirrored(name, found);
+    }
+    QVERIFY2(layouts >= 3, qPrintable(QString::number(layouts)));
+    for (const char* widget : {"LuSmartKvmBasicWidget", "LuDualViewWidget", "LuDualViewPlusWidget"}) {
+        if (open(widget))
+            compareMirrored(QString::fromLatin1(widget), found);
+    }
+    VERIFY_NONE(found);
+}
+
+void TestGallery::aPageGrowsWithTheFontOnce()
+{
+    constexpr double Scale = 1.5;
+    start(u"TK30Z"_s);
+    const auto width = [this](const QString& widget, double scale) {
+        const QString file = m_folder.absoluteFilePath(u"fontscale.png"_s);
+        (void)client().call(u"set"_s, {{u"path"_s, u"context.fontScale"_s}, {u"value"_s, scale}});
+        const bool drawn = client().call(u"ui.screenshot"_s, {{u"file"_s, file}, {u"widget"_s, widget}}).ok();
+        const int result = drawn ? QImage(file).width() : 0;
+        (void)QFile::remove(file);
+        return result;
+    };
+    QStringList found;
+    int pages = 0;
+    for (const Part& part : parts()) {
+        const int plain = part.isWidget || part.name == "arrange"_L1 ? width(part.name, 1) : 0;
+        if (plain == 0)
+            continue; // a tile without a page, or a page of the settings
+        ++pages;
+        const int large = width(part.name, Scale);
+        if (std::abs(large - plain * Scale) > 2)
+            found << u"%1: %2 becomes %3"_s.arg(part.name).arg(plain).arg(large);
+    }
+    QVERIFY(pages > 8);
     VERIFY_NONE(found);
 }
 

@@ -46,6 +46,10 @@ T.ItemDelegate {
         color: row.selected || row.checked ? LuStyle.accentSoft : row.down ? LuStyle.press : row.hovered && row.enabled ? LuStyle.hover : "transparent"
         border.width: (row.selected || row.checked) && LuStyle.highContrast ? 2 : 0
         border.color: LuStyle.focus
+        LuFocusRing {
+            control: row
+            gap: -2
+        }
     }
     contentItem: Item {
         Column {

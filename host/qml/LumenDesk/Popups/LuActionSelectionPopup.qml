@@ -26,6 +26,7 @@ LuSelectionWindow {
         model: popup.choices
         LuRadio {
             required property var modelData
+            anchors.left: parent?.left
             text: modelData.name
             checked: popup.chosen === modelData.title
             onClicked: popup.chosen = modelData.title

@@ -163,17 +163,29 @@ QtObject {
         return popup
     }
 
-    // Opens the popup `name` of the current monitor's package, as "LuPopupFlowNotify"; false if it has none.
+    // Opens the popup `name` of the current monitor's package, as "LuPopupFlowNotify", or one of this folder for
+    // something new; false if there is none.
     function openNamed(name: string): bool {
         const url = LuContext.packageFile("Popups/" + name + ".qml")
         if (!String(url))
-            return false
+            return openOwn(name)
         const title = Object.keys(editors).find(key => editors[key] === name)
         const popup = show(url, title ? {
             "monitor": LuContext.currentMonitor,
             "actionTitle": Number(title)
         } : { "monitor": LuContext.currentMonitor })
         return popup !== null
+    }
+
+    function openOwn(name: string): bool {
+        const monitor = LuContext.currentMonitor
+        const titles = Array.from(monitor?.flow?.actions ?? Object.keys(editors).map(Number))
+        const properties = {
+            "LuNamePopup": { "title": qsTr("Add a flow") },
+            "LuSchedulePopup": {},
+            "LuActionSelectionPopup": { "choices": titles.map(title => ({ "title": title, "name": actionName(monitor, title) })) }
+        }[name]
+        return properties !== undefined && show(name + ".qml", properties) !== null
     }
 
     function flowNames(flow: var): var {

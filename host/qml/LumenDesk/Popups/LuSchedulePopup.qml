@@ -90,6 +90,7 @@ LuSelectionWindow {
         text: popup.endMinute < popup.startMinute ? qsTr("Ends on the next day.") : popup.endMinute === popup.startMinute ? qsTr("Start and end are the same.") : ""
     }
     LuLabel {
+        anchors.left: parent?.left
         kind: LuLabel.Strong
         text: qsTr("Repeat")
     }

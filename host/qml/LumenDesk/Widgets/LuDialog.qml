@@ -47,38 +47,6 @@ FocusScope {
         close()
     }
 
-    // What the tabulator reaches below an item, in the order of the drawing.
-    function stops(item: Item): var {
-        let found = []
-        for (let i = 0; i < item.children.length; ++i) {
-            const child = item.children[i]
-            if (!child.visible || !child.enabled)
-                continue
-            if (child.activeFocusOnTab)
-                found.push(child)
-            found = found.concat(stops(child))
-        }
-        return found
-    }
-
-    // Focus goes round inside while the dialog is there.
-    function focusEnd(last: bool): void {
-        const all = stops(card)
-        const item = all[last ? all.length - 1 : 0]
-        if (item)
-            item.forceActiveFocus(last ? Qt.BacktabFocusReason : Qt.TabFocusReason)
-    }
-
-    // Stands before or after the card in the tabulator's way and sends it to the other end.
-    component Fence: Item {
-        property bool toLast: false
-        activeFocusOnTab: true
-        onActiveFocusChanged: {
-            if (activeFocus)
-                dialog.focusEnd(toLast)
-        }
-    }
-
     Keys.onEscapePressed: dialog.dismiss()
 
     readonly property bool still: LuStyle.motion === 0
@@ -115,8 +83,9 @@ FocusScope {
             onWheel: event => event.accepted = true
         }
     }
-    Fence {
-        toLast: true
+    LuFocusFence {
+        around: card
+        before: true
     }
     LuSurface {
         id: card
@@ -130,6 +99,7 @@ FocusScope {
         }
 
         Flickable {
+            id: sheet
             anchors.fill: parent
             anchors.topMargin: LuStyle.spaceLarge
             anchors.bottomMargin: LuStyle.spaceLarge
@@ -138,6 +108,9 @@ FocusScope {
             clip: interactive
             boundsBehavior: Flickable.StopAtBounds
             T.ScrollBar.vertical: LuScrollBar { }
+            LuScrollToFocus {
+                view: sheet
+            }
 
             Column {
                 id: column
@@ -197,5 +170,7 @@ FocusScope {
             }
         }
     }
-    Fence { }
+    LuFocusFence {
+        around: card
+    }
 }
