@@ -331,14 +331,26 @@ void TestWindowOffscreen::thePageOfWhatIsFocusedIsShown()
 
 void TestWindowOffscreen::theWindowStaysSmoothWhileTheMonitorHangs()
 {
-    // The longest turn of the GUI thread while a slider moves, in ms.
+    // The longest turn of the GUI thread while a slider moves and the window is drawn anew, in ms; 0 where
+    // nothing was drawn.
     const auto sweep = [this] {
+        constexpr int Frames = 20;
+        constexpr int MostMoves = 5000;
         (void)client().call(u"ui.frames"_s);
-        for (int value = 10; value < 70; ++value)
+        int drawn = 0;
+        double longest = 0;
+        for (int move = 0; drawn < Frames && move < MostMoves; ++move) {
             (void)client().call(
                 u"ui.setValue"_s,
-                {{u"name"_s, u"Brightness"_s}, {u"role"_s, u"slider"_s}, {u"value"_s, value}});
-        return client().call(u"ui.frames"_s).result[u"longestMs"_s].toDouble();
+                {{u"name"_s, u"Brightness"_s}, {u"role"_s, u"slider"_s}, {u"value"_s, 10 + move % 60}});
+            if (move % 10 != 9)
+                continue;
+            const QJsonValue measured = client().call(u"ui.frames"_s).result;
+            drawn += measured[u"frames"_s].toInt();
+            longest = std::max(
+                {longest, measured[u"longestMs"_s].toDouble(), measured[u"longestFrameMs"_s].toDouble()});
+        }
+        return drawn < Frames ? 0 : longest;
     };
     QVERIFY(
         client()
@@ -357,6 +369,7 @@ void TestWindowOffscreen::theWindowStaysSmoothWhileTheMonitorHangs()
     double hanging = sweep();
     for (int more = 0; hanging > limit && more < 9; ++more)
         hanging = std::min(hanging, sweep());
+    QVERIFY(hanging > 0);
     QVERIFY2(hanging <= limit, qPrintable(u"%1 ms, else %2 ms"_s.arg(hanging).arg(well)));
     QVERIFY(client().call(u"sim.fault"_s).ok());
 }
