@@ -179,7 +179,9 @@ QtObject {
 
     function openOwn(name: string): bool {
         const monitor = LuContext.currentMonitor
-        const titles = Array.from(monitor?.flow?.actions ?? Object.keys(editors).map(Number))
+        // Without flows every action that has an editor of its own.
+        const own = Object.keys(editors).filter((title, index, all) => all.findIndex(each => editors[each] === editors[title]) === index)
+        const titles = Array.from(monitor?.flow?.actions ?? own.map(Number))
         const properties = {
             "LuNamePopup": { "title": qsTr("Add a flow") },
             "LuSchedulePopup": {},
