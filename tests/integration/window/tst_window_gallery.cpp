@@ -333,6 +333,9 @@ void TestGallery::everythingIsDrawn()
             QVERIFY2(with.size() != without.size() || differenceOf(without, with) > 10, qPrintable(name));
         }
         for (const Dialog& dialog : Dialogs) {
+            // The pages behind them are drawn at twice the size anyway.
+            if (factor > 1)
+                break;
             const QString widget = QString::fromUtf8(dialog.widget);
             const QString button = QString::fromUtf8(dialog.button);
             if (!client().call(u"ui.open"_s, {{u"widget"_s, widget}}).ok())
