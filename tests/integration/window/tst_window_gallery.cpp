@@ -338,8 +338,11 @@ void TestGallery::everythingIsDrawn()
                 break;
             const QString widget = QString::fromUtf8(dialog.widget);
             const QString button = QString::fromUtf8(dialog.button);
-            if (!client().call(u"ui.open"_s, {{u"widget"_s, widget}}).ok())
+            const bool isThere = std::any_of(list.cbegin(), list.cend(),
+                                             [&](const Part& part) { return part.name == widget; });
+            if (!isThere)
                 continue; // not every model has each
+            QVERIFY(client().call(u"ui.open"_s, {{u"widget"_s, widget}}).ok());
             QVERIFY(client().call(u"ui.press"_s, {{u"name"_s, button}, {u"within"_s, widget}}).ok());
             QVERIFY2(picture(widget + u"-dialog"_s, QString::fromUtf8(dialog.window)), qPrintable(button));
             const bool answered =
