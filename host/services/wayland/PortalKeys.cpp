@@ -147,7 +147,9 @@ void PortalKeys::ask()
         m_asking = false;
         const QVariant version = answer.arguments().value(0).value<QDBusVariant>().variant();
         if (answer.type() != QDBusMessage::ReplyMessage || version.toUInt() < 1) {
-            qInfo() << "[LuPlatform] the desktop portal has no global keys";
+            // A portal that is being started may answer before it has its name, and is asked again then.
+            if (!std::exchange(m_isAbsenceTold, true))
+                qInfo() << "[LuPlatform] the desktop portal has no global keys";
             return;
         }
         const bool isNews = !std::exchange(m_offered, true);

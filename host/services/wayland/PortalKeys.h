@@ -66,6 +66,7 @@ private:
     bool m_started = false;
     bool m_offered = false;
     bool m_asking = false;
+    bool m_isAbsenceTold = false;
     std::function<void()> m_listener;
     int m_tokens = 0;
     QHash<QString, Next> m_requests;          ///< By the path of the portal's request object.
