@@ -202,6 +202,20 @@ protected:
         return true;
     }
 
+    /// As takeReported(), for a value that every colour mode has of its own: what a mode is found with is
+    /// kept also where it is what the member held in the mode before. Otherwise a launch in that mode would
+    /// restore what the member begins with. Queue.
+    template <class T, class Module>
+    bool takeReportedOfMode(ZrShared<T>& member, const std::type_identity_t<T>& value, const QString& setting,
+                            const char* text, void (Module::*changed)())
+    {
+        if (takeReported(member, value, setting, text, changed))
+            return true;
+        if (!hasModuleSetting(setting))
+            setModuleSetting(setting, storable(value));
+        return false;
+    }
+
     /// The current colour mode allows a function: there is a mode and @p accessor of its node says
     /// FunctionOn.
     template <class Accessor>

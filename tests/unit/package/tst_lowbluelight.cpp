@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "weather_bed.h"
 
+#include <QSemaphore>
+
 using namespace Qt::StringLiterals;
 using namespace weather_bed;
 
@@ -17,6 +19,18 @@ QString levelKey(Bed& bed)
 {
     return u"LuLowBlueLight/%1/level"_s.arg(bed.model().colorMode()->displayName());
 }
+
+/// Hears of a signal on the thread that emits it.
+class Told : public QObject
+{
+    Q_OBJECT
+
+public:
+    QSemaphore count;
+
+public Q_SLOTS:
+    void tell() { count.release(); }
+};
 
 } // namespace
 
@@ -37,6 +51,7 @@ private Q_SLOTS:
     void firstStepFromZeroSwitchesOn();
     void otherFunctionsReportTheirSteps();
     void circadianAtLevelZeroIsOn();
+    void theUsersLevelAfterTheScheduleStays();
     void circadianReportsItsMode_data();
     void circadianReportsItsMode();
     void readBackTakesTheMonitorsLevel();
@@ -216,6 +231,26 @@ void TestLowBlueLight::circadianAtLevelZeroIsOn()
     QCOMPARE(bed.get(Module, "state").toBool(), false);
     QCOMPARE(eventsOf(bed), (QStringList{u"LuLowBlueLight 15 off 0 []"_s, u"LuLowBlueLight 41 off 0 []"_s}));
     QVERIFY(bed.idle());
+}
+
+void TestLowBlueLight::theUsersLevelAfterTheScheduleStays()
+{
+    Bed bed;
+    bed.begin();
+    bed.turnOn(weather_bed::Manual);
+    QVERIFY(bed.idle());
+    QCOMPARE(bed.level(), 0);
+    // The schedule finds its next level on a thread of its own, and this one has not heard of it yet.
+    Told told;
+    QVERIFY(QObject::connect(bed.weather(), SIGNAL(lowBlueLightLevelChanged()), &told, SLOT(tell()),
+                             Qt::DirectConnection));
+    programClock().set(at("2026-03-10T16:00:00"));
+    QVERIFY(told.count.tryAcquire(1, 30'000));
+    bed.set(Module, "circadianState", false);
+    bed.set(Module, "level", 4);
+    QVERIFY(bed.idle());
+    QCOMPARE(bed.level(), 4);
+    QCOMPARE(int(*bed.monitor().value(LevelCode)), 4);
 }
 
 void TestLowBlueLight::circadianReportsItsMode_data()

@@ -66,7 +66,8 @@ void LuABPlus::loadSettings()
 
 void LuABPlus::applyValues()
 {
-    if (!m_sensorEnable)
+    // In a colour mode that nobody has used yet there is nothing to restore.
+    if (!m_sensorEnable || !hasModuleSetting(key(StateName)))
         return;
     if (m_state)
         qInfo() << "[LuABPlus] apply AB Plus mode:" << m_mode;
@@ -76,13 +77,14 @@ void LuABPlus::applyValues()
     Q_EMIT stateChanged();
     Q_EMIT modeChanged();
     qInfo() << "[LuABPlus] apply AB Plus sensitivity: " << m_sensitivity;
-    // A sensitivity out of its range that was never read or set is the monitor's own.
-    if (isSensitivity(m_sensitivity) || hasModuleSetting(key(SensitivityName)))
+    // What was never read or set is the monitor's own.
+    if (hasModuleSetting(key(SensitivityName)))
         setVCP(SensitivityCode, m_sensitivity);
     Q_EMIT sensitivityChanged();
     if (m_lightMeterEnable) {
         qInfo() << "[LuABPlus] apply AB Plus Light Meter: " << m_lightMeterState;
-        setVCP(LightMeterCode, m_lightMeterState ? 1 : 0);
+        if (hasModuleSetting(key(LightMeterName)))
+            setVCP(LightMeterCode, m_lightMeterState ? 1 : 0);
         Q_EMIT lightMeterStateChanged();
     }
     if (!m_previousState && !m_state)
@@ -160,14 +162,14 @@ void LuABPlus::syncState(LuSyncTasks* tasks, bool firstConnection)
     const bool on = value != 0;
     bool modeDiffers = false;
     if (on) {
-        modeDiffers = takeReported(m_mode, ABPlusMode(value), key(ModeName),
-                                   "[LuABPlus] sync AB Plus mode changed:", &LuABPlus::modeChanged);
+        modeDiffers = takeReportedOfMode(m_mode, ABPlusMode(value), key(ModeName),
+                                         "[LuABPlus] sync AB Plus mode changed:", &LuABPlus::modeChanged);
         tasks->addSubTask([this] { syncSensitivity(); });
         if (m_lightMeterEnable)
             tasks->addSubTask([this] { syncLightMeter(); });
     }
-    const bool stateDiffers = takeReported(m_state, on, key(StateName),
-                                           "[LuABPlus] sync AB Plus state changed:", &LuABPlus::stateChanged);
+    const bool stateDiffers = takeReportedOfMode(
+        m_state, on, key(StateName), "[LuABPlus] sync AB Plus state changed:", &LuABPlus::stateChanged);
     if (firstConnection && on)
         fireOnOff(LuDataCollection::SOURCE_FIRST_CONNECT);
     else if (stateDiffers)
@@ -180,8 +182,8 @@ void LuABPlus::syncSensitivity()
 {
     int value = 0;
     if (getVCP(SensitivityCode, value))
-        takeReported(m_sensitivity, value, key(SensitivityName),
-                     "[LuABPlus] sync AB Plus sensitivity changed:", &LuABPlus::sensitivityChanged);
+        takeReportedOfMode(m_sensitivity, value, key(SensitivityName),
+                           "[LuABPlus] sync AB Plus sensitivity changed:", &LuABPlus::sensitivityChanged);
 }
 
 void LuABPlus::syncLightMeter()
@@ -190,8 +192,8 @@ void LuABPlus::syncLightMeter()
     const bool read = getVCP(LightMeterCode, value);
     qInfo() << "[LuABPlus] get AB Light Meter: " << (value != 0);
     if (read)
-        takeReported(m_lightMeterState, value != 0, key(LightMeterName),
-                     "[LuABPlus] sync AB Plus Light Meter changed:", &LuABPlus::lightMeterStateChanged);
+        takeReportedOfMode(m_lightMeterState, value != 0, key(LightMeterName),
+                           "[LuABPlus] sync AB Plus Light Meter changed:", &LuABPlus::lightMeterStateChanged);
 }
 
 void LuABPlus::onFireUpdateSettingEventRequested(const QHash<QString, QVariant>& parameters,

@@ -88,7 +88,6 @@ Q_SIGNALS:
 
 private:
     QString key(const QString& name) const;
-    bool isSensitivity(int value) const { return value >= m_minSensitivity && value <= m_maxSensitivity; }
     int stateValue() const { return m_state ? int(m_mode.get()) : 0; }
     void syncState(LuSyncTasks* tasks, bool firstConnection);
     void syncSensitivity();

@@ -58,17 +58,19 @@ void LuABSetting::loadSettings()
 
 void LuABSetting::applyValues()
 {
-    if (!m_abSensorEnable)
+    // In a colour mode that nobody has used yet there is nothing to restore.
+    if (!m_abSensorEnable || !hasModuleSetting(key(StateName)))
         return;
     qInfo() << "[LuABSetting] apply AB state:" << m_currentAB;
     writeState();
     Q_EMIT currentABChanged();
     qInfo() << "[LuABSetting] apply Light Meter state:" << m_lightMeterState;
-    setVCP(LightMeterCode, m_lightMeterState ? 1 : 0);
+    // What was never read or set is the monitor's own.
+    if (hasModuleSetting(key(LightMeterName)))
+        setVCP(LightMeterCode, m_lightMeterState ? 1 : 0);
     Q_EMIT lightMeterStateChanged();
     qInfo() << "[LuABSetting] apply AB Sensitivity: " << m_sensitivity;
-    // A sensitivity out of its range that was never read or set is the monitor's own.
-    if ((m_sensitivity >= 0 && m_sensitivity <= m_maxSensitivity) || hasModuleSetting(key(SensitivityName)))
+    if (hasModuleSetting(key(SensitivityName)))
         setVCP(SensitivityCode, m_sensitivity);
     Q_EMIT sensitivityChanged();
     if (!m_previousAB && !m_currentAB)
@@ -135,8 +137,8 @@ void LuABSetting::syncState(LuSyncTasks* tasks, bool firstConnection)
     qInfo() << "[LuABSetting] get AB state";
     if (!read)
         return;
-    const bool differs = takeReported(m_currentAB, value != 0, key(StateName),
-                                      "[LuABSetting] sync AB changed:", &LuABSetting::currentABChanged);
+    const bool differs = takeReportedOfMode(m_currentAB, value != 0, key(StateName),
+                                            "[LuABSetting] sync AB changed:", &LuABSetting::currentABChanged);
     if (firstConnection && m_currentAB)
         fireOnOff(LuDataCollection::SOURCE_FIRST_CONNECT);
     else if (differs)
@@ -153,8 +155,9 @@ void LuABSetting::syncLightMeter()
     const bool read = getVCP(LightMeterCode, value);
     qInfo() << "[LuABSetting] get AB Light Meter";
     if (read)
-        takeReported(m_lightMeterState, value != 0, key(LightMeterName),
-                     "[LuABSetting] sync AB Light Meter changed:", &LuABSetting::lightMeterStateChanged);
+        takeReportedOfMode(
+            m_lightMeterState, value != 0, key(LightMeterName),
+            "[LuABSetting] sync AB Light Meter changed:", &LuABSetting::lightMeterStateChanged);
 }
 
 void LuABSetting::syncSensitivity()
@@ -163,8 +166,8 @@ void LuABSetting::syncSensitivity()
     const bool read = getVCP(SensitivityCode, value);
     qInfo() << "[LuABSetting] get AB Sensitivity";
     if (read)
-        takeReported(m_sensitivity, value, key(SensitivityName),
-                     "[LuABSetting] sync AB Sensitivity changed:", &LuABSetting::sensitivityChanged);
+        takeReportedOfMode(m_sensitivity, value, key(SensitivityName),
+                           "[LuABSetting] sync AB Sensitivity changed:", &LuABSetting::sensitivityChanged);
 }
 
 void LuABSetting::fireExitEvent()

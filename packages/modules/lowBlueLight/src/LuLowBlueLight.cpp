@@ -28,8 +28,11 @@ LuLowBlueLight::LuLowBlueLight(LuMonitorModel* model)
 {
     model->registerForceSyncPairs(model, QMetaMethod::fromSignal(&LuMonitorModel::colorModeChanged),
                                   QStringLiteral("LuLowBlueLight"));
-    connect(m_weather, &LuWeather::lowBlueLightLevelChanged, this,
-            [this] { setLevel(m_weather->lowBlueLightLevel()); });
+    connect(m_weather, &LuWeather::lowBlueLightLevelChanged, this, [this] {
+        // The check runs on a queue: meanwhile the user may have ended the schedule and chosen a level.
+        if (m_weather->circadianState())
+            setLevel(m_weather->lowBlueLightLevel());
+    });
     connect(m_weather, &LuWeather::circadianStateChanged, this, &LuLowBlueLight::circadianStateChanged);
 }
 
@@ -59,7 +62,8 @@ void LuLowBlueLight::loadSettings()
 
 void LuLowBlueLight::applyValues()
 {
-    if (!lowBlueLightEnable())
+    // In a colour mode that nobody has used yet there is nothing to restore.
+    if (!lowBlueLightEnable() || !hasModuleSetting(colorModeSettingKey(model(), LevelKey)))
         return;
     qInfo() << "[LuLowBlueLight] apply low blue light level:" << m_level;
     setVCP(LevelCode, m_level);
@@ -125,8 +129,9 @@ void LuLowBlueLight::syncLevel(bool firstConnection)
     int value = 0;
     if (!getVCP(LevelCode, value))
         return;
-    const bool differs = takeReported(m_level, value, colorModeSettingKey(model(), LevelKey),
-                                      "[LuLowBlueLight] sync level changed:", &LuLowBlueLight::levelChanged);
+    const bool differs =
+        takeReportedOfMode(m_level, value, colorModeSettingKey(model(), LevelKey),
+                           "[LuLowBlueLight] sync level changed:", &LuLowBlueLight::levelChanged);
     const bool stateDiffers = updateState();
     if (firstConnection && m_weather->circadianState())
         fireCircadian(LuDataCollection::SOURCE_FIRST_CONNECT);

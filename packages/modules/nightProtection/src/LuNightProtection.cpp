@@ -90,7 +90,8 @@ void LuNightProtection::loadSettings()
 
 void LuNightProtection::applyValues()
 {
-    if (!m_nightProtectionEnable)
+    // In a colour mode that nobody has used yet there is nothing to restore.
+    if (!m_nightProtectionEnable || !hasModuleSetting(stateKey()))
         return;
     qInfo() << "[LuNightProtection] apply Night Hours Protection state:" << m_state;
     setVCP(StateCode, valueOf(m_state));
@@ -175,7 +176,7 @@ void LuNightProtection::syncState(LuSyncTasks* tasks, bool firstConnection)
     qInfo() << "[LuNightProtection] get LuNightProtection state";
     if (!read)
         return;
-    const bool differs = takeReported(
+    const bool differs = takeReportedOfMode(
         m_state, stateOf(value), stateKey(),
         "[LuNightProtection] sync NightProtection state changed:", &LuNightProtection::stateChanged);
     if (firstConnection ? m_state != Off : differs)
@@ -191,7 +192,7 @@ void LuNightProtection::syncLevel()
     qInfo() << "[LuNightProtection] get LuNightProtection level";
     if (!read)
         return;
-    const bool differs = takeReported(
+    const bool differs = takeReportedOfMode(
         m_level, level, levelKey(),
         "[LuNightProtection] sync NightProtection level changed:", &LuNightProtection::levelChanged);
     if (differs && m_state != Auto)
