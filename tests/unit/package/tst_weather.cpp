@@ -4,6 +4,16 @@
 using namespace Qt::StringLiterals;
 using namespace weather_bed;
 
+namespace {
+
+void setZone(const char* name)
+{
+    qputenv("TZ", name);
+    tzset();
+}
+
+} // namespace
+
 class TestWeather : public QObject
 {
     Q_OBJECT
@@ -34,6 +44,7 @@ private Q_SLOTS:
     void failures();
     void rateLimitComesBackByItself();
     void rateLimitDoesNotReplaceManualTimes();
+    void lateReplyDoesNotReplaceManualTimes();
     void manualTimesAreTheUsers();
     void manualTimesOfNoDayAreRefused();
     void switchingToManualStartsFromTheSun();
@@ -42,6 +53,9 @@ private Q_SLOTS:
     void midnightBringsTheNextDay();
     void suspendOverSeveralRowsTakesThePresentOne();
     void clockSetBackWaitsForTheFirstRow();
+    void clockSetBackIsNoticedByItself_data();
+    void clockSetBackIsNoticedByItself();
+    void anotherTimeZoneIsNoticedByItself();
     void forecastOfOtherDaysIsNotAskedForInALoop();
     void daylightSavingKeepsTheRealSpans();
     void serviceKeyIsSentAndNeverTold();
@@ -508,6 +522,34 @@ void TestWeather::rateLimitDoesNotReplaceManualTimes()
     QCOMPARE(bed.weather("manualSunRiseHour").toInt(), 6);
 }
 
+void TestWeather::lateReplyDoesNotReplaceManualTimes()
+{
+    WebServer server;
+    server.answers = {WebServer::answer(forecast("05:00", "21:00"))};
+    Environment environment({{u"openweather.api"_s, u"http://127.0.0.1:%1/f"_s.arg(server.serverPort())}});
+    setPlace(1, 2);
+    Bed bed;
+    bed.begin();
+    bed.turnOn(Auto);
+    QCOMPARE(bed.status(), Requesting);
+    // Tired of waiting, the user chooses times of their own.
+    bed.setMode(Manual);
+    bed.weather()->setProperty("manualSunRiseHour", 8);
+    bed.weather()->setProperty("manualSunSetHour", 20);
+    bed.restart();
+    QTRY_COMPARE(bed.status(), Success);
+    QVERIFY(bed.idle());
+    QCOMPARE(bed.weather("manualSunRiseHour").toInt(), 8);
+    QCOMPARE(stored("manualSunset").toDateTime(), at("2026-03-10T20:00:00"));
+    QCOMPARE(bed.level(), 1);
+    QCOMPARE(bed.due(), at("2026-03-10T12:48:01"));
+    // What the service told serves the other mode.
+    bed.setMode(Auto);
+    QVERIFY(bed.idle());
+    QCOMPARE(server.requests.size(), 1);
+    QCOMPARE(bed.weather("autoSunRise").toString(), u"05:00"_s);
+}
+
 void TestWeather::manualTimesAreTheUsers()
 {
     Bed bed;
@@ -644,6 +686,58 @@ void TestWeather::clockSetBackWaitsForTheFirstRow()
     QCOMPARE(bed.due(), at("2026-03-08T13:12:01"));
 }
 
+void TestWeather::clockSetBackIsNoticedByItself_data()
+{
+    QTest::addColumn<QDateTime>("to");
+    QTest::addColumn<int>("level");
+    QTest::addColumn<QDateTime>("due");
+    QTest::newRow("by hours") << at("2026-03-10T09:00:00") << 1 << at("2026-03-10T10:48:01");
+    QTest::newRow("by days") << at("2026-03-06T16:00:00") << 2 << at("2026-03-06T18:00:01");
+}
+
+void TestWeather::clockSetBackIsNoticedByItself()
+{
+    QFETCH(QDateTime, to);
+    QFETCH(int, level);
+    programClock().setBackgroundMoves(true);
+    const auto still = qScopeGuard([] { programClock().setBackgroundMoves(false); });
+    Bed bed;
+    bed.begin();
+    bed.turnOn(Manual);
+    QVERIFY(bed.idle());
+    QCOMPARE(bed.level(), 0);
+    programClock().set(to);
+    programClock().advance(5 * MinuteMs + 1);
+    QVERIFY(bed.idle());
+    QTRY_COMPARE(bed.level(), level);
+    QTEST(bed.due().value_or(QDateTime()), "due");
+    // Nothing more is told while the clock goes on as it should.
+    bed.forget();
+    programClock().advance(HourMs);
+    QVERIFY(bed.idle());
+    QCOMPARE(bed.log().filter(u"[LuWeather]"_s), QStringList());
+}
+
+void TestWeather::anotherTimeZoneIsNoticedByItself()
+{
+    programClock().setBackgroundMoves(true);
+    const auto home = qScopeGuard([] {
+        programClock().setBackgroundMoves(false);
+        setZone("Europe/Berlin");
+    });
+    Bed bed;
+    bed.begin();
+    bed.turnOn(Manual);
+    QVERIFY(bed.idle());
+    QCOMPARE(bed.level(), 0);
+    // Noon of Berlin is seven in the morning there, and the user's times are those of the clock on the wall.
+    setZone("America/New_York");
+    programClock().advance(5 * MinuteMs + 1);
+    QVERIFY(bed.idle());
+    QTRY_COMPARE(bed.level(), 2);
+    QCOMPARE(bed.due(), at("2026-03-10T08:24:01"));
+}
+
 void TestWeather::forecastOfOtherDaysIsNotAskedForInALoop()
 {
     QJsonArray list{dayEntry(at("2026-03-01T06:00:00"), at("2026-03-01T18:00:00"))};
@@ -736,8 +830,7 @@ void TestWeather::realServiceOverTheWeb()
 int main(int argc, char** argv)
 {
     // A zone with daylight saving, whatever the machine's.
-    qputenv("TZ", "Europe/Berlin");
-    tzset();
+    setZone("Europe/Berlin");
     QGuiApplication application(argc, argv);
     TestWeather test;
     return QTest::qExec(&test, argc, argv);

@@ -27,6 +27,11 @@ constexpr quint64 MaxRetryMinutes = 10;
 /// A table that is over again right after it was made anew (a forecast of other days, say) is not asked for
 /// again sooner.
 constexpr qint64 StartOverPauseSeconds = 600;
+/// A table that begins later than this is none of these days: the clock was set back, or the forecast is
+/// wrong.
+constexpr qint64 FarAheadSeconds = 2 * 86400;
+/// How soon a clock that was set back, or goes by another zone, is noticed.
+constexpr qint64 ClockWatchMs = 5 * MinuteMs;
 
 const QString ManualSunriseKey = QStringLiteral("weather/manualSunrise");
 const QString ManualSunsetKey = QStringLiteral("weather/manualSunset");
@@ -40,6 +45,7 @@ const QString SunriseName = QStringLiteral("sunrise");
 const QString SunsetName = QStringLiteral("sunset");
 const QString TimeFormat = QStringLiteral("hh:mm");
 const QString CheckKey = QStringLiteral("checkTime");
+const QString WatchKey = QStringLiteral("watchClock");
 
 /// The request of a forecast: nothing of the base is changed.
 class ForecastCall : public ZrNetworkCall
@@ -299,7 +305,9 @@ void LuWeather::takeForecast(const QJsonObject& reply)
         return;
     }
     const SunTimes times{QDateTime::fromSecsSinceEpoch(rise), QDateTime::fromSecsSinceEpoch(set)};
-    setSunTimes(times, times);
+    // As in retryLater(): the days are kept, the user's own times stay.
+    if (m_circadianMode == Auto)
+        setSunTimes(times, times);
     qInfo() << "[LuWeather] OpenWeather set sunrise:" << times.rise << " and sunset: " << times.set;
     dispatchCheckTime();
     setStatus(Success);
@@ -406,8 +414,12 @@ void LuWeather::checkTime()
     if (table.isEmpty() || !m_circadianState)
         return;
     qInfo() << "[LuWeather] calaulate current Low Blue Light value and next trigger time";
-    const LuCircadianTable::Moment moment = LuCircadianTable::at(table, ZrClock::instance().now());
-    if (moment.kind == LuCircadianTable::Moment::Over) {
+    const QDateTime now = ZrClock::instance().now();
+    watchClock(now);
+    const LuCircadianTable::Moment moment = LuCircadianTable::at(table, now);
+    const bool isFarAhead =
+        moment.kind == LuCircadianTable::Moment::Before && now.secsTo(moment.next) > FarAheadSeconds;
+    if (moment.kind == LuCircadianTable::Moment::Over || isFarAhead) {
         startOver();
         return;
     }
@@ -421,6 +433,22 @@ void LuWeather::checkTime()
             << "next trigger time at " << trigger;
     m_lowBlueLightLevel = moment.level;
     Q_EMIT lowBlueLightLevelChanged();
+}
+
+// The next check waits for a time of the wall clock: once that is set back, or goes by another zone, it lies
+// hours or days off.
+void LuWeather::watchClock(const QDateTime& now)
+{
+    m_clockSeen = {now.toMSecsSinceEpoch(), now.offsetFromUtc()};
+    m_dispatch->postUniqueBackgroundLater(this, WatchKey, ClockWatchMs, [this] {
+        const QDateTime present = ZrClock::instance().now();
+        const bool isMoved =
+            present.toMSecsSinceEpoch() < m_clockSeen.ms || present.offsetFromUtc() != m_clockSeen.offset;
+        if (isMoved)
+            checkTime();
+        else if (m_circadianState)
+            watchClock(present);
+    });
 }
 
 void LuWeather::startOver()

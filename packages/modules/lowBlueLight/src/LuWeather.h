@@ -127,6 +127,13 @@ private:
         friend bool operator==(const SunTimes&, const SunTimes&) = default;
     };
 
+    /// What the wall clock showed; a QDateTime of local time would follow a change of the zone.
+    struct ClockSeen
+    {
+        qint64 ms = 0; ///< Since the epoch.
+        int offset = 0;
+    };
+
     void loadSettings();
     void requestSunTimes();
     bool loadSunInformation();
@@ -142,6 +149,7 @@ private:
     void buildLevelTable(const SunTimes& times, const SunTimes& yesterday);
     void dispatchCheckTime();
     void checkTime();
+    void watchClock(const QDateTime& now);
     void startOver();
     void setStatus(InformationStatus status);
 
@@ -167,5 +175,7 @@ private:
     ZrShared<QList<LuCircadianTable::Row>> m_levelTable;
     ZrShared<bool> m_circadianState{false};
     ZrShared<int> m_lowBlueLightLevel{-1};
-    QDateTime m_startedOver; ///< Queue only.
+    // Queue only.
+    QDateTime m_startedOver;
+    ClockSeen m_clockSeen;
 };

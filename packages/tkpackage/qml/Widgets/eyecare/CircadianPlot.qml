@@ -15,7 +15,8 @@ Item {
 
     // The spans of today: {"from", "to", "level"}, minutes of the day. The night falls into fifths as the daylight does.
     readonly property var spans: {
-        const daylight = sunset - sunrise
+        // At a place far away the sun may set after midnight of the clock.
+        const daylight = (sunset - sunrise + 1440) % 1440
         const night = 1440 - daylight
         const byDay = [2, 1, 0, 1, 2]
         const byNight = [3, 4, 5, 4, 3]
