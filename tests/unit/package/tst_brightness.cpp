@@ -119,6 +119,7 @@ private Q_SLOTS:
     void shortcutsSnapToTheGrid_data();
     void shortcutsSnapToTheGrid();
     void heldShortcutLosesNoStep();
+    void anUnknownBrightnessIsReadBeforeItIsStepped();
     void unsupportedMonitorKeepsItsValueApart();
     void unsupportedMonitorTellsItsBrightness();
     void unsupportedMonitorIsFollowedWhileItShows();
@@ -415,6 +416,41 @@ void TestBrightness::heldShortcutLosesNoStep()
     }
     QVERIFY(bed.idle());
     QCOMPARE(bed.wire(), QStringList{sets("10", 70)});
+}
+
+void TestBrightness::anUnknownBrightnessIsReadBeforeItIsStepped()
+{
+    SimulatedBed bed;
+    sim::Fault fault;
+    fault.code = 0x10;
+    bed.monitor().armFault(fault);
+    bed.launch();
+    QVERIFY(bed.idle());
+    bed.forget();
+    const auto press = [&bed] {
+        const QKeyEvent key(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier);
+        for (LuShortcutAction* action : bed.model().shortcutActions()) {
+            if (action->name() == LuShortcutAction::Brightness_Increase) {
+                action->setActive(true);
+                return action->handle(key);
+            }
+        }
+        return false;
+    };
+    QVERIFY(press());
+    QObject* dimming = bed.get(Module, "softwareDimming").value<QObject*>();
+    dimming->setProperty("state", false);
+    QVERIFY(bed.idle());
+    QCOMPARE(bed.wire().filter(QStringLiteral("set 0x10")), QStringList());
+    bed.monitor().clearFaults();
+    const int held = int(*bed.monitor().value(0x10));
+    QVERIFY(held > 10 && held % 5 == 0);
+    QVERIFY(press());
+    QVERIFY(bed.idle());
+    QCOMPARE(bed.get(Module, "displayBrightness").toInt(), held);
+    QVERIFY(press());
+    QVERIFY(bed.idle());
+    QCOMPARE(bed.wire().filter(QStringLiteral("set 0x10")), QStringList{sets("10", held + 5)});
 }
 
 void TestBrightness::unsupportedMonitorKeepsItsValueApart()

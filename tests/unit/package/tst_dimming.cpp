@@ -5,6 +5,7 @@
 #include <ZrCore/ZrDispatch.h>
 #include <panelcore/MonitorLink.h>
 
+#include <QDeadlineTimer>
 #include <QGuiApplication>
 #include <QJsonArray>
 #include <QJsonObject>
@@ -15,6 +16,7 @@
 #include <QTest>
 
 #include <cmath>
+#include <thread>
 
 namespace {
 
@@ -43,7 +45,8 @@ QJsonObject screenAt(const QString& name, int x, int width)
 class DimmingBed : public SimulatedBed
 {
 public:
-    explicit DimmingBed(const QString& name = QStringLiteral("TK30Z")) : SimulatedBed(name)
+    explicit DimmingBed(const QString& name = QStringLiteral("TK30Z"), Timing timing = Timing::Fast)
+        : SimulatedBed(name, timing)
     {
         launch();
         showOn(QStringLiteral("right"));
@@ -80,6 +83,8 @@ private Q_SLOTS:
     void switchingOffWritesTheBrightnessItselfAndCloses();
     void switchingOnMapsThePresentBrightness();
     void switchingKeepsTheLatestWish();
+    void switchingDuringAReadBackKeepsTheBrightness_data();
+    void switchingDuringAReadBackKeepsTheBrightness();
     void forbiddingClosesWithoutAWrite();
     void signalsComeOncePerChange();
     void fastSliderEndsOnItsLastOpacity();
@@ -240,6 +245,35 @@ void TestDimming::switchingKeepsTheLatestWish()
     QVERIFY(bed.idle());
     QCOMPARE(bed.set10(), QStringList{QStringLiteral("set 0x10 70")});
     QCOMPARE(bed.brightness(), 70);
+}
+
+void TestDimming::switchingDuringAReadBackKeepsTheBrightness_data()
+{
+    QTest::addColumn<bool>("to");
+    QTest::newRow("on") << true;
+    QTest::newRow("off") << false;
+}
+
+void TestDimming::switchingDuringAReadBackKeepsTheBrightness()
+{
+    QFETCH(bool, to);
+    DimmingBed bed(QStringLiteral("TK30Z"), SimulatedBed::Timing::Real);
+    bed.dimming()->setProperty("state", !to);
+    QVERIFY(bed.setBrightness(50));
+    bed.forget();
+    QSignalSpy changes(bed.module(Module), SIGNAL(displayBrightnessChanged(bool)));
+    bed.module(Module)->forceSyncHardwareState(false);
+    // From here on the question is on its way; its answer is what the monitor had before.
+    QDeadlineTimer limit(10'000);
+    while (bed.log().filter(QStringLiteral("[LuBrightness] sync:")).isEmpty() && !limit.hasExpired())
+        std::this_thread::yield();
+    bed.dimming()->setProperty("state", to);
+    QVERIFY(bed.idle());
+    QCOMPARE(bed.brightness(), 50);
+    QCOMPARE(bed.set10(), QStringList{QStringLiteral("set 0x10 %1").arg(to ? 29 : 50)});
+    QCOMPARE(changes.count(), 1);
+    QCOMPARE(bed.events().filter(QStringLiteral("LuBrightness 35")), QStringList());
+    QCOMPARE(bed.setting(QStringLiteral("LuBrightness/User/displayBrightness")).toInt(), 50);
 }
 
 void TestDimming::forbiddingClosesWithoutAWrite()

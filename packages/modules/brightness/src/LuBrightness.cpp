@@ -138,6 +138,11 @@ int LuBrightness::hardwareValueOf(int brightness) const
     return m_softwareDimming->active() ? LuDimmingTable::hardwareValue(brightness) : brightness;
 }
 
+bool LuBrightness::hasBrightness() const
+{
+    return m_brightnessKnown || askedBrightness() != 0 || !model()->isModelSupported();
+}
+
 int LuBrightness::askedBrightness() const
 {
     return m_takenCalls == m_askedCalls.get() ? m_brightness : m_asked;
@@ -235,9 +240,14 @@ void LuBrightness::syncBrightness(bool firstConnection)
 {
     qInfo() << "[LuBrightness] sync:" << model()->modelName();
     int value = 0;
+    const bool dimmed = m_softwareDimming->active();
     if (!m_hardwareBrightnessEnable || !model()->getBrightness(value))
         return;
-    if (m_softwareDimming->active()) {
+    // Dimming was switched while the answer was on its way: the answer belongs to the mapping before, and
+    // what was asked for meanwhile is written next.
+    if (dimmed != m_softwareDimming->active() || dispatch()->has(this, SetBrightness))
+        return;
+    if (dimmed) {
         value = LuDimmingTable::fromHardware(m_softwareDimming->opacity(), value);
         m_softwareDimming->adjustOpacity(value);
     }
@@ -259,6 +269,11 @@ void LuBrightness::registerShortcutActions()
 
 bool LuBrightness::stepBrightness(int direction)
 {
+    // A step from a value that nobody knows would make the picture black.
+    if (!hasBrightness()) {
+        forceSyncHardwareState(false);
+        return true;
+    }
     // A held key repeats faster than a monitor follows: each press counts from what was asked for last.
     const int from = askedBrightness();
     const double steps = from / ShortcutStep;

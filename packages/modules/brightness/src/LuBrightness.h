@@ -275,6 +275,8 @@ private:
     void keepBrightness(int value);
     void announceReadBrightness() { Q_EMIT displayBrightnessChanged(false); }
     int hardwareValueOf(int brightness) const;
+    /// False on a monitor of the series that has not told its brightness yet: 0 is nobody's choice then.
+    bool hasBrightness() const;
     void syncBrightness(bool firstConnection);
     void syncSystemBrightness();
     void applyBrightness();

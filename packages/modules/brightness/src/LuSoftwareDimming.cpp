@@ -57,30 +57,16 @@ void LuSoftwareDimming::showOrClose()
         m_window->close();
 }
 
-double LuSoftwareDimming::opacity() const
-{
-    const double pending = m_pending;
-    return pending == NothingPending ? m_shown.get() : pending;
-}
-
 void LuSoftwareDimming::adjustOpacity(int brightness)
 {
     if (!m_state)
         return;
-    const double opacity = LuDimmingTable::opacity(brightness);
-    m_pending = opacity;
-    ZrDispatch::main()->postUnique(this, QStringLiteral("adjustOpacity"),
-                                   [this, opacity] { showOpacity(opacity); });
-}
-
-void LuSoftwareDimming::showOpacity(double opacity)
-{
-    m_window->setColor(QColor::fromRgbF(0, 0, 0, float(opacity)));
-    m_shown = opacity;
-    showOrClose();
-    // One that came meanwhile has a job of its own.
-    if (m_pending == opacity)
-        m_pending = NothingPending;
+    m_opacity = LuDimmingTable::opacity(brightness);
+    ZrDispatch::main()->postUnique(this, QStringLiteral("adjustOpacity"), [this] {
+        m_shown = m_opacity;
+        m_window->setColor(QColor::fromRgbF(0, 0, 0, float(m_shown)));
+        showOrClose();
+    });
 }
 
 void LuSoftwareDimming::setState(bool state)
@@ -90,7 +76,10 @@ void LuSoftwareDimming::setState(bool state)
         return;
     qInfo() << "[LuSoftwareDimming] set state:" << state;
     m_state = state;
-    m_owner->setDisplayBrightness(m_owner->askedBrightness(), true, true, true);
+    // Before the monitor has told its brightness there is none to map: its first read-back goes by the new
+    // state.
+    if (m_owner->hasBrightness())
+        m_owner->setDisplayBrightness(m_owner->askedBrightness(), true, true, true);
     m_owner->setModuleSetting(StateKey, state);
     Q_EMIT stateChanged();
     announceActive(before);

@@ -48,7 +48,7 @@ public:
     void adjustOpacity(int brightness);
 
     /// Opacity that counts now, 0 to 1: the one on its way to the overlay, else the overlay's own.
-    double opacity() const;
+    double opacity() const { return m_opacity; }
 
 Q_SIGNALS:
     void activeChanged();
@@ -56,18 +56,15 @@ Q_SIGNALS:
     void stateChanged();
 
 private:
-    static constexpr double NothingPending = -1;
-
     void moveToScreen();
     void showOrClose();
-    void showOpacity(double opacity);
     void announceActive(bool before);
 
     LuBrightness* const m_owner;
     LuMonitorModel* const m_model;
     ZrShared<bool> m_enabled{true};
     ZrShared<bool> m_state;
-    ZrShared<double> m_pending{NothingPending}; ///< Opacity on its way to the overlay.
-    ZrShared<double> m_shown{0};                ///< The overlay's opacity, for other threads.
+    ZrShared<double> m_opacity{0}; ///< Of the latest brightness.
+    double m_shown = 0;            ///< What the overlay has.
     std::unique_ptr<LuQuickWindow> m_window;
 };
