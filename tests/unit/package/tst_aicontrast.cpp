@@ -313,6 +313,8 @@ void TestAiContrast::modelWithoutItSendsNothing()
     QVERIFY(bed.idle());
     QVERIFY(bed.apply());
     QVERIFY(bed.sync());
+    bed.set(Module, "state", true);
+    QVERIFY(bed.idle());
     QCOMPARE(bed.get(Module, "state").toBool(), false);
     QCOMPARE(bed.wire().filter(QStringLiteral("0xF3")), QStringList());
 }

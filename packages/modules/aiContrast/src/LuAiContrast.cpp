@@ -50,7 +50,7 @@ void LuAiContrast::applyValues()
 void LuAiContrast::setState(bool state)
 {
     const QString key = QStringLiteral("setState");
-    if (isSettled(key, m_state, state))
+    if (!m_aiContrastEnable || isSettled(key, m_state, state))
         return;
     postUniqueAtFront(this, key, [this, state] {
         if (!setVCP(ContrastCode, state ? On : Off))
