@@ -7,7 +7,6 @@
 #include <QStringList>
 #include <QTest>
 
-#include <initializer_list>
 #include <optional>
 #include <thread>
 
@@ -70,7 +69,7 @@ public:
     }
     QStringList told() { return events().filter(QLatin1String(m_module) + QLatin1Char(' ')); }
     /// The transactions of these codes alone: a change of one module lets others be read, too.
-    QStringList wireOf(std::initializer_list<int> codes)
+    QStringList wireOf(const QList<int>& codes)
     {
         QStringList result;
         const QStringList all = wire();

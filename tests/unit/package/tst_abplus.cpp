@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "module_bed.h"
-
-#include <QSignalSpy>
+#include "feature_bed.h"
 
 using namespace Qt::StringLiterals;
 
@@ -13,25 +11,25 @@ constexpr int SensitivityCode = 0xE5;
 constexpr int Both = 1;
 constexpr int BrightnessOnly = 2;
 
-struct Bed : ModuleBed
+struct Bed : FeatureBed
 {
-    explicit Bed(const QString& name = u"TK30Z"_s) : ModuleBed("LuABPlus", name) {}
+    explicit Bed(const QString& name = u"TK30Z"_s)
+        : FeatureBed("LuABPlus", {StateCode, MeterCode, SensitivityCode}, name)
+    {
+    }
 
     /// The sensitivity of the monitor is 5.
     void beginAt(bool state, int mode = Both)
     {
         beginWith({{"sensitivity", 4}, {"sensitivity", 5}});
         if (mode != Both) {
-            put("mode", mode);
-            QVERIFY(idle());
+            QVERIFY(ask("mode", mode));
             QVERIFY(monitor().setByMenu(StateCode, state ? mode : 0));
             QVERIFY(syncModule());
         }
-        put("state", state);
-        QVERIFY(idle());
+        QVERIFY(ask("state", state));
         forget();
     }
-    QStringList own() { return wireOf({StateCode, MeterCode, SensitivityCode}); }
 };
 
 } // namespace
@@ -106,8 +104,7 @@ void TestABPlus::withoutTheFeatureNothingHappens()
     bed.put("state", true);
     bed.put("mode", BrightnessOnly);
     bed.put("sensitivity", 3);
-    bed.put("lightMeterState", true);
-    QVERIFY(bed.idle());
+    QVERIFY(bed.ask("lightMeterState", true));
     QCOMPARE(bed.wire(), QStringList());
     QCOMPARE(bed.flag("state"), false);
     QCOMPARE(bed.number("mode"), Both);
@@ -141,14 +138,13 @@ void TestABPlus::stateIsWrittenStoredAndReported()
     QFETCH(QString, event);
     Bed bed;
     bed.beginAt(!to, mode);
-    QSignalSpy spy(bed.module(), SIGNAL(stateChanged()));
-    bed.putBy(triggered, "state", to);
-    QVERIFY(bed.idle());
-    QCOMPARE(bed.own(), QStringList{u"set 0x81 %1"_s.arg(value)});
+    bed.checkAsked({"state",
+                    to,
+                    {u"set 0x81 %1"_s.arg(value)},
+                    {event},
+                    u"[LuABPlus] setState: %1"_s.arg(to ? u"true"_s : u"false"_s),
+                    triggered});
     QCOMPARE(bed.stored("state").toBool(), to);
-    QCOMPARE(spy.count(), 1);
-    QCOMPARE(bed.told(), QStringList{event});
-    QVERIFY(bed.logged(u"[LuABPlus] setState: %1"_s.arg(to ? u"true"_s : u"false"_s)));
 }
 
 void TestABPlus::presentValuesWriteNothing()
@@ -158,8 +154,7 @@ void TestABPlus::presentValuesWriteNothing()
     bed.put("state", true);
     bed.put("mode", Both);
     bed.put("sensitivity", 5);
-    bed.put("lightMeterState", false);
-    QVERIFY(bed.idle());
+    QVERIFY(bed.ask("lightMeterState", false));
     QCOMPARE(bed.own(), QStringList());
     QCOMPARE(bed.told(), QStringList());
 }
@@ -177,15 +172,9 @@ void TestABPlus::modeIsWrittenAlsoWhileOff()
     QFETCH(bool, state);
     Bed bed;
     bed.beginAt(state);
-    QSignalSpy spy(bed.module(), SIGNAL(modeChanged()));
-    bed.put("mode", BrightnessOnly);
-    QVERIFY(bed.idle());
-    QCOMPARE(bed.own(), QStringList{u"set 0x81 2"_s});
+    bed.checkAsked({"mode", BrightnessOnly, {u"set 0x81 2"_s}, {}, u"[LuABPlus] set AB Plus mode: "_s});
     QCOMPARE(bed.stored("mode").toInt(), BrightnessOnly);
     QCOMPARE(bed.flag("state"), state);
-    QCOMPARE(spy.count(), 1);
-    QCOMPARE(bed.told(), QStringList());
-    QVERIFY(bed.logged(u"[LuABPlus] set AB Plus mode: "_s));
     QVERIFY(bed.syncModule());
     QCOMPARE(bed.flag("state"), true);
     QCOMPARE(bed.told(), state ? QStringList() : QStringList{u"LuABPlus 39 on 1 [brightness_only,5]"_s});
@@ -195,8 +184,7 @@ void TestABPlus::modeZeroIsOff()
 {
     Bed bed;
     bed.beginAt(true, BrightnessOnly);
-    bed.put("mode", 0);
-    QVERIFY(bed.idle());
+    QVERIFY(bed.ask("mode", 0));
     QCOMPARE(bed.flag("state"), false);
     QCOMPARE(bed.number("mode"), BrightnessOnly);
     QCOMPARE(bed.own(), QStringList{u"set 0x81 0"_s});
@@ -207,14 +195,8 @@ void TestABPlus::sensitivityIsWrittenAndStored()
 {
     Bed bed;
     bed.beginAt(true);
-    QSignalSpy spy(bed.module(), SIGNAL(sensitivityChanged()));
-    bed.put("sensitivity", 8);
-    QVERIFY(bed.idle());
-    QCOMPARE(bed.own(), QStringList{u"set 0xE5 8"_s});
+    bed.checkAsked({"sensitivity", 8, {u"set 0xE5 8"_s}, {}, u"[LuABPlus] set AB Plus sensitivity:  8"_s});
     QCOMPARE(bed.stored("sensitivity").toInt(), 8);
-    QCOMPARE(spy.count(), 1);
-    QCOMPARE(bed.told(), QStringList());
-    QVERIFY(bed.logged(u"[LuABPlus] set AB Plus sensitivity:  8"_s));
 }
 
 void TestABPlus::lightMeterIsWrittenAndStored_data()
@@ -229,14 +211,12 @@ void TestABPlus::lightMeterIsWrittenAndStored()
     QFETCH(bool, state);
     Bed bed;
     bed.beginWith({{"lightMeterState", !state}});
-    QSignalSpy spy(bed.module(), SIGNAL(lightMeterStateChanged()));
-    bed.put("lightMeterState", state);
-    QVERIFY(bed.idle());
-    QCOMPARE(bed.own(), QStringList{u"set 0xE3 %1"_s.arg(int(state))});
+    bed.checkAsked({"lightMeterState",
+                    state,
+                    {u"set 0xE3 %1"_s.arg(int(state))},
+                    {},
+                    u"[LuABPlus] set AB Light Meter: "_s});
     QCOMPARE(bed.stored("LightMeter").toBool(), state);
-    QCOMPARE(spy.count(), 1);
-    QCOMPARE(bed.told(), QStringList());
-    QVERIFY(bed.logged(u"[LuABPlus] set AB Light Meter: "_s));
 }
 
 void TestABPlus::lightMeterNeedsItsCategory()
@@ -245,8 +225,7 @@ void TestABPlus::lightMeterNeedsItsCategory()
     Bed bed(u"TK40"_s);
     bed.begin();
     bed.forget();
-    bed.put("lightMeterState", true);
-    QVERIFY(bed.idle());
+    QVERIFY(bed.ask("lightMeterState", true));
     QCOMPARE(bed.wireOf({MeterCode}), QStringList());
     QCOMPARE(bed.flag("lightMeterState"), false);
 }
@@ -255,14 +234,7 @@ void TestABPlus::failedWriteIsTakenAllTheSame()
 {
     Bed bed;
     bed.beginAt(false);
-    bed.fail(StateCode);
-    bed.put("state", true);
-    QVERIFY(bed.idle());
-    QCOMPARE(bed.flag("state"), true);
-    QCOMPARE(bed.stored("state").toBool(), true);
-    bed.monitor().clearFaults();
-    QVERIFY(bed.syncModule());
-    QCOMPARE(bed.flag("state"), false);
+    bed.checkFailedWrite("state", StateCode);
 }
 
 void TestABPlus::readBack_data()
@@ -368,18 +340,15 @@ void TestABPlus::firstConnection()
     QFETCH(int, value);
     QFETCH(QStringList, events);
     Bed bed;
-    QVERIFY(bed.monitor().setByMenu(StateCode, value));
     QVERIFY(bed.monitor().setByMenu(SensitivityCode, 7));
-    bed.begin();
-    QCOMPARE(bed.told(), events);
+    bed.checkFirstConnection(StateCode, value, events);
 }
 
 void TestABPlus::switchingReadsTheBrightness()
 {
     Bed bed;
     bed.beginAt(false);
-    bed.put("state", true);
-    QVERIFY(bed.idle());
+    QVERIFY(bed.ask("state", true));
     QVERIFY(!bed.wire().filter(u"get 0x10"_s).isEmpty());
 }
 
@@ -422,8 +391,7 @@ void TestABPlus::launchRestores()
     Bed bed;
     bed.beginAt(true, BrightnessOnly);
     bed.put("lightMeterState", true);
-    bed.put("state", state);
-    QVERIFY(bed.idle());
+    QVERIFY(bed.ask("state", state));
     bed.destroy();
     bed.forget();
     bed.launch();
@@ -439,14 +407,7 @@ void TestABPlus::launchRestores()
 void TestABPlus::whatStaysOffIsNotAppliedAgain()
 {
     Bed bed;
-    bed.begin();
-    QVERIFY(bed.relaunchAnew());
-    QVERIFY(bed.relaunchAnew());
-    QCOMPARE(bed.own().filter(u"set"_s), QStringList());
-    bed.put("state", true);
-    QVERIFY(bed.idle());
-    QVERIFY(bed.relaunchAnew());
-    QVERIFY(bed.own().contains(u"set 0x81 1"_s));
+    bed.checkWhatStaysOff("state", u"set 0x81 1"_s);
 }
 
 void TestABPlus::pageVisitGivesOneEvent_data()
@@ -477,8 +438,7 @@ void TestABPlus::pageVisitGivesOneEvent()
     bed.beginAt(state);
     bed.module()->takePropertySnapshot();
     for (const auto& [name, value] : moves)
-        bed.put(name.constData(), value);
-    QVERIFY(bed.idle());
+        QVERIFY(bed.ask(name.constData(), value));
     bed.module()->fireUpdateSettingEvent();
     QCOMPARE(bed.told(), events);
 }
@@ -487,10 +447,7 @@ void TestABPlus::exitReportsOff()
 {
     Bed bed;
     bed.beginAt(false);
-    QCOMPARE(bed.toldAtExit(), QStringList());
-    bed.put("state", true);
-    QVERIFY(bed.idle());
-    QCOMPARE(bed.toldAtExit(), QStringList{u"LuABPlus 39 off 2 []"_s});
+    bed.checkExit("state", u"LuABPlus 39 off 2 []"_s);
 }
 
 QTEST_MAIN(TestABPlus)

@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "module_bed.h"
-
-#include <QSignalSpy>
+#include "feature_bed.h"
 
 using namespace Qt::StringLiterals;
 
@@ -11,13 +9,15 @@ constexpr int StateCode = 0xE2;
 constexpr int MeterCode = 0xE3;
 constexpr int SensitivityCode = 0xE5;
 
-struct Bed : ModuleBed
+struct Bed : FeatureBed
 {
-    explicit Bed(const QString& name = u"TK40X"_s) : ModuleBed("LuABSetting", name) {}
+    explicit Bed(const QString& name = u"TK40X"_s)
+        : FeatureBed("LuABSetting", {StateCode, MeterCode, SensitivityCode}, name)
+    {
+    }
 
     /// The sensitivity of the monitor is 5.
     void beginAt(bool on) { beginWith({{"sensitivity", 4}, {"sensitivity", 5}, {"currentAB", on}}); }
-    QStringList own() { return wireOf({StateCode, MeterCode, SensitivityCode}); }
 };
 
 } // namespace
@@ -83,8 +83,7 @@ void TestABSetting::withoutTheFeatureNothingHappens()
     bed.forget();
     bed.put("currentAB", true);
     bed.put("lightMeterState", true);
-    bed.put("sensitivity", 3);
-    QVERIFY(bed.idle());
+    QVERIFY(bed.ask("sensitivity", 3));
     QCOMPARE(bed.wire(), QStringList());
     QCOMPARE(bed.flag("currentAB"), false);
     QVERIFY(bed.apply());
@@ -112,14 +111,13 @@ void TestABSetting::stateIsWrittenStoredAndReported()
     QFETCH(QString, event);
     Bed bed;
     bed.beginAt(!to);
-    QSignalSpy spy(bed.module(), SIGNAL(currentABChanged()));
-    bed.putBy(triggered, "currentAB", to);
-    QVERIFY(bed.idle());
-    QCOMPARE(bed.own(), QStringList{u"set 0xE2 %1"_s.arg(value)});
+    bed.checkAsked({"currentAB",
+                    to,
+                    {u"set 0xE2 %1"_s.arg(value)},
+                    {event},
+                    u"[LuABSetting] set AB state: "_s,
+                    triggered});
     QCOMPARE(bed.stored("currentAB").toBool(), to);
-    QCOMPARE(spy.count(), 1);
-    QCOMPARE(bed.told(), QStringList{event});
-    QVERIFY(bed.logged(u"[LuABSetting] set AB state: "_s));
 }
 
 void TestABSetting::presentValuesWriteNothing()
@@ -128,8 +126,7 @@ void TestABSetting::presentValuesWriteNothing()
     bed.beginAt(true);
     bed.put("currentAB", true);
     bed.put("sensitivity", 5);
-    bed.put("lightMeterState", false);
-    QVERIFY(bed.idle());
+    QVERIFY(bed.ask("lightMeterState", false));
     QCOMPARE(bed.own(), QStringList());
     QCOMPARE(bed.told(), QStringList());
 }
@@ -147,8 +144,7 @@ void TestABSetting::lightMeterNeedsTheFeatureOn()
     Bed bed;
     bed.beginAt(on);
     QSignalSpy spy(bed.module(), SIGNAL(lightMeterStateChanged()));
-    bed.put("lightMeterState", true);
-    QVERIFY(bed.idle());
+    QVERIFY(bed.ask("lightMeterState", true));
     QCOMPARE(bed.own(), on ? QStringList{u"set 0xE3 1"_s} : QStringList());
     QCOMPARE(bed.flag("lightMeterState"), on);
     QCOMPARE(bed.stored("LightMeter").toBool(), on);
@@ -167,28 +163,17 @@ void TestABSetting::sensitivityIsWrittenAlsoWhileOff()
     QFETCH(bool, on);
     Bed bed;
     bed.beginAt(on);
-    QSignalSpy spy(bed.module(), SIGNAL(sensitivityChanged()));
-    bed.put("sensitivity", 8);
-    QVERIFY(bed.idle());
-    QCOMPARE(bed.own(), QStringList{u"set 0xE5 8"_s});
+    bed.checkAsked({"sensitivity", 8, {u"set 0xE5 8"_s}, {}, u"[LuABSetting] set AB Sensitivity:  8"_s});
     // With a capital, unlike the newer form's.
     QCOMPARE(bed.stored("Sensitivity").toInt(), 8);
     QVERIFY(!bed.stored("sensitivity").isValid());
-    QCOMPARE(spy.count(), 1);
-    QVERIFY(bed.logged(u"[LuABSetting] set AB Sensitivity:  8"_s));
 }
 
 void TestABSetting::failedWriteIsTakenAllTheSame()
 {
     Bed bed;
     bed.beginAt(false);
-    bed.fail(StateCode);
-    bed.put("currentAB", true);
-    QVERIFY(bed.idle());
-    QCOMPARE(bed.flag("currentAB"), true);
-    bed.monitor().clearFaults();
-    QVERIFY(bed.syncModule());
-    QCOMPARE(bed.flag("currentAB"), false);
+    bed.checkFailedWrite("currentAB", StateCode);
 }
 
 void TestABSetting::readBack_data()
@@ -227,10 +212,8 @@ void TestABSetting::anyNumberCountsAsOn()
     bed.beginAt(false);
     QVERIFY(bed.monitor().setByMenu(StateCode, 1));
     QVERIFY(bed.syncModule());
-    bed.put("currentAB", false);
-    QVERIFY(bed.idle());
-    bed.put("currentAB", true);
-    QVERIFY(bed.idle());
+    QVERIFY(bed.ask("currentAB", false));
+    QVERIFY(bed.ask("currentAB", true));
     QCOMPARE(int(*bed.monitor().value(StateCode)), 255);
 }
 
@@ -280,17 +263,14 @@ void TestABSetting::firstConnection()
     QFETCH(int, value);
     QFETCH(QStringList, events);
     Bed bed;
-    QVERIFY(bed.monitor().setByMenu(StateCode, value));
-    bed.begin();
-    QCOMPARE(bed.told(), events);
+    bed.checkFirstConnection(StateCode, value, events);
 }
 
 void TestABSetting::switchingReadsTheBrightness()
 {
     Bed bed;
     bed.beginAt(false);
-    bed.put("currentAB", true);
-    QVERIFY(bed.idle());
+    QVERIFY(bed.ask("currentAB", true));
     QVERIFY(!bed.wire().filter(u"get 0x10"_s).isEmpty());
 }
 
@@ -323,10 +303,8 @@ void TestABSetting::launchRestores()
     QFETCH(QString, event);
     Bed bed;
     bed.beginAt(true);
-    bed.put("lightMeterState", true);
-    QVERIFY(bed.idle());
-    bed.put("currentAB", on);
-    QVERIFY(bed.idle());
+    QVERIFY(bed.ask("lightMeterState", true));
+    QVERIFY(bed.ask("currentAB", on));
     bed.destroy();
     bed.forget();
     bed.launch();
@@ -342,14 +320,7 @@ void TestABSetting::launchRestores()
 void TestABSetting::whatStaysOffIsNotAppliedAgain()
 {
     Bed bed;
-    bed.begin();
-    QVERIFY(bed.relaunchAnew());
-    QVERIFY(bed.relaunchAnew());
-    QCOMPARE(bed.own().filter(u"set"_s), QStringList());
-    bed.put("currentAB", true);
-    QVERIFY(bed.idle());
-    QVERIFY(bed.relaunchAnew());
-    QVERIFY(bed.own().contains(u"set 0xE2 255"_s));
+    bed.checkWhatStaysOff("currentAB", u"set 0xE2 255"_s);
 }
 
 void TestABSetting::pageVisitGivesNoEvent()
@@ -357,8 +328,7 @@ void TestABSetting::pageVisitGivesNoEvent()
     Bed bed;
     bed.beginAt(true);
     bed.module()->takePropertySnapshot();
-    bed.put("sensitivity", 9);
-    QVERIFY(bed.idle());
+    QVERIFY(bed.ask("sensitivity", 9));
     bed.module()->fireUpdateSettingEvent();
     QCOMPARE(bed.told(), QStringList());
 }
@@ -367,10 +337,7 @@ void TestABSetting::exitReportsOff()
 {
     Bed bed;
     bed.beginAt(false);
-    QCOMPARE(bed.toldAtExit(), QStringList());
-    bed.put("currentAB", true);
-    QVERIFY(bed.idle());
-    QCOMPARE(bed.toldAtExit(), QStringList{u"LuABSetting 14 off 2 []"_s});
+    bed.checkExit("currentAB", u"LuABSetting 14 off 2 []"_s);
 }
 
 QTEST_MAIN(TestABSetting)

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "module_bed.h"
+#include "feature_bed.h"
 
 #include <QDateTime>
 #include <QElapsedTimer>
@@ -22,10 +22,10 @@ constexpr int packed(int high, int low)
     return high << 8 | low;
 }
 
-struct Bed : ModuleBed
+struct Bed : FeatureBed
 {
     explicit Bed(const QString& name = u"TK30Z"_s, Timing timing = Timing::Fast)
-        : ModuleBed("LuBackLight", name, timing)
+        : FeatureBed("LuBackLight", {StateCode, LightCode}, name, timing)
     {
     }
 
@@ -36,7 +36,6 @@ struct Bed : ModuleBed
         QCOMPARE(number("brightness"), 5);
         QCOMPARE(number("colorTemperature"), 4);
     }
-    QStringList own() { return wireOf({StateCode, LightCode}); }
     int held(int code) { return monitor().value(code).value_or(0xFFFF); }
 };
 
@@ -58,6 +57,8 @@ private Q_SLOTS:
     void stateIsOnTheWireWhenTheSetterReturns_data();
     void stateIsOnTheWireWhenTheSetterReturns();
     void aReadBackUnderWayDoesNotUndoTheState();
+    void aRestingMonitorTakesTheStateLater_data();
+    void aRestingMonitorTakesTheStateLater();
     void queuedValuesAreWrittenAndStored_data();
     void queuedValuesAreWrittenAndStored();
     void presentValuesWriteNothing();
@@ -116,8 +117,7 @@ void TestBackLight::withoutTheFeatureNothingHappens()
     bed.put("brightness", 3);
     bed.put("colorTemperature", 3);
     bed.put("angle", Angle360);
-    bed.put("nonStopMode", true);
-    QVERIFY(bed.idle());
+    QVERIFY(bed.ask("nonStopMode", true));
     QVERIFY(bed.apply());
     QCOMPARE(bed.own(), QStringList());
     QCOMPARE(bed.number("state"), Off);
@@ -177,6 +177,36 @@ void TestBackLight::aReadBackUnderWayDoesNotUndoTheState()
     QCOMPARE(bed.told(), QStringList{u"LuBackLight 43 on 0 [270_degree]"_s});
 }
 
+void TestBackLight::aRestingMonitorTakesTheStateLater_data()
+{
+    QTest::addColumn<bool>("angleFirst");
+    QTest::newRow("alone") << false;
+    QTest::newRow("with an angle that waits") << true;
+}
+
+void TestBackLight::aRestingMonitorTakesTheStateLater()
+{
+    QFETCH(bool, angleFirst);
+    Bed bed(u"TK30Z"_s, SimulatedBed::Timing::Real);
+    bed.beginAt(Off);
+    const quint64 before = bed.monitor().traffic().last().seq;
+    bed.model().setColorMode(bed.model().getColorModeByName(u"Cinema"_s));
+    // Half a second of rest, longer than the setter may hold its caller.
+    QTRY_VERIFY(!bed.monitor().traffic(before).isEmpty());
+    if (angleFirst) {
+        bed.put("angle", Angle360);
+        QTRY_COMPARE(bed.number("angle"), Angle360);
+    }
+    bed.put("state", On);
+    QCOMPARE(bed.number("state"), On);
+    QVERIFY(bed.idle());
+    QCOMPARE(bed.number("state"), On);
+    QCOMPARE(bed.held(StateCode), packed(angleFirst ? Angle360 : Angle270, On));
+    QCOMPARE(bed.stored("state").toInt(), On);
+    QCOMPARE(bed.told(), QStringList{angleFirst ? u"LuBackLight 43 on 0 [360_degree]"_s
+                                                : u"LuBackLight 43 on 0 [270_degree]"_s});
+}
+
 void TestBackLight::queuedValuesAreWrittenAndStored_data()
 {
     QTest::addColumn<QByteArray>("property");
@@ -198,8 +228,7 @@ void TestBackLight::queuedValuesAreWrittenAndStored()
     Bed bed;
     bed.beginAt(On);
     QSignalSpy spy(bed.module(), QByteArray("2" + property + "Changed()").constData());
-    bed.put(property.constData(), value);
-    QVERIFY(bed.idle());
+    QVERIFY(bed.ask(property.constData(), value));
     QCOMPARE(bed.own(), QStringList{sets(code, written)});
     QCOMPARE(bed.number(property.constData()), value);
     QCOMPARE(bed.stored(property.constData()).toInt(), value);
@@ -214,8 +243,7 @@ void TestBackLight::presentValuesWriteNothing()
     bed.put("brightness", 5);
     bed.put("colorTemperature", 4);
     bed.put("angle", Angle270);
-    bed.put("nonStopMode", false);
-    QVERIFY(bed.idle());
+    QVERIFY(bed.ask("nonStopMode", false));
     QCOMPARE(bed.own(), QStringList());
     QCOMPARE(bed.told(), QStringList());
 }
@@ -290,8 +318,7 @@ void TestBackLight::whatDoesNotFitIntoAByteIsRefused()
     Bed bed;
     bed.beginAt(On);
     const int before = bed.number(property.constData());
-    bed.put(property.constData(), value);
-    QVERIFY(bed.idle());
+    QVERIFY(bed.ask(property.constData(), value));
     QCOMPARE(bed.number(property.constData()), before);
     QCOMPARE(bed.own(), QStringList());
     QVERIFY(bed.logged(u" %1 is not in 0 to 255"_s.arg(value)));
@@ -311,8 +338,7 @@ void TestBackLight::nonStopModeIsToldOf()
     QFETCH(QString, event);
     Bed bed;
     bed.beginAt(Off, !to);
-    bed.put("nonStopMode", to);
-    QVERIFY(bed.idle());
+    QVERIFY(bed.ask("nonStopMode", to));
     QCOMPARE(bed.own(), QStringList{sets(StateCode, packed(Angle270, Off + int(to)))});
     QCOMPARE(bed.told(), QStringList{event});
 }
@@ -327,8 +353,7 @@ void TestBackLight::sensorsFirstTimeIsKept()
     const QDateTime first = bed.setting(key).toDateTime();
     QVERIFY(first.isValid());
     bed.put("state", Off);
-    bed.put("state", Auto);
-    QVERIFY(bed.idle());
+    QVERIFY(bed.ask("state", Auto));
     QCOMPARE(bed.setting(key).toDateTime(), first);
 }
 
@@ -339,8 +364,7 @@ void TestBackLight::failedWriteIsTakenAllTheSame()
     bed.fail(StateCode);
     bed.fail(LightCode);
     bed.put("state", On);
-    bed.put("brightness", 6);
-    QVERIFY(bed.idle());
+    QVERIFY(bed.ask("brightness", 6));
     QCOMPARE(bed.number("state"), On);
     QCOMPARE(bed.number("brightness"), 6);
     bed.monitor().clearFaults();
@@ -500,10 +524,8 @@ void TestBackLight::launchRestores()
     bed.beginAt(On);
     bed.put("angle", Angle360);
     bed.put("brightness", 9);
-    bed.put("nonStopMode", nonStop);
-    QVERIFY(bed.idle());
-    bed.put("state", state);
-    QVERIFY(bed.idle());
+    QVERIFY(bed.ask("nonStopMode", nonStop));
+    QVERIFY(bed.ask("state", state));
     bed.destroy();
     bed.forget();
     bed.launch();
@@ -541,8 +563,7 @@ void TestBackLight::whatStaysOffIsNotAppliedAgain()
     QVERIFY(bed.relaunchAnew());
     QVERIFY(bed.relaunchAnew());
     QCOMPARE(bed.own().filter(u"set"_s), QStringList());
-    bed.put("state", On);
-    QVERIFY(bed.idle());
+    QVERIFY(bed.ask("state", On));
     QVERIFY(bed.relaunchAnew());
     QVERIFY(bed.own().contains(sets(StateCode, packed(Angle270, On))));
 }
@@ -590,8 +611,7 @@ void TestBackLight::pageVisitGivesOneEvent()
     bed.module()->takePropertySnapshot();
     for (const int angle : angles)
         bed.put("angle", angle);
-    bed.put("brightness", 8);
-    QVERIFY(bed.idle());
+    QVERIFY(bed.ask("brightness", 8));
     bed.module()->fireUpdateSettingEvent();
     QCOMPARE(bed.told(), events);
 }

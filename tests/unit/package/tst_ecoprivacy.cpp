@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "module_bed.h"
+#include "feature_bed.h"
 
 #include <QKeyEvent>
-#include <QSignalSpy>
 
 using namespace Qt::StringLiterals;
 
@@ -16,16 +15,15 @@ constexpr int TypeBackGlow = 2;
 constexpr int Both = 1;
 constexpr int DisplayOnly = 2;
 
-struct Bed : ModuleBed
+struct Bed : FeatureBed
 {
     explicit Bed(const QString& name = u"TK30Z"_s, Timing timing = Timing::Fast)
-        : ModuleBed("LuEcoPrivacy", name, timing)
+        : FeatureBed("LuEcoPrivacy", {TimeCode, ModeCode, SensitivityCode}, name, timing)
     {
     }
 
     /// Twenty seconds, and the middle reach that the monitor comes with.
     void beginAt(bool state) { beginWith({{"state", true}, {"activeTime", 20}, {"state", state}}); }
-    QStringList own() { return wireOf({TimeCode, ModeCode, SensitivityCode}); }
     bool press(bool repeated = false)
     {
         const QKeyEvent event(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier, QString(), repeated);
@@ -65,6 +63,8 @@ private Q_SLOTS:
     void timeIsOnTheWireWhenTheSetterReturns_data();
     void timeIsOnTheWireWhenTheSetterReturns();
     void readBacksDoNotUndoTheTime();
+    void aRestingMonitorTakesTheTimeLater();
+    void aTimeChosenRightAfterTheStateCounts();
     void aTimeWhileOffTurnsTheMonitorOn();
     void timeZeroChangesTheMonitorOnly();
     void presentValuesWriteNothing();
@@ -169,30 +169,27 @@ void TestEcoPrivacy::stateIsWrittenStoredAndReported()
     QFETCH(QString, event);
     Bed bed;
     bed.beginAt(!to);
-    QSignalSpy spy(bed.module(), SIGNAL(stateChanged()));
-    bed.putBy(triggered, "state", to);
-    QVERIFY(bed.idle());
-    QCOMPARE(bed.own(), QStringList{u"set 0xE7 %1"_s.arg(value)});
+    bed.checkAsked({"state",
+                    to,
+                    {u"set 0xE7 %1"_s.arg(value)},
+                    {event},
+                    u"[LuEcoPrivacy] set EcoPrivacy activeTime: "_s,
+                    triggered});
     QCOMPARE(bed.plain("state").toBool(), to);
     QCOMPARE(bed.number("activeTime"), 20);
-    QCOMPARE(spy.count(), 1);
-    QCOMPARE(bed.told(), QStringList{event});
-    QVERIFY(bed.logged(u"[LuEcoPrivacy] set EcoPrivacy activeTime: "_s));
 }
 
 void TestEcoPrivacy::offAndOnKeepsTheTime()
 {
     Bed bed;
     bed.beginAt(true);
-    bed.put("state", false);
-    QVERIFY(bed.idle());
+    QVERIFY(bed.ask("state", false));
     QCOMPARE(bed.number("activeTime"), 20);
     QVERIFY(bed.syncModule());
     QCOMPARE(bed.number("activeTime"), 20);
     QCOMPARE(bed.plain("activeTime").toInt(), 20);
     bed.forget();
-    bed.put("state", true);
-    QVERIFY(bed.idle());
+    QVERIFY(bed.ask("state", true));
     QCOMPARE(bed.own(), QStringList{u"set 0xE7 20"_s});
 }
 
@@ -234,6 +231,39 @@ void TestEcoPrivacy::readBacksDoNotUndoTheTime()
     QCOMPARE(bed.plain("activeTime").toInt(), 60);
 }
 
+void TestEcoPrivacy::aRestingMonitorTakesTheTimeLater()
+{
+    Bed bed(u"TK30Z"_s, SimulatedBed::Timing::Real);
+    bed.beginAt(true);
+    const quint64 before = bed.monitor().traffic().last().seq;
+    bed.model().setColorMode(bed.model().getColorModeByName(u"Cinema"_s));
+    // Half a second of rest, longer than the setter may hold its caller.
+    QTRY_VERIFY(!bed.monitor().traffic(before).isEmpty());
+    bed.put("activeTime", 60);
+    QCOMPARE(bed.number("activeTime"), 60);
+    QVERIFY(bed.idle());
+    QCOMPARE(int(*bed.monitor().value(TimeCode)), 60);
+    QVERIFY(bed.syncModule());
+    QCOMPARE(bed.number("activeTime"), 60);
+}
+
+void TestEcoPrivacy::aTimeChosenRightAfterTheStateCounts()
+{
+    // As a flow writes them, one right behind the other.
+    Bed bed(u"TK30Z"_s, SimulatedBed::Timing::Real);
+    bed.beginAt(false);
+    for (const int time : {60, 5, 30, 10}) {
+        bed.put("state", true);
+        bed.put("activeTime", time);
+        QVERIFY(bed.idle());
+        QCOMPARE(int(*bed.monitor().value(TimeCode)), time);
+        QCOMPARE(bed.number("activeTime"), time);
+        QCOMPARE(bed.plain("activeTime").toInt(), time);
+        bed.put("state", false);
+        QVERIFY(bed.idle());
+    }
+}
+
 void TestEcoPrivacy::aTimeWhileOffTurnsTheMonitorOn()
 {
     Bed bed;
@@ -261,8 +291,7 @@ void TestEcoPrivacy::presentValuesWriteNothing()
     bed.beginAt(true);
     bed.put("state", true);
     bed.put("activeTime", 20);
-    bed.put("sensorSensitivity", 2);
-    QVERIFY(bed.idle());
+    QVERIFY(bed.ask("sensorSensitivity", 2));
     QCOMPARE(bed.own(), QStringList());
     QCOMPARE(bed.told(), QStringList());
 }
@@ -271,28 +300,21 @@ void TestEcoPrivacy::sensitivityIsWrittenAndStored()
 {
     Bed bed;
     bed.beginAt(true);
-    QSignalSpy spy(bed.module(), SIGNAL(sensorSensitivityChanged()));
-    bed.put("sensorSensitivity", 3);
-    QVERIFY(bed.idle());
-    QCOMPARE(bed.own(), QStringList{u"set 0xE9 3"_s});
+    bed.checkAsked(
+        {"sensorSensitivity", 3, {u"set 0xE9 3"_s}, {}, u"[LuEcoPrivacy] set EcoPrivacy Sensitivity: "_s});
     QCOMPARE(bed.plain("sensorSensitivity").toInt(), 3);
-    QCOMPARE(spy.count(), 1);
-    QVERIFY(bed.logged(u"[LuEcoPrivacy] set EcoPrivacy Sensitivity: "_s));
 }
 
 void TestEcoPrivacy::modeIsWrittenAlsoWhereItIsTheSame()
 {
     Bed bed;
     bed.beginAt(true);
-    QSignalSpy spy(bed.module(), SIGNAL(modeChanged()));
-    bed.put("mode", Both);
-    QVERIFY(bed.idle());
-    bed.put("mode", Both);
-    QVERIFY(bed.idle());
-    QCOMPARE(bed.own(), (QStringList{u"set 0xE8 1"_s, u"set 0xE8 1"_s}));
+    bed.checkAsked({"mode", Both, {u"set 0xE8 1"_s}, {}, u"[LuEcoPrivacy] set EcoPrivacy Mode: "_s});
     QCOMPARE(bed.plain("mode").toInt(), Both);
-    QCOMPARE(spy.count(), 1);
-    QVERIFY(bed.logged(u"[LuEcoPrivacy] set EcoPrivacy Mode: "_s));
+    const QSignalSpy changes(bed.module(), SIGNAL(modeChanged()));
+    QVERIFY(bed.ask("mode", Both));
+    QCOMPARE(bed.own(), QStringList{u"set 0xE8 1"_s});
+    QCOMPARE(changes.count(), 0);
 }
 
 void TestEcoPrivacy::modeNeedsTheRearLight()
@@ -300,8 +322,7 @@ void TestEcoPrivacy::modeNeedsTheRearLight()
     Bed bed(u"TK40"_s);
     bed.begin();
     bed.forget();
-    bed.put("mode", Both);
-    QVERIFY(bed.idle());
+    QVERIFY(bed.ask("mode", Both));
     QVERIFY(bed.syncModule());
     QCOMPARE(bed.wireOf({ModeCode}), QStringList());
     QCOMPARE(bed.number("mode"), DisplayOnly);
@@ -314,13 +335,7 @@ void TestEcoPrivacy::failedWriteIsTakenAllTheSame()
 {
     Bed bed;
     bed.beginAt(false);
-    bed.fail(TimeCode);
-    bed.put("state", true);
-    QVERIFY(bed.idle());
-    QCOMPARE(bed.flag("state"), true);
-    bed.monitor().clearFaults();
-    QVERIFY(bed.syncModule());
-    QCOMPARE(bed.flag("state"), false);
+    bed.checkFailedWrite("state", TimeCode);
 }
 
 void TestEcoPrivacy::theShortcutToggles()
@@ -437,9 +452,7 @@ void TestEcoPrivacy::firstConnection()
     QFETCH(int, value);
     QFETCH(QStringList, events);
     Bed bed;
-    QVERIFY(bed.monitor().setByMenu(TimeCode, value));
-    bed.begin();
-    QCOMPARE(bed.told(), events);
+    bed.checkFirstConnection(TimeCode, value, events);
 }
 
 void TestEcoPrivacy::launchRestores_data()
@@ -463,10 +476,8 @@ void TestEcoPrivacy::launchRestores()
     Bed bed;
     bed.beginAt(true);
     bed.put("mode", Both);
-    bed.put("sensorSensitivity", 3);
-    QVERIFY(bed.idle());
-    bed.put("state", state);
-    QVERIFY(bed.idle());
+    QVERIFY(bed.ask("sensorSensitivity", 3));
+    QVERIFY(bed.ask("state", state));
     bed.destroy();
     // The monitor's own mode comes back through the read-back and is never written at launch.
     QVERIFY(bed.monitor().setByMenu(ModeCode, DisplayOnly));
@@ -484,24 +495,14 @@ void TestEcoPrivacy::launchRestores()
 void TestEcoPrivacy::whatStaysOffIsNotAppliedAgain()
 {
     Bed bed;
-    bed.begin();
-    QVERIFY(bed.relaunchAnew());
-    QVERIFY(bed.relaunchAnew());
-    QCOMPARE(bed.own().filter(u"set"_s), QStringList());
-    bed.put("state", true);
-    QVERIFY(bed.idle());
-    QVERIFY(bed.relaunchAnew());
-    QVERIFY(bed.own().contains(u"set 0xE7 10"_s));
+    bed.checkWhatStaysOff("state", u"set 0xE7 10"_s);
 }
 
 void TestEcoPrivacy::exitReportsOff()
 {
     Bed bed;
     bed.beginAt(false);
-    QCOMPARE(bed.toldAtExit(), QStringList());
-    bed.put("state", true);
-    QVERIFY(bed.idle());
-    QCOMPARE(bed.toldAtExit(), QStringList{u"LuEcoPrivacy 16 off 2 []"_s});
+    bed.checkExit("state", u"LuEcoPrivacy 16 off 2 []"_s);
 }
 
 QTEST_MAIN(TestEcoPrivacy)

@@ -92,7 +92,8 @@ void LuBackLight::loadSettings()
 
 void LuBackLight::applyValues()
 {
-    if (!m_backLightEnable)
+    // In a colour mode that nobody has used yet there is nothing to restore.
+    if (!m_backLightEnable || !hasModuleSetting(key(StateName)))
         return;
     qInfo() << "[LuBackLight] apply BackLight state:" << m_state;
     qInfo() << "[LuBackLight] apply BackLight angle:" << m_angle;
@@ -127,18 +128,19 @@ int LuBackLight::packedState() const
 
 // The setter of the state writes on its caller's thread, the others on the queue's: who was overtaken by the
 // other's choice writes again, so that the last write holds both.
-void LuBackLight::writeState()
+bool LuBackLight::writeState()
 {
-    int written = 0;
-    do {
-        written = packedState();
-        setVCP(StateCode, written);
-    } while (written != packedState());
+    for (;;) {
+        const int value = packedState();
+        const bool written = setVCP(StateCode, value);
+        if (packedState() == value)
+            return written;
+    }
 }
 
-void LuBackLight::writeLight()
+bool LuBackLight::writeLight()
 {
-    setVCP(LightCode, packed(m_colorTemperature, m_brightness));
+    return setVCP(LightCode, packed(m_colorTemperature, m_brightness));
 }
 
 void LuBackLight::setState(BackLightState state)
@@ -146,8 +148,11 @@ void LuBackLight::setState(BackLightState state)
     if (!m_backLightEnable || !m_state.set(state))
         return;
     ++m_directWrites;
-    writeState();
+    const bool written = writeState();
     ++m_directWrites;
+    // A monitor may rest for longer than a caller may wait, after a change of the colour mode for one.
+    if (!written)
+        postUniqueAtFront(this, QStringLiteral("writeState"), [this] { writeState(); });
     setModuleSetting(key(StateName), int(state));
     Q_EMIT stateChanged();
     fireState(LuDataCollection::setterSource(model()->isOtherFunctionTrigger(this)));
@@ -155,7 +160,7 @@ void LuBackLight::setState(BackLightState state)
 
 template <class T>
 void LuBackLight::post(const QString& job, ZrShared<T>& member, T value, const QString& name,
-                       void (LuBackLight::*write)(), void (LuBackLight::*changed)(),
+                       bool (LuBackLight::*write)(), void (LuBackLight::*changed)(),
                        std::function<void()> after)
 {
     if (!m_backLightEnable || isSettled(job, member, value))
@@ -214,9 +219,9 @@ void LuBackLight::syncLight()
     int value = 0;
     if (!getVCP(LightCode, value))
         return;
-    takeReported(m_brightness, lowByte(value), key(BrightnessName),
-                 "[LuBackLight] sync BackLight brightness changed:", &LuBackLight::brightnessChanged);
-    takeReported(
+    takeReportedOfMode(m_brightness, lowByte(value), key(BrightnessName),
+                       "[LuBackLight] sync BackLight brightness changed:", &LuBackLight::brightnessChanged);
+    takeReportedOfMode(
         m_colorTemperature, highByte(value), key(TemperatureName),
         "[LuBackLight] sync BackLight colorTemperature changed:", &LuBackLight::colorTemperatureChanged);
 }
@@ -230,15 +235,15 @@ void LuBackLight::syncState(bool firstConnection)
     // The answer is older than what the user chose while it was on its way: the next round asks again.
     if (writes % 2 != 0 || writes != m_directWrites)
         return;
-    if (takeReported(m_angle, BackLightAngle(highByte(value)), key(AngleName),
-                     "[LuBackLight] sync BackLight angle changed:", &LuBackLight::angleChanged))
+    if (takeReportedOfMode(m_angle, BackLightAngle(highByte(value)), key(AngleName),
+                           "[LuBackLight] sync BackLight angle changed:", &LuBackLight::angleChanged))
         fireUpdate(LuDataCollection::SOURCE_SYNC);
     const bool stateDiffers =
-        takeReported(m_state, BackLightState(lowByte(value) & StateMask), key(StateName),
-                     "[LuBackLight] sync BackLight m_state changed:", &LuBackLight::stateChanged);
-    const bool nonStopDiffers =
-        takeReported(m_nonStopMode, (lowByte(value) & NonStopMask) != 0, key(NonStopName),
-                     "[LuBackLight] sync BackLight nonStopMode changed:", &LuBackLight::nonStopModeChanged);
+        takeReportedOfMode(m_state, BackLightState(lowByte(value) & StateMask), key(StateName),
+                           "[LuBackLight] sync BackLight m_state changed:", &LuBackLight::stateChanged);
+    const bool nonStopDiffers = takeReportedOfMode(
+        m_nonStopMode, (lowByte(value) & NonStopMask) != 0, key(NonStopName),
+        "[LuBackLight] sync BackLight nonStopMode changed:", &LuBackLight::nonStopModeChanged);
     if (firstConnection ? m_state != Off : stateDiffers)
         fireState(LuDataCollection::syncSource(firstConnection));
     if (firstConnection && m_nonStopMode)

@@ -54,8 +54,8 @@ public:
     bool backLightEnable() const { return m_backLightEnable; }
 
     BackLightState state() const { return m_state; }
-    /// Writes at once, on the caller's thread: the value is on the wire when it returns. It is taken whether
-    /// or not the monitor answers.
+    /// Writes at once, on the caller's thread: the value is on the wire when it returns, unless the monitor
+    /// rests; then the queue writes it. It is taken whether or not the monitor answers.
     void setState(BackLightState state);
 
     /// 1 to 10 on the monitors of the series; 0 while none was ever read or set. The setters post a job that
@@ -94,12 +94,13 @@ Q_SIGNALS:
 private:
     QString key(const QString& name) const;
     bool isKnown(const QString& name, int value, int maximum) const;
-    void writeLight();
-    void writeState();
     int packedState() const;
+    // False if the monitor did not take it.
+    bool writeLight();
+    bool writeState();
     template <class T>
     void post(const QString& job, ZrShared<T>& member, T value, const QString& name,
-              void (LuBackLight::*write)(), void (LuBackLight::*changed)(), std::function<void()> after = {});
+              bool (LuBackLight::*write)(), void (LuBackLight::*changed)(), std::function<void()> after = {});
     void syncLight();
     void syncState(bool firstConnection);
     void fireState(LuDataCollection::TriggerSource source);

@@ -115,7 +115,7 @@ void LuEcoPrivacy::setState(bool state)
     postUniqueAtFront(this, job, [this, state, triggered] {
         const bool differs = m_state.set(state);
         if (state)
-            writeTime(m_activeTime);
+            restoreTime();
         else if (m_activeTime != Off)
             writeTime(Off);
         setModuleSetting(StateKey, state);
@@ -130,21 +130,45 @@ void LuEcoPrivacy::setActiveTime(ActiveTime time)
     if (!m_ecoPrivacyEnable || m_activeTime == time)
         return;
     ++m_directWrites;
-    writeTime(time);
+    const bool written = writeTime(time);
     ++m_directWrites;
+    // A monitor may rest for longer than a caller may wait, after a change of the colour mode for one.
+    if (!written)
+        postUniqueAtFront(this, QStringLiteral("sendTime"), [this, time] { sendTime(time); });
 }
 
-void LuEcoPrivacy::writeTime(int time)
+// A new time is written on its caller's thread: it may come while this job waits for the bus, and shall be
+// the last on the wire.
+void LuEcoPrivacy::restoreTime()
 {
-    setVCP(TimeCode, time);
+    int writes = 0;
+    do {
+        writes = m_directWrites;
+        const ActiveTime time = m_activeTime;
+        sendTime(time);
+        if (time != Off)
+            setModuleSetting(TimeKey, int(time));
+    } while (writes % 2 != 0 || writes != m_directWrites);
+}
+
+bool LuEcoPrivacy::sendTime(int time)
+{
+    const bool written = setVCP(TimeCode, time);
     qInfo() << "[LuEcoPrivacy] set EcoPrivacy activeTime: " << ActiveTime(time);
+    return written;
+}
+
+bool LuEcoPrivacy::writeTime(int time)
+{
+    const bool written = sendTime(time);
     // Off changes the monitor alone: the chosen time is what comes back with the state.
     if (time == Off)
-        return;
+        return written;
     const bool differs = m_activeTime.set(ActiveTime(time));
     setModuleSetting(TimeKey, time);
     if (differs)
         Q_EMIT activeTimeChanged();
+    return written;
 }
 
 void LuEcoPrivacy::setSensorSensitivity(SensorSensitivity sensitivity)

@@ -73,8 +73,8 @@ public:
 
     /// Time without anyone until it dims; never Off while the monitor reports a time.
     ActiveTime activeTime() const { return m_activeTime; }
-    /// Writes at once, on the caller's thread: the value is on the wire when it returns. While the state is
-    /// off this switches the feature on at the monitor.
+    /// Writes at once, on the caller's thread: the value is on the wire when it returns, unless the monitor
+    /// rests; then the queue writes it. While the state is off this switches the feature on at the monitor.
     void setActiveTime(ActiveTime time);
 
     SensorSensitivity sensorSensitivity() const { return m_sensorSensitivity; }
@@ -103,7 +103,10 @@ Q_SIGNALS:
     void modeChanged();
 
 private:
-    void writeTime(int time);
+    void restoreTime();
+    // False if the monitor did not take it.
+    bool sendTime(int time);
+    bool writeTime(int time);
     void syncTime(bool firstConnection);
     void syncSensitivity();
     void syncMode();
