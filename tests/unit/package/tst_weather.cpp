@@ -459,6 +459,14 @@ void TestWeather::failures_data()
                                   << u"[LuWeather][recordSunInformation] can't find sunrise or sunset data"_s;
     QTest::newRow("null sunset") << json(R"({"cod":200,"list":[{"sunrise":5,"sunset":null}]})")
                                  << u"[LuWeather][recordSunInformation] can't find sunrise or sunset data"_s;
+    const QString noDay = u"[LuWeather][recordSunInformation] sunrise and sunset are no day:"_s;
+    QTest::newRow("sunset before sunrise")
+        << json(R"({"cod":200,"list":[{"sunrise":1773165600,"sunset":1773122400}]})") << noDay;
+    QTest::newRow("daylight of months")
+        << json(R"({"cod":200,"list":[{"sunrise":1763122400,"sunset":1773165600}]})") << noDay;
+    QTest::newRow("beyond all calendars")
+        << json(R"({"cod":200,"list":[{"sunrise":1773122400,"sunset":9e18}]})") << noDay;
+    QTest::newRow("no sunset") << json(R"({"cod":200,"list":[{"sunrise":1773122400}]})") << noDay;
     QTest::newRow("too large") << WebServer::answer("200 OK", QByteArray(2 * 1024 * 1024, ' '))
                                << u"[LuWeather] get error code:  4"_s;
     QTest::newRow("redirect without end")
@@ -483,6 +491,8 @@ void TestWeather::failures()
     const QStringList log = bed.log();
     QVERIFY2(!log.filter(logged).isEmpty(), qPrintable(log.join(u'\n')));
     QVERIFY(stored("sunriseSunsetMap").toMap().isEmpty());
+    QVERIFY(!stored("manualSunset").isValid());
+    QCOMPARE(bed.weather("manualSunSetHour").toInt(), 18);
     QCOMPARE(bed.wire().filter(u"set 0x19"_s), QStringList());
 }
 

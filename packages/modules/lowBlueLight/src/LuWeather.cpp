@@ -20,6 +20,7 @@
 namespace {
 
 constexpr int ForecastDays = 16;
+constexpr qint64 DaySeconds = 86'400;
 /// After a boundary of the table, so that the check falls clearly inside the new span.
 constexpr qint64 TriggerDelaySeconds = 1;
 constexpr qint64 MinuteMs = 60'000;
@@ -29,7 +30,7 @@ constexpr quint64 MaxRetryMinutes = 10;
 constexpr qint64 StartOverPauseSeconds = 600;
 /// A table that begins later than this is none of these days: the clock was set back, or the forecast is
 /// wrong.
-constexpr qint64 FarAheadSeconds = 2 * 86400;
+constexpr qint64 FarAheadSeconds = 2 * DaySeconds;
 /// How soon a clock that was set back, or goes by another zone, is noticed.
 constexpr qint64 ClockWatchMs = 5 * MinuteMs;
 
@@ -80,6 +81,17 @@ QVariantMap storedSunMap()
 }
 
 } // namespace
+
+LuWeather::SunTimes LuWeather::SunTimes::of(qint64 rise, qint64 set)
+{
+    return {QDateTime::fromSecsSinceEpoch(rise), QDateTime::fromSecsSinceEpoch(set)};
+}
+
+bool LuWeather::SunTimes::isDay() const
+{
+    const qint64 seconds = rise.secsTo(set);
+    return rise.isValid() && set.isValid() && seconds >= 0 && seconds < DaySeconds;
+}
 
 LuWeather::LuWeather(QObject* parent, const QString& monitor)
     : QObject(parent), m_dispatch(QSharedPointer<ZrDispatch>::create(QStringLiteral("LuWeather"), monitor)),
@@ -236,6 +248,8 @@ bool LuWeather::loadSunInformation()
         setStatus(EternalCycle);
         return true;
     }
+    if (!times->isDay())
+        return false;
     const auto entryBefore = entryOf(yesterday);
     const SunTimes before =
         (entryBefore == days.cend() ? std::nullopt : readSunEntry(entryBefore->toMap())).value_or(*times);
@@ -253,7 +267,7 @@ std::optional<LuWeather::SunTimes> LuWeather::readSunEntry(const QVariantMap& en
     const qint64 set = entry.value(SunsetName).toLongLong();
     if (rise == 0 || set == 0)
         return std::nullopt;
-    return SunTimes{QDateTime::fromSecsSinceEpoch(rise), QDateTime::fromSecsSinceEpoch(set)};
+    return SunTimes::of(rise, set);
 }
 
 void LuWeather::updateWeatherInfo()
@@ -304,7 +318,7 @@ void LuWeather::takeForecast(const QJsonObject& reply)
         setStatus(EternalCycle);
         return;
     }
-    const SunTimes times{QDateTime::fromSecsSinceEpoch(rise), QDateTime::fromSecsSinceEpoch(set)};
+    const SunTimes times = SunTimes::of(rise, set);
     // As in retryLater(): the days are kept, the user's own times stay.
     if (m_circadianMode == Auto)
         setSunTimes(times, times);
@@ -327,6 +341,10 @@ bool LuWeather::recordSunInformation(const QJsonObject& reply, qint64& rise, qin
     }
     rise = first.value(SunriseName).toInteger();
     set = first.value(SunsetName).toInteger();
+    if ((rise != 0 || set != 0) && !SunTimes::of(rise, set).isDay()) {
+        qInfo() << "[LuWeather][recordSunInformation] sunrise and sunset are no day:" << rise << set;
+        return false;
+    }
 
     QVariantMap days;
     for (const QJsonValue& value : list) {

@@ -124,6 +124,11 @@ private:
         QDateTime rise;
         QDateTime set;
 
+        /// Both in seconds since the epoch.
+        static SunTimes of(qint64 rise, qint64 set);
+        /// The sunset comes after the sunrise, within a day. What a service says need not be so.
+        bool isDay() const;
+
         friend bool operator==(const SunTimes&, const SunTimes&) = default;
     };
 
