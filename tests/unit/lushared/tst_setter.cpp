@@ -42,7 +42,7 @@ public:
         postUniqueAtFront(this, SetLevel, [this, value] {
             begun.release();
             go.acquire();
-            level.set(Level{value});
+            level = Level{value}; // not compared: that is for the setter alone
         });
     }
 
