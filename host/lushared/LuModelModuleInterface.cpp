@@ -176,6 +176,11 @@ bool LuModelModuleInterface::setVCP(int code, int value)
     return d->model->setVCP(code, value);
 }
 
+bool LuModelModuleInterface::setVCP(int code, int value, bool& outOfTime)
+{
+    return d->model->setVCP(code, value, outOfTime);
+}
+
 void LuModelModuleInterface::postUniqueAtFront(QObject* context, const QString& key,
                                                std::function<void()>&& job)
 {

@@ -188,7 +188,7 @@ void MonitorLink::awaitReady()
         d->transactor->awaitReady(UsualHold);
 }
 
-bool MonitorLink::setVCPWithin(int code, int value, int limitMs)
+std::optional<bool> MonitorLink::setVCPWithin(int code, int value, int limitMs)
 {
     if (!d->transactor || !isByte(code) || value < 0 || value > 0xFFFF || !mayAsk(true, code))
         return false;
@@ -197,6 +197,7 @@ bool MonitorLink::setVCPWithin(int code, int value, int limitMs)
         std::mutex mutex;
         std::condition_variable ended;
         bool isAbandoned = false;
+        bool hasEnded = false;
         std::optional<bool> written;
     };
     // An adapter that hangs holds its thread as long as it likes: it must not be the caller's.
@@ -211,16 +212,17 @@ bool MonitorLink::setVCPWithin(int code, int value, int limitMs)
             const ddc::Error error = d->transactor->setVcpWithin(std::uint8_t(code), std::uint16_t(value),
                                                                  ddc::Transactor::Ms(limitMs));
             // A bus that somebody else holds says nothing about the monitor.
-            const bool written = error != ddc::Error::Busy && d->note(error);
+            const auto written = error == ddc::Error::Busy ? std::optional<bool>() : d->note(error);
             const std::lock_guard lock(attempt->mutex);
             attempt->written = written;
+            attempt->hasEnded = true;
             attempt->ended.notify_all();
         });
     std::unique_lock lock(attempt->mutex);
-    const bool ended = attempt->ended.wait_for(lock, std::chrono::milliseconds(limitMs),
-                                               [&] { return attempt->written.has_value(); });
+    const bool ended =
+        attempt->ended.wait_for(lock, std::chrono::milliseconds(limitMs), [&] { return attempt->hasEnded; });
     attempt->isAbandoned = !ended;
-    return ended && *attempt->written;
+    return attempt->written;
 }
 
 QSharedPointer<ZrDispatch> MonitorLink::ownQueue() const

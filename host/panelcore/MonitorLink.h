@@ -55,9 +55,10 @@ public:
     /// Waits out what the last transfer left of the usual hold, so that a later choice of a person can still
     /// replace the next one. Longer holds are not waited for. Blocks.
     void awaitReady();
-    /// A write for a caller that must not wait: false after @p limitMs, whoever holds the bus or however long
-    /// the adapter hangs. A transfer that hangs then may still reach the monitor. GUI thread.
-    bool setVCPWithin(int code, int value, int limitMs);
+    /// A write for a caller that must not wait. Nothing after @p limitMs, whoever holds the bus, however long
+    /// the monitor rests or the adapter hangs; a transfer that hangs then may still reach the monitor. GUI
+    /// thread.
+    std::optional<bool> setVCPWithin(int code, int value, int limitMs);
 
     /// The monitor's own brightness, for monitors that no package knows.
     HardwareBrightness& brightness();

@@ -101,10 +101,20 @@ bool MonitorModel::getVCP(int code, int& value, int& maximum)
 
 bool MonitorModel::setVCP(int code, int value)
 {
+    bool outOfTime = false;
+    return setVCP(code, value, outOfTime);
+}
+
+bool MonitorModel::setVCP(int code, int value, bool& outOfTime)
+{
     MonitorLink& link = MonitorLink::of(*d->info);
+    outOfTime = false;
+    if (QThread::currentThread() != thread())
+        return link.setVCP(code, value);
     // The GUI thread must not wait for a bus that hangs; the queue may.
-    return QThread::currentThread() == thread() ? link.setVCPWithin(code, value, GuiWriteLimitMs)
-                                                : link.setVCP(code, value);
+    const std::optional<bool> written = link.setVCPWithin(code, value, GuiWriteLimitMs);
+    outOfTime = !written;
+    return written.value_or(false);
 }
 
 bool MonitorModel::getBrightness(int& value)

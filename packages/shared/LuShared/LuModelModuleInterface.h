@@ -125,6 +125,10 @@ protected:
     /// Blocks.
     bool setVCP(int code, int value);
 
+    /// As setVCP(), for a setter that writes on its caller's thread: @p outOfTime tells that the GUI thread
+    /// gave up before the monitor could be asked (MonitorModel::setVCP()).
+    bool setVCP(int code, int value, bool& outOfTime);
+
     /// Puts a job in front of all background work of the model's queue, behind earlier front jobs. A job that
     /// still waits with the same context and key is replaced.
     void postUniqueAtFront(QObject* context, const QString& key, std::function<void()>&& job);

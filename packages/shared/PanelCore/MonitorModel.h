@@ -44,6 +44,10 @@ public:
     /// Writes a VCP code and holds later accesses back as the delay table says.
     bool setVCP(int code, int value);
 
+    /// As setVCP(). On the GUI thread, whose patience is 150 ms, @p outOfTime tells whether it gave up before
+    /// the monitor could be asked: it rests, or the bus is somebody else's.
+    bool setVCP(int code, int value, bool& outOfTime);
+
     /// Hardware brightness, VCP 0x10 (MCCS 2.2), 0 to 100. The second argument of the setter is reserved,
     /// pass 0.
     bool getBrightness(int& value);

@@ -367,6 +367,8 @@ void TestBackLight::failedWriteIsTakenAllTheSame()
     QVERIFY(bed.ask("brightness", 6));
     QCOMPARE(bed.number("state"), On);
     QCOMPARE(bed.number("brightness"), 6);
+    // A refusal is no rest: the queue does not try it again.
+    QCOMPARE(bed.own().filter(u"set 0xD7"_s).size(), 1);
     bed.monitor().clearFaults();
     QVERIFY(bed.syncModule());
     QCOMPARE(bed.number("state"), Off);

@@ -128,19 +128,25 @@ int LuBackLight::packedState() const
 
 // The setter of the state writes on its caller's thread, the others on the queue's: who was overtaken by the
 // other's choice writes again, so that the last write holds both.
-bool LuBackLight::writeState()
+bool LuBackLight::sendState()
 {
     for (;;) {
         const int value = packedState();
-        const bool written = setVCP(StateCode, value);
+        bool outOfTime = false;
+        setVCP(StateCode, value, outOfTime);
         if (packedState() == value)
-            return written;
+            return !outOfTime;
     }
 }
 
-bool LuBackLight::writeLight()
+void LuBackLight::writeState()
 {
-    return setVCP(LightCode, packed(m_colorTemperature, m_brightness));
+    sendState();
+}
+
+void LuBackLight::writeLight()
+{
+    setVCP(LightCode, packed(m_colorTemperature, m_brightness));
 }
 
 void LuBackLight::setState(BackLightState state)
@@ -148,10 +154,10 @@ void LuBackLight::setState(BackLightState state)
     if (!m_backLightEnable || !m_state.set(state))
         return;
     ++m_directWrites;
-    const bool written = writeState();
+    const bool sent = sendState();
     ++m_directWrites;
     // A monitor may rest for longer than a caller may wait, after a change of the colour mode for one.
-    if (!written)
+    if (!sent)
         postUniqueAtFront(this, QStringLiteral("writeState"), [this] { writeState(); });
     setModuleSetting(key(StateName), int(state));
     Q_EMIT stateChanged();
@@ -160,7 +166,7 @@ void LuBackLight::setState(BackLightState state)
 
 template <class T>
 void LuBackLight::post(const QString& job, ZrShared<T>& member, T value, const QString& name,
-                       bool (LuBackLight::*write)(), void (LuBackLight::*changed)(),
+                       void (LuBackLight::*write)(), void (LuBackLight::*changed)(),
                        std::function<void()> after)
 {
     if (!m_backLightEnable || isSettled(job, member, value))

@@ -95,12 +95,13 @@ private:
     QString key(const QString& name) const;
     bool isKnown(const QString& name, int value, int maximum) const;
     int packedState() const;
-    // False if the monitor did not take it.
-    bool writeLight();
-    bool writeState();
+    void writeLight();
+    void writeState();
+    /// False if the caller may not wait until the monitor can be asked.
+    bool sendState();
     template <class T>
     void post(const QString& job, ZrShared<T>& member, T value, const QString& name,
-              bool (LuBackLight::*write)(), void (LuBackLight::*changed)(), std::function<void()> after = {});
+              void (LuBackLight::*write)(), void (LuBackLight::*changed)(), std::function<void()> after = {});
     void syncLight();
     void syncState(bool firstConnection);
     void fireState(LuDataCollection::TriggerSource source);

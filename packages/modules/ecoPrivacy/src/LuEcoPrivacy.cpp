@@ -130,10 +130,10 @@ void LuEcoPrivacy::setActiveTime(ActiveTime time)
     if (!m_ecoPrivacyEnable || m_activeTime == time)
         return;
     ++m_directWrites;
-    const bool written = writeTime(time);
+    const bool sent = writeTime(time);
     ++m_directWrites;
     // A monitor may rest for longer than a caller may wait, after a change of the colour mode for one.
-    if (!written)
+    if (!sent)
         postUniqueAtFront(this, QStringLiteral("sendTime"), [this, time] { sendTime(time); });
 }
 
@@ -153,22 +153,23 @@ void LuEcoPrivacy::restoreTime()
 
 bool LuEcoPrivacy::sendTime(int time)
 {
-    const bool written = setVCP(TimeCode, time);
+    bool outOfTime = false;
+    setVCP(TimeCode, time, outOfTime);
     qInfo() << "[LuEcoPrivacy] set EcoPrivacy activeTime: " << ActiveTime(time);
-    return written;
+    return !outOfTime;
 }
 
 bool LuEcoPrivacy::writeTime(int time)
 {
-    const bool written = sendTime(time);
+    const bool sent = sendTime(time);
     // Off changes the monitor alone: the chosen time is what comes back with the state.
     if (time == Off)
-        return written;
+        return sent;
     const bool differs = m_activeTime.set(ActiveTime(time));
     setModuleSetting(TimeKey, time);
     if (differs)
         Q_EMIT activeTimeChanged();
-    return written;
+    return sent;
 }
 
 void LuEcoPrivacy::setSensorSensitivity(SensorSensitivity sensitivity)

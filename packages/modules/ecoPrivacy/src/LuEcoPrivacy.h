@@ -104,7 +104,7 @@ Q_SIGNALS:
 
 private:
     void restoreTime();
-    // False if the monitor did not take it.
+    // Both: false if the caller may not wait until the monitor can be asked.
     bool sendTime(int time);
     bool writeTime(int time);
     void syncTime(bool firstConnection);
