@@ -2,11 +2,16 @@
 #include "Server.h"
 
 #include <QElapsedTimer>
-#include <QLocalServer>
+#include <QFile>
+#include <QFileInfo>
 #include <QLocalSocket>
 #include <QLoggingCategory>
+#include <QSocketNotifier>
 
+#include <cerrno>
+#include <sys/socket.h>
 #include <unistd.h>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -28,21 +33,11 @@ Server::Result Server::listen(const QString& path)
         return Result::OtherRuns;
     if (claim.descriptor < 0)
         return Result::Failed;
-    m_server = std::make_unique<QLocalServer>();
-    m_server->setMaxPendingConnections(MaximumClients);
-    if (!m_server->listen(qintptr(claim.descriptor))) {
-        m_error = u"the control socket cannot be served: %1"_s.arg(m_server->errorString());
-        ::close(claim.descriptor);
-        m_server.reset();
-        return Result::Failed;
-    }
-    connect(m_server.get(), &QLocalServer::newConnection, this, &Server::takeClients);
+    m_listener = claim.descriptor;
+    m_path = QFileInfo(path).absoluteFilePath();
+    m_notifier = std::make_unique<QSocketNotifier>(m_listener, QSocketNotifier::Read, this);
+    connect(m_notifier.get(), &QSocketNotifier::activated, this, &Server::takeClients);
     return Result::Listening;
-}
-
-QString Server::path() const
-{
-    return m_server ? m_server->fullServerName() : QString();
 }
 
 int Server::clientCount() const
@@ -50,24 +45,42 @@ int Server::clientCount() const
     return int(findChildren<Connection*>(Qt::FindDirectChildrenOnly).size());
 }
 
+// Not QLocalServer: it closes itself for good when a client that it was told of is not there any more, such
+// as one that a nested event loop has taken meanwhile.
 void Server::takeClients()
 {
-    while (QLocalSocket* socket = m_server->nextPendingConnection()) {
-        if (clientCount() >= MaximumClients) {
-            qWarning("[Control] Too many clients: a connection is refused.");
-            socket->abort();
-            socket->deleteLater();
-            continue;
-        }
-        new Connection(socket, &m_dispatcher, m_limits, this);
+    for (;;) {
+        const int descriptor = ::accept4(m_listener, nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK);
+        if (descriptor >= 0)
+            takeClient(descriptor);
+        else if (errno != EINTR && errno != ECONNABORTED)
+            return; // all taken; without free descriptors the others wait for the next turn
     }
+}
+
+void Server::takeClient(int descriptor)
+{
+    if (clientCount() >= MaximumClients) {
+        qWarning("[Control] Too many clients: a connection is refused.");
+        ::close(descriptor);
+        return;
+    }
+    auto* const socket = new QLocalSocket;
+    if (!socket->setSocketDescriptor(descriptor)) {
+        ::close(descriptor);
+        delete socket;
+        return;
+    }
+    new Connection(socket, &m_dispatcher, m_limits, this);
 }
 
 void Server::close(int flushMs)
 {
-    if (!m_server)
+    if (m_listener < 0)
         return;
-    m_server->close();
+    m_notifier.reset();
+    ::close(std::exchange(m_listener, -1));
+    QFile::remove(std::exchange(m_path, {}));
     QElapsedTimer elapsed;
     elapsed.start();
     const QList<Connection*> connections = findChildren<Connection*>(Qt::FindDirectChildrenOnly);
@@ -79,7 +92,6 @@ void Server::close(int flushMs)
         }
         delete connection;
     }
-    m_server.reset();
 }
 
 } // namespace control

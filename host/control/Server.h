@@ -10,7 +10,7 @@
 
 #include <memory>
 
-class QLocalServer;
+class QSocketNotifier;
 
 namespace control {
 
@@ -34,7 +34,7 @@ public:
     /// Serves the path until close() or the end. See claimSocket() for what is refused.
     Result listen(const QString& path);
     QString errorString() const { return m_error; }
-    QString path() const;
+    QString path() const { return m_path; }
     /// Sends what is still to be sent, for at most @p flushMs, ends all connections and removes the socket
     /// file.
     void close(int flushMs = 500);
@@ -57,10 +57,13 @@ public:
 
 private:
     void takeClients();
+    void takeClient(int descriptor);
 
     Dispatcher m_dispatcher;
     Limits m_limits;
-    std::unique_ptr<QLocalServer> m_server;
+    int m_listener = -1; ///< The listening socket.
+    std::unique_ptr<QSocketNotifier> m_notifier;
+    QString m_path;
     QString m_error;
 };
 

@@ -6,6 +6,7 @@
 #include <control/Server.h>
 #include <control/Watches.h>
 
+#include <QSocketNotifier>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QtTest>
@@ -72,6 +73,7 @@ private Q_SLOTS:
     void watchersOfADisconnectedClientAreGone();
     void theEndFlushesAndRemovesTheSocket();
     void aMethodMayEndTheServer();
+    void aClientThatIsTakenAlreadyDoesNotEndTheServer();
 
 private:
     QString path() const { return m_directory->filePath(u"c.sock"_s); }
@@ -505,6 +507,18 @@ void TestControlServer::aMethodMayEndTheServer()
     QVERIFY(client.waitForEnd());
     QCOMPARE(m_touched, 0);
     QCOMPARE(m_server->clientCount(), 0);
+}
+
+void TestControlServer::aClientThatIsTakenAlreadyDoesNotEndTheServer()
+{
+    // As after a nested event loop that has taken whom the outer one was told of.
+    auto* const notifier = m_server->findChild<QSocketNotifier*>();
+    QVERIFY(notifier);
+    QEvent told(QEvent::SockAct);
+    QCoreApplication::sendEvent(notifier, &told);
+    ControlClient client;
+    QVERIFY(client.connectTo(path()));
+    QVERIFY(client.call(u"size"_s, {{u"text"_s, u"four"_s}}).ok());
 }
 
 QTEST_GUILESS_MAIN(TestControlServer)
