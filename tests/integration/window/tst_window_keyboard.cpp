@@ -5,6 +5,8 @@
 #include <QDir>
 #include <QtTest>
 
+#include <utility>
+
 #include <functional>
 
 using namespace Qt::StringLiterals;
@@ -173,7 +175,17 @@ void TestKeyboard::theTabKeyWalksEverything()
     for (const char* path :
          {"ecoPrivacy.state", "abPlus.state", "abSetting.state", "shortcuts.active", "pipPbp.state"})
         (void)client().call(u"set"_s, {{u"path"_s, QString::fromLatin1(path)}, {u"value"_s, true}});
+    QVERIFY(client().call(u"sync"_s).ok());
     QVERIFY(client().call(u"idle"_s).ok());
+    // What the features show or hide on the window has come to rest.
+    QJsonValue last;
+    int same = 0;
+    const auto isAtRest = [&] {
+        const QJsonValue now = client().call(u"ui.tree"_s).result;
+        same = now == std::exchange(last, now) ? same + 1 : 0;
+        return same >= 10;
+    };
+    QTRY_VERIFY_WITH_TIMEOUT(isAtRest(), 30'000);
     QStringList found;
     walk(
         u"window"_s, [this] { return windowTree(u"Lumen Desk"_s); }, found);
