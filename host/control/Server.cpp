@@ -79,8 +79,9 @@ void Server::close(int flushMs)
     if (m_listener < 0)
         return;
     m_notifier.reset();
-    ::close(std::exchange(m_listener, -1));
+    // In this order: the file of another process that starts now is not removed.
     QFile::remove(std::exchange(m_path, {}));
+    ::close(std::exchange(m_listener, -1));
     QElapsedTimer elapsed;
     elapsed.start();
     const QList<Connection*> connections = findChildren<Connection*>(Qt::FindDirectChildrenOnly);
